@@ -1,0 +1,13 @@
+# The compile flags that every target of the project shares.
+add_library(zevlin_flags INTERFACE)
+target_compile_options(zevlin_flags INTERFACE -Wall -Wextra -Wconversion -Wshadow -Werror)
+
+if(ZEVLIN_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+if(ZEVLIN_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all
+                      -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()

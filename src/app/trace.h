@@ -1,0 +1,50 @@
+// The trace: every procedure's name, and every failure.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "toolkit/error.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// Adds a line to the ring of the last 100, or with tracing on straight to the file. A line that
+/// begins with "error" in any case writes the ring to the file. Never fails.
+void Traceit(Zevlin& form, std::string_view text);
+
+/// The texts "True" and "False".
+[[nodiscard]] std::string_view truthText(bool value);
+
+/// Whether the figures of the first text field are still to be traced: once in a run, with tracing
+/// on. Asking counts as tracing them.
+[[nodiscard]] bool takeSpecsTurn(Zevlin& form);
+
+/// head + number + ", " + description + tail, traced.
+void traceFailure(Zevlin& form, std::string_view head, const toolkit::RunTimeError& failure,
+                  std::string_view tail = {});
+
+/// Runs a procedure's body under its failure trap: a failure is traced with the head given and
+/// the procedure returns. True if the body ran to its end.
+template <typename Body>
+bool trapped(Zevlin& form, std::string_view head, Body body, std::string_view tail = {}) {
+    try {
+        body();
+        return true;
+    } catch (const std::exception&) {
+        traceFailure(form, head, toolkit::currentFailure(), tail);
+        return false;
+    }
+}
+
+/// Runs a statement whose failure doesn't matter.
+template <typename Body>
+void ignoringFailures(Body body) {
+    try {
+        body();
+    } catch (const std::exception&) {
+    }
+}
+
+} // namespace zev

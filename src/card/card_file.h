@@ -1,0 +1,88 @@
+// The card file: which marks are set and what each text says, by field number.
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "toolkit/text_input.h"
+
+namespace zev {
+
+constexpr std::string_view cardExtension = ".zev";
+/// The name under which a card goes through a rebuild of the screen.
+constexpr std::string_view temporaryCardName = "$$Tempcard";
+
+/// Bit-switches of a text record.
+namespace text_switch {
+constexpr int bold = 1;
+constexpr int italic = 2;
+constexpr int left = 4;
+constexpr int highlight = 8;
+} // namespace text_switch
+
+struct TextRecord {
+    int number = 0;
+    std::string text; ///< double quotes put back, ampersands as they stand in the file
+    int switches = 0; ///< new format only
+    /// How much of the style the record tells.
+    enum class Style {
+        Switches, ///< `switches` tells all of it
+        Suffix,   ///< an old record's flags told bold, italic and left: in `switches`, no highlight
+        None,     ///< an old record without flags: the styles stay as they are
+    } style = Style::None;
+};
+
+struct MarkRecord {
+    int number = 0;
+    bool set = false;
+};
+
+struct CardPartner {
+    std::string name;
+    std::string number;
+};
+
+/// Reads a card record by record, so that what was read stands when the next one fails. Failures
+/// are those of TextInput; 13 for a mark's state that is no truth value.
+class CardReader {
+  public:
+    using Skip = std::function<bool(toolkit::TextInput&)>;
+    /// `versionSeen` is what `skip` keeps up to date; it decides each record's format.
+    CardReader(std::string content, const std::string& versionSeen, Skip skip);
+
+    [[nodiscard]] CardPartner readPartner();
+    [[nodiscard]] int readCount();
+    [[nodiscard]] MarkRecord readMark();
+    [[nodiscard]] TextRecord readText();
+
+  private:
+    [[nodiscard]] bool hasSwitches() const;
+
+    toolkit::TextInput input_;
+    const std::string& versionSeen_;
+    Skip skip_;
+};
+
+/// A mark's state as a truth value: "1" and "0", any number (true when not 0), "True" and "False" in
+/// any case; else failure 13.
+[[nodiscard]] bool truthValue(std::string_view state);
+
+/// What a card file holds. Texts have single ampersands and their own double quotes.
+struct CardDocument {
+    std::string cardName;
+    std::string programVersion;
+    CardPartner partner;
+    std::vector<bool> marks; ///< element 0 is field 1
+    struct Text {
+        std::string text;
+        int switches = 0;
+    };
+    std::vector<Text> texts;
+};
+
+/// The whole file, byte for byte, with CR LF line ends.
+[[nodiscard]] std::string writeCard(const CardDocument& document);
+
+} // namespace zev

@@ -1,0 +1,38 @@
+// Names: of cards, of the player and the partner.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zev {
+
+/// One leading path separator and a trailing ".zev" go.
+[[nodiscard]] std::string cleanedCardName(std::string_view name);
+
+/// Whether one of / \ : * ? < > or the double quote stands in the name.
+[[nodiscard]] bool hasForbiddenCharacter(std::string_view name);
+
+struct PlayerId {
+    std::string name;
+    std::string number;
+    friend bool operator==(const PlayerId&, const PlayerId&) = default;
+};
+
+/// An answer such as "Joe Smith 12345": the last word is the number if it is numeric and not the
+/// only one.
+[[nodiscard]] PlayerId splitPlayerId(std::string_view answer);
+
+/// "name #number", either part alone, or empty.
+[[nodiscard]] std::string playerLine(const PlayerId& player);
+
+/// What the names line says next.
+struct NamesLine {
+    std::string caption; ///< what stands there now
+    std::string mine;
+    std::string partner;
+    std::string cardName;
+};
+enum class NamesUpdate { FillEmpty, Replace };
+[[nodiscard]] std::string composedNames(const NamesLine& line, NamesUpdate update);
+
+} // namespace zev

@@ -1,0 +1,19 @@
+// Which mark a click on bare card means.
+#pragma once
+
+#include <optional>
+
+#include "toolkit/control_array.h"
+#include "toolkit/label.h"
+
+namespace zev {
+
+/// Whether the point is strictly inside the label less five pixels at its right, top and bottom: a
+/// pen needs a firm target to set a mark, though any part of a set mark clears it.
+[[nodiscard]] bool hitsMark(const toolkit::Label& mark, float x, float y, int twipsPerPixel);
+
+/// The lowest mark from 1 up that the point (twips on the card) hits, shown or not.
+[[nodiscard]] std::optional<int> markAt(const toolkit::ControlArray<toolkit::Label>& marks, float x,
+                                        float y, int twipsPerPixel);
+
+} // namespace zev

@@ -1,0 +1,33 @@
+// Suit escapes ("^h") and doubled ampersands in the texts of the card.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zev {
+
+/// Suits in the order of their keys F5 to F8.
+constexpr std::string_view suitLetters = "cdhs";
+
+/// Doubles each "&" that isn't followed by another one.
+void doubleAmpersands(std::string& text);
+/// Makes every run of ampersands a single one.
+void undoubleAmpersands(std::string& text);
+
+/// A text with its escapes blanked. A "^" right behind an escape is passed over and stays.
+struct BlankedText {
+    std::string caption;    ///< three characters of code 160 for each escape
+    std::string scanBuffer; ///< as long: "^", the letter in lower case, one character of code 160
+};
+[[nodiscard]] BlankedText blankEscapes(std::string_view raw);
+
+/// A suit to lay over the text: `position` is the one-based place of its "^" in the scan buffer with
+/// single ampersands, `suit` 1 to 4.
+struct SuitPlace {
+    int position = 0;
+    int suit = 0;
+};
+[[nodiscard]] std::vector<SuitPlace> suitPlaces(std::string_view scanBuffer);
+
+} // namespace zev

@@ -1,0 +1,50 @@
+// Files of the data folder: names without regard to case, whole reads, checked writes.
+#pragma once
+
+#include <ctime>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace toolkit {
+
+/// The entry of the folder with this name, the exact spelling first, else without regard to case.
+[[nodiscard]] std::optional<std::filesystem::path> findFile(const std::filesystem::path& folder,
+                                                            std::string_view name);
+
+/// The path of findFile, or where the file would be made.
+[[nodiscard]] std::filesystem::path resolveFile(const std::filesystem::path& folder,
+                                                std::string_view name);
+
+/// Names of the regular files in the folder that end in `ending` (any case), sorted without regard
+/// to case; a name that the code page can't hold is left out. An unreadable folder gives none.
+[[nodiscard]] std::vector<std::string> listFiles(const std::filesystem::path& folder,
+                                                 std::string_view ending);
+
+/// Whole content. Failures 53, 70, 75, 76, 57, 7.
+[[nodiscard]] std::string readFile(const std::filesystem::path& path);
+
+/// Replaces the file; returns only when flush and close were seen to succeed. The old content is
+/// gone the moment the file is opened. Failures 53, 70, 75, 76, 61, 57.
+void writeFile(const std::filesystem::path& path, std::string_view content);
+void appendFile(const std::filesystem::path& path, std::string_view content);
+
+/// Copies the content and the modification time, and makes the copy writable. A half-written copy
+/// is removed before the failure is raised.
+void copyFile(const std::filesystem::path& source, const std::filesystem::path& target);
+
+/// Renames; an existing target is failure 58.
+void renameFile(const std::filesystem::path& source, const std::filesystem::path& target);
+void deleteFile(const std::filesystem::path& path);
+
+/// Modification time in whole seconds. Failure 53.
+[[nodiscard]] std::time_t fileTime(const std::filesystem::path& path);
+[[nodiscard]] std::uintmax_t fileLength(const std::filesystem::path& path);
+
+/// Whether a file can be made or replaced in the folder.
+[[nodiscard]] bool isFolderWritable(const std::filesystem::path& folder);
+
+} // namespace toolkit

@@ -1,0 +1,53 @@
+// The program as a process: events, waits, its folders, its end.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace toolkit {
+
+/// Takes over the controls' values and lets pending paint and timer events run; what the player
+/// does meanwhile is held back. A close that arrives waits until the running procedures return.
+void doEvents();
+
+/// Pauses for the time given while the window keeps painting.
+void wait(int milliseconds);
+
+/// A system beep.
+void beep();
+
+/// The keys are free to repeat: whether this key event is one that a held key repeats.
+[[nodiscard]] bool isKeyRepeat();
+
+/// The folder with the installed data (numbered layouts, readme, sample cards): "zevlin-files"
+/// beside the program, or the share folder of an installed one.
+[[nodiscard]] std::filesystem::path programFolder();
+
+/// The shell folder with this identifier; 5 is the Documents folder, created when absent. Empty
+/// where the system has none.
+[[nodiscard]] std::filesystem::path specialFolder(int identifier);
+
+/// Opens the desktop's file manager with the file selected, else on its folder.
+void showInFileManager(const std::filesystem::path& file);
+
+/// Opens a web page in the desktop's browser.
+void openWebPage(const char* address);
+
+/// Ends the process at once: no unload, no further save.
+[[noreturn]] void endProgram();
+
+/// What endProgram throws where a test has asked for it; deliberately no std::exception.
+struct ProgramEnded {};
+
+/// Settings for tests, in force until changed.
+struct ProgramOverrides {
+    std::filesystem::path programFolder;   ///< empty: the real one
+    std::filesystem::path documentsFolder; ///< empty: the real one, unless noDocuments
+    bool noDocuments = false;
+    bool throwAtEnd = false;
+    std::function<void(std::string)> launch; ///< gets what would be opened
+};
+void overrideProgram(ProgramOverrides overrides);
+
+} // namespace toolkit

@@ -1,0 +1,85 @@
+// The window that shows the form: it paints the values of the controls and sends their events.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "toolkit/control.h"
+#include "toolkit/control_array.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+
+namespace toolkit {
+
+/// A control array of labels on the card with its event slots. X and Y are relative to the label.
+struct LabelGroup {
+    ControlArray<Label>* labels = nullptr;
+    std::function<void(int index, MouseArguments&)> MouseDown;
+    std::function<void(int index, MouseArguments&)> MouseMove;
+    std::function<void(int index, MouseArguments&)> MouseUp;
+    std::function<void(int index)> Click;
+};
+
+/// One row of the menu bar's table.
+struct MenuRow {
+    int level = 0;            ///< 0 on the bar, 1 in its menu, 2 in a submenu
+    MenuItem* item = nullptr; ///< none: a separator
+    std::string_view shortcut; ///< acts while the item is shown and enabled: "Ctrl+S"
+    std::function<void()> Click;
+};
+
+/// Everything that the window shows. The values must outlive the window.
+struct WindowParts {
+    Form* form = nullptr;
+    PictureBox* card = nullptr;
+    std::vector<LabelGroup> cardGroups;
+    std::vector<Label*> cardLabels;      ///< single labels on the card; they swallow presses
+    std::vector<TextBox*> cardTextBoxes; ///< over the labels of the card
+    std::vector<ListBox*> lists;         ///< on the form, over the card
+    std::vector<MenuRow> menu;
+};
+
+/// Events run in the order of the platform: MouseDown, MouseUp, Click for every button, the control
+/// that got the press keeps the moves and the release; a MouseMove without button precedes a press
+/// on the card whenever the pointer isn't where the last one was sent. Keys go to the form, the
+/// menu's shortcuts, the control's KeyDown, KeyPress and then the control itself.
+class Window {
+  public:
+    explicit Window(WindowParts parts);
+    ~Window();
+    Window(const Window&) = delete;
+    Window& operator=(const Window&) = delete;
+
+    /// Takes over all values now (events, boxes and waits do it by themselves).
+    void update();
+
+    class Implementation;
+
+  private:
+    std::unique_ptr<Implementation> implementation_;
+};
+
+/// The platform's application object: made first in main, gone last.
+class Application {
+  public:
+    Application(int& argumentCount, char** arguments);
+    ~Application();
+    Application(const Application&) = delete;
+    Application& operator=(const Application&) = delete;
+
+    /// Runs events until the program ends; returns the exit code.
+    int run();
+    /// Lets run() return.
+    static void quit();
+    /// The words behind the program's name, without the platform's own switches, joined by blanks.
+    [[nodiscard]] std::string commandLine() const;
+
+  private:
+    class Implementation;
+    std::unique_ptr<Implementation> implementation_;
+};
+
+} // namespace toolkit

@@ -1,0 +1,29 @@
+// The card's picture at full size, decoded only as far as a scale needs it.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "toolkit/bitmap.h"
+
+namespace zev {
+
+/// The built-in picture or one that the player put in its place. Copies share the pixels.
+class CardPicture {
+  public:
+    /// Takes a picture file instead of the built-in card. Failure 481 if it is none.
+    void load(const std::filesystem::path& path);
+
+    /// Full size in pixels.
+    [[nodiscard]] int width() const;
+    [[nodiscard]] int height() const;
+
+    /// The picture shrunk by `scale` (0.2 to 1) into one of `width` x `height` pixels: always made
+    /// from the smallest step of the pyramid of halves that isn't smaller.
+    [[nodiscard]] toolkit::Bitmap scaledTo(float scale, int width, int height) const;
+
+  private:
+    std::shared_ptr<const toolkit::Bitmap> replacement_;
+};
+
+} // namespace zev

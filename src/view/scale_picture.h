@@ -1,0 +1,24 @@
+// Scaling the card's picture, as smooth as print: area averages from a pyramid of halves.
+#pragma once
+
+#include "toolkit/bitmap.h"
+#include "toolkit/indexed_picture.h"
+
+namespace zev {
+
+/// The next smaller step of the pyramid: each pixel the rounded average of two by two; a single last
+/// row or column averages what is there.
+[[nodiscard]] toolkit::Bitmap halved(const toolkit::IndexedPicture& picture);
+[[nodiscard]] toolkit::Bitmap halved(const toolkit::Bitmap& picture);
+[[nodiscard]] toolkit::Bitmap expanded(const toolkit::IndexedPicture& picture);
+
+/// The content of `source` shrunk by `factor` (0 < factor <= 1) into a picture of the given size in
+/// pixels; content begins at (0, 0), what it doesn't reach is white.
+struct ScaleRequest {
+    float factor = 1;
+    int width = 0;
+    int height = 0;
+};
+[[nodiscard]] toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& request);
+
+} // namespace zev

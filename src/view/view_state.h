@@ -1,0 +1,45 @@
+// The view's share of the form's state: the picture, its size, colours and whole-card options.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "toolkit/control.h"
+#include "toolkit/control_array.h"
+#include "toolkit/form.h"
+#include "toolkit/label.h"
+#include "view/card_picture.h"
+
+namespace zev {
+
+struct ViewState {
+    toolkit::PictureBox P1; ///< the card as shown, with its fields
+    CardPicture PBase;      ///< the card at full size, never shown
+    toolkit::Stacking P1Stack;
+    toolkit::Label Timestamp;
+    toolkit::Label CreditLabel;
+
+    std::int16_t ZoomLevel = 0;
+    std::int16_t ZoomLevels = 0;
+    std::int16_t DesignZoomLevel = 0;
+    std::array<float, 12> ZoomTable{}; ///< cell 0: the fit scale, 0 for none
+    float LastImageScale = 0;
+    bool Zooming = false;
+
+    std::int32_t ColorScheme = 0; ///< 0 ACBL, else a colour
+    std::int16_t LastSchemeIndex = 1;
+    std::array<toolkit::MenuItem, 2> mcolorscheme{
+        toolkit::MenuItem{.Caption = "ACBL Compliant", .Checked = true},
+        toolkit::MenuItem{.Caption = "Custom..."}};
+
+    toolkit::MenuItem MFitScreenWidth;
+    toolkit::MenuItem MFitScreenHeight;
+    toolkit::MenuItem mSmallerTextFont;
+    toolkit::MenuItem mNormalTextFont{.Checked = true};
+    toolkit::MenuItem mLargerTextFont;
+    toolkit::MenuItem mBigTextFont;
+    toolkit::MenuItem mBold;
+    toolkit::MenuItem mFillIn;
+};
+
+} // namespace zev
