@@ -1,0 +1,240 @@
+#!/usr/bin/python3
+"""Draws the two symbol fonts of the card.
+
+Zevlin Marks holds the marks that a player sets (check, filled square, ring), Zevlin Suits the
+four suit signs. Every measure is in font units, 2048 to the em. The same script always writes
+the same bytes, so the fonts can be compared after a change.
+
+    draw_fonts.py [folder]      writes the .ttf files, by default beside the script
+"""
+
+import math
+import pathlib
+import sys
+
+from fontTools.fontBuilder import FontBuilder
+from fontTools.pens.cu2quPen import Cu2QuPen
+from fontTools.pens.ttGlyphPen import TTGlyphPen
+
+EM = 2048
+# A font date is counted from 1904; a fixed one keeps the files alike on every run.
+FIXED_DATE = 3786912000
+KAPPA = 0.5522847498
+
+MARKS_ASCENT, MARKS_DESCENT = 1843, 430
+MARK_ADVANCE, RING_ADVANCE = 1822, 1746
+# Centre of check and square: 10.5 and 15.5 pixels from the left and top of their cell when the
+# em is 24 pixels, so that a box on whole pixels of the picture has the mark in its middle.
+MARK_CENTRE = (896, MARKS_ASCENT - 1323)
+# Centre of the ring: 12.5 and 16.5 pixels when the em is 29 1/3 pixels.
+RING_CENTRE = (873, MARKS_ASCENT - 1152)
+RING_RADIUS = 778
+SQUARE_SIDE = 1110
+
+# A suit stands on the base line of the text that it belongs to although it is four points
+# larger and its label six pixels higher: this ascent is 19.28 pixels when the em is 20.
+SUITS_ASCENT, SUITS_DESCENT = 1974, 410
+SUIT_ADVANCE = 1180
+
+
+def glyph(draw):
+    """A glyph from a function that draws cubic curves, counter-clockwise outlines reversed."""
+    quadratic = TTGlyphPen(None)
+    draw(Cu2QuPen(quadratic, max_err=0.6, reverse_direction=True))
+    return quadratic.glyph()
+
+
+def closed(pen, start, *segments):
+    """One closed outline: a segment of one point is a line, of three points a curve."""
+    pen.moveTo(start)
+    for segment in segments:
+        if len(segment) == 1:
+            pen.lineTo(segment[0])
+        else:
+            pen.curveTo(*segment)
+    pen.closePath()
+
+
+def ellipse(pen, centre, radius_x, radius_y, turn=1):
+    """An ellipse, counter-clockwise for a turn of 1, clockwise (a hole) for -1."""
+    x, y = centre
+    across, up = radius_x * KAPPA, radius_y * KAPPA * turn
+    side = radius_y * turn
+    closed(pen, (x + radius_x, y),
+           ((x + radius_x, y + up), (x + across, y + side), (x, y + side)),
+           ((x - across, y + side), (x - radius_x, y + up), (x - radius_x, y)),
+           ((x - radius_x, y - up), (x - across, y - side), (x, y - side)),
+           ((x + across, y - side), (x + radius_x, y - up), (x + radius_x, y)))
+
+
+def ring(stroke):
+    def draw(pen):
+        ellipse(pen, RING_CENTRE, RING_RADIUS, RING_RADIUS)
+        inner = RING_RADIUS - stroke
+        ellipse(pen, RING_CENTRE, inner, inner, turn=-1)
+    return draw
+
+
+def square(pen):
+    x, y = MARK_CENTRE
+    half = SQUARE_SIDE // 2
+    closed(pen, (x - half, y - half), [(x + half, y - half)], [(x + half, y + half)],
+           [(x - half, y + half)])
+
+
+def check(weight):
+    """A pen stroke: a short press down, a long one up that thins out to the tip."""
+    x, y = MARK_CENTRE
+    left, right, bottom, top = x - 700, x + 700, y - 720, y + 720
+
+    def draw(pen):
+        foot = (left + 480, bottom)
+        closed(pen, foot,
+               ((foot[0] + 230, bottom + 560), (right - 420, top - 420), (right, top - 60)),
+               [(right - 64, top)],
+               ((right - 520, top - 300), (foot[0] + 190, bottom + 760),
+                (foot[0] + 20, bottom + 250 + weight)),
+               ((foot[0] - 90, bottom + 420 + weight), (left + 230, bottom + 600 + weight),
+                (left + 120, bottom + 560 + weight)),
+               ((left + 60, bottom + 540 + weight), (left, bottom + 480), (left, bottom + 430)),
+               ((left + 190, bottom + 420), (left + 300, bottom + 190),
+                (foot[0] - 120, bottom + 14)),
+               ((foot[0] - 80, bottom), (foot[0] - 40, bottom), foot))
+    return draw
+
+
+def stem(pen, middle, height, half_width):
+    """The flared foot that club and spade stand on."""
+    closed(pen, (middle - half_width, 0), [(middle + half_width, 0)],
+           ((middle + 0.36 * half_width, 0.10 * height),
+            (middle + 0.16 * half_width, 0.45 * height), (middle + 0.12 * half_width, height)),
+           [(middle - 0.12 * half_width, height)],
+           ((middle - 0.16 * half_width, 0.45 * height),
+            (middle - 0.36 * half_width, 0.10 * height), (middle - half_width, 0)))
+
+
+def club(pen):
+    middle, lobe = SUIT_ADVANCE // 2, 262
+    ellipse(pen, (middle, 880), lobe, lobe)
+    ellipse(pen, (middle - 282, 470), lobe, lobe)
+    ellipse(pen, (middle + 282, 470), lobe, lobe)
+    ellipse(pen, (middle, 590), 170, 190)
+    stem(pen, middle, 520, 250)
+
+
+def diamond(pen):
+    """Four sides that curve inward a little, which makes the points look sharp."""
+    middle, half_width, top, bottom = SUIT_ADVANCE // 2, 440, 1180, -30
+    waist = (top + bottom) // 2
+    corners = [(middle, bottom), (middle + half_width, waist), (middle, top),
+               (middle - half_width, waist), (middle, bottom)]
+
+    def inward(one, other):
+        x, y = (2 * one[0] + other[0]) / 3, (2 * one[1] + other[1]) / 3
+        return x + 0.09 * (middle - x), y + 0.09 * (waist - y)
+
+    sides = [(inward(one, other), inward(other, one), other)
+             for one, other in zip(corners, corners[1:])]
+    closed(pen, corners[0], *sides)
+
+
+def heart(pen):
+    middle, half_width, top, notch, bottom = SUIT_ADVANCE // 2, 510, 1130, 900, -20
+    closed(pen, (middle, bottom),
+           ((middle + 150, bottom + 240), (middle + half_width, bottom + 470),
+            (middle + half_width, 810)),
+           ((middle + half_width, 1010), (middle + 400, top), (middle + 262, top)),
+           ((middle + 130, top), (middle + 40, top - 110), (middle, notch)),
+           ((middle - 40, top - 110), (middle - 130, top), (middle - 262, top)),
+           ((middle - 400, top), (middle - half_width, 1010), (middle - half_width, 810)),
+           ((middle - half_width, bottom + 470), (middle - 150, bottom + 240),
+            (middle, bottom)))
+
+
+def spade(pen):
+    middle, half_width, top, low = SUIT_ADVANCE // 2, 520, 1170, 190
+    closed(pen, (middle, top),
+           ((middle - 120, top - 280), (middle - half_width, 760), (middle - half_width, 460)),
+           ((middle - half_width, 290), (middle - 410, low), (middle - 268, low)),
+           ((middle - 150, low), (middle - 60, 280), (middle, 400)),
+           ((middle + 60, 280), (middle + 150, low), (middle + 268, low)),
+           ((middle + 410, low), (middle + half_width, 290), (middle + half_width, 460)),
+           ((middle + half_width, 760), (middle + 120, top - 280), (middle, top)))
+    stem(pen, middle, 480, 260)
+
+
+def missing(advance):
+    def draw(pen):
+        closed(pen, (100, 0), [(advance - 100, 0)], [(advance - 100, 1100)], [(100, 1100)])
+        closed(pen, (180, 80), [(180, 1020)], [(advance - 180, 1020)], [(advance - 180, 80)])
+    return draw
+
+
+def blank(pen):
+    """Nothing to draw."""
+
+
+def write_font(path, family, style, ascent, descent, glyphs):
+    """glyphs: (name, code or None, advance, drawing), the missing glyph first."""
+    names = [name for name, _, _, _ in glyphs]
+    shapes = {name: glyph(drawing) for name, _, _, drawing in glyphs}
+    codes = {code: name for name, code, _, _ in glyphs if code is not None}
+    # A symbol font is asked either by its byte or by its place in the private range.
+    codes.update({0xF000 + code: name for code, name in list(codes.items())})
+
+    builder = FontBuilder(EM, isTTF=True)
+    builder.setupGlyphOrder(names)
+    builder.setupCharacterMap(codes)
+    builder.setupGlyf(shapes)
+    left = {name: getattr(shapes[name], "xMin", 0) for name in names}
+    builder.setupHorizontalMetrics({name: (advance, left[name]) for name, _, advance, _ in glyphs})
+    builder.setupHorizontalHeader(ascent=ascent, descent=-descent, lineGap=0)
+    full_name = f"{family} {style}"
+    builder.setupNameTable({
+        "familyName": family, "styleName": style, "uniqueFontIdentifier": full_name,
+        "fullName": full_name, "version": "Version 2.000",
+        "psName": full_name.replace(" ", "") if style == "Regular" else
+        f"{family.replace(' ', '')}-{style}"})
+    bold = style == "Bold"
+    builder.setupOS2(sTypoAscender=ascent, sTypoDescender=-descent, sTypoLineGap=0,
+                     usWinAscent=ascent, usWinDescent=descent,
+                     usWeightClass=700 if bold else 400, fsSelection=0x20 if bold else 0x40)
+    builder.setupPost()
+    builder.font["head"].macStyle = 1 if bold else 0
+    builder.font["head"].created = builder.font["head"].modified = FIXED_DATE
+    builder.font.recalcTimestamp = False
+    builder.save(path)
+
+
+def marks(stroke, weight):
+    return [(".notdef", None, MARK_ADVANCE, missing(MARK_ADVANCE)),
+            ("space", 32, MARK_ADVANCE // 2, blank),
+            ("nobreakspace", 160, MARK_ADVANCE // 2, blank),
+            ("square", 110, MARK_ADVANCE, square),
+            ("ring", 161, RING_ADVANCE, ring(stroke)),
+            ("check", 252, MARK_ADVANCE, check(weight))]
+
+
+def suits():
+    return [(".notdef", None, SUIT_ADVANCE, missing(SUIT_ADVANCE)),
+            ("space", 32, SUIT_ADVANCE // 2, blank),
+            ("nobreakspace", 160, SUIT_ADVANCE // 2, blank),
+            ("club", 167, SUIT_ADVANCE, club),
+            ("diamond", 168, SUIT_ADVANCE, diamond),
+            ("heart", 169, SUIT_ADVANCE, heart),
+            ("spade", 170, SUIT_ADVANCE, spade)]
+
+
+def main():
+    default = pathlib.Path(__file__).resolve().parent
+    folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else default
+    write_font(folder / "zevlin-marks-regular.ttf", "Zevlin Marks", "Regular",
+               MARKS_ASCENT, MARKS_DESCENT, marks(stroke=96, weight=0))
+    write_font(folder / "zevlin-marks-bold.ttf", "Zevlin Marks", "Bold",
+               MARKS_ASCENT, MARKS_DESCENT, marks(stroke=120, weight=50))
+    write_font(folder / "zevlin-suits.ttf", "Zevlin Suits", "Regular",
+               SUITS_ASCENT, SUITS_DESCENT, suits())
+
+
+if __name__ == "__main__":
+    main()
