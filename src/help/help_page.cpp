@@ -1,0 +1,100 @@
+#include "help/help_page.h"
+
+#include <algorithm>
+
+#include "app/settings.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "help/help_text.h"
+#include "toolkit/ansi.h"
+#include "toolkit/key.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+/// Pixels that the list's frame, scroll bar and margins take.
+constexpr float widthMargin = 50;
+constexpr float heightMargin = 6;
+/// Pixels of the form that stay free around the page.
+constexpr float freeWidth = 4;
+constexpr float freeHeight = 10;
+
+void bringToFront(Zevlin& form, toolkit::Control& control) {
+    control.Stack = std::max({form.P1.Stack, form.THelp.Stack, form.PopHelp.Stack}) + 1;
+}
+
+float widestLine(const toolkit::MeasureBox& measure, const std::vector<std::string>& lines) {
+    float widest = 0;
+    for (const auto& line : lines) widest = std::max(widest, measure.TextWidth(line));
+    return widest;
+}
+
+void sizeToText(Zevlin& form) {
+    form.Testtext.SetFontName(form.THelp.Font.Name);
+    form.Testtext.SetFontSize(form.THelp.Font.Size);
+    form.Testtext.Font.Bold = form.THelp.Font.Bold;
+    const auto pixel = static_cast<float>(form.TwipsPerPixel);
+    const auto lines = static_cast<float>(form.THelp.List.size());
+    const float width = widestLine(form.Testtext, form.THelp.List) + widthMargin * pixel;
+    const float height = form.Testtext.TextHeight("A") * lines + heightMargin * pixel;
+    form.THelp.Width = std::min(width, form.Width - freeWidth * pixel);
+    form.THelp.Height = std::min(height, form.Height - freeHeight * pixel);
+}
+
+void showPage(Zevlin& form) {
+    sizeToText(form);
+    form.THelp.Move((form.Width - form.THelp.Width) / 2, (form.Height - form.THelp.Height) / 2);
+    form.THelp.Visible = true;
+    bringToFront(form, form.THelp);
+    form.SetFocus(form.THelp);
+    form.THelp.ListIndex = 1;
+}
+
+} // namespace
+
+void HelpCreate(Zevlin& form) {
+    Traceit(form, "HelpCreate");
+    trapped(form, "Error in HelpCreate: #", [&] {
+        auto help = helpText({form.ProgramVersion, toolkit::displayText(form.DataFolder),
+                              webAddress, supportAddress});
+        form.THelp.List = std::move(help.lines);
+        form.THelp.ListIndex = -1;
+        form.MoreInformationLine = help.moreInformationLine;
+        form.WebsiteLine = help.websiteLine;
+    });
+}
+
+void MHelp_Click(Zevlin& form) {
+    if (form.THelp.List.empty()) return;
+    Traceit(form, "MHelp_Click");
+    trapped(form, "Error in MHelp_Click: #", [&] { showPage(form); });
+}
+
+void THelp_KeyPress(Zevlin& form, int& KeyAscii) {
+    Traceit(form, "THelp_KeyPress");
+    trapped(form, "Error in THelp_KeyPress: #", [&] {
+        if (KeyAscii != toolkit::key::enter && KeyAscii != toolkit::key::escape) return;
+        hideHelp(form);
+        bringToFront(form, form.P1);
+    });
+}
+
+void THelp_Click(Zevlin& form) {
+    Traceit(form, "THelp_Click");
+    trapped(form, "Error in THelp_Click: #", [&] {
+        const int line = form.THelp.ListIndex;
+        if (line < 0 || (line != form.MoreInformationLine && line != form.WebsiteLine)) return;
+        hideHelp(form);
+        const auto address = std::string(webAddress) + std::string(faqPath);
+        toolkit::openWebPage(address.c_str());
+    });
+}
+
+void hideHelp(Zevlin& form) {
+    form.THelp.Visible = false;
+    form.P1.Enabled = true;
+    form.SetFocus(form.P1);
+}
+
+} // namespace zev
