@@ -11,8 +11,8 @@ namespace toolkit {
 /// A stream over the content of a text file in the ANSI code page. Lines end in CR LF, LF or CR; a
 /// byte-order mark at the start is skipped; the last line may lack its end.
 ///
-/// Values are a stream of their own, whatever the lines: leading blanks are skipped, a value ends at
-/// a comma or a line end, a quoted string runs to its closing quote and may hold both.
+/// Values are a stream of their own, whatever the lines: leading blanks are skipped, a value ends
+/// at a comma or a line end, a quoted string runs to its closing quote and may hold both.
 class TextInput {
   public:
     explicit TextInput(std::string content);
@@ -37,6 +37,7 @@ class TextInput {
   private:
     [[nodiscard]] double readDouble();
     void skipBlanks();
+    void skipLineEnd();
     void skipSeparator();
 
     std::string content_;

@@ -1,0 +1,139 @@
+#include "toolkit/files.h"
+
+#include <array>
+#include <cerrno>
+#include <chrono>
+
+#include "toolkit/error.h"
+#include "toolkit/file_handle.h"
+
+namespace toolkit {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t chunkSize = 65536;
+
+// No text or picture of the program comes near; what is longer would only fill the memory.
+constexpr std::size_t largestContent = std::size_t{256} * 1024 * 1024;
+
+void check(const fs::path& path, const std::error_code& error) {
+    if (!error) return;
+    const auto condition = error.default_error_condition();
+    failFile(path, condition.category() == std::generic_category() ? condition.value() : EIO);
+}
+
+void requireFile(const fs::path& path) {
+    std::error_code error;
+    const fs::file_status status = fs::status(path, error);
+    if (status.type() == fs::file_type::not_found) failFile(path, ENOENT);
+    check(path, error);
+    if (status.type() == fs::file_type::directory) throw RunTimeError(Failure::PathFileAccess);
+}
+
+void writeContent(const fs::path& path, FileMode mode, std::string_view content) {
+    FileHandle file(path, mode);
+    file.write(content);
+    file.close();
+}
+
+void copyContent(FileHandle& source, FileHandle& target) {
+    std::array<char, chunkSize> buffer;
+    while (true) {
+        const std::string_view chunk = source.read(buffer);
+        if (chunk.empty()) break;
+        target.write(chunk);
+    }
+    target.close();
+}
+
+void copyAttributes(const fs::path& source, const fs::path& target) {
+    std::error_code error;
+    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add,
+                    error);
+    check(target, error);
+    const auto time = fs::last_write_time(source, error);
+    check(source, error);
+    fs::last_write_time(target, time, error);
+    check(target, error);
+}
+
+void removeHalfWritten(const fs::path& path) {
+    std::error_code ignored;
+    if (fs::is_regular_file(path, ignored)) fs::remove(path, ignored);
+}
+
+} // namespace
+
+std::string readFile(const fs::path& path) {
+    FileHandle file(path, FileMode::Read);
+    std::array<char, chunkSize> buffer;
+    std::string content;
+    while (true) {
+        const std::string_view chunk = file.read(buffer);
+        if (chunk.empty()) return content;
+        if (content.size() + chunk.size() > largestContent)
+            throw RunTimeError(Failure::OutOfMemory);
+        content += chunk;
+    }
+}
+
+void writeFile(const fs::path& path, std::string_view content) {
+    writeContent(path, FileMode::Replace, content);
+}
+
+void appendFile(const fs::path& path, std::string_view content) {
+    writeContent(path, FileMode::Append, content);
+}
+
+void copyFile(const fs::path& source, const fs::path& target) {
+    requireFile(source);
+    std::error_code ignored;
+    // Opening a file for writing on top of itself would empty it.
+    if (fs::equivalent(source, target, ignored)) throw RunTimeError(Failure::PermissionDenied);
+    FileHandle from(source, FileMode::Read);
+    std::optional<FileHandle> to(std::in_place, target, FileMode::Replace);
+    try {
+        copyContent(from, *to);
+        copyAttributes(source, target);
+    } catch (...) {
+        to.reset();
+        removeHalfWritten(target);
+        throw;
+    }
+}
+
+void renameFile(const fs::path& source, const fs::path& target) {
+    std::error_code error;
+    if (!fs::exists(fs::symlink_status(source, error))) failFile(source, ENOENT);
+    if (fs::exists(fs::symlink_status(target, error)))
+        throw RunTimeError(Failure::FileAlreadyExists);
+    fs::rename(source, target, error);
+    check(target, error);
+}
+
+void deleteFile(const fs::path& path) {
+    std::error_code error;
+    // The platform's call would remove an empty folder as well.
+    if (fs::is_directory(fs::symlink_status(path, error)))
+        throw RunTimeError(Failure::PathFileAccess);
+    if (!fs::remove(path, error) && !error) failFile(path, ENOENT);
+    check(path, error);
+}
+
+std::time_t fileTime(const fs::path& path) {
+    std::error_code error;
+    const auto time = fs::last_write_time(path, error);
+    check(path, error);
+    const auto systemTime = std::chrono::file_clock::to_sys(time);
+    return std::chrono::floor<std::chrono::seconds>(systemTime).time_since_epoch().count();
+}
+
+std::uintmax_t fileLength(const fs::path& path) {
+    std::error_code error;
+    const std::uintmax_t length = fs::file_size(path, error);
+    check(path, error);
+    return length;
+}
+
+} // namespace toolkit

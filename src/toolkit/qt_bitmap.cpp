@@ -1,0 +1,78 @@
+// Pictures from and to files, and text on them.
+#include <cmath>
+
+#include <QtCore/QBuffer>
+#include <QtGui/QImage>
+#include <QtGui/QImageReader>
+#include <QtGui/QPainter>
+
+#include "toolkit/bitmap.h"
+#include "toolkit/error.h"
+#include "toolkit/files.h"
+#include "toolkit/screen.h"
+#include "toolkit/text_painter.h"
+
+namespace toolkit {
+namespace {
+
+qsizetype bytesPerRow(const Bitmap& bitmap) {
+    return static_cast<qsizetype>(bitmap.width()) * static_cast<qsizetype>(sizeof(std::uint32_t));
+}
+
+// An image over the bitmap's own pixels.
+QImage imageOver(Bitmap& bitmap) {
+    return {reinterpret_cast<uchar*>(bitmap.row(0)), bitmap.width(), bitmap.height(),
+            bytesPerRow(bitmap), QImage::Format_RGB32};
+}
+
+QImage imageOver(const Bitmap& bitmap) {
+    return {reinterpret_cast<const uchar*>(bitmap.row(0)), bitmap.width(), bitmap.height(),
+            bytesPerRow(bitmap), QImage::Format_RGB32};
+}
+
+bool isKnownFormat(const QByteArray& format) {
+    return format == "gif" || format == "png" || format == "jpeg" || format == "bmp";
+}
+
+QImage decodeImage(const std::string& content) {
+    QByteArray bytes =
+        QByteArray::fromRawData(content.data(), static_cast<qsizetype>(content.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer);
+    if (!isKnownFormat(reader.format())) throw RunTimeError(Failure::InvalidPicture);
+    QImage image = reader.read();
+    if (image.isNull()) throw RunTimeError(Failure::InvalidPicture);
+    return image;
+}
+
+} // namespace
+
+void drawText(Bitmap& bitmap, float x, float y, const FontSpec& font, Color color,
+              std::string_view text) {
+    if (bitmap.empty()) return;
+    const double pixelsPerTwip = 1.0 / twipsPerPixel();
+    const double baseLine = std::round(y + textAscent(font) * pixelsPerTwip);
+    QImage image = imageOver(bitmap);
+    QPainter painter(&image);
+    drawRun(painter, QPointF(x, baseLine), font, pixelsPerTwip, color, text);
+}
+
+Bitmap loadBitmap(const std::filesystem::path& path) {
+    const QImage image = decodeImage(readFile(path));
+    // Paper shows through where the picture is transparent.
+    Bitmap bitmap(image.width(), image.height(), white);
+    QImage target = imageOver(bitmap);
+    QPainter painter(&target);
+    painter.drawImage(0, 0, image);
+    return bitmap;
+}
+
+void savePng(const Bitmap& bitmap, const std::filesystem::path& path) {
+    QBuffer buffer;
+    if (bitmap.empty() || !imageOver(bitmap).save(&buffer, "PNG"))
+        throw RunTimeError(Failure::DeviceIo);
+    const QByteArray& bytes = buffer.data();
+    writeFile(path, {bytes.data(), static_cast<std::size_t>(bytes.size())});
+}
+
+} // namespace toolkit
