@@ -1,0 +1,94 @@
+#include "card/card_file.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "layout/version.h"
+#include "toolkit/ansi.h"
+#include "toolkit/error.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+/// Ends a text of the old format behind its style flags, and begins them.
+constexpr std::string_view flagMark = "\\\\";
+/// A record with this in place of its bit-switches counts as one of the old format.
+constexpr int noSwitches = -1;
+
+void putBackQuotes(std::string& text) { std::ranges::replace(text, toolkit::superscriptTwo, '"'); }
+
+bool contains(std::string_view flags, char flag) {
+    return flags.find(flag) != std::string_view::npos;
+}
+
+int switchesOf(std::string_view flags) {
+    return (contains(flags, 'B') ? text_switch::bold : 0) |
+           (contains(flags, 'I') ? text_switch::italic : 0) |
+           (contains(flags, 'L') ? text_switch::left : 0);
+}
+
+void takeFlags(TextRecord& record) {
+    if (!record.text.ends_with(flagMark)) return;
+    const std::size_t split = record.text.find(flagMark);
+    record.switches = switchesOf(std::string_view(record.text).substr(split));
+    record.style = TextRecord::Style::Suffix;
+    record.text.resize(split);
+}
+
+} // namespace
+
+CardReader::CardReader(std::string content, const std::string& versionSeen, Skip skip)
+    : input_(std::move(content)), versionSeen_(versionSeen), skip_(std::move(skip)) {}
+
+CardPartner CardReader::readPartner() {
+    skip_(input_);
+    CardPartner partner;
+    partner.name = input_.readText();
+    partner.number = input_.readText();
+    putBackQuotes(partner.name);
+    putBackQuotes(partner.number);
+    return partner;
+}
+
+int CardReader::readCount() {
+    skip_(input_);
+    return input_.readInteger();
+}
+
+MarkRecord CardReader::readMark() {
+    skip_(input_);
+    MarkRecord record;
+    record.number = input_.readInteger();
+    record.set = truthValue(input_.readText());
+    if (hasSwitches()) static_cast<void>(input_.readInteger());
+    return record;
+}
+
+TextRecord CardReader::readText() {
+    skip_(input_);
+    TextRecord record;
+    record.number = input_.readInteger();
+    record.text = input_.readText();
+    const int switches = hasSwitches() ? input_.readInteger() : noSwitches;
+    if (switches == noSwitches) {
+        takeFlags(record);
+    } else {
+        record.switches = switches;
+        record.style = TextRecord::Style::Switches;
+    }
+    putBackQuotes(record.text);
+    return record;
+}
+
+bool CardReader::hasSwitches() const { return !isBelow(versionSeen_, switchesVersion); }
+
+bool truthValue(std::string_view state) {
+    if (toolkit::equalWithoutCase(state, "true")) return true;
+    if (toolkit::equalWithoutCase(state, "false")) return false;
+    const auto number = toolkit::wholeNumber(state);
+    if (!number) throw toolkit::RunTimeError(toolkit::Failure::TypeMismatch);
+    return *number != 0;
+}
+
+} // namespace zev

@@ -1,0 +1,50 @@
+#include "card/card_names.h"
+
+#include "card/card_file.h"
+#include "toolkit/ansi.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+
+std::string cleanedCardName(std::string_view name) {
+    if (name.starts_with('\\') || name.starts_with('/')) name.remove_prefix(1);
+    const bool hasExtension =
+        name.size() >= cardExtension.size() &&
+        toolkit::equalWithoutCase(name.substr(name.size() - cardExtension.size()), cardExtension);
+    if (hasExtension) name.remove_suffix(cardExtension.size());
+    return std::string(name);
+}
+
+bool hasForbiddenCharacter(std::string_view name) {
+    return name.find_first_of("/\\:*?<>\"") != std::string_view::npos;
+}
+
+PlayerId splitPlayerId(std::string_view answer) {
+    const std::string_view whole = toolkit::trim(answer);
+    const std::size_t blank = whole.rfind(' ');
+    if (blank == std::string_view::npos) return {std::string(whole), {}};
+    const std::string_view left = toolkit::trim(whole.substr(0, blank));
+    const std::string_view right = whole.substr(blank + 1);
+    if (toolkit::wholeNumber(right)) return {std::string(left), std::string(right)};
+    return {std::string(left) + " " + std::string(right), {}};
+}
+
+std::string playerLine(const PlayerId& player) {
+    std::string line;
+    if (!player.name.empty()) line = player.name + " ";
+    if (!player.number.empty()) line += "#" + player.number;
+    return std::string(toolkit::trim(line));
+}
+
+std::string composedNames(const NamesLine& line, NamesUpdate update) {
+    const bool replaces = update == NamesUpdate::Replace;
+    std::string caption = replaces || line.caption.empty() ? line.mine : line.caption;
+    if (line.mine.empty() && line.partner.empty()) return caption.empty() ? line.cardName : caption;
+    if (!line.mine.empty() && !line.partner.empty() && replaces)
+        return line.mine + " && " + line.partner;
+    const bool wantsPartner = line.mine.empty() && !line.partner.empty();
+    if (wantsPartner && (caption.empty() || replaces)) return line.partner;
+    return caption;
+}
+
+} // namespace zev
