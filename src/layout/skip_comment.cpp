@@ -5,14 +5,10 @@
 namespace zev {
 namespace {
 
-void noteVersion(std::string_view line, std::string& versionSeen) {
-    const std::size_t place = line.find("Program version:");
-    if (place == std::string_view::npos) return;
-    versionSeen = toolkit::trim(line.substr(line.find(':', place) + 1));
-}
+constexpr std::string_view announcement = "Program version:";
 
 bool isComment(std::string_view line) {
-    return line.starts_with('\'') || toolkit::trim(line).empty();
+    return line.starts_with('\'') || line.find_first_not_of(' ') == std::string_view::npos;
 }
 
 } // namespace
@@ -20,8 +16,10 @@ bool isComment(std::string_view line) {
 bool skipComments(toolkit::TextInput& input, std::string& versionSeen) {
     while (!input.atEnd()) {
         const std::size_t start = input.position();
+        const std::size_t announced = input.find(announcement);
         const std::string_view line = input.readLine();
-        noteVersion(line, versionSeen);
+        if (announced < start + line.size())
+            versionSeen = toolkit::trim(line.substr(announced - start + announcement.size()));
         if (isComment(line)) continue;
         input.seek(start);
         break;

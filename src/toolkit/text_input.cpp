@@ -16,13 +16,29 @@ TextInput::TextInput(std::string content) : content_(std::move(content)) {
     if (content_.starts_with(byteOrderMark)) position_ = byteOrderMark.size();
 }
 
+std::size_t TextInput::find(std::string_view text) {
+    if (soughtText_ != text || !sought_.holdsAt(position_)) {
+        soughtText_ = text;
+        sought_ = {position_, content_.find(text, position_)};
+    }
+    return sought_.place;
+}
+
+// Kept like the place of a text, as the rest of a line may be read again and again.
+std::size_t TextInput::lineEnd() {
+    if (!lineEnd_.holdsAt(position_))
+        lineEnd_ = {position_,
+                    std::min(content_.find_first_of("\r\n", position_), content_.size())};
+    return lineEnd_.place;
+}
+
 std::string_view TextInput::readLine() {
     if (atEnd()) throw RunTimeError(Failure::InputPastEnd);
-    const std::string_view rest = std::string_view(content_).substr(position_);
-    const std::size_t length = std::min(rest.find_first_of("\r\n"), rest.size());
-    position_ += length;
+    const std::string_view line =
+        std::string_view(content_).substr(position_, lineEnd() - position_);
+    position_ += line.size();
     skipLineEnd();
-    return rest.substr(0, length);
+    return line;
 }
 
 std::string TextInput::readText() {

@@ -21,6 +21,10 @@ class TextInput {
     [[nodiscard]] std::size_t position() const { return position_; }
     void seek(std::size_t position) { position_ = position; }
 
+    /// The place of the next `text` at or behind the position; npos where none follows. The answer
+    /// for the text asked for last is kept: asking at every value of a long line costs one search.
+    [[nodiscard]] std::size_t find(std::string_view text);
+
     /// The next line without its end. Failure 62 at the end of the file.
     [[nodiscard]] std::string_view readLine();
 
@@ -35,6 +39,16 @@ class TextInput {
     [[nodiscard]] float readNumber();
 
   private:
+    /// Where the next sought thing is for every position from `from` to `place`.
+    struct Found {
+        std::size_t from = 1;
+        std::size_t place = 0;
+        [[nodiscard]] bool holdsAt(std::size_t position) const {
+            return from <= position && position <= place;
+        }
+    };
+
+    [[nodiscard]] std::size_t lineEnd();
     [[nodiscard]] double readDouble();
     void skipBlanks();
     void skipLineEnd();
@@ -42,6 +56,9 @@ class TextInput {
 
     std::string content_;
     std::size_t position_ = 0;
+    Found lineEnd_;
+    Found sought_;
+    std::string soughtText_;
 };
 
 } // namespace toolkit
