@@ -96,12 +96,13 @@ struct TextBox : Control {
     int SelStart = 0;  ///< characters before the selection or caret
     int SelLength = 0; ///< characters selected
     toolkit::Alignment Alignment = toolkit::Alignment::Left;
-    std::function<void()> Change;
+    std::function<void()> Change; ///< the player has changed Text
 };
 
 struct ListBox : Control {
     std::vector<std::string> List;
-    int ListIndex = -1;
+    int ListIndex = -1;    ///< the current row; -1 for none
+    int PointedIndex = -1; ///< the row under the last press; -1 below the last row
     std::string ToolTip;
 };
 

@@ -16,11 +16,11 @@ enum class Icon { None, Exclamation, Question, Information };
 enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
 
 struct MessageBox {
-    std::string text;
+    std::string text{};
     Buttons buttons = Buttons::Ok;
     Icon icon = Icon::None;
-    std::string title; ///< empty: the program's own
-    std::optional<Answer> preset; ///< the default button; none: the first
+    std::string title{};            ///< empty: the program's own
+    std::optional<Answer> preset{}; ///< the default button; none: the first
 };
 
 /// Shows the box over the form and waits. Closing it answers Cancel (No or Ok where there is none).
@@ -29,9 +29,9 @@ struct MessageBox {
 void tell(std::string_view text, Icon icon, std::string_view title = {});
 
 struct InputBox {
-    std::string prompt;
-    std::string title;
-    std::string preset;
+    std::string prompt{};
+    std::string title{};
+    std::string preset{};
 };
 
 /// The player's answer, control characters dropped; empty on cancel.
@@ -40,8 +40,8 @@ struct InputBox {
 /// One row of a pop-up menu; without an item it is a separator.
 struct PopupRow {
     MenuItem* item = nullptr;
-    std::string shortcut; ///< shown beside the caption, for example "Ctrl+B"
-    std::function<void()> Click;
+    std::string shortcut{}; ///< shown beside the caption, for example "Ctrl+B"
+    std::function<void()> Click{};
 };
 
 /// Opens a pop-up menu at the pointer and waits; the chosen row's Click runs before it returns.
@@ -49,9 +49,9 @@ void popupMenu(std::span<const PopupRow> rows);
 
 /// Answers boxes in the player's place. An empty function gives the boxes back to the screen.
 struct DialogAnswers {
-    std::function<Answer(const MessageBox&)> message;
-    std::function<std::string(const InputBox&)> input;
-    std::function<void(std::span<const PopupRow>)> popup;
+    std::function<Answer(const MessageBox&)> message{};
+    std::function<std::string(const InputBox&)> input{};
+    std::function<void(std::span<const PopupRow>)> popup{};
 };
 void answerDialogsWith(DialogAnswers answers);
 

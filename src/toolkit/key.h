@@ -3,6 +3,7 @@
 
 namespace toolkit::key {
 
+constexpr int backspace = 8;
 constexpr int tab = 9;
 constexpr int enter = 13;
 constexpr int escape = 27;
@@ -15,6 +16,7 @@ constexpr int left = 37;
 constexpr int up = 38;
 constexpr int right = 39;
 constexpr int down = 40;
+constexpr int deleteKey = 46;
 constexpr int digit0 = 48;
 constexpr int letterD = 68;
 constexpr int letterS = 83;

@@ -37,16 +37,19 @@ void openWebPage(const char* address);
 /// Ends the process at once: no unload, no further save.
 [[noreturn]] void endProgram();
 
-/// What endProgram throws where a test has asked for it; deliberately no std::exception.
+/// What endProgram throws where a test has asked for it; deliberately no std::exception. Out of an
+/// event handler it reaches the test through the helper of toolkit::test that sent the event.
 struct ProgramEnded {};
 
 /// Settings for tests, in force until changed.
 struct ProgramOverrides {
-    std::filesystem::path programFolder;   ///< empty: the real one
-    std::filesystem::path documentsFolder; ///< empty: the real one, unless noDocuments
+    std::filesystem::path programFolder{};   ///< empty: the real one
+    std::filesystem::path documentsFolder{}; ///< empty: the real one, unless noDocuments
     bool noDocuments = false;
     bool throwAtEnd = false;
-    std::function<void(std::string)> launch; ///< gets what would be opened
+    bool shortWaits = false;                   ///< wait() is over after one look at the events
+    std::function<void(std::string)> launch{}; ///< gets what would be opened
+    std::function<void()> beep{};              ///< instead of the sound
 };
 void overrideProgram(ProgramOverrides overrides);
 

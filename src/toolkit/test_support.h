@@ -1,14 +1,19 @@
 // Driving the real window from tests: events go to its widgets as the platform would send them.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "toolkit/bitmap.h"
 #include "toolkit/control.h"
+#include "toolkit/dialog.h"
 #include "toolkit/window.h"
 
 namespace toolkit::test {
+
+// A ProgramEnded that a handler throws leaves the helper that sent the event. Values that a test
+// has set by itself reach the widgets before the event does.
 
 /// Points are twips relative to the card's top left corner.
 void moveMouse(float x, float y, int buttons = 0, int shift = 0);
@@ -17,17 +22,20 @@ void releaseMouse(float x, float y, int button = button::left, int shift = 0);
 /// Move, press, release at one point.
 void click(float x, float y, int button = button::left, int shift = 0);
 void doubleClick(float x, float y);
-/// Rotation in 120ths.
+/// Over the card; 120 is one notch away from the player.
 void turnWheel(int rotation);
 
 /// A key by virtual code, pressed or released on the widget that has the focus.
 void pressKey(int keyCode, int shift = 0, std::string_view text = {});
 void releaseKey(int keyCode, int shift = 0);
+/// One repetition of a key that is held down.
+void repeatKey(int keyCode, int shift = 0);
 /// Press and release.
 void typeKey(int keyCode, int shift = 0, std::string_view text = {});
 /// Each character of a UTF-8 text as a key of its own, pressed and released.
 void typeText(std::string_view utf8);
-/// A menu item, as if chosen from the menu; false where it isn't shown or enabled.
+/// A menu item, as if the player had opened its menu and chosen it: captions without "&", joined by
+/// ">", as in "File>Save". False where it isn't shown or enabled.
 bool chooseMenu(std::string_view captionPath);
 /// Asks the window to close and lets the answer run.
 void closeWindow();
@@ -37,8 +45,30 @@ void settle();
 /// What the card shows, at one pixel a pixel.
 [[nodiscard]] Bitmap grabCard();
 [[nodiscard]] Bitmap grabWindow();
-/// What the platform shows of a control, for tests of the window itself.
+
+// For tests of the window itself: what the platform shows.
 [[nodiscard]] bool isShown(const Control& control);
 [[nodiscard]] std::string shownText(const TextBox& box);
+/// Whether the platform sends its keys to the control.
+[[nodiscard]] bool hasPlatformFocus(const Control& control);
+
+/// How often and how much of the card was painted since the program began.
+struct CardPaints {
+    int paints = 0;
+    int pixels = 0;
+};
+[[nodiscard]] CardPaints cardPaints();
+
+/// A box on the screen.
+struct ShownBox {
+    std::string title;
+    std::string text;
+};
+/// The next box that comes to the screen is noted and ended by its button; none closes its window.
+void endNextBox(std::optional<Answer> answer, ShownBox& seen);
+/// The next input box gets this text and its OK button.
+void fillNextInputBox(std::string_view utf8, ShownBox& seen);
+/// The row of the next pop-up menu is chosen.
+void chooseInNextPopup(int row);
 
 } // namespace toolkit::test

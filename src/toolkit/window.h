@@ -17,29 +17,30 @@ namespace toolkit {
 /// A control array of labels on the card with its event slots. X and Y are relative to the label.
 struct LabelGroup {
     ControlArray<Label>* labels = nullptr;
-    std::function<void(int index, MouseArguments&)> MouseDown;
-    std::function<void(int index, MouseArguments&)> MouseMove;
-    std::function<void(int index, MouseArguments&)> MouseUp;
-    std::function<void(int index)> Click;
+    bool TakesFocus = false; ///< a press gives the focus to the card before MouseDown runs
+    std::function<void(int index, MouseArguments&)> MouseDown{};
+    std::function<void(int index, MouseArguments&)> MouseMove{};
+    std::function<void(int index, MouseArguments&)> MouseUp{};
+    std::function<void(int index)> Click{};
 };
 
 /// One row of the menu bar's table.
 struct MenuRow {
-    int level = 0;            ///< 0 on the bar, 1 in its menu, 2 in a submenu
-    MenuItem* item = nullptr; ///< none: a separator
-    std::string_view shortcut; ///< acts while the item is shown and enabled: "Ctrl+S"
-    std::function<void()> Click;
+    int level = 0;               ///< 0 on the bar, 1 in its menu, 2 in a submenu
+    MenuItem* item = nullptr;    ///< none: a separator
+    std::string_view shortcut{}; ///< acts while the item is shown and enabled: "Ctrl+S"
+    std::function<void()> Click{};
 };
 
 /// Everything that the window shows. The values must outlive the window.
 struct WindowParts {
     Form* form = nullptr;
     PictureBox* card = nullptr;
-    std::vector<LabelGroup> cardGroups;
-    std::vector<Label*> cardLabels;      ///< single labels on the card; they swallow presses
-    std::vector<TextBox*> cardTextBoxes; ///< over the labels of the card
-    std::vector<ListBox*> lists;         ///< on the form, over the card
-    std::vector<MenuRow> menu;
+    std::vector<LabelGroup> cardGroups{};
+    std::vector<Label*> cardLabels{};      ///< single labels on the card; they swallow presses
+    std::vector<TextBox*> cardTextBoxes{}; ///< over the labels of the card
+    std::vector<ListBox*> lists{};         ///< on the form, over the card
+    std::vector<MenuRow> menu{};
 };
 
 /// Events run in the order of the platform: MouseDown, MouseUp, Click for every button, the control

@@ -1,0 +1,37 @@
+#include <QtWidgets/QApplication>
+
+#include "toolkit/qt_window.h"
+#include "toolkit/window.h"
+
+namespace toolkit {
+
+class Application::Implementation {
+  public:
+    Implementation(int& argumentCount, char** arguments) : application(argumentCount, arguments) {}
+
+    QApplication application;
+};
+
+Application::Application(int& argumentCount, char** arguments) {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
+    QCoreApplication::setAttribute(Qt::AA_DontShowIconsInMenus);
+    QCoreApplication::setApplicationName(QStringLiteral("zevlin"));
+    implementation_ = std::make_unique<Implementation>(argumentCount, arguments);
+    // Boxes come and go before the main window is there.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+Application::~Application() = default;
+
+int Application::run() {
+    updateWindow();
+    return QApplication::exec();
+}
+
+void Application::quit() { QCoreApplication::quit(); }
+
+std::string Application::commandLine() const {
+    return QCoreApplication::arguments().mid(1).join(u' ').toStdString();
+}
+
+} // namespace toolkit

@@ -1,0 +1,103 @@
+#include "toolkit/qt_card_widget.h"
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+
+#include "toolkit/qt_geometry.h"
+#include "toolkit/qt_input.h"
+
+namespace toolkit {
+namespace {
+
+/// The picture's own pixels, not a copy.
+QImage imageOf(const Bitmap& picture) {
+    return {reinterpret_cast<const uchar*>(picture.row(0)), picture.width(), picture.height(),
+            picture.width() * 4, QImage::Format_RGB32};
+}
+
+} // namespace
+
+CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery,
+                       Wheel& wheel)
+    : QWidget(&container), parts_(parts), mouse_(parts, delivery), wheel_(wheel) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setVisible(parts.card->Visible);
+}
+
+void CardWidget::push() {
+    pushPlace();
+    if (picture_ != parts_.card->Picture) {
+        picture_ = parts_.card->Picture;
+        update();
+    }
+    const QRegion changes = scene_.takeOver(parts_);
+    if (!changes.isEmpty()) update(changes);
+    if (isHidden() == parts_.card->Visible) setVisible(parts_.card->Visible);
+}
+
+/// The size doesn't depend on where the card lies, or a drag would make it flicker by a pixel.
+void CardWidget::pushPlace() {
+    const PictureBox& card = *parts_.card;
+    const QRect place(pixelsFromTwips(card.Left), pixelsFromTwips(card.Top),
+                      pixelsFromTwips(card.Width), pixelsFromTwips(card.Height));
+    if (place != geometry()) setGeometry(place);
+}
+
+void CardWidget::paintPicture(QPainter& painter, const QRect& area) const {
+    QRect pictureArea;
+    if (picture_ && !picture_->empty()) {
+        pictureArea = area & QRect(0, 0, picture_->width(), picture_->height());
+        painter.drawImage(pictureArea.topLeft(), imageOf(*picture_), pictureArea);
+    }
+    if (pictureArea == area) return;
+    for (const QRect& rest : QRegion(area) - pictureArea)
+        painter.fillRect(rest, qColor(parts_.card->BackColor));
+}
+
+void CardWidget::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    for (const QRect& area : event->region()) {
+        paintPicture(painter, area);
+        painted_.pixels += area.width() * area.height();
+    }
+    scene_.paint(painter, event->region());
+    ++painted_.paints;
+}
+
+/// The card may have moved under the pointer since the platform worked out a place on it.
+CardPointer CardWidget::pointerOf(const QMouseEvent& event) const {
+    return {pixelAt(mapFromGlobal(event.globalPosition())), shiftOf(event.modifiers())};
+}
+
+void CardWidget::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    const int button = buttonOf(event->button());
+    const int others = buttonsOf(event->buttons()) & ~button;
+    if (button != 0)
+        mouse_.press(pointerOf(*event), button,
+                     others == 0 ? CardMouse::Held::None : CardMouse::Held::Others);
+}
+
+/// The second press of a double click is a press like any other.
+void CardWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void CardWidget::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    mouse_.move(pointerOf(*event), buttonsOf(event->buttons()));
+}
+
+void CardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    const int button = buttonOf(event->button());
+    const int others = buttonsOf(event->buttons()) & ~button;
+    if (button != 0)
+        mouse_.release(pointerOf(*event), button,
+                       others == 0 ? CardMouse::Held::None : CardMouse::Held::Others);
+}
+
+void CardWidget::wheelEvent(QWheelEvent* event) { wheel_.turn(*event); }
+
+} // namespace toolkit

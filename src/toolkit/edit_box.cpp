@@ -1,0 +1,156 @@
+#include "toolkit/qt_edit_box.h"
+
+#include <algorithm>
+
+#include <QtGui/QInputMethodEvent>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+
+#include "toolkit/qt_text.h"
+
+namespace toolkit {
+namespace {
+
+/// A line edit keeps its text this far from its sides; without it, it stands where the label's
+/// does.
+constexpr int ownMargin = 2;
+/// And one pixel from its top.
+constexpr int ownTopMargin = 1;
+
+bool isTypeable(QChar character) {
+    return character.unicode() >= U' ' && character.unicode() != 0x7F &&
+           ansiOf(character.unicode()).has_value();
+}
+
+std::string typedText(const QString& text) { return ansiFromTyped(text.toStdString()); }
+
+Qt::Alignment qAlignment(Alignment alignment) {
+    switch (alignment) {
+    case Alignment::Left:
+        return Qt::AlignLeft | Qt::AlignTop;
+    case Alignment::Right:
+        return Qt::AlignRight | Qt::AlignTop;
+    case Alignment::Center:
+        return Qt::AlignHCenter | Qt::AlignTop;
+    }
+    return Qt::AlignLeft;
+}
+
+} // namespace
+
+EditBox::EditBox(QWidget& card, const WindowParts& parts, TextBox& box, Delivery& delivery)
+    : QLineEdit(&card), box_(box), delivery_(delivery),
+      mouse_(*parts.form, delivery, box, parts.card, ownMargin) {
+    hide();
+    setFrame(false);
+    setTextMargins(0, -ownTopMargin, 0, -ownTopMargin);
+    setMinimumSize(0, 0);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    setDragEnabled(false);
+    setAcceptDrops(false);
+    connect(this, &QLineEdit::textEdited, this, [this] { noteEdit(); });
+}
+
+EditBox::Selection EditBox::shownSelection() const {
+    if (!hasSelectedText()) return {cursorPosition(), 0};
+    return {selectionStart(), selectionLength()};
+}
+
+void EditBox::pull() {
+    if (isHidden()) return;
+    if (std::string shown = ansiText(text()); shown != knownText_)
+        knownText_ = box_.Text = std::move(shown);
+    if (const Selection shown = shownSelection(); shown != knownSelection_) {
+        knownSelection_ = shown;
+        box_.SelStart = shown.start;
+        box_.SelLength = shown.length;
+    }
+}
+
+void EditBox::push() {
+    if (box_.Visible && !composing_) {
+        pushText();
+        pushSelection();
+    }
+    if (const Qt::Alignment wanted = qAlignment(box_.Alignment); wanted != alignment())
+        setAlignment(wanted);
+    looks_.push(*this, box_, ownMargin);
+}
+
+void EditBox::pushText() {
+    if (const QString wanted = qString(box_.Text); wanted != text()) setText(wanted);
+    knownText_ = box_.Text;
+}
+
+/// Only where it differs: setting the same selection again would move the caret to its other end.
+void EditBox::pushSelection() {
+    const int end = static_cast<int>(text().size());
+    box_.SelStart = std::clamp(box_.SelStart, 0, end);
+    box_.SelLength = std::clamp(box_.SelLength, 0, end - box_.SelStart);
+    const Selection wanted{box_.SelStart, box_.SelLength};
+    if (wanted != shownSelection()) {
+        if (wanted.length > 0) {
+            setSelection(wanted.start, wanted.length);
+        } else {
+            deselect();
+            setCursorPosition(wanted.start);
+        }
+    }
+    knownSelection_ = wanted;
+}
+
+void EditBox::noteEdit() {
+    convertTyped();
+    delivery_.run([this] {
+        if (box_.Change) box_.Change();
+    });
+}
+
+void EditBox::convertTyped() {
+    if (std::ranges::all_of(text(), isTypeable)) return;
+    const QString shown = text();
+    const std::string before = typedText(shown.left(cursorPosition()));
+    setText(qString(typedText(shown)));
+    setCursorPosition(static_cast<int>(before.size()));
+}
+
+/// The box's own undo is out of the game: Ctrl+Z is the field's.
+void EditBox::takeKey(QKeyEvent& event) {
+    if (event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo)) return;
+    keyPressEvent(&event);
+}
+
+void EditBox::mousePressEvent(QMouseEvent* event) {
+    if (mouse_.press(*this, *event) == ControlMouse::Own::Handle) QLineEdit::mousePressEvent(event);
+    event->accept();
+}
+
+void EditBox::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (mouse_.press(*this, *event) == ControlMouse::Own::Handle) {
+        QLineEdit::mouseDoubleClickEvent(event);
+        mouse_.send(&Control::DblClick);
+    }
+    event->accept();
+}
+
+void EditBox::mouseMoveEvent(QMouseEvent* event) {
+    if (mouse_.isEnabled()) QLineEdit::mouseMoveEvent(event);
+    event->accept();
+}
+
+void EditBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (mouse_.isEnabled() && event->button() != Qt::RightButton)
+        QLineEdit::mouseReleaseEvent(event);
+    mouse_.release(*this, *event);
+    if (rect().contains(mapFromGlobal(event->globalPosition()).toPoint()))
+        mouse_.send(&Control::Click);
+    event->accept();
+}
+
+void EditBox::inputMethodEvent(QInputMethodEvent* event) {
+    composing_ = !event->preeditString().isEmpty();
+    QLineEdit::inputMethodEvent(event);
+}
+
+} // namespace toolkit

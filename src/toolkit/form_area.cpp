@@ -1,0 +1,85 @@
+#include <cmath>
+
+#include <QtGui/QPaintEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QPixmap>
+
+#include "toolkit/qt_form_widget.h"
+#include "toolkit/qt_geometry.h"
+#include "toolkit/text_painter.h"
+
+namespace toolkit {
+namespace {
+
+constexpr float smallestTileScale = 0.05F;
+constexpr float largestTileScale = 10;
+constexpr int textMargin = 2;
+
+const FontSpec textFont{.Name = "Arial", .Size = 8, .Bold = true};
+
+void paintTiles(QPainter& painter, const FormBackground& background, QSize size) {
+    if (!background.tile || background.tile->empty()) return;
+    const Bitmap& tile = *background.tile;
+    const QImage image(reinterpret_cast<const uchar*>(tile.row(0)), tile.width(), tile.height(),
+                       tile.width() * 4, QImage::Format_RGB32);
+    const bool usable =
+        background.tileScale >= smallestTileScale && background.tileScale <= largestTileScale;
+    const double scale = usable ? static_cast<double>(background.tileScale) : 1;
+    const int top = pixelsFromTwips(background.yOffset);
+    QBrush brush(image);
+    brush.setTransform(QTransform::fromTranslate(0, top).scale(scale, scale));
+    painter.fillRect(QRect(0, top, size.width(), size.height() - top), brush);
+}
+
+int component(int top, int bottom, double share) {
+    return static_cast<int>(top + (bottom - top) * share);
+}
+
+void paintGradient(QPainter& painter, const FormBackground& background, const QRect& area,
+                   QSize size) {
+    const auto [top, bottom] = std::pair(background.top, background.bottom);
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        const double share = static_cast<double>(y) / size.height();
+        painter.fillRect(area.left(), y, area.width(), 1,
+                         QColor(component(redOf(top), redOf(bottom), share),
+                                component(greenOf(top), greenOf(bottom), share),
+                                component(blueOf(top), blueOf(bottom), share)));
+    }
+}
+
+void paintText(QPainter& painter, const std::string& text, int height) {
+    if (text.empty()) return;
+    const int top = height - pixelsFromTwips(textHeight(textFont)) - textMargin;
+    const QPointF origin(textMargin, top + pixelsFromTwips(textAscent(textFont)));
+    drawRun(painter, origin, textFont, 1.0 / twipsPerPixel(), black, text);
+}
+
+} // namespace
+
+FormArea::FormArea(QWidget& form, const Form& values, Wheel& wheel)
+    : QWidget(&form), form_(values), wheel_(wheel) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+}
+
+void FormArea::push() {
+    if (shown_ == form_.Background && shownColor_ == form_.BackColor) return;
+    shown_ = form_.Background;
+    shownColor_ = form_.BackColor;
+    update();
+}
+
+void FormArea::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.fillRect(event->rect(), qColor(shownColor_));
+    if (shown_.backdrop == Backdrop::Tiles) paintTiles(painter, shown_, size());
+    if (shown_.backdrop == Backdrop::Gradient)
+        paintGradient(painter, shown_, event->rect(), size());
+    paintText(painter, shown_.text, height());
+}
+
+void FormArea::wheelEvent(QWheelEvent* event) { wheel_.turn(*event); }
+
+} // namespace toolkit

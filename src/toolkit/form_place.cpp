@@ -1,0 +1,79 @@
+#include "toolkit/qt_form_place.h"
+
+#include <algorithm>
+
+#include <QtGui/QGuiApplication>
+#include <QtGui/QWindow>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QWidget>
+
+#include "toolkit/qt_geometry.h"
+
+namespace toolkit {
+namespace {
+
+/// What a window manager will put around the form, guessed until it has.
+QMargins estimatedFrame(const QWidget& widget) {
+    if (QGuiApplication::platformName() == u"offscreen") return {};
+    return {1, widget.style()->pixelMetric(QStyle::PM_TitleBarHeight), 1, 1};
+}
+
+bool fillsTheScreen(const QWidget& widget) { return widget.isMaximized() || widget.isFullScreen(); }
+
+} // namespace
+
+FormPlace::Outer FormPlace::wanted() const {
+    return {form_.Left, form_.Top, form_.Width, form_.Height};
+}
+
+/// The real frame is known from the first exposure on.
+QMargins FormPlace::presentFrame() const {
+    const QWindow* window = widget_.windowHandle();
+    if (window != nullptr && window->isExposed()) return window->frameMargins();
+    return knownPixels_.isNull() ? estimatedFrame(widget_) : frame_;
+}
+
+void FormPlace::pull(int menuHeight) {
+    pullFrame(menuHeight);
+    pullPlace();
+}
+
+void FormPlace::pullFrame(int menuHeight) {
+    const QMargins frame = presentFrame();
+    if (frame == frame_ && menuHeight == menuHeight_) return;
+    frameChanged_ = frameChanged_ || frame != frame_;
+    frame_ = frame;
+    menuHeight_ = menuHeight;
+    form_.FrameWidth = twipsFromPixels(frame.left() + frame.right());
+    form_.FrameHeight = twipsFromPixels(frame.top() + frame.bottom() + menuHeight);
+}
+
+/// A value stays exactly as the program set it unless the window really is elsewhere.
+void FormPlace::pullPlace() {
+    if (!widget_.isVisible() || widget_.isMinimized()) return;
+    const QRect now = widget_.frameGeometry();
+    if (now == knownPixels_ || (frameChanged_ && !fillsTheScreen(widget_))) return;
+    if (now.left() != knownPixels_.left()) form_.Left = twipsFromPixels(now.left());
+    if (now.top() != knownPixels_.top()) form_.Top = twipsFromPixels(now.top());
+    if (now.width() != knownPixels_.width()) form_.Width = twipsFromPixels(now.width());
+    if (now.height() != knownPixels_.height()) form_.Height = twipsFromPixels(now.height());
+    knownPixels_ = now;
+    known_ = wanted();
+}
+
+/// A frame other than guessed changes the inside, not the outer size: a size that is saved and set
+/// again in the next run would grow from run to run.
+void FormPlace::push() {
+    const Outer outer = wanted();
+    if (outer == known_ && (!frameChanged_ || fillsTheScreen(widget_))) return;
+    const bool moved = outer.left != known_.left || outer.top != known_.top || frameChanged_;
+    frameChanged_ = false;
+    known_ = outer;
+    const QSize inside =
+        QSize(pixelsFromTwips(outer.width), pixelsFromTwips(outer.height)).shrunkBy(frame_);
+    if (inside != widget_.size()) widget_.resize(inside.expandedTo({1, 1}));
+    if (moved) widget_.move(pixelsFromTwips(outer.left), pixelsFromTwips(outer.top));
+    knownPixels_ = widget_.frameGeometry();
+}
+
+} // namespace toolkit

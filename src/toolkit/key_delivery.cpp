@@ -1,0 +1,107 @@
+#include "toolkit/qt_key_delivery.h"
+
+#include <utility>
+
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QWidget>
+
+#include "toolkit/program.h"
+#include "toolkit/qt_input.h"
+
+namespace toolkit {
+namespace {
+
+bool& repeating() {
+    static bool repeats = false;
+    return repeats;
+}
+
+/// Alt with a character opens a menu by its access key, Alt alone walks to the menu bar: both are
+/// the menu bar's. Every other key is ours before any shortcut of the platform's.
+bool belongsToMenuBar(const QKeyEvent& event) {
+    if (event.key() == Qt::Key_Alt) return true;
+    const bool altOnly = (shiftOf(event.modifiers()) & ~shift::shift) == shift::alt;
+    return altOnly && event.key() < Qt::Key_Escape;
+}
+
+} // namespace
+
+bool isKeyRepeat() { return repeating(); }
+
+KeyDelivery::KeyDelivery(const WindowParts& parts, Delivery& delivery, Shortcuts shortcuts)
+    : parts_(parts), delivery_(delivery), shortcuts_(std::move(shortcuts)) {}
+
+void KeyDelivery::watch(QWidget& widget) { widget.installEventFilter(this); }
+
+void KeyDelivery::watch(QWidget& widget, const Control& control, OwnHandling own) {
+    own_[&control] = std::move(own);
+    watch(widget);
+}
+
+/// Every key event is accepted, so that none climbs to the widget behind and comes a second time.
+bool KeyDelivery::eventFilter(QObject* watched, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::ShortcutOverride: {
+        const auto& keyEvent = *static_cast<QKeyEvent*>(event);
+        if (belongsToMenuBar(keyEvent)) return QObject::eventFilter(watched, event);
+        event->accept();
+        return true;
+    }
+    case QEvent::KeyPress:
+        press(*static_cast<QKeyEvent*>(event));
+        break;
+    case QEvent::KeyRelease:
+        release(*static_cast<QKeyEvent*>(event));
+        break;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+    event->accept();
+    return true;
+}
+
+Control& KeyDelivery::target() const {
+    return parts_.form->ActiveControl != nullptr ? *parts_.form->ActiveControl : *parts_.card;
+}
+
+void KeyDelivery::press(QKeyEvent& event) {
+    const bool outer = std::exchange(repeating(), event.isAutoRepeat());
+    Control& control = target();
+    if (passes(parts_.form->KeyDown, event) && !shortcuts_(event) &&
+        passes(control.KeyDown, event) && passesAsCharacter(control, event))
+        handOver(control, event);
+    repeating() = outer;
+}
+
+void KeyDelivery::release(const QKeyEvent& event) {
+    if (event.isAutoRepeat()) return;
+    // Whether the handler takes the release matters to no one.
+    (void)passes(target().KeyUp, event);
+}
+
+bool KeyDelivery::passes(const std::function<void(KeyArguments&)>& slot, const QKeyEvent& event) {
+    KeyArguments arguments{keyCodeOf(event), shiftOf(event.modifiers())};
+    if (event.key() == Qt::Key_Backtab) arguments.Shift |= shift::shift;
+    delivery_.run([&] {
+        if (slot) slot(arguments);
+    });
+    return arguments.KeyCode != 0;
+}
+
+bool KeyDelivery::passesAsCharacter(const Control& control, const QKeyEvent& event) {
+    int character = characterOf(event);
+    if (character == 0) return true;
+    delivery_.run([&] {
+        if (control.KeyPress) control.KeyPress(character);
+    });
+    return character != 0;
+}
+
+/// A handler may have moved the focus on; then the key isn't the old control's any more.
+void KeyDelivery::handOver(const Control& control, QKeyEvent& event) {
+    const auto own = own_.find(&control);
+    if (own == own_.end() || &target() != &control || !control.Visible || !control.Enabled) return;
+    own->second(event);
+}
+
+} // namespace toolkit

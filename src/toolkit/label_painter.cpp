@@ -1,0 +1,56 @@
+#include "toolkit/qt_label_painter.h"
+
+#include <cmath>
+
+#include <QtGui/QPainter>
+
+#include "toolkit/qt_geometry.h"
+#include "toolkit/text_painter.h"
+
+namespace toolkit {
+namespace {
+
+/// Slanted glyphs lean out of their advances by less than this share of the line's height.
+constexpr float leaningShare = 0.4F;
+
+/// Distance in twips from the label's left edge to its text's; negative where the text is wider.
+float textOffset(const Label& label, float width) {
+    switch (label.Alignment) {
+    case Alignment::Left:
+        return 0;
+    case Alignment::Right:
+        return label.Width - width;
+    case Alignment::Center:
+        return (label.Width - width) / 2;
+    }
+    return 0;
+}
+
+} // namespace
+
+QRect paintedRectangle(const Label& label) {
+    const QRect place = pixelRectangle(label);
+    if (label.Clips || label.Caption.empty()) return place;
+    const auto scale = static_cast<float>(twipsPerPixel());
+    const float width = textWidth(label.Font, paintedText(label.Caption)) / scale;
+    const float left = textOffset(label, width * scale) / scale;
+    const float height = textHeight(label.Font) / scale;
+    const float leaning = height * leaningShare;
+    const QRectF text(left - leaning, -1, width + 2 * leaning, height + 2);
+    return place.united(text.toAlignedRect().translated(place.topLeft()));
+}
+
+void paintLabel(QPainter& painter, const Label& label) {
+    const QRect place = pixelRectangle(label);
+    painter.setClipRect(label.Clips ? place : paintedRectangle(label));
+    if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
+    const std::string text = paintedText(label.Caption);
+    if (text.empty()) return;
+    const auto scale = static_cast<double>(twipsPerPixel());
+    const float offset = textOffset(label, textWidth(label.Font, text));
+    const QPointF origin(place.left() + static_cast<double>(offset) / scale,
+                         place.top() + pixelsFromTwips(textAscent(label.Font)));
+    drawRun(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
+}
+
+} // namespace toolkit

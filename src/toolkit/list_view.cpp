@@ -1,0 +1,85 @@
+#include <QtCore/QItemSelectionModel>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+
+#include "toolkit/qt_list_view.h"
+#include "toolkit/qt_text.h"
+
+namespace toolkit {
+
+ListView::ListView(QWidget& form, const WindowParts& parts, ListBox& list, Delivery& delivery)
+    : QListView(&form), list_(list), mouse_(*parts.form, delivery, list, nullptr, 0),
+      painter_(rows_, list) {
+    hide();
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setUniformItemSizes(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setItemDelegate(&painter_);
+    setModel(&rows_);
+}
+
+ListView::~ListView() { setModel(nullptr); }
+
+void ListView::pull() {
+    if (isHidden() || currentIndex().row() == knownIndex_) return;
+    knownIndex_ = list_.ListIndex = currentIndex().row();
+}
+
+/// A hidden list keeps its old rows: comparing thousands of them after each event would cost.
+void ListView::push() {
+    if (list_.Visible) {
+        if (rows_.replace(list_.List)) setCurrentIndex({});
+        pushIndex();
+        if (const QString tip = qString(list_.ToolTip); tip != toolTip()) setToolTip(tip);
+    }
+    looks_.push(*this, list_, 0);
+}
+
+void ListView::pushIndex() {
+    if (list_.ListIndex >= rows_.rowCount()) list_.ListIndex = -1;
+    knownIndex_ = list_.ListIndex;
+    if (currentIndex().row() != list_.ListIndex) setCurrentIndex(rows_.index(list_.ListIndex));
+}
+
+void ListView::takeKey(QKeyEvent& event) {
+    const int before = currentIndex().row();
+    keyPressEvent(&event);
+    if (currentIndex().row() != before) mouse_.send(&Control::Click);
+}
+
+void ListView::mousePressEvent(QMouseEvent* event) {
+    list_.PointedIndex = indexAt(event->position().toPoint()).row();
+    if (mouse_.press(*this, *event) == ControlMouse::Own::Handle) QListView::mousePressEvent(event);
+    event->accept();
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && list_.PointedIndex >= 0)
+        mouse_.send(&Control::DblClick);
+}
+
+void ListView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::RightButton) QListView::mouseReleaseEvent(event);
+    mouse_.release(*this, *event);
+    if (event->button() == Qt::LeftButton && list_.PointedIndex >= 0) mouse_.send(&Control::Click);
+    event->accept();
+}
+
+/// At its ends, too, the list keeps the wheel to itself, or the card behind it would move.
+void ListView::wheelEvent(QWheelEvent* event) {
+    QListView::wheelEvent(event);
+    event->accept();
+}
+
+/// The base would make the first row current; a list has a current row when one is chosen.
+void ListView::focusInEvent(QFocusEvent* event) {
+    QAbstractScrollArea::focusInEvent(event);
+    viewport()->update();
+}
+
+} // namespace toolkit

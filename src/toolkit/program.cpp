@@ -1,0 +1,47 @@
+#include "toolkit/program.h"
+
+#include <cstdlib>
+
+#include <QtCore/QEventLoop>
+#include <QtCore/QTimer>
+#include <QtWidgets/QApplication>
+
+#include "toolkit/qt_delivery.h"
+#include "toolkit/qt_program.h"
+#include "toolkit/qt_window.h"
+
+namespace toolkit {
+
+ProgramOverrides& programOverrides() {
+    static ProgramOverrides overrides;
+    return overrides;
+}
+
+void overrideProgram(ProgramOverrides overrides) { programOverrides() = std::move(overrides); }
+
+void doEvents() {
+    updateWindow();
+    if (qApp != nullptr) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    rethrowKept();
+}
+
+void wait(int milliseconds) {
+    if (programOverrides().shortWaits || qApp == nullptr) return doEvents();
+    updateWindow();
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    rethrowKept();
+}
+
+void beep() {
+    if (programOverrides().beep) return programOverrides().beep();
+    QApplication::beep();
+}
+
+void endProgram() {
+    if (programOverrides().throwAtEnd) throw ProgramEnded{};
+    std::_Exit(EXIT_SUCCESS);
+}
+
+} // namespace toolkit

@@ -1,0 +1,47 @@
+// The card on the screen: its picture, its labels, its mouse. Internal to the toolkit's sources.
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+#include "toolkit/qt_card_mouse.h"
+#include "toolkit/qt_label_scene.h"
+#include "toolkit/qt_wheel.h"
+
+namespace toolkit {
+
+class CardWidget : public QWidget {
+  public:
+    CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery, Wheel& wheel);
+
+    /// Takes over what the program changed and asks for a repaint of just that.
+    void push();
+
+    /// What was painted since the program began.
+    struct Painted {
+        int paints = 0;
+        int pixels = 0;
+    };
+    [[nodiscard]] Painted painted() const { return painted_; }
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+  private:
+    [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
+    void pushPlace();
+    void paintPicture(QPainter& painter, const QRect& area) const;
+
+    const WindowParts& parts_;
+    CardMouse mouse_;
+    Wheel& wheel_;
+    LabelScene scene_;
+    std::shared_ptr<const Bitmap> picture_;
+    Painted painted_;
+};
+
+} // namespace toolkit

@@ -1,0 +1,45 @@
+// How handlers are run: values taken from the widgets before, given back to them after, failures
+// kept away from Qt. Internal to the toolkit's sources.
+#pragma once
+
+#include <functional>
+#include <utility>
+
+#include <QtCore/QObject>
+
+#include "toolkit/error.h"
+
+namespace toolkit {
+
+/// What handlers threw that is no failure (the end of the program in tests) must not unwind through
+/// Qt's own frames. It is kept at the border, and thrown again by the next toolkit call that the
+/// program or a test makes: doEvents, wait, a box, or a helper of toolkit::test.
+void rethrowKept();
+
+class Delivery {
+  public:
+    struct Hooks {
+        std::function<void()> pull; ///< what the player changed goes into the values
+        std::function<void()> push; ///< what the program changed goes to the widgets
+        std::function<void(const RunTimeError&)> unhandled;
+        std::function<void()> close; ///< the player closes the window
+    };
+    explicit Delivery(Hooks hooks) : hooks_(std::move(hooks)) {}
+
+    /// Runs one handler between a pull and a push. No exception leaves it.
+    void run(const std::function<void()>& handler);
+
+    /// Runs the close once no handler is running, from the event loop.
+    void askToClose();
+
+  private:
+    void guarded(const std::function<void()>& handler);
+    void scheduleClose();
+
+    Hooks hooks_;
+    QObject timers_; ///< what is still queued dies with this
+    int depth_ = 0;
+    bool closeAsked_ = false;
+};
+
+} // namespace toolkit

@@ -1,0 +1,55 @@
+// An edit box over the card. Internal to the toolkit's sources.
+#pragma once
+
+#include <QtWidgets/QLineEdit>
+
+#include "toolkit/qt_control_looks.h"
+#include "toolkit/window.h"
+
+namespace toolkit {
+
+/// Holds characters of the code page only, one of Qt's a byte, so that places in the text agree.
+class EditBox : public QLineEdit {
+  public:
+    EditBox(QWidget& card, const WindowParts& parts, TextBox& box, Delivery& delivery);
+
+    /// What the player changed since the last call goes into the values.
+    void pull();
+    /// What the program changed goes onto the screen.
+    void push();
+    /// What the box does with a key that no handler has taken.
+    void takeKey(QKeyEvent& event);
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void inputMethodEvent(QInputMethodEvent* event) override;
+    bool focusNextPrevChild(bool /*next*/) override { return false; }
+
+  private:
+    /// Places in the text, in characters.
+    struct Selection {
+        int start = 0;
+        int length = 0;
+
+        friend bool operator==(const Selection&, const Selection&) = default;
+    };
+
+    [[nodiscard]] Selection shownSelection() const;
+    void pushText();
+    void pushSelection();
+    void convertTyped();
+    void noteEdit();
+
+    TextBox& box_;
+    Delivery& delivery_;
+    ControlMouse mouse_;
+    ControlLooks looks_;
+    std::string knownText_;
+    Selection knownSelection_;
+    bool composing_ = false; ///< an input method has text that isn't in the box yet
+};
+
+} // namespace toolkit

@@ -1,0 +1,48 @@
+// Decides who gets a key. Internal to the toolkit's sources.
+#pragma once
+
+#include <functional>
+#include <map>
+
+#include <QtCore/QObject>
+
+#include "toolkit/qt_delivery.h"
+#include "toolkit/window.h"
+
+class QKeyEvent;
+class QWidget;
+
+namespace toolkit {
+
+/// Sees every key that reaches the form or one of its controls: first the form, then the shortcuts
+/// of the menu, then the control in focus, and only then the widget that shows the control.
+class KeyDelivery : public QObject {
+  public:
+    /// Runs the shortcut of a menu row; whether there was one that may act.
+    using Shortcuts = std::function<bool(const QKeyEvent&)>;
+    /// What a widget does itself with a key.
+    using OwnHandling = std::function<void(QKeyEvent&)>;
+
+    KeyDelivery(const WindowParts& parts, Delivery& delivery, Shortcuts shortcuts);
+
+    void watch(QWidget& widget);
+    void watch(QWidget& widget, const Control& control, OwnHandling own);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+  private:
+    [[nodiscard]] Control& target() const;
+    void press(QKeyEvent& event);
+    void release(const QKeyEvent& event);
+    [[nodiscard]] bool passes(const std::function<void(KeyArguments&)>& slot,
+                              const QKeyEvent& event);
+    [[nodiscard]] bool passesAsCharacter(const Control& control, const QKeyEvent& event);
+    void handOver(const Control& control, QKeyEvent& event);
+
+    const WindowParts& parts_;
+    Delivery& delivery_;
+    Shortcuts shortcuts_;
+    std::map<const Control*, OwnHandling> own_;
+};
+
+} // namespace toolkit

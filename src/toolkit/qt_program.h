@@ -1,0 +1,10 @@
+// The settings for tests that the program's sources share. Internal to the toolkit.
+#pragma once
+
+#include "toolkit/program.h"
+
+namespace toolkit {
+
+[[nodiscard]] ProgramOverrides& programOverrides();
+
+} // namespace toolkit

@@ -1,0 +1,56 @@
+// The one window of the program. Internal to the toolkit's sources.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "toolkit/qt_card_widget.h"
+#include "toolkit/qt_edit_box.h"
+#include "toolkit/qt_form_widget.h"
+#include "toolkit/qt_key_delivery.h"
+#include "toolkit/qt_list_view.h"
+#include "toolkit/window.h"
+
+namespace toolkit {
+
+/// Keeps the values of the controls and their widgets alike.
+class Window::Implementation {
+  public:
+    explicit Implementation(WindowParts shown);
+    ~Implementation();
+
+    /// What the player changed goes into the values.
+    void pull();
+    /// What the program changed goes onto the screen, and nothing else does.
+    void push();
+
+    [[nodiscard]] FormWidget& form() { return form_; }
+    [[nodiscard]] CardWidget& card() { return card_; }
+    [[nodiscard]] const WindowParts& parts() const { return parts_; }
+    /// The widget that shows the control, nullptr where none does.
+    [[nodiscard]] QWidget* widgetOf(const Control* control);
+
+  private:
+    void pushFocus();
+    void pushStacking();
+    void watchKeys();
+
+    WindowParts parts_;
+    Delivery delivery_;
+    Wheel wheel_;
+    FormWidget form_;
+    CardWidget card_;
+    std::vector<std::unique_ptr<EditBox>> boxes_;
+    std::vector<std::unique_ptr<ListView>> lists_;
+    KeyDelivery keys_;
+    std::vector<const Control*> stacked_; ///< card and lists, the hindmost first
+    bool pushing_ = false;
+};
+
+/// The window that is open, nullptr before and after.
+[[nodiscard]] Window::Implementation* currentWindow();
+
+/// Takes over all values, if there is a window.
+void updateWindow();
+
+} // namespace toolkit

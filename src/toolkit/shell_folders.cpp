@@ -1,0 +1,66 @@
+#include <filesystem>
+#include <system_error>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QUrl>
+#include <QtGui/QDesktopServices>
+
+#include "toolkit/program.h"
+#include "toolkit/qt_program.h"
+
+namespace toolkit {
+namespace {
+
+constexpr int documentsIdentifier = 5;
+
+std::filesystem::path nativePath(const QString& path) {
+    return {path.toStdU16String(), std::filesystem::path::generic_format};
+}
+
+QString qPath(const std::filesystem::path& path) {
+    return QString::fromStdU16String(path.generic_u16string());
+}
+
+void open(const QUrl& address) {
+    if (programOverrides().launch)
+        return programOverrides().launch(address.toString().toStdString());
+    QDesktopServices::openUrl(address);
+}
+
+std::filesystem::path documentsFolder() {
+    const ProgramOverrides& overrides = programOverrides();
+    if (overrides.noDocuments) return {};
+    if (!overrides.documentsFolder.empty()) return overrides.documentsFolder;
+    return nativePath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
+}
+
+} // namespace
+
+std::filesystem::path programFolder() {
+    if (!programOverrides().programFolder.empty()) return programOverrides().programFolder;
+    const std::filesystem::path program = nativePath(QCoreApplication::applicationDirPath());
+    const std::filesystem::path beside = program / "zevlin-files";
+    std::error_code failure;
+    if (std::filesystem::is_directory(beside, failure)) return beside;
+    return program.parent_path() / "share" / "zevlin";
+}
+
+std::filesystem::path specialFolder(int identifier) {
+    if (identifier != documentsIdentifier) return {};
+    std::filesystem::path folder = documentsFolder();
+    std::error_code failure;
+    if (!folder.empty()) std::filesystem::create_directories(folder, failure);
+    if (!std::filesystem::is_directory(folder, failure)) return {};
+    return folder;
+}
+
+/// No desktop protocol for a selected file is common to all; each can show a folder.
+void showInFileManager(const std::filesystem::path& file) {
+    open(QUrl::fromLocalFile(qPath(file.parent_path())));
+}
+
+void openWebPage(const char* address) { open(QUrl(QString::fromUtf8(address))); }
+
+} // namespace toolkit

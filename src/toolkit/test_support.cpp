@@ -1,0 +1,93 @@
+#include "toolkit/test_support.h"
+
+#include <cstring>
+#include <stdexcept>
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QImage>
+#include <QtWidgets/QApplication>
+
+#include "toolkit/qt_delivery.h"
+#include "toolkit/qt_test_window.h"
+#include "toolkit/qt_text.h"
+
+namespace toolkit::test {
+namespace {
+
+Bitmap grab(QWidget& widget) {
+    updateWindow();
+    QImage image(widget.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    widget.render(&image);
+    Bitmap bitmap(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(bitmap.row(y), image.constScanLine(y),
+                    static_cast<std::size_t>(image.width()) * sizeof(std::uint32_t));
+    return bitmap;
+}
+
+} // namespace
+
+Window::Implementation& window() {
+    if (currentWindow() == nullptr) throw std::logic_error("no window is open");
+    return *currentWindow();
+}
+
+void send(QWidget& widget, QEvent& event) {
+    updateWindow();
+    QCoreApplication::sendEvent(&widget, &event);
+    rethrowKept();
+}
+
+bool chooseMenu(std::string_view captionPath) {
+    updateWindow();
+    const bool chosen = window().form().menuBar().choose(captionPath);
+    rethrowKept();
+    return chosen;
+}
+
+void closeWindow() {
+    QCloseEvent event;
+    send(window().form(), event);
+    settle();
+}
+
+/// Twice, because what runs first may queue more; not until nothing is left, for a blinking caret
+/// never comes to an end.
+void settle() {
+    updateWindow();
+    for (int round = 0; round < 2; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+    rethrowKept();
+}
+
+Bitmap grabCard() { return grab(window().card()); }
+Bitmap grabWindow() { return grab(window().form()); }
+
+bool isShown(const Control& control) {
+    updateWindow();
+    const QWidget* widget = window().widgetOf(&control);
+    return widget != nullptr && widget->isVisible();
+}
+
+bool hasPlatformFocus(const Control& control) {
+    updateWindow();
+    const QWidget* widget = window().widgetOf(&control);
+    return widget != nullptr && window().form().focusWidget() == widget;
+}
+
+std::string shownText(const TextBox& box) {
+    updateWindow();
+    const auto* edit = dynamic_cast<EditBox*>(window().widgetOf(&box));
+    return edit == nullptr ? std::string() : ansiText(edit->text());
+}
+
+CardPaints cardPaints() {
+    const CardWidget::Painted painted = window().card().painted();
+    return {painted.paints, painted.pixels};
+}
+
+} // namespace toolkit::test

@@ -1,0 +1,80 @@
+#include <QtGui/QKeyEvent>
+
+#include "toolkit/key.h"
+#include "toolkit/qt_input.h"
+#include "toolkit/qt_test_window.h"
+#include "toolkit/test_support.h"
+
+namespace toolkit::test {
+namespace {
+
+QWidget& focusWidget() {
+    updateWindow();
+    QWidget* widget = window().form().focusWidget();
+    return widget == nullptr ? window().form() : *widget;
+}
+
+void sendKey(QEvent::Type type, KeyStroke stroke, const QString& text) {
+    QWidget& widget = focusWidget();
+    if (type == QEvent::KeyPress) {
+        QKeyEvent before(QEvent::ShortcutOverride, stroke.key, stroke.modifiers, text);
+        send(widget, before);
+    }
+    QKeyEvent event(type, stroke.key, stroke.modifiers, text, stroke.repeated);
+    send(widget, event);
+}
+
+/// The text that a platform sends with the key.
+QString textOf(int keyCode, int shift) {
+    if (keyCode == key::enter) return QStringLiteral("\r");
+    if (keyCode == key::escape) return QStringLiteral("\x1b");
+    if (keyCode == key::backspace) return QStringLiteral("\b");
+    if (keyCode == key::tab) return QStringLiteral("\t");
+    const bool letter = keyCode >= 'A' && keyCode <= 'Z';
+    const bool digit = keyCode >= '0' && keyCode <= '9';
+    if ((shift & shift::alt) != 0 || (!letter && !digit && keyCode != key::space)) return {};
+    if ((shift & shift::ctrl) != 0) return letter ? QString(QChar(keyCode - 'A' + 1)) : QString();
+    const QString text(QChar{static_cast<char16_t>(keyCode)});
+    return (shift & shift::shift) != 0 ? text : text.toLower();
+}
+
+QString givenText(int keyCode, int shift, std::string_view text) {
+    if (text.empty()) return textOf(keyCode, shift);
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace
+
+void pressKey(int keyCode, int shift, std::string_view text) {
+    sendKey(QEvent::KeyPress, keyStrokeOf(keyCode, shift), givenText(keyCode, shift, text));
+}
+
+void repeatKey(int keyCode, int shift) {
+    KeyStroke stroke = keyStrokeOf(keyCode, shift);
+    stroke.repeated = true;
+    sendKey(QEvent::KeyRelease, stroke, {});
+    sendKey(QEvent::KeyPress, stroke, textOf(keyCode, shift));
+}
+
+void releaseKey(int keyCode, int shift) {
+    sendKey(QEvent::KeyRelease, keyStrokeOf(keyCode, shift), {});
+}
+
+void typeKey(int keyCode, int shift, std::string_view text) {
+    pressKey(keyCode, shift, text);
+    releaseKey(keyCode, shift);
+}
+
+void typeText(std::string_view utf8) {
+    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+    for (const char32_t character : text.toStdU32String()) {
+        const QString one = QString::fromUcs4(&character, 1);
+        const bool upper = one != one.toLower();
+        const KeyStroke stroke{static_cast<int>(one.toUpper().toUcs4().front()),
+                               upper ? Qt::ShiftModifier : Qt::NoModifier};
+        sendKey(QEvent::KeyPress, stroke, one);
+        sendKey(QEvent::KeyRelease, stroke, {});
+    }
+}
+
+} // namespace toolkit::test

@@ -1,0 +1,29 @@
+#include <QtGui/QWheelEvent>
+
+#include "toolkit/qt_geometry.h"
+#include "toolkit/qt_input.h"
+#include "toolkit/qt_wheel.h"
+
+namespace toolkit {
+namespace {
+
+constexpr int notch = 120;
+
+} // namespace
+
+void Wheel::turn(QWheelEvent& event) {
+    event.accept();
+    const int turned = event.angleDelta().y();
+    if ((turned < 0) != (turned_ < 0)) turned_ = 0;
+    turned_ += turned;
+    const QPoint place = pixelAt(event.globalPosition());
+    const int keys = shiftOf(event.modifiers());
+    for (; turned_ <= -notch || turned_ >= notch; turned_ -= turned_ < 0 ? -notch : notch) {
+        const int rotation = turned_ < 0 ? -notch : notch;
+        delivery_.run([&] {
+            if (form_.MouseWheel) form_.MouseWheel(keys, rotation, place.x(), place.y());
+        });
+    }
+}
+
+} // namespace toolkit

@@ -1,0 +1,122 @@
+#include <algorithm>
+#include <utility>
+
+#include "toolkit/qt_window.h"
+#include "toolkit/window.h"
+
+namespace toolkit {
+namespace {
+
+Window::Implementation*& current() {
+    static Window::Implementation* window = nullptr;
+    return window;
+}
+
+} // namespace
+
+Window::Implementation* currentWindow() { return current(); }
+
+void updateWindow() {
+    if (current() == nullptr) return;
+    current()->pull();
+    current()->push();
+}
+
+Window::Implementation::Implementation(WindowParts shown)
+    : parts_(std::move(shown)),
+      delivery_({[this] { pull(); }, [this] { push(); },
+                 [this](const RunTimeError& failure) {
+                     if (parts_.form->Unhandled) parts_.form->Unhandled(failure);
+                 },
+                 [this] {
+                     if (!parts_.form->QueryClose || !parts_.form->QueryClose())
+                         Application::quit();
+                 }}),
+      wheel_(*parts_.form, delivery_), form_(parts_, delivery_, wheel_),
+      card_(form_.area(), parts_, delivery_, wheel_),
+      keys_(parts_, delivery_,
+            [this](const QKeyEvent& event) { return form_.menuBar().runShortcut(event); }) {
+    for (TextBox* box : parts_.cardTextBoxes)
+        boxes_.push_back(std::make_unique<EditBox>(card_, parts_, *box, delivery_));
+    for (ListBox* list : parts_.lists)
+        lists_.push_back(std::make_unique<ListView>(form_.area(), parts_, *list, delivery_));
+    watchKeys();
+    current() = this;
+    form_.pull();
+}
+
+Window::Implementation::~Implementation() { current() = nullptr; }
+
+void Window::Implementation::watchKeys() {
+    keys_.watch(form_);
+    keys_.watch(card_);
+    for (std::size_t index = 0; index < boxes_.size(); ++index) {
+        EditBox& box = *boxes_[index];
+        keys_.watch(box, *parts_.cardTextBoxes[index],
+                    [&box](QKeyEvent& event) { box.takeKey(event); });
+    }
+    for (std::size_t index = 0; index < lists_.size(); ++index) {
+        ListView& list = *lists_[index];
+        keys_.watch(list, *parts_.lists[index], [&list](QKeyEvent& event) { list.takeKey(event); });
+    }
+}
+
+void Window::Implementation::pull() {
+    if (pushing_) return;
+    form_.pull();
+    for (const auto& box : boxes_) box->pull();
+    for (const auto& list : lists_) list->pull();
+}
+
+void Window::Implementation::push() {
+    if (std::exchange(pushing_, true)) return;
+    form_.push();
+    card_.push();
+    for (const auto& box : boxes_) box->push();
+    for (const auto& list : lists_) list->push();
+    pushStacking();
+    pushFocus();
+    form_.pushVisible();
+    pushing_ = false;
+}
+
+QWidget* Window::Implementation::widgetOf(const Control* control) {
+    if (control == parts_.card) return &card_;
+    for (std::size_t index = 0; index < boxes_.size(); ++index)
+        if (parts_.cardTextBoxes[index] == control) return boxes_[index].get();
+    for (std::size_t index = 0; index < lists_.size(); ++index)
+        if (parts_.lists[index] == control) return lists_[index].get();
+    return nullptr;
+}
+
+/// Where the keys go is the form's to say; the platform's focus follows it, so nothing that the
+/// platform does to its own focus (menus, boxes, other programs) is an event of the form's.
+void Window::Implementation::pushFocus() {
+    Control*& active = parts_.form->ActiveControl;
+    QWidget* widget = widgetOf(active);
+    if (widget != nullptr && !active->Visible) {
+        active = parts_.card;
+        widget = &card_;
+    }
+    if (widget == nullptr) widget = &card_;
+    if (widget->isHidden()) widget = &form_;
+    if (form_.focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
+}
+
+void Window::Implementation::pushStacking() {
+    std::vector<const Control*> order{parts_.card};
+    order.insert(order.end(), parts_.lists.begin(), parts_.lists.end());
+    std::ranges::stable_sort(order, {}, &Control::Stack);
+    if (order == stacked_) return;
+    for (const Control* control : order) widgetOf(control)->raise();
+    stacked_ = std::move(order);
+}
+
+Window::Window(WindowParts parts)
+    : implementation_(std::make_unique<Implementation>(std::move(parts))) {}
+
+Window::~Window() = default;
+
+void Window::update() { updateWindow(); }
+
+} // namespace toolkit
