@@ -27,12 +27,16 @@ class Reader {
         return taken;
     }
 
-    [[nodiscard]] std::uint32_t takeNumber(std::size_t bytes) {
-        const auto taken = take(bytes);
+    // As a picture file has them: the low byte first.
+    [[nodiscard]] std::uint32_t takeNumber() {
+        const std::uint32_t low = takeByte();
+        return takeByte() << 8U | low;
+    }
+
+    [[nodiscard]] std::uint32_t takeByte() {
+        const auto taken = take(1);
         if (!taken) throw RunTimeError(Failure::InvalidPicture);
-        std::uint32_t number = 0;
-        for (const std::byte byte : *taken) number = number << 8U | std::to_integer<unsigned>(byte);
-        return number;
+        return std::to_integer<std::uint32_t>(taken->front());
     }
 
     [[nodiscard]] std::span<const std::byte> rest() const { return data_; }
@@ -45,9 +49,12 @@ void require(bool condition) {
     if (!condition) throw RunTimeError(Failure::InvalidPicture);
 }
 
-// The length that the content claims is checked before memory is asked for it.
+// The length that the content claims (high byte first, as Qt writes it) is checked before memory is
+// asked for it.
 QByteArray uncompress(std::span<const std::byte> data) {
-    const std::uint32_t claimed = Reader(data).takeNumber(4);
+    Reader reader(data);
+    std::uint32_t claimed = 0;
+    for (int byte = 0; byte < 4; ++byte) claimed = claimed << 8U | reader.takeByte();
     require(claimed > 0 && claimed <= largestContent);
     const QByteArray content = qUncompress(reinterpret_cast<const uchar*>(data.data()),
                                            static_cast<qsizetype>(data.size()));
@@ -56,9 +63,15 @@ QByteArray uncompress(std::span<const std::byte> data) {
 }
 
 std::uint32_t takeBounded(Reader& reader, std::uint32_t largest) {
-    const std::uint32_t number = reader.takeNumber(4);
+    const std::uint32_t number = reader.takeNumber();
     require(number > 0 && number <= largest);
     return number;
+}
+
+std::uint32_t takeColor(Reader& reader) {
+    std::uint32_t color = 0xFF;
+    for (int channel = 0; channel < 3; ++channel) color = color << 8U | reader.takeByte();
+    return color;
 }
 
 } // namespace
@@ -74,7 +87,7 @@ IndexedPicture decodePicture(std::span<const std::byte> data) {
     picture.width = static_cast<int>(width);
     picture.height = static_cast<int>(height);
     for (std::uint32_t color = 0; color < colors; ++color)
-        picture.palette.push_back(0xFF000000U | reader.takeNumber(3));
+        picture.palette.push_back(takeColor(reader));
     const auto indices = reader.rest();
     require(indices.size() == std::size_t{width} * height);
     picture.indices.resize(indices.size());

@@ -1,15 +1,15 @@
 #include "toolkit/text_painter.h"
 
+#include <algorithm>
+#include <cmath>
 #include <map>
-#include <tuple>
+#include <utility>
 #include <vector>
 
 #include <QtCore/QCoreApplication>
 #include <QtGui/QGlyphRun>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 #include <QtGui/QRawFont>
-#include <QtGui/QScreen>
 
 #include "toolkit/ansi.h"
 #include "toolkit/qt_font_face.h"
@@ -83,12 +83,11 @@ void drawRun(QPainter& painter, QPointF baselineOrigin, const FontSpec& font, do
 }
 
 QFont qtFont(const FontSpec& font) {
-    constexpr double pointsPerInch = 72;
-    const QScreen* screen = QGuiApplication::primaryScreen();
-    const double dotsPerInch = screen != nullptr ? screen->logicalDotsPerInch() : 96;
-    const double pixelSize = font.Size * twipsPerPoint / twipsPerPixel();
+    const double exactSize = std::max(font.Size * twipsPerPoint / twipsPerPixel(), 1.0);
+    const int wholeSize = static_cast<int>(std::lround(exactSize));
     QFont sized = styledFont(font);
-    if (pixelSize > 0) sized.setPointSizeF(pixelSize * pointsPerInch / dotsPerInch);
+    sized.setPixelSize(wholeSize);
+    sized.setLetterSpacing(QFont::PercentageSpacing, 100 * exactSize / wholeSize);
     return sized;
 }
 

@@ -23,7 +23,9 @@ void drawRun(QPainter& painter, QPointF baselineOrigin, const FontSpec& font, do
              Color color, std::string_view text);
 
 /// The font as Qt's own widgets take it, through the same stand-ins: unhinted, unkerned,
-/// antialiased in greys, its size that of the labels at the screen's own scale.
+/// antialiased in greys. Qt's fonts have whole pixel sizes only; the advances are spaced to those
+/// of the exact size, so that a text in a widget is as long as in a label, to a fraction of a
+/// pixel.
 [[nodiscard]] QFont qtFont(const FontSpec& font);
 
 } // namespace toolkit

@@ -1,0 +1,196 @@
+#include "toolkit/files.h"
+
+#include <chrono>
+#include <csignal>
+
+#include <sys/resource.h>
+
+#include <gtest/gtest.h>
+
+#include "toolkit/failure_of.h"
+#include "toolkit/temporary_folder.h"
+
+namespace toolkit {
+namespace {
+
+namespace fs = std::filesystem;
+using test::failureOf;
+using test::TemporaryFolder;
+using namespace std::string_literals;
+
+// No file may grow beyond this many bytes while it lives: a disk that fills up half way.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, SIG_DFL);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+TEST(Files, ContentComesBackByteByByte) {
+    const TemporaryFolder folder;
+    std::string content = "a\r\nb\n\0\x1A\xFF"s;
+    content.append(200000, 'x');
+    writeFile(folder / "f", content);
+    EXPECT_EQ(readFile(folder / "f"), content);
+    EXPECT_EQ(fileLength(folder / "f"), content.size());
+}
+
+TEST(Files, WritingReplacesAndAppendingAdds) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "long content");
+    writeFile(folder / "f", "new");
+    appendFile(folder / "f", " and more");
+    EXPECT_EQ(readFile(folder / "f"), "new and more");
+    appendFile(folder / "g", "made");
+    EXPECT_EQ(readFile(folder / "g"), "made");
+}
+
+TEST(Files, AMissingFileIsFailure53) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(failureOf([&] { (void)readFile(folder / "none"); }), 53);
+    EXPECT_EQ(failureOf([&] { (void)fileTime(folder / "none"); }), 53);
+    EXPECT_EQ(failureOf([&] { (void)fileLength(folder / "none"); }), 53);
+    EXPECT_EQ(failureOf([&] { deleteFile(folder / "none"); }), 53);
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "none", folder / "x"); }), 53);
+    EXPECT_EQ(failureOf([&] { renameFile(folder / "none", folder / "x"); }), 53);
+    EXPECT_FALSE(fs::exists(folder / "x"));
+}
+
+TEST(Files, AMissingFolderOnTheWayIsFailure76) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(failureOf([&] { (void)readFile(folder / "none/f"); }), 76);
+    EXPECT_EQ(failureOf([&] { writeFile(folder / "none/f", "x"); }), 76);
+    EXPECT_EQ(failureOf([&] { appendFile(folder / "none/f", "x"); }), 76);
+}
+
+TEST(Files, AFileInThePlaceOfAFolderIsFailure76) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "x");
+    EXPECT_EQ(failureOf([&] { (void)readFile(folder / "f/g"); }), 76);
+    EXPECT_EQ(failureOf([&] { writeFile(folder / "f/g", "x"); }), 76);
+    EXPECT_EQ(failureOf([&] { deleteFile(folder / "f/g"); }), 76);
+}
+
+TEST(Files, AFolderInThePlaceOfAFileIsFailure75) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "d");
+    writeFile(folder / "f", "x");
+    EXPECT_EQ(failureOf([&] { (void)readFile(folder / "d"); }), 75);
+    EXPECT_EQ(failureOf([&] { writeFile(folder / "d", "x"); }), 75);
+    EXPECT_EQ(failureOf([&] { appendFile(folder / "d", "x"); }), 75);
+    EXPECT_EQ(failureOf([&] { deleteFile(folder / "d"); }), 75);
+    EXPECT_EQ(failureOf([&] { (void)fileLength(folder / "d"); }), 75);
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "d", folder / "x"); }), 75);
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "d"); }), 75);
+    EXPECT_TRUE(fs::is_directory(folder / "d"));
+    EXPECT_FALSE(fs::exists(folder / "x"));
+}
+
+TEST(Files, ANameTooLongIsFailure52) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(failureOf([&] { writeFile(folder / std::string(300, 'n'), "x"); }), 52);
+}
+
+TEST(Files, AFullDiskIsFailure61EvenWhereOnlyTheFlushSeesIt) {
+    EXPECT_EQ(failureOf([] { writeFile("/dev/full", "short"); }), 61);
+    EXPECT_EQ(failureOf([] { writeFile("/dev/full", std::string(1000000, 'x')); }), 61);
+    EXPECT_EQ(failureOf([] { appendFile("/dev/full", "short"); }), 61);
+}
+
+TEST(Files, AFailedCopyOntoADeviceLeavesTheDevice) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "x");
+    fs::create_symlink("/dev/full", folder / "link");
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "link"); }), 61);
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+}
+
+TEST(Files, AnEndlessSourceIsFailure7) {
+    EXPECT_EQ(failureOf([] { (void)readFile("/dev/zero"); }), 7);
+}
+
+TEST(Files, ACopyHasContentAndTimeAndIsWritable) {
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "content");
+    fs::last_write_time(folder / "from",
+                        fs::last_write_time(folder / "from") - std::chrono::hours(48));
+    fs::permissions(folder / "from", fs::perms::owner_read);
+    copyFile(folder / "from", folder / "to");
+    EXPECT_EQ(readFile(folder / "to"), "content");
+    EXPECT_EQ(fileTime(folder / "to"), fileTime(folder / "from"));
+    EXPECT_EQ(fs::last_write_time(folder / "to"), fs::last_write_time(folder / "from"));
+    EXPECT_NE(fs::status(folder / "to").permissions() & fs::perms::owner_write, fs::perms::none);
+}
+
+TEST(Files, ACopyReplacesItsTarget) {
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "new");
+    writeFile(folder / "to", "old and longer");
+    copyFile(folder / "from", folder / "to");
+    EXPECT_EQ(readFile(folder / "to"), "new");
+}
+
+TEST(Files, ACopyOntoItselfFailsAndKeepsTheContent) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "content");
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "f"); }), 70);
+    EXPECT_EQ(readFile(folder / "f"), "content");
+}
+
+TEST(Files, AHalfWrittenCopyIsRemoved) {
+    const TemporaryFolder folder;
+    writeFile(folder / "from", std::string(300000, 'x'));
+    const FileSizeLimit limit(100000);
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "from", folder / "to"); }), 57);
+    EXPECT_FALSE(fs::exists(folder / "to"));
+    EXPECT_TRUE(fs::exists(folder / "from"));
+}
+
+TEST(Files, RenamingMovesTheFile) {
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "content");
+    renameFile(folder / "from", folder / "to");
+    EXPECT_EQ(readFile(folder / "to"), "content");
+    EXPECT_FALSE(fs::exists(folder / "from"));
+}
+
+TEST(Files, RenamingOntoAnExistingFileFailsAndKeepsBoth) {
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "new");
+    writeFile(folder / "to", "old");
+    EXPECT_EQ(failureOf([&] { renameFile(folder / "from", folder / "to"); }), 58);
+    EXPECT_EQ(readFile(folder / "to"), "old");
+    EXPECT_EQ(readFile(folder / "from"), "new");
+}
+
+TEST(Files, DeletingRemovesTheFileOnly) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "x");
+    deleteFile(folder / "f");
+    EXPECT_FALSE(fs::exists(folder / "f"));
+    EXPECT_TRUE(fs::exists(folder.path()));
+}
+
+TEST(Files, TimeIsInWholeSecondsSinceTheEpoch) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "x");
+    const auto moment =
+        std::chrono::sys_days(std::chrono::year(2026) / 11 / 21) + std::chrono::milliseconds(900);
+    fs::last_write_time(folder / "f", std::chrono::file_clock::from_sys(moment));
+    EXPECT_EQ(fileTime(folder / "f"), 1795219200);
+}
+
+} // namespace
+} // namespace toolkit

@@ -1,0 +1,124 @@
+#include "toolkit/font.h"
+
+#include <cmath>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace toolkit {
+namespace {
+
+FontSpec arial(float size) { return {.Name = "Arial", .Size = size}; }
+
+TEST(Font, WidthIsTheSumOfTheCharactersWidths) {
+    const FontSpec font = arial(11);
+    EXPECT_FLOAT_EQ(textWidth(font, "AVA"), textWidth(font, "A") * 2 + textWidth(font, "V"));
+    EXPECT_EQ(textWidth(font, ""), 0);
+}
+
+TEST(Font, WidthIsThatOfTheDesignOutlines) {
+    // Of 2048 units an "i" takes 455, a "W" 1933 and a figure 1139.
+    EXPECT_FLOAT_EQ(textWidth(arial(1), "i"), 455 * 20.0F / 2048);
+    EXPECT_FLOAT_EQ(textWidth(arial(1), "W"), 1933 * 20.0F / 2048);
+    EXPECT_FLOAT_EQ(textWidth(arial(8.25F), "2026"), 4 * 1139 * 8.25F * 20 / 2048);
+}
+
+TEST(Font, WidthScalesExactlyWithTheSize) {
+    const std::string text = "15-17 NT, Weak 2\xA0";
+    const float unit = textWidth(arial(1), text);
+    for (const float size : {2.2F, 4.675F, 8.25F, 11.0F, 17.5F, 40.0F})
+        EXPECT_NEAR(textWidth(arial(size), text), unit * size, unit * size * 1e-6) << size;
+    EXPECT_EQ(textWidth(arial(22), text), textWidth(arial(11), text) * 2);
+}
+
+TEST(Font, HeightAndAscentScaleExactlyWithTheSize) {
+    EXPECT_EQ(textHeight(arial(22)), textHeight(arial(11)) * 2);
+    EXPECT_FLOAT_EQ(textHeight(arial(1)), (1854 + 434) * 20.0F / 2048);
+    EXPECT_FLOAT_EQ(textAscent(arial(1)), 1854 * 20.0F / 2048);
+}
+
+TEST(Font, Code160IsAsWideAsABlank) {
+    for (const char* name : {"Arial", "Arial Narrow", "Symbol"}) {
+        const FontSpec font{.Name = name, .Size = 11};
+        EXPECT_EQ(textWidth(font, "\xA0"), textWidth(font, " ")) << name;
+        EXPECT_GT(textWidth(font, " "), 0) << name;
+    }
+}
+
+TEST(Font, BoldIsWiderAndNarrowIsNarrower) {
+    FontSpec bold = arial(11);
+    bold.Bold = true;
+    const FontSpec narrow{.Name = "Arial Narrow", .Size = 11};
+    const std::string text = "Weak jump shift";
+    EXPECT_GT(textWidth(bold, text), textWidth(arial(11), text));
+    EXPECT_LT(textWidth(narrow, text), textWidth(arial(11), text) * 0.9F);
+}
+
+TEST(Font, BytesAreCharactersOfTheCodePage) {
+    const FontSpec font = arial(11);
+    EXPECT_EQ(textWidth(font, "\xE9"), textWidth(font, "e"));
+    EXPECT_EQ(textWidth(font, "\x97"), textWidth(font, "\x97\x97") / 2);
+    // A dash as long as the font is high; the byte's own number would be a control character.
+    EXPECT_FLOAT_EQ(textWidth(font, "\x97"), 11 * 20);
+}
+
+TEST(Font, AnAmpersandIsNoEscape) {
+    EXPECT_EQ(textWidth(arial(11), "&&"), textWidth(arial(11), "&") * 2);
+}
+
+TEST(Font, AStandInReportsTheNameAskedFor) {
+    for (const char* name : {"Arial", "Arial Narrow", "Wingdings", "Symbol", "arial"})
+        EXPECT_EQ(fontNameGiven(name), name);
+}
+
+TEST(Font, AnInstalledFontReportsItsName) {
+    EXPECT_EQ(fontNameGiven("Liberation Sans"), "Liberation Sans");
+    EXPECT_EQ(fontNameGiven("Zevlin Suits"), "Zevlin Suits");
+}
+
+TEST(Font, AMissingFontReportsTheOneUsedInItsPlace) {
+    for (const char* name : {"No Such Font", "Wingdings 2", "Arial, Liberation Sans", "\xFF\x80"}) {
+        const std::string given = fontNameGiven(name);
+        EXPECT_NE(given, name);
+        EXPECT_EQ(fontNameGiven(given), given);
+        EXPECT_GT(textWidth({.Name = name, .Size = 11}, "x"), 0);
+    }
+}
+
+TEST(Font, NoNameAtAllIsTheUsualFont) {
+    EXPECT_EQ(fontNameGiven(""), "Arial");
+    EXPECT_EQ(textWidth({.Name = "", .Size = 11}, "abc"), textWidth(arial(11), "abc"));
+}
+
+TEST(Font, MarksAndSuitsHaveTheirCharacters) {
+    const FontSpec marks{.Name = "Wingdings", .Size = 18};
+    const FontSpec suits{.Name = "Symbol", .Size = 15};
+    const FontSpec same{.Name = "Zevlin Marks", .Size = 18};
+    for (const char* character : {"\xFC", "\x6E", "\xA1"}) {
+        EXPECT_GT(textWidth(marks, character), 18 * 20 / 2) << character;
+        EXPECT_EQ(textWidth(marks, character), textWidth(same, character)) << character;
+    }
+    for (const char* character : {"\xA7", "\xA8", "\xA9", "\xAA"})
+        EXPECT_GT(textWidth(suits, character), 15 * 20 / 3) << character;
+}
+
+TEST(Font, SizesAreGivenAsAskedForWithinTheirBounds) {
+    EXPECT_EQ(fontSizeGiven(arial(4.675F)), 4.675F);
+    EXPECT_EQ(fontSizeGiven(arial(0)), 1);
+    EXPECT_EQ(fontSizeGiven(arial(-3)), 1);
+    EXPECT_EQ(fontSizeGiven(arial(std::nanf(""))), 1);
+    EXPECT_EQ(fontSizeGiven(arial(1e9F)), 2160);
+}
+
+TEST(MeasureBox, TakesANameAndASizeAndMeasuresWithThem) {
+    MeasureBox box;
+    EXPECT_EQ(box.SetFontName("Arial Narrow"), "Arial Narrow");
+    EXPECT_EQ(box.SetFontSize(9.5F), 9.5F);
+    const FontSpec narrow{.Name = "Arial Narrow", .Size = 9.5F};
+    EXPECT_EQ(box.TextWidth("abc"), textWidth(narrow, "abc"));
+    EXPECT_EQ(box.TextHeight("abc"), textHeight(narrow));
+    EXPECT_NE(box.SetFontName("No Such Font"), "No Such Font");
+}
+
+} // namespace
+} // namespace toolkit
