@@ -34,7 +34,7 @@ SQUARE_SIDE = 1110
 # A suit stands on the base line of the text that it belongs to although it is four points
 # larger and its label six pixels higher: this ascent is 19.28 pixels when the em is 20.
 SUITS_ASCENT, SUITS_DESCENT = 1974, 410
-SUIT_ADVANCE = 1180
+SUIT_ADVANCE = 1070
 
 
 def glyph(draw):
@@ -103,28 +103,53 @@ def check(weight):
     return draw
 
 
-def stem(pen, middle, height, half_width):
-    """The flared foot that club and spade stand on."""
-    closed(pen, (middle - half_width, 0), [(middle + half_width, 0)],
-           ((middle + 0.36 * half_width, 0.10 * height),
-            (middle + 0.16 * half_width, 0.45 * height), (middle + 0.12 * half_width, height)),
-           [(middle - 0.12 * half_width, height)],
-           ((middle - 0.16 * half_width, 0.45 * height),
-            (middle - 0.36 * half_width, 0.10 * height), (middle - half_width, 0)))
+def arc(centre, radius, start, end):
+    """Curves along a circle, counter-clockwise between two angles in degrees."""
+    count = math.ceil((end - start) / 90)
+    step = math.radians((end - start) / count)
+    reach = 4 / 3 * math.tan(step / 4) * radius
+    curves = []
+    for number in range(count):
+        one = math.radians(start) + number * step
+        other = one + step
+        first = point_on(centre, radius, one)
+        last = point_on(centre, radius, other)
+        curves.append(((first[0] - reach * math.sin(one), first[1] + reach * math.cos(one)),
+                       (last[0] + reach * math.sin(other), last[1] - reach * math.cos(other)),
+                       last))
+    return curves
+
+
+def point_on(centre, radius, angle):
+    return centre[0] + radius * math.cos(angle), centre[1] + radius * math.sin(angle)
+
+
+def mirrored(middle, curves, start):
+    """The same curves on the other side of the middle, walked backward to the first one's start."""
+    points = [start] + [point for curve in curves for point in curve]
+    backward = [(2 * middle - x, y) for x, y in reversed(points)][1:]
+    return [tuple(backward[at:at + 3]) for at in range(0, len(backward), 3)]
 
 
 def club(pen):
-    middle, lobe = SUIT_ADVANCE // 2, 262
-    ellipse(pen, (middle, 880), lobe, lobe)
-    ellipse(pen, (middle - 282, 470), lobe, lobe)
-    ellipse(pen, (middle + 282, 470), lobe, lobe)
-    ellipse(pen, (middle, 590), 170, 190)
-    stem(pen, middle, 520, 250)
+    """One outline, since a font's outlines must not overlap: foot, right lobe, top, left lobe."""
+    middle, lobe = SUIT_ADVANCE // 2, 250
+    side, top = (middle + 235, 470), (middle, 866)
+    neck_angle = 215
+    apart = math.dist(side, top)
+    toward = math.degrees(math.atan2(top[1] - side[1], top[0] - side[0]))
+    spread = math.degrees(math.acos(apart / 2 / lobe))
+    start, neck = (middle, 0), point_on(side, lobe, math.radians(neck_angle))
+    right = [((middle + 80, 0), (middle + 160, 0), (middle + 230, 0)),
+             ((middle + 90, 60), (neck[0] + 12, 190), neck)]
+    right += arc(side, lobe, neck_angle, 360 + toward - spread)
+    right += arc(top, lobe, toward + 180 + spread - 360, 90)
+    closed(pen, start, *right, *mirrored(middle, right, start))
 
 
 def diamond(pen):
     """Four sides that curve inward a little, which makes the points look sharp."""
-    middle, half_width, top, bottom = SUIT_ADVANCE // 2, 440, 1180, -30
+    middle, half_width, top, bottom = SUIT_ADVANCE // 2, 410, 1180, -30
     waist = (top + bottom) // 2
     corners = [(middle, bottom), (middle + half_width, waist), (middle, top),
                (middle - half_width, waist), (middle, bottom)]
@@ -139,28 +164,27 @@ def diamond(pen):
 
 
 def heart(pen):
-    middle, half_width, top, notch, bottom = SUIT_ADVANCE // 2, 510, 1130, 900, -20
+    middle, half_width, top, notch, bottom = SUIT_ADVANCE // 2, 475, 1130, 900, -20
     closed(pen, (middle, bottom),
            ((middle + 150, bottom + 240), (middle + half_width, bottom + 470),
             (middle + half_width, 810)),
-           ((middle + half_width, 1010), (middle + 400, top), (middle + 262, top)),
+           ((middle + half_width, 1010), (middle + 375, top), (middle + 246, top)),
            ((middle + 130, top), (middle + 40, top - 110), (middle, notch)),
-           ((middle - 40, top - 110), (middle - 130, top), (middle - 262, top)),
-           ((middle - 400, top), (middle - half_width, 1010), (middle - half_width, 810)),
+           ((middle - 40, top - 110), (middle - 130, top), (middle - 246, top)),
+           ((middle - 375, top), (middle - half_width, 1010), (middle - half_width, 810)),
            ((middle - half_width, bottom + 470), (middle - 150, bottom + 240),
             (middle, bottom)))
 
 
 def spade(pen):
-    middle, half_width, top, low = SUIT_ADVANCE // 2, 520, 1170, 190
-    closed(pen, (middle, top),
-           ((middle - 120, top - 280), (middle - half_width, 760), (middle - half_width, 460)),
-           ((middle - half_width, 290), (middle - 410, low), (middle - 268, low)),
-           ((middle - 150, low), (middle - 60, 280), (middle, 400)),
-           ((middle + 60, 280), (middle + 150, low), (middle + 268, low)),
-           ((middle + 410, low), (middle + half_width, 290), (middle + half_width, 460)),
-           ((middle + half_width, 760), (middle + 120, top - 280), (middle, top)))
-    stem(pen, middle, 480, 260)
+    middle, half_width, top, low = SUIT_ADVANCE // 2, 480, 1170, 190
+    start = (middle, 0)
+    right = [((middle + 80, 0), (middle + 160, 0), (middle + 240, 0)),
+             ((middle + 100, 50), (middle + 50, 170), (middle + 38, 330)),
+             ((middle + 90, 240), (middle + 150, low), (middle + 245, low)),
+             ((middle + 380, low), (middle + half_width, 290), (middle + half_width, 460)),
+             ((middle + half_width, 760), (middle + 110, top - 280), (middle, top))]
+    closed(pen, start, *right, *mirrored(middle, right, start))
 
 
 def missing(advance):

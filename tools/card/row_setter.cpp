@@ -18,6 +18,7 @@ constexpr int boxCentreAboveBaseline = 9;
 constexpr int ruleBelowBaseline = 4;
 constexpr double circlePitch = 46;
 constexpr double circleEm = 30;
+constexpr int circleAboveBaseline = 9;
 constexpr double leastArea = 44;
 // A caption may be wider than the column of boxes under it by this much.
 constexpr double centredOverhang = 24;
@@ -181,9 +182,11 @@ void RowSetter::setCircle(const Item& item, Span span, int baseline) {
     const int centreX = exactCentre((span.left + span.right) / 2, m_circle.x);
     QPainterPath letter = m_faces.print(item.weight).outline(item.text.front(), circleEm);
     letter.translate(centreX - letter.boundingRect().center().x(), baseline);
-    const double centreY = letter.boundingRect().center().y();
+    // One height for the whole row, between the middles of capitals and of small letters.
+    const int centreY = exactCentre(baseline - circleAboveBaseline, m_circle.y);
     addShape(item.ink, std::move(letter));
-    m_sheet.marks.push_back({item.id, MarkKind::Circle, item.ink, double(centreX), centreY});
+    m_sheet.marks.push_back(
+        {item.id, MarkKind::Circle, item.ink, double(centreX), double(centreY)});
 }
 
 void RowSetter::setArea(const Item& item, Span span, int baseline) {

@@ -40,7 +40,9 @@ double Typeface::advance(char32_t character) const {
 }
 
 QPainterPath Typeface::outline(char32_t character, double em) const {
-    return QTransform::fromScale(em / size, em / size).map(m_font.pathForGlyph(glyph(character)));
+    QPainterPath path = m_font.pathForGlyph(glyph(character));
+    path.setFillRule(Qt::WindingFill);
+    return QTransform::fromScale(em / size, em / size).map(path);
 }
 
 Typefaces loadTypefaces(const std::filesystem::path& ownFonts) {
