@@ -118,6 +118,17 @@ TEST(EmbeddedFile, FontsLieInTheProgramAsTheyAre) {
     EXPECT_EQ(std::memcmp(font.data(), "\0\1\0\0", 4), 0);
 }
 
+TEST(EmbeddedFile, TheCardIsThereInFullAndHalfSize) {
+    const IndexedPicture full = decodePicture(embeddedFile("/card/full.bin"));
+    EXPECT_EQ(full.width, 2396);
+    EXPECT_EQ(full.height, 2473);
+    const IndexedPicture half = decodePicture(embeddedFile("/card/half.bin"));
+    EXPECT_EQ(half.width, 1198);
+    EXPECT_EQ(half.height, 1237);
+    // The top left pixel is paper in both.
+    EXPECT_EQ(full.palette[full.indices.front()], half.palette[half.indices.front()]);
+}
+
 TEST(EmbeddedFile, AnUnknownNameIsFailure53) {
     EXPECT_EQ(failureOf([] { (void)embeddedFile("/fonts/none.ttf"); }), 53);
     EXPECT_EQ(failureOf([] { (void)embeddedFile("/fonts"); }), 53);
