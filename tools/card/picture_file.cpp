@@ -6,7 +6,9 @@
 #include <QtCore/QByteArray>
 #include <gif_lib.h>
 
+#include <algorithm>
 #include <memory>
+#include <string>
 #include <string_view>
 
 namespace card {
@@ -21,6 +23,11 @@ struct GifClose {
     void operator()(GifFileType* file) const { EGifCloseFile(file, nullptr); }
 };
 using GifFile = std::unique_ptr<GifFileType, GifClose>;
+
+int appendBytes(GifFileType* file, const GifByteType* bytes, int count) {
+    static_cast<std::string*>(file->UserData)->append(bytes, bytes + count);
+    return count;
+}
 
 constexpr int gifMapSize = 256;
 
@@ -45,7 +52,8 @@ void append16(QByteArray& bytes, int value) {
 
 void writeGif(const IndexedPicture& picture, const std::filesystem::path& path) {
     int error = 0;
-    GifFile file(EGifOpenFileName(path.string().c_str(), false, &error));
+    std::string bytes;
+    GifFile file(EGifOpen(&bytes, appendBytes, &error));
     require(file != nullptr, path);
     const ColourMap map = colourMap(picture.palette);
     require(EGifPutScreenDesc(file.get(), picture.width, picture.height, map->BitsPerPixel, 0,
@@ -62,6 +70,7 @@ void writeGif(const IndexedPicture& picture, const std::filesystem::path& path) 
         require(EGifPutLine(file.get(), line.data(), picture.width) == GIF_OK, path);
     }
     require(EGifCloseFile(file.release(), &error) == GIF_OK, path);
+    writeBytes(path, bytes);
 }
 
 void writePacked(const IndexedPicture& picture, const std::filesystem::path& path) {
