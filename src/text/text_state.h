@@ -36,6 +36,7 @@ struct TextState {
     std::string OrigText;       ///< its Tag at opening
     toolkit::Alignment OrigAlign = toolkit::Alignment::Left;
     bool OpeningField = false;
+    bool ShiftHeld = false; ///< at the last key press
     std::int16_t ClickIndex = 0; ///< the label pressed, until its click is done; 0 for none
     std::int16_t ClickButton = 0;
     float ClickX = 0; ///< twips in the label

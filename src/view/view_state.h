@@ -3,6 +3,8 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 
 #include "toolkit/control.h"
 #include "toolkit/control_array.h"
@@ -25,6 +27,8 @@ struct ViewState {
     std::array<float, 12> ZoomTable{}; ///< cell 0: the fit scale, 0 for none
     float LastImageScale = 0;
     bool Zooming = false;
+    /// While the screen is rebuilt: the name that the card had before it took the temporary one.
+    std::optional<std::string> NameBeforeRebuild;
 
     std::int32_t ColorScheme = 0; ///< 0 ACBL, else a colour
     std::int16_t LastSchemeIndex = 1;

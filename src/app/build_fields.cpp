@@ -1,0 +1,109 @@
+#include "app/build_fields.h"
+
+#include <cstdlib>
+#include <string>
+
+#include "app/find_layout.h"
+#include "app/initialize_run.h"
+#include "app/mark_fields.h"
+#include "app/text_fields.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "layout/calibration.h"
+#include "layout/read_comment.h"
+#include "toolkit/ansi.h"
+#include "toolkit/files.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+/// Below this a count of twips per pixel can't be right.
+constexpr int fewestTwips = 5;
+
+void readEnvironment(Zevlin& form, InitializeRun& run, LayoutReader& layout) {
+    run.step = 1500;
+    form.OriginalTwips = static_cast<std::int16_t>(layout.readEnvironment().twips);
+    run.step = 1505;
+    checkScreenFonts(form);
+    run.step = 1510;
+    layout.skipFontLine();
+    layout.skipFontLine();
+    run.step = 1515;
+    run.fileOffsets = layout.readOffsets();
+}
+
+void computeRatio(Zevlin& form, InitializeRun& run) {
+    run.step = 1520;
+    if (std::abs(form.TwipsPerPixel) >= fewestTwips && std::abs(form.OriginalTwips) >= fewestTwips) {
+        run.step = 1530;
+        run.ratio =
+            static_cast<float>(form.TwipsPerPixel) / static_cast<float>(form.OriginalTwips);
+        return;
+    }
+    Traceit(form,
+            "Error in Initialize, step 1500 (check for zero divide or overflow): twips=" +
+                toolkit::numberText(form.TwipsPerPixel) +
+                "; origtwips=" + toolkit::numberText(form.OriginalTwips));
+    if (form.TwipsPerPixel < fewestTwips) form.TwipsPerPixel = 15;
+    if (form.OriginalTwips < fewestTwips) form.OriginalTwips = form.TwipsPerPixel;
+    run.ratio = 1;
+}
+
+/// What this machine's fonts add to the places of a layout made at another resolution.
+void computeCorrections(Zevlin& form, InitializeRun& run) {
+    run.step = 1700;
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    for (float& offset : run.fileOffsets) offset *= twips;
+    run.step = 1800;
+    std::size_t cell = 0;
+    for (std::size_t kind = 1; kind <= 3; ++kind) {
+        for (std::size_t size = 1; size <= 3; ++size) {
+            for (std::size_t side = 1; side <= 2; ++side) {
+                const float offset = run.fileOffsets[cell++];
+                run.corrections[kind][size][side] =
+                    form.TwipsPerPixel == form.OriginalTwips
+                        ? 0
+                        : offset * run.ratio - form.FontOffsets[kind][size][side];
+            }
+        }
+    }
+}
+
+void sizeSymbolTemplate(Zevlin& form) {
+    form.Testtext.Font = {};
+    form.Testtext.SetFontName(form.SuitFontName);
+    form.Testtext.SetFontSize(form.TextFontSize[1]);
+    toolkit::Label& symbol = form.SText[0];
+    symbol.Font = form.Testtext.Font;
+    symbol.Clips = false;
+    symbol.Width = form.Testtext.TextWidth("\xA9");
+    symbol.Height = form.AText[0].Height;
+    form.SText.UnloadAbove(0);
+    form.SuitColors.clear();
+}
+
+} // namespace
+
+void buildFields(Zevlin& form, InitializeRun& run) {
+    const auto file = findLayout(form, run);
+    run.step = 1480;
+    Traceit(form, "Initialize step 1480: about to open Definitions.Ini in " +
+                      toolkit::displayText(form.DataFolder));
+    form.VersionSeen.clear();
+    LayoutReader layout(toolkit::readFile(file),
+                        [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
+    readEnvironment(form, run, layout);
+    computeRatio(form, run);
+    run.step = 1600;
+    GetOffsets(form);
+    computeCorrections(form, run);
+    buildMarks(form, run, layout);
+    buildTexts(form, run, layout);
+    run.step = 2300;
+    layout.readTabTable(form.TabTable);
+    run.step = 2400;
+    sizeSymbolTemplate(form);
+}
+
+} // namespace zev

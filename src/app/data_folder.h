@@ -1,0 +1,20 @@
+// The folder in which all the player's files live.
+#pragma once
+
+#include <filesystem>
+
+namespace zev {
+
+struct Zevlin;
+
+/// The shell folder with this identifier (5 is Documents), empty on a failure.
+[[nodiscard]] std::filesystem::path GetSpecialFolder(Zevlin& form, int identifier);
+
+/// Makes the data folder and moves the installation's files for the player into it: a newer file
+/// there is never replaced, and a source goes only after its copy was verified.
+void mDocsFolder_Click(Zevlin& form);
+
+/// The folder that relative names mean: the data folder, or where it can't be used the process's.
+[[nodiscard]] std::filesystem::path currentFolder(const Zevlin& form);
+
+} // namespace zev

@@ -1,0 +1,12 @@
+// The fonts of the card: their sizes at the present scale, and whether they can be used.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+struct InitializeRun;
+
+/// Sets the text and mark sizes and proves the fonts. A defective text font ends the program.
+void checkFonts(Zevlin& form, InitializeRun& run);
+
+} // namespace zev

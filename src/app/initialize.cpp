@@ -1,0 +1,161 @@
+#include "app/initialize.h"
+
+#include "app/build_fields.h"
+#include "app/data_folder.h"
+#include "app/fonts_check.h"
+#include "app/initialize_failure.h"
+#include "app/initialize_run.h"
+#include "app/options.h"
+#include "app/place_window.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "help/help_page.h"
+#include "layout/calibration.h"
+#include "layout/read_comment.h"
+#include "layout/save_layout.h"
+#include "toolkit/ansi.h"
+#include "toolkit/files.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+#include "toolkit/screen.h"
+#include "view/colors.h"
+#include "view/fit.h"
+#include "view/image_size.h"
+#include "view/time_stamp.h"
+
+namespace zev {
+namespace {
+
+void begin(Zevlin& form) {
+    Traceit(form, "Initialize");
+    const auto folder = toolkit::displayText(form.DataFolder);
+    Traceit(form, "Initialize: Changed path to: " + folder + "  ... actual current path is: " +
+                      toolkit::displayText(currentFolder(form)));
+    form.Initializing = true;
+    form.TwipsPerPixel = static_cast<std::int16_t>(toolkit::twipsPerPixel());
+    form.ScreenWidthPixels = toolkit::toInteger16(toolkit::screen().Width /
+                                                  static_cast<float>(form.TwipsPerPixel));
+}
+
+void readOptionsFile(Zevlin& form, InitializeRun& run) {
+    run.step = 200;
+    const auto file = toolkit::findFile(form.DataFolder, optionsFileName);
+    const auto folder = toolkit::displayText(form.DataFolder);
+    if (!file) {
+        run.step = 490;
+        Traceit(form, "Initialize step 490: ZEV.Ini not found in " + folder);
+        run.step = 500;
+        run.firstRun = true;
+        return;
+    }
+    run.step = 300;
+    readOptions(form, *file);
+    run.step = 310;
+    Traceit(form, "Initialize step 310: ZEV.Ini opened successfully in " + folder);
+    run.step = 400;
+    form.OptionsVersion = form.VersionSeen;
+    form.mpopBold.Enabled = !form.mBold.Checked;
+    run.firstRun = false;
+}
+
+/// The printer of the alternate method comes back by its name.
+void choosePrinter(Zevlin& form) {
+    if (!form.mPrintAlt.Checked || form.Myprinter.Devicename.empty()) return;
+    ignoringFailures([&] {
+        for (const auto& printer : toolkit::installedPrinters()) {
+            if (printer.DeviceName != form.Myprinter.Devicename) continue;
+            if (form.CurrentPrinter.DeviceName != printer.DeviceName) form.CurrentPrinter = printer;
+            if (form.Myprinter.PaperBin > 0) form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
+            form.Myprinter.BitsPerPixel = form.CurrentPrinter.ColorMode == 2 ? 24 : 8;
+            return;
+        }
+    });
+}
+
+void sizePicture(Zevlin& form) {
+    RestoreBackgroundPicture(form, Rescale::IfChanged);
+    form.CardScale = form.P1.Width / (static_cast<float>(form.TwipsPerPixel) * designWidth);
+    form.TextScale = form.MarkScale = form.CardScale;
+    form.ColorBlack = toolkit::rgb(0, 0, 0);
+    form.ColorRed = toolkit::rgb(195, 17, 25);
+    form.ColorBlue = toolkit::rgb(62, 153, 206);
+}
+
+void finishFields(Zevlin& form) {
+    form.LayoutVersion = form.VersionSeen;
+    MakeTimeStamp(form);
+    PositionTimeStamp(form);
+    form.Timestamp.Visible = true;
+    PositionCreditLabel(form);
+    form.CreditLabel.Visible = true;
+    form.Initializing = false;
+}
+
+/// A layout made at another resolution is written anew for this screen, at design size.
+void convertLayout(Zevlin& form) {
+    if (form.TwipsPerPixel == form.OriginalTwips) return;
+    const auto level = form.ZoomLevel;
+    if (form.ZoomLevel != form.DesignZoomLevel) {
+        form.ZoomLevel = form.DesignZoomLevel;
+        SetImageSize(form, form.P1, form.PBase,
+                     form.ZoomTable.at(static_cast<std::size_t>(form.ZoomLevel)),
+                     Rescale::IfChanged);
+    }
+    MSaveShapes_Click(form);
+    form.ZoomLevel = level;
+    RestoreBackgroundPicture(form, Rescale::IfChanged);
+}
+
+void showForm(Zevlin& form, const InitializeRun& run) {
+    // A rebuild paints once, when the card is whole again.
+    if (!form.NameBeforeRebuild) toolkit::doEvents();
+    form.Visible = true;
+    if (!form.NameBeforeRebuild) toolkit::doEvents();
+    if (!run.firstRun) return;
+    form.MFitScreenWidth.Checked = false;
+    MFitScreenWidth_Click(form);
+    IniWrite(form);
+    HelpCreate(form);
+    MHelp_Click(form);
+}
+
+void colorFields(Zevlin& form) {
+    KeepFieldColors(form);
+    SetGlobalColors(form);
+}
+
+void runSteps(Zevlin& form, InitializeRun& run) {
+    run.step = 100;
+    begin(form);
+    readOptionsFile(form, run);
+    run.step = 550;
+    choosePrinter(form);
+    run.step = 600;
+    sizePicture(form);
+    run.step = 700;
+    placeWindow(form, run);
+    checkFonts(form, run);
+    buildFields(form, run);
+    run.step = 2500;
+    finishFields(form);
+    run.step = 2600;
+    convertLayout(form);
+    run.step = 2700;
+    showForm(form, run);
+    run.step = 2800;
+    colorFields(form);
+    run.step = 2900;
+}
+
+} // namespace
+
+void Initialize(Zevlin& form) {
+    InitializeRun run;
+    try {
+        runSteps(form, run);
+    } catch (const std::exception&) {
+        endFailedInitialize(form, toolkit::currentFailure(), run.step);
+    }
+}
+
+} // namespace zev

@@ -1,0 +1,13 @@
+// The checkmarks and circles of a layout.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+struct InitializeRun;
+class LayoutReader;
+
+/// Reads the mark records and makes one unshown label for each.
+void buildMarks(Zevlin& form, InitializeRun& run, LayoutReader& layout);
+
+} // namespace zev

@@ -1,0 +1,25 @@
+// The menu bar: one row for each item.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "app/zevlin.h"
+
+namespace zev {
+
+/// Whether an item can be chosen when the program starts.
+enum class AtStart { Enabled, Disabled };
+
+struct MenuEntry {
+    int level = 0;                                ///< 0 on the bar, 1 in its menu
+    toolkit::MenuItem Zevlin::*item = nullptr;    ///< none: a separator
+    std::string_view caption{};
+    std::string_view shortcut{};                  ///< acts while the item is shown and enabled
+    void (*procedure)(Zevlin&) = nullptr;         ///< none: a menu
+    AtStart atStart = AtStart::Enabled;
+};
+
+[[nodiscard]] std::span<const MenuEntry> menuTable();
+
+} // namespace zev

@@ -1,0 +1,13 @@
+// The text areas of a layout.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+struct InitializeRun;
+class LayoutReader;
+
+/// Reads the text records and makes one shown label and one highlight for each.
+void buildTexts(Zevlin& form, InitializeRun& run, LayoutReader& layout);
+
+} // namespace zev

@@ -1,0 +1,18 @@
+// The end of a run.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+
+/// How the form came to be unloaded.
+constexpr int unloadByPlayer = 0;
+constexpr int unloadFromCode = 1;
+
+/// Asks about unsaved changes; true refuses, and the form stays.
+[[nodiscard]] bool Form_Unload(Zevlin& form, int unloadMode);
+
+/// Asks about unsaved changes and ends the program.
+void MExit_Click(Zevlin& form);
+
+} // namespace zev

@@ -1,0 +1,128 @@
+#include "app/wiring.h"
+
+#include <vector>
+
+#include "app/menu_table.h"
+#include "app/trace.h"
+#include "app/unload.h"
+#include "app/zevlin.h"
+#include "help/help_page.h"
+#include "marks/card_mouse.h"
+#include "marks/keys.h"
+#include "marks/mark_clicks.h"
+#include "marks/move_card.h"
+#include "text/edit_field.h"
+#include "text/edit_keys.h"
+
+namespace zev {
+namespace {
+
+/// A slot that runs the procedure over this form with whatever the event brings.
+template <typename... Arguments>
+auto run(Zevlin& form, void (*procedure)(Zevlin&, Arguments...)) {
+    return [&form, procedure](Arguments... arguments) {
+        procedure(form, static_cast<Arguments>(arguments)...);
+    };
+}
+
+void wireForm(Zevlin& form) {
+    form.KeyDown = run(form, Form_KeyDown);
+    form.MouseWheel = run(form, MouseWheel);
+    form.QueryClose = [&form] { return Form_Unload(form, unloadByPlayer); };
+    form.Unhandled = [&form](const toolkit::RunTimeError& failure) {
+        traceFailure(form, "Error in an event: #", failure);
+    };
+}
+
+void wireCard(Zevlin& form) {
+    form.P1.MouseDown = run(form, P1_MouseDown);
+    form.P1.MouseMove = run(form, P1_MouseMove);
+    form.P1.MouseUp = run(form, P1_MouseUp);
+    form.P1.Click = run(form, P1_Click);
+    form.P1.KeyDown = run(form, P1_KeyDown);
+}
+
+void wireBoxes(Zevlin& form) {
+    form.CText.Alignment = toolkit::Alignment::Center;
+    form.CText.GotFocus = run(form, CText_GotFocus);
+    form.CText.LostFocus = run(form, CText_LostFocus);
+    form.CText.KeyDown = run(form, CText_KeyDown);
+    form.CText.KeyPress = run(form, CText_KeyPress);
+    form.CText.KeyUp = run(form, CText_KeyUp);
+    form.CText.MouseDown = run(form, CText_MouseDown);
+    form.LText.Alignment = toolkit::Alignment::Left;
+    form.LText.GotFocus = run(form, LText_GotFocus);
+    form.LText.LostFocus = run(form, LText_LostFocus);
+    form.LText.KeyDown = run(form, Ltext_KeyDown);
+    form.LText.KeyPress = run(form, Ltext_KeyPress);
+    form.LText.KeyUp = run(form, Ltext_KeyUp);
+    form.LText.MouseDown = run(form, Ltext_MouseDown);
+}
+
+void wireHelp(Zevlin& form) {
+    form.THelp.KeyPress = run(form, THelp_KeyPress);
+    form.THelp.Click = run(form, THelp_Click);
+}
+
+/// Groups from the back of the card to its front.
+std::vector<toolkit::LabelGroup> cardGroups(Zevlin& form) {
+    toolkit::LabelGroup highlights;
+    highlights.labels = &form.Highlight;
+    toolkit::LabelGroup texts;
+    texts.labels = &form.AText;
+    texts.MouseDown = [&form](int index, toolkit::MouseArguments& mouse) {
+        AText_MouseDown(form, index, mouse);
+    };
+    texts.Click = run(form, AText_Click);
+    toolkit::LabelGroup marks;
+    marks.labels = &form.AMark;
+    marks.TakesFocus = true;
+    marks.MouseDown = [&form](int index, toolkit::MouseArguments& mouse) {
+        AMark_MouseDown(form, index, mouse);
+    };
+    marks.Click = run(form, AMark_Click);
+    toolkit::LabelGroup symbols;
+    symbols.labels = &form.SText;
+    symbols.MouseDown = [&form](int index, toolkit::MouseArguments& mouse) {
+        SText_MouseDown(form, index, mouse);
+    };
+    symbols.Click = run(form, SText_Click);
+    return {highlights, texts, marks, symbols};
+}
+
+std::vector<toolkit::MenuRow> menuRows(Zevlin& form) {
+    std::vector<toolkit::MenuRow> rows;
+    for (const MenuEntry& entry : menuTable()) {
+        toolkit::MenuRow row;
+        row.level = entry.level;
+        row.shortcut = entry.shortcut;
+        if (entry.item != nullptr) {
+            row.item = &(form.*entry.item);
+            row.item->Caption = entry.caption;
+            row.item->Enabled = entry.atStart == AtStart::Enabled;
+        }
+        if (entry.procedure != nullptr) row.Click = run(form, entry.procedure);
+        rows.push_back(row);
+    }
+    return rows;
+}
+
+} // namespace
+
+toolkit::WindowParts wire(Zevlin& form) {
+    wireForm(form);
+    wireCard(form);
+    wireBoxes(form);
+    wireHelp(form);
+    toolkit::WindowParts parts;
+    parts.form = &form;
+    parts.card = &form.P1;
+    parts.cardGroups = cardGroups(form);
+    parts.cardLabels = {&form.Timestamp, &form.CreditLabel};
+    parts.cardTextBoxes = {&form.CText, &form.LText};
+    parts.lists = {&form.THelp};
+    parts.menu = menuRows(form);
+    return parts;
+}
+
+} // namespace zev

@@ -1,0 +1,116 @@
+#include "card/load.h"
+
+#include <filesystem>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/card_file.h"
+#include "card/card_names.h"
+#include "card/modified.h"
+#include "card/names_line.h"
+#include "card/save.h"
+#include "layout/read_comment.h"
+#include "text/escapes.h"
+#include "text/fit_text.h"
+#include "text/set_sym.h"
+#include "toolkit/ansi.h"
+#include "toolkit/dialog.h"
+#include "toolkit/files.h"
+#include "view/background.h"
+
+namespace zev {
+namespace {
+
+enum class Loaded { Whole, Bad };
+
+void tellBadCard() {
+    toolkit::tell("This card file contains errors and cannot be used",
+                  toolkit::Icon::Exclamation);
+}
+
+void loadMark(Zevlin& form, const MarkRecord& record) {
+    if (record.number == 0 || record.number > form.AMark.UBound()) return;
+    form.AMark[record.number].Visible = record.set;
+}
+
+toolkit::Alignment alignmentOf(int switches) {
+    return (switches & text_switch::left) != 0 ? toolkit::Alignment::Left
+                                               : toolkit::Alignment::Center;
+}
+
+void applyStyles(Zevlin& form, const TextRecord& record) {
+    if (record.style == TextRecord::Style::None) return;
+    toolkit::Label& text = form.AText[record.number];
+    const bool bold = (record.switches & text_switch::bold) != 0;
+    text.Font.Italic = (record.switches & text_switch::italic) != 0;
+    text.Alignment = alignmentOf(record.switches);
+    if (record.style == TextRecord::Style::Suffix) {
+        if (!form.mBold.Checked) text.Font.Bold = bold;
+        return;
+    }
+    text.Font.Bold = bold || form.mBold.Checked;
+    form.Highlight[record.number].Visible = (record.switches & text_switch::highlight) != 0;
+}
+
+void loadText(Zevlin& form, const TextRecord& record) {
+    if (record.number == 0 || record.number > form.AText.UBound()) return;
+    applyStyles(form, record);
+    std::string text = record.text;
+    undoubleAmpersands(text);
+    doubleAmpersands(text);
+    form.AText[record.number].Caption = text;
+    FitText(form, form.CText, record.number);
+    SetSym(form, record.number);
+}
+
+Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& path) {
+    const auto partner = card.readPartner();
+    form.PartnerName = partner.name;
+    form.PartnerNumber = partner.number;
+    const int marks = card.readCount();
+    if (marks < 1) {
+        tellBadCard();
+        return Loaded::Bad;
+    }
+    for (int i = 1; i <= marks; ++i) loadMark(form, card.readMark());
+    const int texts = card.readCount();
+    if (texts < 1) {
+        // No failure is pending here: its number is 0 and its text empty.
+        Traceit(form, "Error in GetCardFile - bad card: " + toolkit::displayText(path) + ", 0, ");
+        tellBadCard();
+        return Loaded::Bad;
+    }
+    for (int i = 1; i <= texts; ++i) loadText(form, card.readText());
+    return Loaded::Whole;
+}
+
+void loadCard(Zevlin& form) {
+    CreateBG(form);
+    form.VersionSeen.clear();
+    // The path goes by the name as it came, before it is cleaned.
+    const auto path = cardPath(form);
+    form.CardName = cleanedCardName(form.CardName);
+    ResetMod(form);
+    form.OrigText.clear();
+    form.OrigIndex = 0;
+    if (!std::filesystem::exists(path)) {
+        form.CardName.clear();
+        return;
+    }
+    CardReader card(toolkit::readFile(path), form.VersionSeen,
+                    [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
+    if (readRecords(form, card, path) == Loaded::Bad) return;
+    ShowNames(form, NamesUpdate::FillEmpty);
+    ResetMod(form);
+    form.CardVersion = form.VersionSeen;
+}
+
+} // namespace
+
+void GetCardFile(Zevlin& form) {
+    Traceit(form, "GetCardFile");
+    trapped(form, "Error in GetCardFile ", [&] { loadCard(form); });
+}
+
+} // namespace zev

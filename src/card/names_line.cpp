@@ -1,0 +1,108 @@
+#include "card/names_line.h"
+
+#include <string>
+
+#include "app/options.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/modified.h"
+#include "text/edit_field.h"
+#include "text/fit_text.h"
+#include "toolkit/ansi.h"
+#include "toolkit/dialog.h"
+
+namespace zev {
+namespace {
+
+constexpr std::string_view examples = " Examples:\n  Joe 12345\n  Joe Smith 12345\n  Joe\n\n"
+                                      "To delete this information, enter a single 'space'";
+
+struct Question {
+    std::string_view title;
+    std::string_view prompt;
+    PlayerId present;
+};
+
+std::string askForId(const Question& question) {
+    const std::string preset = question.present.name + " " + question.present.number;
+    return toolkit::ask({.prompt = std::string(question.prompt) + std::string(examples),
+                         .title = std::string(question.title),
+                         .preset = std::string(toolkit::trim(preset))});
+}
+
+void changeMyId(Zevlin& form) {
+    commitOpenField(form);
+    const std::string answer = askForId(
+        {.title = "My ID",
+         .prompt = "Enter your name [and optionally, your ACBL ID number].",
+         .present = {form.MyName, form.MyNumber}});
+    if (answer.empty()) return;
+    if (answer == " ") {
+        form.MyName.clear();
+        form.MyNumber.clear();
+        return IniWrite(form);
+    }
+    const PlayerId player = splitPlayerId(answer);
+    if (player.name.empty()) return;
+    form.MyName = player.name;
+    form.MyNumber = player.number;
+    IniWrite(form);
+    ShowNames(form, NamesUpdate::Replace);
+}
+
+void changePartnerId(Zevlin& form) {
+    commitOpenField(form);
+    const PlayerId present{form.PartnerName, form.PartnerNumber};
+    const std::string answer = askForId(
+        {.title = "Partner ID",
+         .prompt = "Enter your partner's name [and optionally, ACBL ID number].",
+         .present = present});
+    if (answer.empty()) return;
+    if (answer == " ") {
+        form.PartnerName.clear();
+        form.PartnerNumber.clear();
+        return SetMod(form);
+    }
+    const PlayerId partner = splitPlayerId(answer);
+    if (partner.name.empty() || partner == present) return;
+    form.PartnerName = partner.name;
+    form.PartnerNumber = partner.number;
+    ShowNames(form, NamesUpdate::Replace);
+}
+
+void composeNamesLine(Zevlin& form, NamesUpdate update) {
+    toolkit::Label& line = form.AText[form.NamesField];
+    const std::string before = line.Caption;
+    // During a rebuild the temporary name is nobody's.
+    line.Caption = composedNames({.caption = before,
+                                  .mine = playerLine({form.MyName, form.MyNumber}),
+                                  .partner = playerLine({form.PartnerName, form.PartnerNumber}),
+                                  .cardName = form.NameBeforeRebuild.value_or(form.CardName)},
+                                 update);
+    line.Font.Bold = true;
+    // An unchanged caption may show blanks for suits, which only the Tag still knows.
+    if (line.Caption != before) line.Tag = line.Caption;
+    FitText(form, form.CText, form.NamesField);
+    if (line.Caption != before) SetMod(form);
+}
+
+} // namespace
+
+void MMyID_Click(Zevlin& form) {
+    Traceit(form, "MMyID_Click");
+    trapped(form, "Error in MMyID_Click: #", [&] { changeMyId(form); });
+}
+
+void MPartnerID_Click(Zevlin& form) {
+    Traceit(form, "MPartnerID_Click");
+    trapped(form, "Error in MPartnerID_Click: #", [&] { changePartnerId(form); });
+}
+
+void ShowNames(Zevlin& form, NamesUpdate update) {
+    Traceit(form, "ShowNames");
+    trapped(form, "Error in ShowNames: #", [&] {
+        if (form.NamesField > 0) composeNamesLine(form, update);
+    });
+}
+
+} // namespace zev

@@ -1,0 +1,63 @@
+#include "layout/check_update.h"
+
+#include <optional>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "layout/layout_file.h"
+#include "layout/save_layout.h"
+#include "layout/version.h"
+#include "toolkit/dialog.h"
+#include "toolkit/files.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+#include "toolkit/screen.h"
+
+namespace zev {
+namespace {
+
+constexpr std::string_view updateQuestion =
+    "The new version of ZEV needs to update the 'Definitions.Ini' file.  This will not affect your "
+    "existing cards.  Please click 'OK' to continue";
+constexpr std::string_view updateRefused =
+    "No changes made, but ZEV may not work properly until you complete this update.";
+
+void offerUpdate(const std::filesystem::path& layout) {
+    const auto answer = toolkit::show({.text = std::string(updateQuestion),
+                                       .buttons = toolkit::Buttons::OkCancel,
+                                       .icon = toolkit::Icon::Information,
+                                       .title = "ZEV Update",
+                                       .preset = {}});
+    if (answer == toolkit::Answer::Ok) {
+        toolkit::deleteFile(layout);
+    } else {
+        toolkit::tell(updateRefused, toolkit::Icon::Information);
+    }
+}
+
+void checkUpdate(Zevlin& form) {
+    const auto layout = toolkit::findFile(form.DataFolder, layoutFileName);
+    if (!layout) return;
+    form.TwipsPerPixel = static_cast<std::int16_t>(toolkit::twipsPerPixel());
+    const auto present = comparedVersion(toolkit::readFile(*layout));
+    if (!present) return;
+    // Only a numbered layout that was put into the data folder counts, never the program's own.
+    const auto numbered = toolkit::findFile(
+        form.DataFolder, std::string(layoutFileName) + "." +
+                             toolkit::numberText(installedLayout(form.TwipsPerPixel)));
+    if (!numbered) return;
+    const auto offered = comparedVersion(toolkit::readFile(*numbered));
+    if (offered && isBelow(*present, *offered)) offerUpdate(*layout);
+}
+
+} // namespace
+
+void CheckIniUpdate(Zevlin& form) {
+    Traceit(form, "CheckIniUpdate");
+    if (!trapped(form, "Error in CheckIniUpdate ", [&] { checkUpdate(form); })) {
+        toolkit::endProgram();
+    }
+}
+
+} // namespace zev

@@ -1,0 +1,22 @@
+#include "layout/position.h"
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "text/edit_field.h"
+
+namespace zev {
+
+void PositionSave(Zevlin& form) {
+    Traceit(form, "PositionSave");
+    trapped(form, "Error in PositionSave: #", [&] {
+        if (form.Printing || form.Zooming) commitOpenField(form);
+        if (form.Initializing) return;
+        form.SavedLeft = form.P1.Left;
+        form.SavedTop = form.P1.Top;
+        form.SavedWidth = form.P1.Width;
+    });
+}
+
+void PositionRestore(Zevlin& form) { Traceit(form, "PositionRestore"); }
+
+} // namespace zev

@@ -1,0 +1,14 @@
+// The program: the platform, the form, the window that shows it.
+#include "app/form_load.h"
+#include "app/wiring.h"
+#include "app/zevlin.h"
+#include "toolkit/window.h"
+
+int main(int argumentCount, char** arguments) {
+    toolkit::Application application(argumentCount, arguments);
+    zev::Zevlin form;
+    toolkit::Window window(zev::wire(form));
+    zev::Form_Load(form, application.commandLine());
+    window.update();
+    return application.run();
+}

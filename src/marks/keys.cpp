@@ -1,0 +1,83 @@
+#include "marks/keys.h"
+
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "help/help_page.h"
+#include "marks/move_card.h"
+#include "marks/tab_walk.h"
+#include "toolkit/key.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+using toolkit::numberText;
+
+void consume(toolkit::KeyArguments& key) { key = {}; }
+
+std::string boxPlace(const char* head, const toolkit::TextBox& box) {
+    return head + numberText(box.Left) + ", " + numberText(box.Top) + ", " +
+           numberText(box.Width) + ", " + numberText(box.Height);
+}
+
+std::string imageTrace(const Zevlin& form) {
+    const auto& card = form.P1;
+    std::string text = "**F4** P1=" + numberText(card.Left) + ", " + numberText(card.Top) + ", " +
+                       numberText(card.Width) + ", " + numberText(card.Height) +
+                       ", visible=" + std::string(truthText(card.Visible));
+    if (!form.LText.Visible && !form.CText.Visible) return text + " no text entry visible";
+    if (form.LText.Visible) text += boxPlace(" ltext: ", form.LText);
+    if (form.CText.Visible) text += boxPlace(" ctext: ", form.CText);
+    return text;
+}
+
+void traceKeys(Zevlin& form, toolkit::KeyArguments& key) {
+    if (key.KeyCode == toolkit::key::f3 && key.Shift == toolkit::shift::shift) {
+        form.TraceOn = true;
+        consume(key);
+    } else if (key.KeyCode == toolkit::key::f3 && key.Shift == toolkit::shift::alt) {
+        form.TraceOn = false;
+        consume(key);
+    } else if (key.KeyCode == toolkit::key::f4 && key.Shift == toolkit::shift::shift) {
+        Traceit(form, imageTrace(form));
+        consume(key);
+    }
+}
+
+void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
+    form.ShiftHeld = (key.Shift & toolkit::shift::shift) != 0;
+    form.CursorPos = toolkit::cursorPosition();
+    traceKeys(form, key);
+    if (key.KeyCode == 0 && key.Shift == 0) return;
+    if (form.THelp.Visible) return;
+    if (key.KeyCode == toolkit::key::f1) {
+        consume(key);
+        MHelp_Click(form);
+    } else if (moveCardByKey(form, key.KeyCode, key.Shift)) {
+        consume(key);
+    }
+}
+
+void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
+    if (toolkit::isKeyRepeat()) return;
+    if (key.KeyCode == toolkit::key::tab) {
+        walkFromMark(form, key.Shift);
+    } else if (key.KeyCode == toolkit::key::space) {
+        toggleTabbedMark(form);
+    }
+}
+
+} // namespace
+
+void Form_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    trapped(form, "Error in Form_KeyDown: #", [&] { handleFormKey(form, key); });
+}
+
+void P1_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    trapped(form, "Error in P1_KeyDown: #", [&] { handleCardKey(form, key); });
+}
+
+} // namespace zev

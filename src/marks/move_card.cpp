@@ -1,0 +1,186 @@
+#include "marks/move_card.h"
+
+#include <algorithm>
+#include <optional>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "toolkit/key.h"
+#include "toolkit/number_text.h"
+#include "toolkit/screen.h"
+#include "view/task_bar.h"
+
+namespace zev {
+namespace {
+
+using toolkit::numberText;
+
+struct Place {
+    float left = 0;
+    float top = 0;
+};
+
+float stepOf(const Zevlin& form) { return form.P1.Height / 10; }
+
+bool isEditing(const Zevlin& form) { return form.CText.Visible || form.LText.Visible; }
+
+float wholeTwips(float twips) { return static_cast<float>(toolkit::roundToInteger(twips)); }
+
+/// The low limit is tested first: a card smaller than the form is pinned to the far side.
+float clamped(float place, float room, float size) {
+    if (room - size > place) return room - size;
+    return std::min(place, 0.0F);
+}
+
+/// The corner that a key goes to.
+std::optional<Place> cornerOf(const Zevlin& form, int keyCode) {
+    const float right = form.ScaleWidth() - form.P1.Width;
+    const float bottom = form.ScaleHeight() - form.P1.Height;
+    switch (keyCode) {
+    case toolkit::key::home: return Place{0, 0};
+    case toolkit::key::end: return Place{0, bottom};
+    case toolkit::key::pageUp: return Place{right, 0};
+    case toolkit::key::pageDown: return Place{right, bottom};
+    default: return {};
+    }
+}
+
+/// The place one step on: the view moves with the arrow, the card the other way.
+std::optional<Place> stepped(const Zevlin& form, int keyCode) {
+    const float step = stepOf(form);
+    Place place{form.P1.Left, form.P1.Top};
+    switch (keyCode) {
+    case toolkit::key::left: place.left += step; break;
+    case toolkit::key::right: place.left -= step; break;
+    case toolkit::key::up: place.top += step; break;
+    case toolkit::key::down: place.top -= step; break;
+    default: return {};
+    }
+    return Place{clamped(place.left, form.ScaleWidth(), form.P1.Width),
+                 clamped(place.top, form.ScaleHeight(), form.P1.Height)};
+}
+
+/// Whether the key belongs to the open edit box.
+bool isForBox(const Zevlin& form, int keyCode) {
+    if (!isEditing(form)) return false;
+    return keyCode == toolkit::key::home || keyCode == toolkit::key::end ||
+           keyCode == toolkit::key::left || keyCode == toolkit::key::right;
+}
+
+bool cursorCanFollow(Zevlin& form, float x, float y) {
+    const auto screen = toolkit::screen();
+    const auto bar = GetTaskBarSize(form);
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    const float sideBar = bar.Top == 0 ? 0 : bar.Width * twips;
+    const float lowerBar = bar.Top == 0 ? bar.Height * twips : 0;
+    return x > 0 && x < screen.Width - sideBar && y > 0 && y < screen.Height - lowerBar;
+}
+
+/// After an arrow the cursor follows the mark that the keyboard rests on, or gives it up.
+void followWithCursor(Zevlin& form, const Place& before) {
+    if (!form.TabActive) return;
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    const auto cursor = toolkit::cursorPosition();
+    const float x =
+        static_cast<float>(cursor.x) * twips - wholeTwips(before.left - form.P1.Left);
+    const float y = static_cast<float>(cursor.y) * twips - wholeTwips(before.top - form.P1.Top);
+    if (!cursorCanFollow(form, x, y)) {
+        form.TabActive = false;
+        return;
+    }
+    form.TabCursorX = toolkit::roundToInteger(x / twips);
+    form.TabCursorY = toolkit::roundToInteger(y / twips);
+    toolkit::setCursorPosition({form.TabCursorX, form.TabCursorY});
+}
+
+/// An item's place in the form and how much room it should have, twips.
+struct ItemPlace {
+    Place place;
+    float marginX = 0;
+    float marginY = 0;
+};
+
+ItemPlace placeOfItem(const Zevlin& form, int item) {
+    if (item >= firstMarkItem) {
+        const toolkit::Label& mark = form.AMark[item - firstMarkItem];
+        return {{mark.Left + mark.Width / 3, mark.Top + mark.Height / 3},
+                2 * mark.Width,
+                2 * mark.Height};
+    }
+    const toolkit::Label& text = form.AText[item];
+    return {{text.Left, text.Top}, text.Width / 4, 2 * text.Height};
+}
+
+/// How far a card must move so that `at` lies between the limits, with the margin to spare.
+float pull(float at, float low, float high, float margin) {
+    if (at < low) return low - at + margin;
+    return at > high ? high - at - margin : 0;
+}
+
+struct Area {
+    float left = 0;
+    float top = 0;
+    float right = 0;
+    float bottom = 0;
+};
+
+Area allowedArea(Zevlin& form) {
+    const auto bar = GetTaskBarSize(form);
+    const auto screen = toolkit::screen();
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    Area area{std::max(0.0F, form.Left), std::max(0.0F, form.Top), form.Left + form.Width,
+              form.Top + form.Height};
+    if (area.right > screen.Width) {
+        area.right = screen.Width - (bar.Top <= 0 ? bar.Width * twips : 0);
+    }
+    if (area.bottom > screen.Height) {
+        area.bottom = screen.Height - (bar.Top > 0 ? bar.Height * twips : 0);
+    }
+    return area;
+}
+
+void pullOnScreen(Zevlin& form, int item) {
+    const Area area = allowedArea(form);
+    const ItemPlace wanted = placeOfItem(form, item);
+    const float x = form.FrameWidth + form.Left + form.P1.Left + wanted.place.left;
+    const float y = form.FrameHeight + form.Top + form.P1.Top + wanted.place.top;
+    const float left = form.P1.Left + pull(x, area.left, area.right, wanted.marginX);
+    const float top = form.P1.Top + pull(y, area.top, area.bottom, wanted.marginY);
+    if (left == form.P1.Left && top == form.P1.Top) return;
+    Traceit(form, "  CheckOnScreen results: P1 was: " + numberText(form.P1.Left) + ", " +
+                      numberText(form.P1.Top) + " ... is: " + numberText(left) + ", " +
+                      numberText(top));
+    form.P1.Move(left, top);
+}
+
+} // namespace
+
+void MouseWheel(Zevlin& form, int /*keys*/, int rotation, int /*x*/, int /*y*/) {
+    if (!form.P1.Visible || !form.WheelHooked) return;
+    const float step = stepOf(form);
+    form.P1.Top = rotation > 0
+                      ? std::min(wholeTwips(form.P1.Top + step), form.ScaleHeight())
+                      : std::max(wholeTwips(form.P1.Top - step), -form.P1.Height);
+}
+
+void CheckOnScreen(Zevlin& form, int item) {
+    Traceit(form, "CheckOnScreen " + numberText(item));
+    trapped(form, "Error in CheckOnScreen: #", [&] { pullOnScreen(form, item); });
+}
+
+bool moveCardByKey(Zevlin& form, int keyCode, int shift) {
+    if (isForBox(form, keyCode)) return false;
+    const Place before{wholeTwips(form.P1.Left), wholeTwips(form.P1.Top)};
+    if (const auto corner = cornerOf(form, keyCode)) {
+        form.P1.Move(corner->left, corner->top);
+        return true;
+    }
+    const auto next = shift == 0 ? stepped(form, keyCode) : std::nullopt;
+    if (!next) return false;
+    form.P1.Move(next->left, next->top);
+    followWithCursor(form, before);
+    return true;
+}
+
+} // namespace zev

@@ -1,0 +1,17 @@
+// Moving the card inside the form.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+
+/// One step of the wheel, a tenth of the card's height; it can take the card out of sight.
+void MouseWheel(Zevlin& form, int keys, int rotation, int x, int y);
+
+/// Pulls the card so that the field with this item number lies in the work area.
+void CheckOnScreen(Zevlin& form, int item);
+
+/// Moves the card by a key that does so (HOME, END, PAGE UP, PAGE DOWN, arrows); true if it did.
+bool moveCardByKey(Zevlin& form, int keyCode, int shift);
+
+} // namespace zev

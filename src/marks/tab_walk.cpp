@@ -1,0 +1,151 @@
+#include "marks/tab_walk.h"
+
+#include <cstdlib>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/modified.h"
+#include "marks/mark_clicks.h"
+#include "marks/move_card.h"
+#include "text/edit_field.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+#include "toolkit/screen.h"
+
+namespace zev {
+namespace {
+
+using toolkit::numberText;
+
+/// Pixels of travel that end the keyboard's rest on a mark.
+constexpr int cursorTravel = 5;
+constexpr int flashMilliseconds = 100;
+constexpr toolkit::Color flashYellow = toolkit::rgb(255, 255, 160);
+
+bool cursorIsStill(Zevlin& form) {
+    form.CursorPos = toolkit::cursorPosition();
+    return std::abs(form.CursorPos.x - form.TabCursorX) < cursorTravel &&
+           std::abs(form.CursorPos.y - form.TabCursorY) < cursorTravel;
+}
+
+std::string walkTrace(const Zevlin& form) {
+    return "  P1_KeyDown TabTo " + numberText(form.TabCode) + ", " +
+           numberText(form.TabTable[form.TabCode]) +
+           ", Cursor: " + numberText(form.CursorPos.x) + ", " + numberText(form.CursorPos.y) +
+           " | " + numberText(form.TabCursorX) + ", " + numberText(form.TabCursorY);
+}
+
+void goToText(Zevlin& form, int item) {
+    FlashFocus(form, item);
+    // The flash lets events run: the field may be gone.
+    if (form.AText.exists(item)) AText_Click(form, item);
+}
+
+void goFromMark(Zevlin& form, int item) {
+    if (item >= firstMarkItem) return TabToMark(form, item);
+    form.TabActive = false;
+    goToText(form, item);
+}
+
+void goFromText(Zevlin& form, int item) {
+    if (item < firstMarkItem) return goToText(form, item);
+    hideTextBox(form, form.CText);
+    hideTextBox(form, form.LText);
+    TabToMark(form, item);
+}
+
+void traceFromText(Zevlin& form, int from, int to) {
+    Traceit(form, "  xText_LostFocus TabTo " + numberText(to) + ", from " + numberText(from));
+}
+
+/// Screen pixels of a place on the card: the frame's whole width and height count as the left and
+/// upper border.
+toolkit::CursorPosition screenPlace(const Zevlin& form, float x, float y) {
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    return {toolkit::roundToInteger((form.FrameWidth + form.Left + form.P1.Left + x) / twips),
+            toolkit::roundToInteger((form.FrameHeight + form.Top + form.P1.Top + y) / twips)};
+}
+
+void moveToMark(Zevlin& form, int item) {
+    const int index = item - firstMarkItem;
+    Traceit(form, "TabToMark (" + numberText(item) + ") at " + placeText(form.AMark[index]));
+    CheckOnScreen(form, item);
+    const toolkit::Label& mark = form.AMark[index];
+    const auto target =
+        screenPlace(form, mark.Left + mark.Width / 3, mark.Top + mark.Height / 3);
+    form.TabActive = true;
+    form.TabCursorX = target.x;
+    form.TabCursorY = target.y;
+    form.TabCode = toolkit::toInteger16(item);
+    Traceit(form, "  TabToMark (" + numberText(item) + ") Cursor at " + numberText(target.x) +
+                      ", " + numberText(target.y));
+    toolkit::setCursorPosition(target);
+    FlashFocus(form, item);
+    form.SetFocus(form.P1);
+}
+
+void flashText(Zevlin& form, int item) {
+    CheckOnScreen(form, item);
+    form.AText[item].BackStyle = toolkit::BackStyle::Opaque;
+    form.AText[item].BackColor = flashYellow;
+    toolkit::doEvents();
+    toolkit::wait(flashMilliseconds);
+    if (!form.AText.exists(item)) return;
+    toolkit::Label& label = form.AText[item];
+    label.BackColor = toolkit::white;
+    label.BackStyle = toolkit::BackStyle::Transparent;
+    toolkit::setCursorPosition(screenPlace(form, label.Left, label.Top));
+    form.TabActive = false;
+}
+
+} // namespace
+
+void walkFromText(Zevlin& form, bool backward) {
+    const int from = form.TIndex;
+    if (backward) {
+        const auto before = form.TabTable.predecessor(from);
+        if (!before) return;
+        traceFromText(form, from, *before);
+        return goFromText(form, *before);
+    }
+    const int next = form.TabTable[from];
+    if (next <= 0) return;
+    traceFromText(form, from, next);
+    goFromText(form, next);
+}
+
+void walkFromMark(Zevlin& form, int shift) {
+    if (!form.TabActive) return;
+    const bool still = cursorIsStill(form);
+    Traceit(form, walkTrace(form));
+    if (!still) return;
+    const int next = form.TabTable[form.TabCode];
+    if (next <= 0) return;
+    if (shift == 0) return goFromMark(form, next);
+    if (const auto before = form.TabTable.predecessor(form.TabCode)) goFromMark(form, *before);
+}
+
+void toggleTabbedMark(Zevlin& form) {
+    if (!form.TabActive) return;
+    if (!cursorIsStill(form)) {
+        form.TabActive = false;
+        return;
+    }
+    toolkit::Label& mark = form.AMark[form.TabCode - firstMarkItem];
+    mark.Visible = !mark.Visible;
+    SetMod(form);
+}
+
+void TabToMark(Zevlin& form, int item) {
+    trapped(form, "Error in TabToMark: #", [&] { moveToMark(form, item); });
+}
+
+void FlashFocus(Zevlin& form, int item) {
+    Traceit(form, "FlashFocus " + numberText(item));
+    trapped(form, "Error in FlashFocus: #", [&] {
+        if (item >= 1 && item < firstMarkItem) flashText(form, item);
+    });
+}
+
+} // namespace zev

@@ -1,0 +1,218 @@
+#include "text/edit_field.h"
+
+#include <algorithm>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/modified.h"
+#include "help/help_page.h"
+#include "marks/tab_walk.h"
+#include "text/escapes.h"
+#include "text/fit.h"
+#include "text/fit_text.h"
+#include "text/set_sym.h"
+#include "toolkit/ansi.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+/// Pixels by which an edit box is lower than its field.
+constexpr float boxLower = 3;
+
+/// The click that opens a field; none for a field reached by key.
+struct FieldClick {
+    int index = 0;
+    int button = 0;
+    float x = 0;
+    float y = 0;
+};
+
+/// OpeningField for as long as a field is being opened, also when that fails.
+class OpeningGuard {
+  public:
+    explicit OpeningGuard(bool& flag) : flag_(flag) { flag_ = true; }
+    OpeningGuard(const OpeningGuard&) = delete;
+    OpeningGuard& operator=(const OpeningGuard&) = delete;
+    ~OpeningGuard() { flag_ = false; }
+
+  private:
+    bool& flag_;
+};
+
+bool isOpen(const Zevlin& form, int index) {
+    return index == form.TIndex && form.OrigIndex != 0 &&
+           (form.CText.Visible || form.LText.Visible);
+}
+
+void commitFormerField(Zevlin& form) {
+    if (form.TIndex <= 0) return;
+    if (form.CText.Visible) {
+        xText_LostFocus(form, form.CText);
+    } else if (form.LText.Visible) {
+        xText_LostFocus(form, form.LText);
+    }
+}
+
+void takeOpeningState(Zevlin& form, int index) {
+    const toolkit::Label& field = form.AText[index];
+    form.TIndex = form.OrigIndex = static_cast<std::int16_t>(index);
+    form.OrigText = field.Tag;
+    form.CText.Text = form.LText.Text = form.OrigText;
+    form.OrigAlign = field.Alignment;
+    SetTextBox(form, form.UText, index);
+}
+
+toolkit::TextBox& showBox(Zevlin& form, int index) {
+    const bool centered = form.AText[index].Alignment == toolkit::Alignment::Center;
+    toolkit::TextBox& box = centered ? form.CText : form.LText;
+    toolkit::TextBox& other = centered ? form.LText : form.CText;
+    SetTextBox(form, box, index);
+    box.Visible = true;
+    other.Visible = false;
+    form.P1Stack.bringToFront(box);
+    form.SetFocus(box);
+    return box;
+}
+
+void openField(Zevlin& form, int index, const FieldClick& click) {
+    if (!isOpen(form, index)) {
+        commitFormerField(form);
+        takeOpeningState(form, index);
+    }
+    toolkit::TextBox& box = showBox(form, index);
+    // The caret comes first: the pop-up of a right click waits for the player.
+    PositionTextCursor(form, box, click.x);
+    box.Height = form.AText[index].Height - boxLower * static_cast<float>(form.TwipsPerPixel);
+    if (click.index == 0) return;
+    form.ClickIndex = 0;
+    toolkit::MouseArguments press{
+        .Button = click.button, .Shift = 0, .X = click.x, .Y = click.y};
+    if (box.MouseDown) box.MouseDown(press);
+}
+
+FieldClick takeClick(Zevlin& form, int index) {
+    if (form.ClickIndex != index) {
+        form.ClickIndex = 0;
+        return {};
+    }
+    return {form.ClickIndex, form.ClickButton, form.ClickX, form.ClickY};
+}
+
+void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
+    const toolkit::Label& field = form.AText[index];
+    box.Font = field.Font;
+    box.ForeColor = field.ForeColor;
+    box.Move(field.Left, field.Top, field.Width, field.Height);
+    box.Text = field.Tag;
+    undoubleAmpersands(box.Text);
+    form.mpopBold.Checked = field.Font.Bold;
+    form.mpopItalic.Checked = field.Font.Italic;
+    form.mpopLeft.Checked = field.Alignment == toolkit::Alignment::Left;
+    form.mpopHilite.Checked = form.Highlight[index].Visible;
+    if (!form.ClipText.empty()) form.mpopPaste.Enabled = true;
+    form.mpopUndo.Enabled = false;
+}
+
+void placeCaret(Zevlin& form, toolkit::TextBox& box, float x) {
+    form.Testtext.Font = box.Font;
+    const bool centered = box.Alignment == toolkit::Alignment::Center;
+    const float offset =
+        centered ? (box.Width - form.Testtext.TextWidth(box.Text)) / 2 : 0;
+    const int caret = caretAt(box.Text, x, offset, [&](std::string_view text) {
+        return form.Testtext.TextWidth(text);
+    });
+    box.SelStart = std::min(caret, static_cast<int>(box.Text.size()));
+    box.SelLength = 0;
+}
+
+void takeOverText(Zevlin& form, toolkit::TextBox& box) {
+    std::string text = box.Text;
+    doubleAmpersands(text);
+    if (text != form.OrigText) SetMod(form);
+    toolkit::Label& field = form.AText[form.TIndex];
+    field.Caption = text;
+    field.Tag = text;
+    FitText(form, box, form.TIndex);
+    SetSym(form, form.TIndex);
+    form.P1Stack.sendToBack(box);
+    if (!form.OpeningField) hideTextBox(form, box);
+    form.P1Stack.bringToFront(form.AText[form.TIndex]);
+    form.ClickX = 0;
+    form.ClickY = 0;
+}
+
+void commit(Zevlin& form, toolkit::TextBox& box, const CommitCause& cause) {
+    if (form.TIndex == 0) return;
+    if (form.MShowShapes.Checked || form.OrigIndex != form.TIndex) return;
+    takeOverText(form, box);
+    if (cause.key != CommitCause::Key::None) walkFromText(form, cause.backward);
+}
+
+std::string commitTrace(const Zevlin& form) {
+    return "xText_LostFocus tindex=" + toolkit::numberText(form.TIndex) +
+           ",  origindex=" + toolkit::numberText(form.OrigIndex) + ", " +
+           std::string(truthText(form.TabActive));
+}
+
+} // namespace
+
+void AText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
+    trapped(form, "Error in AText_MouseDown: #", [&] {
+        if (form.THelp.Visible) return;
+        form.ClickIndex = static_cast<std::int16_t>(index);
+        form.ClickButton = static_cast<std::int16_t>(mouse.Button);
+        form.ClickX = mouse.X;
+        form.ClickY = mouse.Y;
+    });
+}
+
+void AText_Click(Zevlin& form, int index) {
+    Traceit(form, "AText_Click " + toolkit::numberText(index));
+    trapped(form, "Error in AText_Click: #", [&] {
+        if (form.THelp.Visible) return hideHelp(form);
+        if (form.MShowShapes.Checked) return;
+        const FieldClick click = takeClick(form, index);
+        const OpeningGuard opening(form.OpeningField);
+        openField(form, index, click);
+    });
+}
+
+void SetTextBox(Zevlin& form, toolkit::TextBox& box, int index) {
+    Traceit(form, "SetTextBox " + toolkit::numberText(index));
+    trapped(form, "Error in SetTextBox: #", [&] { dressBox(form, box, index); });
+}
+
+void PositionTextCursor(Zevlin& form, toolkit::TextBox& box, float x) {
+    if (box.Text.empty()) return;
+    Traceit(form, "PositionTextCursor");
+    trapped(form, "Error in PositionTextCursor: #", [&] { placeCaret(form, box, x); });
+}
+
+void xText_LostFocus(Zevlin& form, toolkit::TextBox& box, const CommitCause& cause) {
+    Traceit(form, commitTrace(form));
+    trapped(form, "Error in xText_LostFocus: #", [&] { commit(form, box, cause); });
+}
+
+void CText_LostFocus(Zevlin& form) {
+    Traceit(form, "CText_LostFocus");
+    trapped(form, "Error in CText_LostFocus: #", [&] { xText_LostFocus(form, form.CText); });
+}
+
+void LText_LostFocus(Zevlin& form) {
+    Traceit(form, "Ltext_LostFocus");
+    trapped(form, "Error in Ltext_LostFocus: #", [&] { xText_LostFocus(form, form.LText); });
+}
+
+void commitOpenField(Zevlin& form) {
+    if (form.CText.Visible) CText_LostFocus(form);
+    if (form.LText.Visible) LText_LostFocus(form);
+}
+
+void hideTextBox(Zevlin& form, toolkit::TextBox& box) {
+    box.Visible = false;
+    if (form.ActiveControl == &box) form.ActiveControl = &form.P1;
+}
+
+} // namespace zev

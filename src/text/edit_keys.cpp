@@ -1,0 +1,230 @@
+#include "text/edit_keys.h"
+
+#include <algorithm>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/modified.h"
+#include "text/edit_field.h"
+#include "text/escapes.h"
+#include "text/fit_text.h"
+#include "text/styles.h"
+#include "toolkit/key.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+/// Characters that keys with Ctrl send.
+namespace control_key {
+constexpr int b = 2;
+constexpr int g = 7;
+constexpr int i = 9;
+constexpr int l = 12;
+constexpr int z = 26;
+} // namespace control_key
+
+std::string focusTrace(const Zevlin& form, const toolkit::TextBox& box) {
+    const auto index = toolkit::numberText(form.TIndex);
+    if (!form.TraceOn) return "xText_GotFocus " + index;
+    std::string text = "xText_GotFocus (" + index + "), at ";
+    for (const float value : {box.Left, box.Top, box.Width, box.Height}) {
+        text += toolkit::numberText(value) + ", ";
+    }
+    text.resize(text.size() - 2);
+    return text + ", centered=" +
+           std::string(truthText(box.Alignment == toolkit::Alignment::Center));
+}
+
+void closeWithEscape(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    xText_LostFocus(form, box);
+    KeyAscii = 0;
+    form.OrigIndex = form.TIndex = form.ClickIndex = 0;
+    form.SetFocus(form.P1);
+}
+
+void closeWithEnter(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    KeyAscii = 0;
+    if (toolkit::isKeyRepeat()) return;
+    xText_LostFocus(form, box,
+                    {.key = CommitCause::Key::Enter, .backward = form.ShiftHeld});
+    if (!form.CText.Visible && !form.LText.Visible) form.SetFocus(form.P1);
+}
+
+void highlightByKey(Zevlin& form, int& KeyAscii) {
+    mpopHilite_Click(form);
+    KeyAscii = 0;
+    form.SetFocus(form.P1);
+}
+
+void actOnKey(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    switch (KeyAscii) {
+    case toolkit::key::escape: return closeWithEscape(form, box, KeyAscii);
+    case toolkit::key::enter: return closeWithEnter(form, box, KeyAscii);
+    case control_key::b: return toggleBold(form, box, KeyAscii);
+    case control_key::i: return toggleItalic(form, box, KeyAscii);
+    case control_key::l: return toggleJustification(form, KeyAscii);
+    case control_key::g: return highlightByKey(form, KeyAscii);
+    case control_key::z: return undoField(form, box, KeyAscii);
+    default: return;
+    }
+}
+
+/// F5 to F8 put a suit in front of the selection.
+void insertSuit(std::string& text, int& start, int keyCode) {
+    if (keyCode < toolkit::key::f5 || keyCode > toolkit::key::f8) return;
+    const auto letter = suitLetters[static_cast<std::size_t>(keyCode - toolkit::key::f5)];
+    text.insert(static_cast<std::size_t>(start), {'^', letter});
+    start += 2;
+}
+
+void takeOverTyping(Zevlin& form, toolkit::TextBox& box, int keyCode) {
+    std::string text = box.Text;
+    int start = box.SelStart;
+    insertSuit(text, start, keyCode);
+    box.Text = text;
+    doubleAmpersands(text);
+    toolkit::Label& field = form.AText[form.TIndex];
+    if (text != field.Caption) {
+        SetMod(form);
+        field.Caption = text;
+    }
+    FitText(form, box, form.TIndex);
+    // A shrinking field makes the box shrink with it.
+    box.Font.Name = field.Font.Name;
+    box.Font.Size = field.Font.Size;
+    box.SelStart = start;
+}
+
+std::string mouseTrace(const toolkit::TextBox& box, const Zevlin& form,
+                       const toolkit::MouseArguments& mouse) {
+    return std::string("xText_MouseDown ix=") + (&box == &form.CText ? "C" : "L") +
+           " B=" + toolkit::numberText(mouse.Button) + " S=" + toolkit::numberText(mouse.Shift) +
+           " X=" + toolkit::numberText(mouse.X) + " Y=" + toolkit::numberText(mouse.Y);
+}
+
+/// The box that fits the field's alignment now comes back with its caret.
+void reopenBox(Zevlin& form, int caret) {
+    if (form.TIndex <= 0) return;
+    const bool centered = form.AText[form.TIndex].Alignment == toolkit::Alignment::Center;
+    toolkit::TextBox& box = centered ? form.CText : form.LText;
+    toolkit::TextBox& other = centered ? form.LText : form.CText;
+    other.Visible = false;
+    box.Visible = true;
+    form.SetFocus(box);
+    box.SelStart = std::min(caret, static_cast<int>(box.Text.size()));
+    box.SelLength = 0;
+}
+
+void openPopup(Zevlin& form, toolkit::TextBox& box, const toolkit::MouseArguments& mouse) {
+    if (mouse.Button != toolkit::button::right) return;
+    const int caret = box.SelStart;
+    form.SetFocus(box);
+    toolkit::MouseArguments press = mouse;
+    press.Shift = 0;
+    xText_MouseDown(form, box, press);
+    reopenBox(form, caret);
+}
+
+} // namespace
+
+void xText_GotFocus(Zevlin& form, toolkit::TextBox& box) {
+    Traceit(form, focusTrace(form, box));
+    trapped(form, "Error in xText_GotFocus: #", [&] {
+        if (form.MShowShapes.Checked) return;
+        FitText(form, box, form.TIndex);
+        form.Testtext.Font = box.Font;
+        box.Height =
+            form.Testtext.TextHeight("|") - 3 * static_cast<float>(form.TwipsPerPixel);
+    });
+}
+
+void xText_KeyDown(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key) {
+    trapped(form, "Error in xText_KeyDown: #", [&] {
+        if (key.KeyCode != toolkit::key::tab) return;
+        key.KeyCode = 0;
+        if (toolkit::isKeyRepeat()) return;
+        xText_LostFocus(form, box,
+                        {.key = CommitCause::Key::Tab,
+                         .backward = (key.Shift & toolkit::shift::shift) != 0});
+    });
+}
+
+void xText_KeyPress(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    Traceit(form, "xText_KeyPress " + toolkit::numberText(KeyAscii));
+    trapped(form, "Error in xText_KeyPress: #", [&] { actOnKey(form, box, KeyAscii); });
+}
+
+void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key) {
+    trapped(form, "Error in xText_KeyUp: #", [&] {
+        if (form.MShowShapes.Checked) return;
+        if (key.KeyCode == toolkit::key::enter) {
+            key.KeyCode = 0;
+            return;
+        }
+        takeOverTyping(form, box, key.KeyCode);
+    });
+}
+
+void xText_MouseDown(Zevlin& form, toolkit::TextBox& box, toolkit::MouseArguments& mouse) {
+    Traceit(form, mouseTrace(box, form, mouse));
+    trapped(form, "Error in xText_MouseDown: #", [&] {
+        if (mouse.Button != toolkit::button::right) return;
+        mouse.Button = 0;
+        openTextMenu(form);
+    });
+}
+
+void CText_GotFocus(Zevlin& form) {
+    Traceit(form, "CText_GotFocus");
+    xText_GotFocus(form, form.CText);
+}
+
+void CText_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "CText_KeyDown");
+    xText_KeyDown(form, form.CText, key);
+}
+
+void CText_KeyPress(Zevlin& form, int& KeyAscii) {
+    Traceit(form, "CText_KeyPress");
+    xText_KeyPress(form, form.CText, KeyAscii);
+}
+
+void CText_KeyUp(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "CText_KeyUp");
+    xText_KeyUp(form, form.CText, key);
+}
+
+void CText_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    Traceit(form, "CText_MouseDown " + toolkit::numberText(mouse.Button));
+    trapped(form, "Error in CText_MouseDown: #", [&] { openPopup(form, form.CText, mouse); });
+}
+
+void LText_GotFocus(Zevlin& form) {
+    Traceit(form, "LText_GotFocus");
+    xText_GotFocus(form, form.LText);
+}
+
+void Ltext_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "Ltext_KeyDown");
+    xText_KeyDown(form, form.LText, key);
+}
+
+void Ltext_KeyPress(Zevlin& form, int& KeyAscii) {
+    Traceit(form, "Ltext_KeyPress");
+    xText_KeyPress(form, form.LText, KeyAscii);
+}
+
+void Ltext_KeyUp(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "Ltext_KeyUp");
+    xText_KeyUp(form, form.LText, key);
+}
+
+void Ltext_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    Traceit(form, "Ltext_MouseDown " + toolkit::numberText(mouse.Button));
+    trapped(form, "Error in Ltext_MouseDown: #", [&] { openPopup(form, form.LText, mouse); });
+}
+
+} // namespace zev

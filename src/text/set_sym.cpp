@@ -1,0 +1,101 @@
+#include "text/set_sym.h"
+
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "text/escapes.h"
+#include "toolkit/number_text.h"
+#include "view/colors.h"
+
+namespace zev {
+namespace {
+
+constexpr float pointsAboveText = 4;
+constexpr float pixelsAboveField = 6;
+constexpr float pixelsHigher = 8;
+
+bool isRed(int suit) { return suit == 2 || suit == 3; }
+
+toolkit::Color shownColor(const Zevlin& form, toolkit::Color standard) {
+    const int scheme = ColorSchemeIndex(form);
+    if (scheme == 0) return standard;
+    return scheme < form.LastSchemeIndex ? toolkit::qbColor(scheme - 1)
+                                         : static_cast<toolkit::Color>(form.ColorScheme);
+}
+
+/// Elements of a former run stay, unshown, until a new card or a rebuild unloads them.
+void hideOldSymbols(Zevlin& form, int index) {
+    const std::string tag = toolkit::numberText(index);
+    for (int i = 1; i <= form.SText.UBound(); ++i) {
+        if (form.SText[i].Tag == tag) form.SText[i].Visible = false;
+    }
+}
+
+toolkit::Label& newSymbol(Zevlin& form, toolkit::Color standard) {
+    const int index = form.SText.UBound() + 1;
+    toolkit::Label& symbol = form.SText.Load(index);
+    form.SuitColors.resize(static_cast<std::size_t>(index) + 1);
+    form.SuitColors.back() = standard;
+    symbol.ForeColor = shownColor(form, standard);
+    return symbol;
+}
+
+void stack(Zevlin& form, int index, toolkit::Label& symbol) {
+    form.P1Stack.sendToBack(form.AText[index]);
+    form.P1Stack.sendToBack(form.Highlight[index]);
+    form.P1Stack.bringToFront(symbol);
+}
+
+/// Twips from the field's left edge to the blanks that hold the symbol's place.
+float distanceTo(const Zevlin& form, const toolkit::Label& label, const SuitPlace& place) {
+    const float lead = form.Testtext.TextWidth(
+        std::string_view(label.Caption).substr(0, static_cast<std::size_t>(place.position) - 1));
+    const float shift = label.Alignment == toolkit::Alignment::Center
+                            ? (label.Width - form.Testtext.TextWidth(label.Caption)) / 2
+                            : 0;
+    return lead + shift;
+}
+
+void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const SuitPlace& place) {
+    const toolkit::Label& label = form.AText[index];
+    form.Testtext.Font = label.Font;
+    const float left = label.Left + distanceTo(form, label, place);
+    toolkit::Label& symbol = newSymbol(form, isRed(place.suit) ? form.ColorRed : form.ColorBlack);
+    symbol.Tag = toolkit::numberText(index);
+    symbol.Font.Size = form.Testtext.Font.Size + pointsAboveText;
+    symbol.Font.Bold = false;
+    const auto suit = static_cast<std::size_t>(place.suit) - 1;
+    symbol.Caption = form.SuitChars.substr(suit, 1);
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    const auto position = static_cast<std::size_t>(place.position) - 1;
+    symbol.Move(
+        left, label.Top - pixelsAboveField * twips,
+        form.Testtext.TextWidth(std::string_view(scanBuffer).substr(position, 2)),
+        label.Height + pixelsHigher * twips);
+    symbol.Visible = true;
+    stack(form, index, symbol);
+}
+
+void layOver(Zevlin& form, int index) {
+    toolkit::Label& label = form.AText[index];
+    label.Tag = label.Caption;
+    BlankedText blanked = blankEscapes(label.Caption);
+    label.Caption = blanked.caption;
+    undoubleAmpersands(blanked.scanBuffer);
+    hideOldSymbols(form, index);
+    for (const SuitPlace& place : suitPlaces(blanked.scanBuffer)) {
+        placeSymbol(form, index, blanked.scanBuffer, place);
+    }
+}
+
+} // namespace
+
+void SetSym(Zevlin& form, int index) {
+    Traceit(form, "SetSym " + toolkit::numberText(index));
+    trapped(
+        form, "Error in SetSym ", [&] { layOver(form, index); },
+        ", index=" + toolkit::numberText(index));
+}
+
+} // namespace zev

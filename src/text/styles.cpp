@@ -1,0 +1,196 @@
+#include "text/styles.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/modified.h"
+#include "text/edit_field.h"
+#include "text/edit_keys.h"
+#include "text/escapes.h"
+#include "text/fit_text.h"
+#include "toolkit/dialog.h"
+
+namespace zev {
+namespace {
+
+constexpr int boldKey = 2;
+constexpr int italicKey = 9;
+constexpr int leftKey = 12;
+constexpr int undoKey = 26;
+
+void swallow(Zevlin& form, int& KeyAscii) {
+    SetMod(form);
+    KeyAscii = 0;
+    form.SetFocus(form.P1);
+}
+
+/// Shows the other box with what was typed into this one.
+void changeBox(Zevlin& form, toolkit::TextBox& from, toolkit::TextBox& to,
+               toolkit::Alignment alignment) {
+    form.AText[form.TIndex].Alignment = alignment;
+    SetTextBox(form, to, form.TIndex);
+    to.Text = from.Text;
+    to.Visible = true;
+    // The focus moves on before the box goes, and nothing of the field is committed yet.
+    from.Visible = false;
+    form.ActiveControl = &to;
+}
+
+void restoreBox(const toolkit::TextBox& kept, toolkit::TextBox& box) {
+    box.Font.Name = kept.Font.Name;
+    box.Font.Bold = kept.Font.Bold;
+    box.Font.Italic = kept.Font.Italic;
+    box.Text = kept.Text;
+}
+
+void restoreField(Zevlin& form) {
+    restoreBox(form.UText, form.CText);
+    restoreBox(form.UText, form.LText);
+    toolkit::Label& field = form.AText[form.TIndex];
+    field.Font.Name = form.UText.Font.Name;
+    field.Font.Bold = form.UText.Font.Bold;
+    field.Font.Italic = form.UText.Font.Italic;
+    field.Caption = form.UText.Text;
+}
+
+toolkit::TextBox& openBox(Zevlin& form) {
+    return form.LText.Visible ? form.LText : form.CText;
+}
+
+/// A menu command and its key are one path.
+void pressKey(Zevlin& form, std::string_view name, int key) {
+    Traceit(form, name);
+    trapped(form, "Error in " + std::string(name) + ": #", [&] {
+        int KeyAscii = key;
+        xText_KeyPress(form, openBox(form), KeyAscii);
+    });
+}
+
+std::string copiedText(const Zevlin& form) {
+    const toolkit::Label& field = form.AText[form.TIndex];
+    const bool centered = field.Alignment == toolkit::Alignment::Center;
+    const toolkit::TextBox& box = centered ? form.CText : form.LText;
+    if (box.SelLength > 0) {
+        return box.Text.substr(static_cast<std::size_t>(box.SelStart),
+                               static_cast<std::size_t>(box.SelLength));
+    }
+    std::string text = field.Caption;
+    undoubleAmpersands(text);
+    return text;
+}
+
+void paste(Zevlin& form) {
+    if (form.MShowShapes.Checked) return;
+    toolkit::Label& field = form.AText[form.TIndex];
+    doubleAmpersands(form.ClipText);
+    field.Caption = form.ClipText;
+    field.Tag = field.Caption;
+    undoubleAmpersands(form.ClipText);
+    form.CText.Text = form.LText.Text = form.ClipText;
+    SetMod(form);
+    FitText(form, form.CText, form.TIndex);
+    FitText(form, form.LText, form.TIndex);
+}
+
+} // namespace
+
+void toggleBold(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    if (!form.mpopBold.Enabled) {
+        KeyAscii = 0;
+        return;
+    }
+    box.Font.Bold = !box.Font.Bold;
+    form.AText[form.TIndex].Font.Bold = box.Font.Bold;
+    form.mpopBold.Checked = box.Font.Bold;
+    swallow(form, KeyAscii);
+}
+
+void toggleItalic(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    box.Font.Italic = !box.Font.Italic;
+    form.AText[form.TIndex].Font.Italic = box.Font.Italic;
+    form.mpopItalic.Checked = box.Font.Italic;
+    swallow(form, KeyAscii);
+}
+
+void toggleJustification(Zevlin& form, int& KeyAscii) {
+    const bool centered = form.AText[form.TIndex].Alignment == toolkit::Alignment::Center;
+    if (centered) {
+        changeBox(form, form.CText, form.LText, toolkit::Alignment::Left);
+    } else {
+        changeBox(form, form.LText, form.CText, toolkit::Alignment::Center);
+    }
+    form.mpopLeft.Checked = centered;
+    swallow(form, KeyAscii);
+}
+
+void undoField(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    if (!form.mpopUndo.Enabled || form.TIndex <= 0) {
+        // The box's own undo knows nothing of the field.
+        KeyAscii = 0;
+        return;
+    }
+    const int caret = box.SelStart;
+    restoreField(form);
+    KeyAscii = 0;
+    if (form.AText[form.TIndex].Alignment != form.OrigAlign) {
+        int justify = leftKey;
+        xText_KeyPress(form, box, justify);
+    }
+    openBox(form).SelStart = caret;
+    form.mpopBold.Checked = form.CText.Font.Bold;
+    form.mpopItalic.Checked = form.CText.Font.Italic;
+    form.mpopLeft.Checked = form.LText.Visible;
+    form.mpopUndo.Enabled = false;
+}
+
+void mpopUndo_Click(Zevlin& form) { pressKey(form, "mpopUndo_Click", undoKey); }
+void mpopBold_Click(Zevlin& form) { pressKey(form, "mpopBold_Click", boldKey); }
+void mpopItalic_Click(Zevlin& form) { pressKey(form, "mpopItalic_Click", italicKey); }
+void mpopLeft_Click(Zevlin& form) { pressKey(form, "mpopLeft_Click", leftKey); }
+
+void mpopHilite_Click(Zevlin& form) {
+    Traceit(form, "mpopHilite");
+    toolkit::Label& highlight = form.Highlight[form.TIndex];
+    highlight.Visible = !highlight.Visible;
+    form.P1Stack.sendToBack(highlight);
+    form.P1Stack.bringToFront(form.AText[form.TIndex]);
+    SetMod(form);
+}
+
+void mpopCopy_Click(Zevlin& form) {
+    Traceit(form, "mpopCopy_Click");
+    trapped(form, "Error in mpopCopy_Click: #", [&] { form.ClipText = copiedText(form); });
+}
+
+void mpopPaste_Click(Zevlin& form) {
+    Traceit(form, "mpopPaste_Click");
+    trapped(form, "Error in mpopPaste_Click: #", [&] { paste(form); });
+}
+
+void openTextMenu(Zevlin& form) {
+    const auto row = [&form](toolkit::MenuItem& item, std::string shortcut,
+                             void (*procedure)(Zevlin&)) {
+        return toolkit::PopupRow{
+            .item = &item, .shortcut = std::move(shortcut), .Click = [&form, procedure] {
+                procedure(form);
+            }};
+    };
+    const std::vector<toolkit::PopupRow> rows{
+        row(form.mpopUndo, "Ctrl+Z", mpopUndo_Click),
+        {},
+        row(form.mpopBold, "Ctrl+B", mpopBold_Click),
+        row(form.mpopItalic, "Ctrl+I", mpopItalic_Click),
+        row(form.mpopLeft, "Ctrl+L", mpopLeft_Click),
+        row(form.mpopHilite, "Ctrl+G", mpopHilite_Click),
+        {},
+        row(form.mpopCopy, "Ctrl+C", mpopCopy_Click),
+        row(form.mpopPaste, "Ctrl+V", mpopPaste_Click),
+    };
+    toolkit::popupMenu(rows);
+}
+
+} // namespace zev

@@ -1,0 +1,80 @@
+#include "view/colors.h"
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "app/options.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+using Labels = toolkit::ControlArray<toolkit::Label>;
+using Colors = std::vector<toolkit::Color>;
+
+void paintOwn(Labels& labels, const Colors& colors) {
+    const int count = std::min(labels.UBound(), static_cast<int>(colors.size()) - 1);
+    for (int i = 1; i <= count; ++i) labels[i].ForeColor = colors[static_cast<std::size_t>(i)];
+}
+
+void paintAll(Labels& labels, toolkit::Color color) {
+    for (int i = 1; i <= labels.UBound(); ++i) labels[i].ForeColor = color;
+}
+
+Colors colorsOf(const Labels& labels) {
+    Colors colors;
+    for (const auto& label : labels) colors.push_back(label.ForeColor);
+    return colors;
+}
+
+void paintScheme(Zevlin& form) {
+    if (form.mcolorscheme[0].Checked) {
+        paintOwn(form.AMark, form.MarkColors);
+        paintOwn(form.AText, form.TextColors);
+        paintOwn(form.SText, form.SuitColors);
+        return;
+    }
+    const auto color = static_cast<toolkit::Color>(form.ColorScheme);
+    form.mcolorscheme.at(static_cast<std::size_t>(form.LastSchemeIndex)).Checked = true;
+    paintAll(form.AMark, color);
+    paintAll(form.AText, color);
+    paintAll(form.SText, color);
+}
+
+void chooseScheme(Zevlin& form, int index) {
+    for (auto& item : form.mcolorscheme) item.Checked = false;
+    form.mcolorscheme.at(static_cast<std::size_t>(index)).Checked = true;
+    if (index < form.LastSchemeIndex) form.ColorScheme = index;
+    if (form.AMark.UBound() > 0) SetGlobalColors(form);
+    if (!form.Initializing) IniWrite(form);
+}
+
+} // namespace
+
+void mColorScheme_Click(Zevlin& form, int index) {
+    Traceit(form, toolkit::numberText(index) + " mColorScheme_Click ");
+    trapped(form, "Error in mColorScheme_Click: #", [&] { chooseScheme(form, index); });
+}
+
+void SetGlobalColors(Zevlin& form) {
+    Traceit(form, "SetGlobalColors");
+    trapped(form, "Error in SetGlobalColors: #", [&] { paintScheme(form); });
+}
+
+int ColorSchemeIndex(const Zevlin& form) {
+    for (std::size_t i = 0; i < form.mcolorscheme.size(); ++i) {
+        if (form.mcolorscheme[i].Checked) return static_cast<int>(i);
+    }
+    return 0;
+}
+
+void KeepFieldColors(Zevlin& form) {
+    form.MarkColors = colorsOf(form.AMark);
+    form.TextColors = colorsOf(form.AText);
+    form.SuitColors = colorsOf(form.SText);
+}
+
+} // namespace zev

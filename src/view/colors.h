@@ -1,0 +1,20 @@
+// The colour scheme: the layout's own colours, or one for all.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+
+/// Chooses the scheme with this index of the menu; index 0 is the ACBL's.
+void mColorScheme_Click(Zevlin& form, int index);
+
+/// Paints all fields in the present scheme; the fields' own colours stay remembered.
+void SetGlobalColors(Zevlin& form);
+
+/// Index of the first checked scheme, 0 if none.
+[[nodiscard]] int ColorSchemeIndex(const Zevlin& form);
+
+/// Remembers each field's present colour as its own.
+void KeepFieldColors(Zevlin& form);
+
+} // namespace zev

@@ -1,0 +1,28 @@
+// The card's picture at the size of the view.
+#pragma once
+
+#include "toolkit/control.h"
+#include "view/card_picture.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// Whether to scale even if the scale is the one of the last scaling.
+enum class Rescale { IfChanged, Always };
+
+/// Width of the card in pixels at which the layout's places are told.
+constexpr float designWidth = 1198;
+/// Bounds of the scales that can be shown; any other is shown at half size.
+constexpr float smallestScale = 0.2F;
+constexpr float largestScale = 1.0F;
+
+/// Gives `target` the picture of `source` at the scale, with a white strip below it that takes the
+/// time stamp: 15 pixels high at full size.
+void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source, float scale,
+                  Rescale rescale);
+
+/// Gives the card the size of the present zoom step or fit.
+void RestoreBackgroundPicture(Zevlin& form, Rescale rescale);
+
+} // namespace zev

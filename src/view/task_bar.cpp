@@ -1,0 +1,15 @@
+#include "view/task_bar.h"
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+
+namespace zev {
+
+toolkit::TaskBar GetTaskBarSize(Zevlin& form) {
+    Traceit(form, "GetTaskBarSize");
+    toolkit::TaskBar bar;
+    trapped(form, "Error in GetTaskBarSize: #", [&] { bar = toolkit::taskBar(); });
+    return bar;
+}
+
+} // namespace zev
