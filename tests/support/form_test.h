@@ -1,0 +1,121 @@
+// The real form on the offscreen platform, with a home and a program folder of its own.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "app/zevlin.h"
+#include "toolkit/dialog.h"
+#include "toolkit/program.h"
+#include "toolkit/test_support.h"
+#include "toolkit/window.h"
+
+namespace zev::test {
+
+/// A message box that was shown.
+struct ShownBox {
+    std::string text;
+    std::string title;
+    toolkit::Buttons buttons = toolkit::Buttons::Ok;
+    toolkit::Icon icon = toolkit::Icon::None;
+};
+
+/// Every box must be foreseen: one that no answer waits for fails the test. A trace line that begins
+/// with "Error" fails the test unless it was announced.
+class FormTest : public testing::Test {
+  protected:
+    FormTest();
+    ~FormTest() override;
+    FormTest(const FormTest&) = delete;
+    FormTest& operator=(const FormTest&) = delete;
+
+    void TearDown() override;
+
+    /// Starts the program; with an options file in the data folder it is no first run.
+    void start(std::string_view commandLine = {});
+    /// The window without start-up, for tests that call the start-up procedures themselves.
+    void wireOnly();
+    /// Runs a call that is expected to end the program; true if it did.
+    [[nodiscard]] static bool endsProgram(const std::function<void()>& call);
+
+    // Before start(): what stands in the data folder; by default an options file (half size, no fit)
+    // and the installed layout, no cards.
+    void makeFirstRun();
+    void writeOptions(std::string_view content);
+    void writeLayout(std::string_view content);
+    void writeCard(std::string_view name, std::string_view content);
+
+    // What the player answers, in the order of the boxes.
+    void answer(toolkit::Answer answer);
+    void answerInput(std::string text);
+    /// What the next pop-up menu does; without one a pop-up is closed again.
+    void answerPopup(std::function<void(std::span<const toolkit::PopupRow>)> choice);
+
+    /// Lines that begin so are expected in the trace.
+    void announceError(std::string_view beginning);
+    /// All trace lines so far that the ring still holds, oldest first, without their times.
+    [[nodiscard]] std::vector<std::string> traceLines() const;
+    /// Content of the trace file, empty if there is none.
+    [[nodiscard]] std::string traceFile() const;
+    /// Whether a line of the ring or the trace file is this text.
+    [[nodiscard]] bool traced(std::string_view line) const;
+
+    [[nodiscard]] std::filesystem::path dataFile(std::string_view name) const;
+    [[nodiscard]] std::string dataFileContent(std::string_view name) const;
+
+    // Places on the card in twips.
+    /// A point inside a mark's inner target.
+    struct CardPoint {
+        float x = 0;
+        float y = 0;
+    };
+    [[nodiscard]] CardPoint targetOf(int mark) const;
+    [[nodiscard]] CardPoint middleOf(const toolkit::Label& label) const;
+    void clickMark(int mark, int button = toolkit::button::left);
+    void clickText(int field, int button = toolkit::button::left);
+
+    std::filesystem::path home;
+    std::filesystem::path dataFolder;
+    std::filesystem::path programFolder;
+    std::vector<ShownBox> boxes;             ///< every message box so far
+    std::vector<toolkit::InputBox> inputs;   ///< every input box so far
+    int popups = 0;                          ///< pop-up menus so far
+    int beeps = 0;
+    std::vector<std::string> launched;       ///< what was opened outside the program
+    Zevlin form;
+    std::unique_ptr<toolkit::Window> window;
+
+  private:
+    void answerBoxes();
+    void checkForErrors() const;
+    [[nodiscard]] bool isAnnounced(std::string_view line) const;
+
+    std::vector<toolkit::Answer> answers_;
+    std::vector<std::string> inputAnswers_;
+    std::vector<std::function<void(std::span<const toolkit::PopupRow>)>> popupChoices_;
+    std::vector<std::string> announced_;
+};
+
+/// A small layout as a file's content: marks and texts at given places, for tests that need few
+/// fields at known places.
+struct SmallField {
+    float left = 0;
+    float top = 0;
+    float width = 0;
+    float height = 0;
+    int color = 1;
+    int size = 1;
+    int symbol = 252; ///< marks only
+};
+[[nodiscard]] std::string smallLayout(const std::vector<SmallField>& marks,
+                                      const std::vector<SmallField>& texts,
+                                      std::string_view tabPairs = {}, int largestTab = 0);
+
+} // namespace zev::test
