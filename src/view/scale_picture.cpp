@@ -60,22 +60,21 @@ Coverage coverageOf(int length, double factor, int outputLength) {
     return coverage;
 }
 
-void weighRow(const Pixel* row, std::uint64_t weight, std::span<Channels> sums) {
-    for (Channels& sum : sums) {
-        const Channels channels = split(*row++);
-        sum.redAndBlue += channels.redAndBlue * weight;
-        sum.green += channels.green * weight;
-    }
-}
-
-// The rows below an output row, averaged to 8 bits and as many behind the point.
+// The rows below an output row, averaged to 8 bits and as many behind the point. All rows of a
+// column at once, so that no sum is stored before it is whole.
 void averageRows(const toolkit::Bitmap& source, const Span& rows, const std::uint32_t* weights,
-                 std::span<Channels> sums) {
-    std::ranges::fill(sums, Channels{0x0000008000000080U, 0x80U});
-    for (int i = 0; i < rows.count; ++i) weighRow(source.row(rows.first + i), weights[i], sums);
-    for (Channels& sum : sums) {
-        sum.redAndBlue = sum.redAndBlue >> 8U & 0x0000FFFF0000FFFFU;
-        sum.green >>= 8U;
+                 std::span<Channels> averages) {
+    const std::size_t width = averages.size();
+    const Pixel* first = source.row(rows.first);
+    for (std::size_t x = 0; x < width; ++x) {
+        Channels sum{0x0000008000000080U, 0x80U};
+        const Pixel* pixel = first + x;
+        for (int i = 0; i < rows.count; ++i, pixel += width) {
+            const Channels channels = split(*pixel);
+            sum.redAndBlue += channels.redAndBlue * weights[i];
+            sum.green += channels.green * weights[i];
+        }
+        averages[x] = {sum.redAndBlue >> 8U & 0x0000FFFF0000FFFFU, sum.green >> 8U};
     }
 }
 
