@@ -29,13 +29,16 @@ class DataLines {
     std::size_t m_at = 0;
 };
 
-std::vector<Field> readFields(DataLines& lines, bool marks) {
+enum class FieldKind { Mark, Text };
+
+std::vector<Field> readFields(DataLines& lines, FieldKind kind) {
     std::vector<Field> fields;
     const int count = lines.numbers().at(0);
     for (int at = 0; at < count; ++at) {
         const std::vector<int> v = lines.numbers();
-        if (v.size() != (marks ? 9U : 8U)) continue;
-        fields.push_back({v[0], v[1], v[2], v[3], v[4], v[5], v[6], marks ? v[7] : 0});
+        if (v.size() != (kind == FieldKind::Mark ? 9U : 8U)) continue;
+        fields.push_back(
+            {v[0], v[1], v[2], v[3], v[4], v[5], v[6], kind == FieldKind::Mark ? v[7] : 0});
     }
     return fields;
 }
@@ -50,8 +53,8 @@ Layout readLayout(int twips) {
     read.textFont = lines.next();
     read.markFont = lines.next();
     read.offsets = lines.numbers();
-    read.marks = readFields(lines, true);
-    read.texts = readFields(lines, false);
+    read.marks = readFields(lines, FieldKind::Mark);
+    read.texts = readFields(lines, FieldKind::Text);
     read.largestTab = lines.numbers().at(0);
     while (!lines.atEnd()) {
         const std::vector<int> pair = lines.numbers();

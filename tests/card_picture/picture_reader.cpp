@@ -33,10 +33,10 @@ Glyph glyphInEms(const char* file, int code) {
             (font.ascent() + font.descent()) / unitsPerEm};
 }
 
-LineHeight lineInEms(bool bold) {
+LineHeight lineInEms(QFont::Weight weight) {
     QFont wanted(QStringLiteral("Liberation Sans"));
     wanted.setPixelSize(static_cast<int>(unitsPerEm));
-    wanted.setBold(bold);
+    wanted.setWeight(weight);
     wanted.setHintingPreference(QFont::PreferNoHinting);
     const QRawFont font = QRawFont::fromFont(wanted);
     return {font.ascent() / unitsPerEm, (font.ascent() + font.descent()) / unitsPerEm};
@@ -105,8 +105,8 @@ Glyph markGlyph(const Field& mark, int twips) {
 }
 
 LineHeight textLine(const Field& text, int twips) {
-    static const LineHeight regular = lineInEms(false);
-    static const LineHeight bold = lineInEms(true);
+    static const LineHeight regular = lineInEms(QFont::Normal);
+    static const LineHeight bold = lineInEms(QFont::Bold);
     const LineHeight& one = text.size == 3 ? bold : regular;
     const double size = em(textPoints[text.size - 1], twips);
     return {one.ascent * size, one.height * size};

@@ -65,15 +65,15 @@ std::string textLines(const SampleCard& sample, const Sheet& sheet) {
     return lines;
 }
 
+/// A sample must not name what the card hasn't got: a slip of the pen would go unseen.
+void checkName(const std::string& name, const auto& places, const SampleCard& sample) {
+    if (std::ranges::none_of(places, [&](const auto& place) { return place.id == name; }))
+        throw Failure(sample.name + ": no such field: " + name);
+}
+
 void checkNames(const SampleCard& sample, const Sheet& sheet) {
-    for (const std::string& name : sample.marks)
-        if (std::ranges::none_of(sheet.marks,
-                                 [&](const MarkPlace& mark) { return mark.id == name; }))
-            throw Failure(sample.name + ": no such mark: " + name);
-    for (const auto& [name, value] : sample.texts)
-        if (std::ranges::none_of(sheet.texts,
-                                 [&](const TextPlace& text) { return text.id == name; }))
-            throw Failure(sample.name + ": no such text: " + name);
+    for (const std::string& name : sample.marks) checkName(name, sheet.marks, sample);
+    for (const auto& text : sample.texts) checkName(text.first, sheet.texts, sample);
 }
 
 } // namespace
