@@ -37,7 +37,7 @@ struct ScreenOverrides {
     int twipsPerPixel = 0;
     float width = 0;
     float height = 0;
-    TaskBar taskBar;
+    TaskBar taskBar{};
     bool hasTaskBar = false;
 };
 void overrideScreen(const ScreenOverrides& overrides);
