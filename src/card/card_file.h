@@ -65,8 +65,8 @@ class CardReader {
     Skip skip_;
 };
 
-/// A mark's state as a truth value: "1" and "0", any number (true when not 0), "True" and "False" in
-/// any case; else failure 13.
+/// A mark's state as a truth value: "1" and "0", any number (true when not 0), "True" and "False"
+/// in any case; else failure 13.
 [[nodiscard]] bool truthValue(std::string_view state);
 
 /// What a card file holds. Texts have single ampersands and their own double quotes.

@@ -7,8 +7,8 @@
 
 namespace zev {
 
-/// One-based 16-bit cells; 0 means no successor. A number of 1000 or more is the mark of that number
-/// less 1000, below it a text field. A cell outside 1..UBound is failure 9.
+/// One-based 16-bit cells; 0 means no successor. A number of 1000 or more is the mark of that
+/// number less 1000, below it a text field. A cell outside 1..UBound is failure 9.
 class TabTable {
   public:
     [[nodiscard]] int UBound() const { return static_cast<int>(cells_.size()) - 1; }

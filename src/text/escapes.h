@@ -17,17 +17,21 @@ void undoubleAmpersands(std::string& text);
 
 /// A text with its escapes blanked. A "^" right behind an escape is passed over and stays.
 struct BlankedText {
-    std::string caption;    ///< three characters of code 160 for each escape
-    std::string scanBuffer; ///< as long: "^", the letter in lower case, one character of code 160
+    std::string caption; ///< three characters of code 160 for each escape
+    /// As long: "^", the letter in lower case, one character of code 160. One character shorter
+    /// where a "^" without a letter ends the text.
+    std::string scanBuffer;
 };
 [[nodiscard]] BlankedText blankEscapes(std::string_view raw);
 
-/// A suit to lay over the text: `position` is the one-based place of its "^" in the scan buffer with
-/// single ampersands, `suit` 1 to 4.
+/// A suit to lay over the text: `position` is the one-based place of its "^" in the scan buffer
+/// with single ampersands, `suit` 1 to 4.
 struct SuitPlace {
     int position = 0;
     int suit = 0;
 };
+/// The places of a scan buffer, its ampersands doubled or single. A "^" with anything but one of
+/// the four small letters behind it gives none.
 [[nodiscard]] std::vector<SuitPlace> suitPlaces(std::string_view scanBuffer);
 
 } // namespace zev

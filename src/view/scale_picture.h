@@ -6,14 +6,15 @@
 
 namespace zev {
 
-/// The next smaller step of the pyramid: each pixel the rounded average of two by two; a single last
-/// row or column averages what is there.
+/// The next smaller step of the pyramid: each pixel the rounded average of two by two; a single
+/// last row or column averages what is there.
 [[nodiscard]] toolkit::Bitmap halved(const toolkit::IndexedPicture& picture);
 [[nodiscard]] toolkit::Bitmap halved(const toolkit::Bitmap& picture);
 [[nodiscard]] toolkit::Bitmap expanded(const toolkit::IndexedPicture& picture);
 
 /// The content of `source` shrunk by `factor` (0 < factor <= 1) into a picture of the given size in
-/// pixels; content begins at (0, 0), what it doesn't reach is white.
+/// pixels: each pixel the rounded average of the area that it covers. Content begins at (0, 0) and
+/// takes its scaled size rounded to whole pixels; what it doesn't reach is white.
 struct ScaleRequest {
     float factor = 1;
     int width = 0;
