@@ -55,12 +55,14 @@ class RunTimeError : public std::exception {
 /// "Control array element 'n' doesn't exist" (340).
 [[noreturn]] void failNoSuchElement(int index);
 
-/// The failure for an errno value of a file operation: ENOENT 53, ENOTDIR 76, EACCES 70 (75 for a
-/// folder in the place of a file), ENOSPC and EDQUOT 61, EMFILE and ENFILE 67, anything else 57.
+/// The failure for an errno value of a file operation: ENOENT 53, ENOTDIR 76, EACCES, EPERM and
+/// EROFS 70, EISDIR 75, EEXIST 58, ENAMETOOLONG 52, ENOSPC and EDQUOT 61, EMFILE and ENFILE 67,
+/// ENOMEM 7, anything else 57.
 [[nodiscard]] RunTimeError fileFailure(int errorCode);
 
 /// The exception being handled, as a run-time error: only valid inside a catch block. What is not
-/// a RunTimeError becomes 7 (bad_alloc), a file failure (filesystem_error) or 51.
+/// a RunTimeError becomes 7 (bad_alloc), a file failure (filesystem_error) or 51; what is no
+/// std::exception at all passes through.
 [[nodiscard]] RunTimeError currentFailure();
 
 } // namespace toolkit

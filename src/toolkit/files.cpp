@@ -47,11 +47,8 @@ void copyContent(FileHandle& source, FileHandle& target) {
     target.close();
 }
 
-void copyAttributes(const fs::path& source, const fs::path& target) {
+void copyTime(const fs::path& source, const fs::path& target) {
     std::error_code error;
-    fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add,
-                    error);
-    check(target, error);
     const auto time = fs::last_write_time(source, error);
     check(source, error);
     fs::last_write_time(target, time, error);
@@ -95,7 +92,7 @@ void copyFile(const fs::path& source, const fs::path& target) {
     std::optional<FileHandle> to(std::in_place, target, FileMode::Replace);
     try {
         copyContent(from, *to);
-        copyAttributes(source, target);
+        copyTime(source, target);
     } catch (...) {
         to.reset();
         removeHalfWritten(target);

@@ -1,8 +1,8 @@
 // Files of the data folder: names without regard to case, whole reads, checked writes.
 #pragma once
 
-#include <ctime>
 #include <cstdint>
+#include <ctime>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -24,20 +24,22 @@ namespace toolkit {
 [[nodiscard]] std::vector<std::string> listFiles(const std::filesystem::path& folder,
                                                  std::string_view ending);
 
-/// Whole content. Failures 53, 70, 75, 76, 57, 7.
+/// Whole content. Failures 53, 70, 75 for a folder in its place, 76 for a missing folder on the
+/// way, 57, and 7 above 256 MiB.
 [[nodiscard]] std::string readFile(const std::filesystem::path& path);
 
 /// Replaces the file; returns only when flush and close were seen to succeed. The old content is
-/// gone the moment the file is opened. Failures 53, 70, 75, 76, 61, 57.
+/// gone the moment the file is opened. Failures 70, 75, 76, 61, 57.
 void writeFile(const std::filesystem::path& path, std::string_view content);
 void appendFile(const std::filesystem::path& path, std::string_view content);
 
-/// Copies the content and the modification time, and makes the copy writable. A half-written copy
-/// is removed before the failure is raised.
+/// Copies the content and the modification time, not the mode: a new copy is writable. A
+/// half-written copy is removed before the failure is raised. A copy onto itself is failure 70.
 void copyFile(const std::filesystem::path& source, const std::filesystem::path& target);
 
 /// Renames; an existing target is failure 58.
 void renameFile(const std::filesystem::path& source, const std::filesystem::path& target);
+/// Failures 53, 70, 75 for a folder.
 void deleteFile(const std::filesystem::path& path);
 
 /// Modification time in whole seconds. Failure 53.

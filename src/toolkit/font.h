@@ -30,7 +30,7 @@ struct FontSpec {
 /// is installed or has a stand-in, else the name of the font that is used in its place.
 [[nodiscard]] std::string fontNameGiven(std::string_view name);
 
-/// The size in points that the font system gives for the one asked for.
+/// The size in points that the font system gives for the one asked for: itself, within 1 to 2160.
 [[nodiscard]] float fontSizeGiven(const FontSpec& font);
 
 /// A surface that is never shown and only measures.

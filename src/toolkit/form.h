@@ -58,7 +58,8 @@ struct Form {
     [[nodiscard]] float ScaleHeight() const { return Height - FrameHeight; }
 
     /// Moves the focus: runs LostFocus of the control that had it, then GotFocus of this one. A
-    /// control that has it already gets no event.
+    /// control that has it already gets no event. ActiveControl has changed when LostFocus runs; if
+    /// LostFocus moves the focus on, it stays there and this control gets no GotFocus.
     void SetFocus(Control& control);
 };
 

@@ -112,8 +112,10 @@ TEST_F(TextPainter, EdgesAreSmoothedInGreys) {
 }
 
 TEST_F(TextPainter, SizesBetweenWholePixelsAreDrawnAsAskedFor) {
+    // Close enough for the base line to fall on the same row.
     const FontSpec smaller{.Name = "Arial", .Size = 30.0F};
-    const FontSpec larger{.Name = "Arial", .Size = 30.3F};
+    const FontSpec larger{.Name = "Arial", .Size = 30.2F};
+    ASSERT_EQ(inkOf(drawn("H", 20, 5, smaller)).bottom, inkOf(drawn("H", 20, 5, larger)).bottom);
     EXPECT_FALSE(samePixels(drawn("H", 20, 5, smaller), drawn("H", 20, 5, larger)));
 }
 
@@ -181,6 +183,8 @@ TEST_F(TextPainter, WidgetsGetTheSameFace) {
     EXPECT_TRUE(font.bold());
     EXPECT_FALSE(font.italic());
     EXPECT_FALSE(font.kerning());
+    EXPECT_EQ(font.hintingPreference(), QFont::PreferNoHinting);
+    EXPECT_NE(font.styleStrategy() & QFont::NoSubpixelAntialias, 0);
 }
 
 TEST_F(TextPainter, TextInWidgetsIsAsLongAsInLabels) {
