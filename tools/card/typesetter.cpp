@@ -163,7 +163,7 @@ class Typesetter {
         return place.top - start;
     }
 
-    /// Given widths, or else as wide as the widest cell, the rest shared between all but the last.
+    /// Given widths, or else as wide as the widest cell, the rest shared between the columns.
     std::vector<Span> gridCells(const Node& grid, Span span) const {
         std::vector<double> widths = grid.measures.empty()
                                          ? naturalWidths(grid, span.width())
@@ -189,9 +189,19 @@ class Typesetter {
         }
         double spare = width + cellGap;
         for (const double each : widths) spare -= each + cellGap;
-        for (std::size_t at = 0; at + 1 < widths.size(); ++at)
-            widths[at] += spare / static_cast<double>(widths.size() - 1);
+        for (std::size_t gap = 1; gap < widths.size(); ++gap)
+            widths[leansRight(grid, gap) ? gap : gap - 1] +=
+                spare / static_cast<double>(widths.size() - 1);
         return widths;
+    }
+
+    /// Whether a column's cells are pushed to their right end, so that spare paper goes before
+    /// them.
+    static bool leansRight(const Node& grid, std::size_t column) {
+        return std::ranges::any_of(grid.parts, [column](const Node& row) {
+            return column < row.cells.size() && !row.cells[column].items.empty() &&
+                   row.cells[column].items.front().kind == ItemKind::Fill;
+        });
     }
 
     static std::vector<Span> evenCells(const Node& row, Span span) {
