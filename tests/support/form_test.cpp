@@ -84,7 +84,7 @@ void FormTest::answerBoxes() {
     toolkit::answerDialogsWith(
         {.message =
              [this](const toolkit::MessageBox& box) {
-                 boxes.push_back({box.text, box.title, box.buttons, box.icon});
+                 boxes.push_back({box.text, box.title, box.buttons, box.icon, box.preset});
                  if (box.buttons == toolkit::Buttons::Ok && answers_.empty()) {
                      return toolkit::Answer::Ok;
                  }

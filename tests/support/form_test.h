@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -25,6 +26,7 @@ struct ShownBox {
     std::string title;
     toolkit::Buttons buttons = toolkit::Buttons::Ok;
     toolkit::Icon icon = toolkit::Icon::None;
+    std::optional<toolkit::Answer> preset{};
 };
 
 /// Every box must be foreseen: one that no answer waits for fails the test. A trace line that begins
