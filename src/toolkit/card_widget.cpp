@@ -67,9 +67,8 @@ void CardWidget::paintEvent(QPaintEvent* event) {
     ++painted_.paints;
 }
 
-/// The card may have moved under the pointer since the platform worked out a place on it.
 CardPointer CardWidget::pointerOf(const QMouseEvent& event) const {
-    return {pixelAt(mapFromGlobal(event.globalPosition())), shiftOf(event.modifiers())};
+    return {pixelUnder(event, *this), shiftOf(event.modifiers())};
 }
 
 void CardWidget::mousePressEvent(QMouseEvent* event) {

@@ -32,7 +32,7 @@ bool ControlMouse::isEnabled() const {
 }
 
 MouseArguments ControlMouse::argumentsOf(const QWidget& widget, const QMouseEvent& event) const {
-    const QPoint place = pixelAt(widget.mapFromGlobal(event.globalPosition()));
+    const QPoint place = pixelUnder(event, widget);
     return {buttonOf(event.button()), shiftOf(event.modifiers()),
             twipsFromPixels(place.x() - widening_), twipsFromPixels(place.y())};
 }

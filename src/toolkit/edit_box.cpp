@@ -6,6 +6,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 
+#include "toolkit/qt_input.h"
 #include "toolkit/qt_text.h"
 
 namespace toolkit {
@@ -143,7 +144,7 @@ void EditBox::mouseReleaseEvent(QMouseEvent* event) {
     if (mouse_.isEnabled() && event->button() != Qt::RightButton)
         QLineEdit::mouseReleaseEvent(event);
     mouse_.release(*this, *event);
-    if (rect().contains(mapFromGlobal(event->globalPosition()).toPoint()))
+    if (rect().contains(pixelUnder(*event, *this)))
         mouse_.send(&Control::Click);
     event->accept();
 }

@@ -16,12 +16,12 @@ enum class Backdrop { Plain, Tiles, Gradient };
 /// What the form paints behind its controls, anew for its present size at every paint.
 struct FormBackground {
     Backdrop backdrop = Backdrop::Plain;
-    std::shared_ptr<const Bitmap> tile; ///< for Tiles
-    float tileScale = 1;                ///< for Tiles: size of a tile over its picture's
-    float yOffset = 0;                  ///< for Tiles: twips free at the top
-    Color top = white;                  ///< for Gradient
-    Color bottom = white;               ///< for Gradient
-    std::string text;                   ///< printed in the bottom left corner, size 8 bold
+    std::shared_ptr<const Bitmap> tile{}; ///< for Tiles
+    float tileScale = 1;                  ///< for Tiles: size of a tile over its picture's
+    float yOffset = 0;                    ///< for Tiles: twips free at the top
+    Color top = white;                    ///< for Gradient
+    Color bottom = white;                 ///< for Gradient
+    std::string text{};                   ///< printed in the bottom left corner, size 8 bold
 
     friend bool operator==(const FormBackground&, const FormBackground&) = default;
 };

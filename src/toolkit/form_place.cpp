@@ -18,6 +18,10 @@ QMargins estimatedFrame(const QWidget& widget) {
     return {1, widget.style()->pixelMetric(QStyle::PM_TitleBarHeight), 1, 1};
 }
 
+bool isExposed(const QWidget& widget) {
+    return widget.windowHandle() != nullptr && widget.windowHandle()->isExposed();
+}
+
 bool fillsTheScreen(const QWidget& widget) { return widget.isMaximized() || widget.isFullScreen(); }
 
 } // namespace
@@ -28,8 +32,7 @@ FormPlace::Outer FormPlace::wanted() const {
 
 /// The real frame is known from the first exposure on.
 QMargins FormPlace::presentFrame() const {
-    const QWindow* window = widget_.windowHandle();
-    if (window != nullptr && window->isExposed()) return window->frameMargins();
+    if (isExposed(widget_)) return widget_.windowHandle()->frameMargins();
     return knownPixels_.isNull() ? estimatedFrame(widget_) : frame_;
 }
 
@@ -48,9 +51,10 @@ void FormPlace::pullFrame(int menuHeight) {
     form_.FrameHeight = twipsFromPixels(frame.top() + frame.bottom() + menuHeight);
 }
 
-/// A value stays exactly as the program set it unless the window really is elsewhere.
+/// A value stays exactly as the program set it unless the window really is elsewhere. Before the
+/// first exposure it only seems to be, for its frame isn't known.
 void FormPlace::pullPlace() {
-    if (!widget_.isVisible() || widget_.isMinimized()) return;
+    if (!isExposed(widget_) || widget_.isMinimized()) return;
     const QRect now = widget_.frameGeometry();
     if (now == knownPixels_ || (frameChanged_ && !fillsTheScreen(widget_))) return;
     if (now.left() != knownPixels_.left()) form_.Left = twipsFromPixels(now.left());

@@ -9,7 +9,7 @@ namespace toolkit {
 namespace {
 
 /// The action with this caption that the player could choose, nullptr where there is none.
-QAction* offeredAction(const std::vector<QAction*>& offered, std::string_view caption) {
+QAction* offeredAction(const QList<QAction*>& offered, std::string_view caption) {
     for (QAction* action : offered) {
         const QString text = action->text().section(u'\t', 0, 0);
         if (action->isVisible() && action->isEnabled() && paintedText(ansiText(text)) == caption)
@@ -128,7 +128,7 @@ bool MenuBar::runShortcut(const QKeyEvent& event) {
 }
 
 bool MenuBar::choose(std::string_view captionPath) {
-    std::vector<QAction*> offered(actions().begin(), actions().end());
+    QList<QAction*> offered = actions();
     if (!isEnabled()) return false;
     for (;;) {
         const std::size_t end = captionPath.find('>');
@@ -140,8 +140,7 @@ bool MenuBar::choose(std::string_view captionPath) {
         }
         if (chosen->menu() == nullptr) return false;
         Q_EMIT chosen->menu()->aboutToShow();
-        const QList<QAction*> rows = chosen->menu()->actions();
-        offered.assign(rows.begin(), rows.end());
+        offered = chosen->menu()->actions();
         captionPath.remove_prefix(end + 1);
     }
 }

@@ -1,4 +1,8 @@
+#include <QtGui/QMouseEvent>
+#include <QtWidgets/QWidget>
+
 #include "toolkit/control.h"
+#include "toolkit/qt_geometry.h"
 #include "toolkit/qt_input.h"
 
 namespace toolkit {
@@ -27,6 +31,11 @@ int shiftOf(Qt::KeyboardModifiers modifiers) {
     return (modifiers.testFlag(Qt::ShiftModifier) ? shift::shift : 0) +
            (modifiers.testFlag(Qt::ControlModifier) ? shift::ctrl : 0) +
            (modifiers.testFlag(Qt::AltModifier) ? shift::alt : 0);
+}
+
+/// From the place in the window: the global one reaches widgets rounded to the nearest pixel.
+QPoint pixelUnder(const QMouseEvent& event, const QWidget& widget) {
+    return pixelAt(widget.mapFrom(widget.window(), event.scenePosition()));
 }
 
 Qt::MouseButton qButtonOf(int button) {

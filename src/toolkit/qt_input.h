@@ -1,9 +1,11 @@
 // Buttons, modifiers and keys of Qt's events as handlers see them. Internal to the toolkit.
 #pragma once
 
-#include <QtCore/qnamespace.h>
+#include <QtCore/QPoint>
 
 class QKeyEvent;
+class QMouseEvent;
+class QWidget;
 
 namespace toolkit {
 
@@ -12,6 +14,10 @@ namespace toolkit {
 /// The sum of the buttons.
 [[nodiscard]] int buttonsOf(Qt::MouseButtons buttons);
 [[nodiscard]] int shiftOf(Qt::KeyboardModifiers modifiers);
+
+/// The whole pixel of the widget that the pointer is in. Worked out when it is asked for: the widget
+/// may have moved under the pointer since the event was made.
+[[nodiscard]] QPoint pixelUnder(const QMouseEvent& event, const QWidget& widget);
 
 /// The virtual key code of a press or release; 255 for a key that has none.
 [[nodiscard]] int keyCodeOf(const QKeyEvent& event);

@@ -47,6 +47,20 @@ bool chooseMenu(std::string_view captionPath) {
     return chosen;
 }
 
+void resizeWindow(int wider, int higher) {
+    updateWindow();
+    QWidget& form = window().form();
+    form.resize(form.width() + wider, form.height() + higher);
+    settle();
+}
+
+void shiftWindow(int toTheRight, int down) {
+    updateWindow();
+    QWidget& form = window().form();
+    form.move(form.pos() + QPoint(toTheRight, down));
+    settle();
+}
+
 void closeWindow() {
     QCloseEvent event;
     send(window().form(), event);

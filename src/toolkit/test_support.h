@@ -34,9 +34,17 @@ void repeatKey(int keyCode, int shift = 0);
 void typeKey(int keyCode, int shift = 0, std::string_view text = {});
 /// Each character of a UTF-8 text as a key of its own, pressed and released.
 void typeText(std::string_view utf8);
+/// What an input method sends: the text that it is still composing, and the one that is decided.
+void compose(std::string_view preedit, std::string_view committed);
+/// Puts a UTF-8 text on the clipboard, as another program does.
+void fillClipboard(std::string_view utf8);
+
 /// A menu item, as if the player had opened its menu and chosen it: captions without "&", joined by
 /// ">", as in "File>Save". False where it isn't shown or enabled.
 bool chooseMenu(std::string_view captionPath);
+/// The player makes the window larger or shifts it, by pixels.
+void resizeWindow(int wider, int higher);
+void shiftWindow(int toTheRight, int down);
 /// Asks the window to close and lets the answer run.
 void closeWindow();
 /// Lets everything that waits in the queue run.

@@ -1,3 +1,6 @@
+#include <QtGui/QClipboard>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 
 #include "toolkit/key.h"
@@ -38,9 +41,12 @@ QString textOf(int keyCode, int shift) {
     return (shift & shift::shift) != 0 ? text : text.toLower();
 }
 
-QString givenText(int keyCode, int shift, std::string_view text) {
-    if (text.empty()) return textOf(keyCode, shift);
+QString fromUtf8(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QString givenText(int keyCode, int shift, std::string_view text) {
+    return text.empty() ? textOf(keyCode, shift) : fromUtf8(text);
 }
 
 } // namespace
@@ -66,8 +72,7 @@ void typeKey(int keyCode, int shift, std::string_view text) {
 }
 
 void typeText(std::string_view utf8) {
-    const QString text = QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
-    for (const char32_t character : text.toStdU32String()) {
+    for (const char32_t character : fromUtf8(utf8).toStdU32String()) {
         const QString one = QString::fromUcs4(&character, 1);
         const bool upper = one != one.toLower();
         const KeyStroke stroke{static_cast<int>(one.toUpper().toUcs4().front()),
@@ -76,5 +81,14 @@ void typeText(std::string_view utf8) {
         sendKey(QEvent::KeyRelease, stroke, {});
     }
 }
+
+void compose(std::string_view preedit, std::string_view committed) {
+    QInputMethodEvent event(fromUtf8(preedit), {});
+    event.setCommitString(fromUtf8(committed));
+    send(focusWidget(), event);
+    settle();
+}
+
+void fillClipboard(std::string_view utf8) { QGuiApplication::clipboard()->setText(fromUtf8(utf8)); }
 
 } // namespace toolkit::test

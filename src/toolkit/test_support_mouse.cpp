@@ -44,8 +44,8 @@ void sendMouse(QEvent::Type type, float x, float y, Qt::MouseButton button,
     QWidget& widget = grabbed ? *mouse().grabber : widgetUnder(global);
     if (buttons != Qt::NoButton) mouse().grabber = &widget;
     if (type == QEvent::MouseButtonRelease && buttons == Qt::NoButton) mouse().grabber = nullptr;
-    QMouseEvent event(type, widget.mapFromGlobal(global), global, button, buttons,
-                      modifiersOf(shift));
+    QMouseEvent event(type, widget.mapFromGlobal(global), window().form().mapFromGlobal(global),
+                      global, button, buttons, modifiersOf(shift));
     send(widget, event);
 }
 

@@ -1,0 +1,95 @@
+// Message boxes, input boxes and pop-up menus, on the screen and answered by a test.
+#include "fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class Dialog : public WindowTest {
+  protected:
+    Answer onScreen(MessageBox message, std::optional<Answer> pressed) {
+        test::endNextBox(pressed, seen);
+        return show(message);
+    }
+
+    void onScreenQuietly(MessageBox message) {
+        EXPECT_EQ(onScreen(std::move(message), Answer::Ok), Answer::Ok);
+    }
+
+    test::ShownBox seen;
+};
+
+TEST_F(Dialog, ButtonThatIsPressedIsTheAnswer) {
+    for (const Answer answer : {Answer::Yes, Answer::No, Answer::Cancel})
+        EXPECT_EQ(onScreen({.text = "Save?", .buttons = Buttons::YesNoCancel}, answer), answer);
+    EXPECT_EQ(onScreen({.text = "Done"}, Answer::Ok), Answer::Ok);
+}
+
+TEST_F(Dialog, ClosingAnswersCancelElseNoElseOk) {
+    EXPECT_EQ(onScreen({.text = "?", .buttons = Buttons::YesNoCancel}, {}), Answer::Cancel);
+    EXPECT_EQ(onScreen({.text = "?", .buttons = Buttons::OkCancel}, {}), Answer::Cancel);
+    EXPECT_EQ(onScreen({.text = "?", .buttons = Buttons::YesNo}, {}), Answer::No);
+    EXPECT_EQ(onScreen({.text = "?"}, {}), Answer::Ok);
+}
+
+TEST_F(Dialog, TitleIsTheGivenOneOrTheProgramsName) {
+    onScreenQuietly({.text = "a"});
+    EXPECT_EQ(seen.title, "Zevlin");
+    onScreenQuietly({.text = "a", .title = "Printing"});
+    EXPECT_EQ(seen.title, "Printing");
+}
+
+TEST_F(Dialog, TextIsPlain) {
+    onScreenQuietly({.text = "<b>caf\xe9</b>"});
+    EXPECT_EQ(seen.text, "<b>caf\xe9</b>");
+}
+
+TEST_F(Dialog, InputBoxGivesWhatWasTypedWithoutControlCharacters) {
+    test::fillNextInputBox("caf\u00e9\tbar", seen);
+    EXPECT_EQ(ask({.prompt = "Name?", .title = "My Name", .preset = "x"}), "caf\xe9"
+                                                                           "bar");
+    EXPECT_EQ(seen.title, "My Name");
+    EXPECT_EQ(seen.text, "Name?");
+}
+
+TEST_F(Dialog, PopupRunsTheChosenRow) {
+    MenuItem bold{.Caption = "Boldface"};
+    MenuItem italic{.Caption = "Italicize"};
+    const std::vector<PopupRow> rows{
+        {.item = &bold, .Click = [this] { note("bold"); }},
+        {},
+        {.item = &italic, .shortcut = "Ctrl+I", .Click = [this] { note("italic"); }}};
+    test::chooseInNextPopup(2);
+    popupMenu(rows);
+    EXPECT_EQ(log, (Log{"italic"}));
+}
+
+TEST_F(Dialog, TestAnswersInThePlayersPlace) {
+    answerDialogsWith({.message =
+                           [this](const MessageBox& shown) {
+                               note(shown.text);
+                               return Answer::No;
+                           },
+                       .input = [](const InputBox& asked) { return asked.preset + "\x01!"; },
+                       .popup = [](std::span<const PopupRow> rows) { rows[0].Click(); }});
+    EXPECT_EQ(show({.text = "Save?", .buttons = Buttons::YesNo}), Answer::No);
+    EXPECT_EQ(ask({.prompt = "Name?", .preset = "Joe"}), "Joe!");
+    const std::vector<PopupRow> rows{{.Click = [this] { note("chosen"); }}};
+    popupMenu(rows);
+    EXPECT_EQ(log, (Log{"Save?", "chosen"}));
+}
+
+TEST_F(Dialog, ValuesAreOnTheScreenBeforeTheBox) {
+    answerDialogsWith({.message = [this](const MessageBox&) {
+        note(test::shownText(box));
+        return Answer::Ok;
+    }});
+    openBox("abc");
+    box.Text = "set just before";
+    tell("Done", Icon::Information);
+    EXPECT_EQ(log, (Log{"set just before"}));
+}
+
+} // namespace
+} // namespace window_test

@@ -1,0 +1,103 @@
+// The form's place, frame and background.
+#include "fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class FormPlace : public WindowTest {
+  protected:
+    /// A pixel of the form's inside, right of and below the card.
+    std::optional<Color> inside(const Bitmap& shown, int x, int y) const {
+        return shown.pixel(x, y + shown.height() - static_cast<int>(form.ScaleHeight() / px(1)));
+    }
+};
+
+TEST_F(FormPlace, OuterSizeIsTheInsideAndTheFrame) {
+    const Bitmap shown = test::grabWindow();
+    EXPECT_EQ(px(shown.width()), form.Width - form.FrameWidth);
+    EXPECT_EQ(form.ScaleWidth(), px(shown.width()));
+    EXPECT_LT(form.ScaleHeight(), px(shown.height()) + 1);
+}
+
+TEST_F(FormPlace, ValuesStayExactlyAsSet) {
+    form.Left = px(33) + 4;
+    form.Width = px(500) + 7;
+    test::settle();
+    test::moveMouse(px(5), px(5));
+    EXPECT_EQ(form.Left, px(33) + 4);
+    EXPECT_EQ(form.Width, px(500) + 7);
+    EXPECT_EQ(test::grabWindow().width(), 500 - static_cast<int>(form.FrameWidth / px(1)));
+}
+
+TEST_F(FormPlace, SizeGivenByThePlayerGoesIntoTheValues) {
+    test::resizeWindow(20, 10);
+    test::moveMouse(px(5), px(5));
+    EXPECT_EQ(form.Width, px(660));
+    EXPECT_EQ(form.Height, px(490));
+    EXPECT_EQ(form.Left, px(50));
+}
+
+TEST_F(FormPlace, PlaceGivenByThePlayerGoesIntoTheValues) {
+    test::shiftWindow(7, -3);
+    test::moveMouse(px(5), px(5));
+    EXPECT_EQ(form.Left, px(57));
+    EXPECT_EQ(form.Top, px(57));
+    EXPECT_EQ(form.Width, px(640));
+}
+
+TEST_F(FormPlace, CardMayLieOutsideTheForm) {
+    card.Left = -px(100);
+    card.Top = -px(50);
+    card.Picture = std::make_shared<Bitmap>(400, 300, rgb(1, 2, 3));
+    const Bitmap shown = test::grabWindow();
+    EXPECT_EQ(inside(shown, 299, 249), rgb(1, 2, 3));
+    EXPECT_EQ(inside(shown, 300, 249), form.BackColor);
+    EXPECT_EQ(inside(shown, 299, 250), form.BackColor);
+}
+
+TEST_F(FormPlace, BackgroundIsTiledBelowItsOffset) {
+    auto tile = std::make_shared<Bitmap>(10, 10, rgb(10, 20, 30));
+    tile->setPixel(0, 0, rgb(200, 0, 0));
+    form.Background = {.backdrop = Backdrop::Tiles, .tile = tile, .tileScale = 1, .yOffset = px(5)};
+    const Bitmap shown = test::grabWindow();
+    EXPECT_EQ(inside(shown, 420, 335), rgb(200, 0, 0));
+    EXPECT_EQ(inside(shown, 421, 335), rgb(10, 20, 30));
+    EXPECT_EQ(inside(shown, 420, 345), rgb(200, 0, 0));
+    EXPECT_EQ(inside(shown, 450, 4), form.BackColor);
+    EXPECT_EQ(inside(shown, 451, 5), rgb(10, 20, 30));
+}
+
+TEST_F(FormPlace, GradientRunsFromTopToBottomOfThePresentSize) {
+    form.Background = {
+        .backdrop = Backdrop::Gradient, .top = rgb(208, 224, 255), .bottom = rgb(144, 154, 255)};
+    const Bitmap shown = test::grabWindow();
+    const int height = static_cast<int>(form.ScaleHeight() / px(1));
+    EXPECT_EQ(inside(shown, 500, 0), rgb(208, 224, 255));
+    const Color half = inside(shown, 500, height / 2).value_or(black);
+    EXPECT_NEAR(redOf(half), 176, 1);
+    EXPECT_NEAR(greenOf(half), 189, 1);
+    EXPECT_EQ(blueOf(half), 255);
+    EXPECT_NEAR(redOf(inside(shown, 500, height - 1).value_or(black)), 144, 1);
+}
+
+TEST_F(FormPlace, TextStandsInTheBottomLeftCorner) {
+    form.Background.text = "HHHH";
+    const Bitmap shown = test::grabWindow();
+    const FontSpec font{.Name = "Arial", .Size = 8, .Bold = true};
+    Bitmap expected(100, 40, form.BackColor);
+    const int height = pixelsFromTwips(textHeight(font));
+    drawText(expected, 2, static_cast<float>(40 - height - 2), font, black, "HHHH");
+    int ink = 0;
+    for (int y = 0; y < 40; ++y)
+        for (int x = 0; x < 100; ++x) {
+            const auto below = shown.pixel(x, shown.height() - 40 + y);
+            ASSERT_EQ(below, expected.pixel(x, y)) << x << ' ' << y;
+            if (below != form.BackColor) ++ink;
+        }
+    EXPECT_GT(ink, 50);
+}
+
+} // namespace
+} // namespace window_test
