@@ -11,6 +11,7 @@
 #include "app/zevlin.h"
 #include "layout/calibration.h"
 #include "layout/read_comment.h"
+#include "text/set_sym.h"
 #include "toolkit/ansi.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
@@ -79,8 +80,7 @@ void sizeSymbolTemplate(Zevlin& form) {
     symbol.Clips = false;
     symbol.Width = form.Testtext.TextWidth("\xA9");
     symbol.Height = form.AText[0].Height;
-    form.SText.UnloadAbove(0);
-    form.SuitColors.clear();
+    unloadSymbols(form);
 }
 
 } // namespace

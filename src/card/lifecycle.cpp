@@ -11,6 +11,7 @@
 #include "card/modified.h"
 #include "card/names_line.h"
 #include "card/save.h"
+#include "text/set_sym.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "view/image_size.h"
@@ -36,8 +37,7 @@ void clearTexts(Zevlin& form) {
 void clearFields(Zevlin& form) {
     for (int i = 1; i <= form.AMark.UBound(); ++i) form.AMark[i].Visible = false;
     clearTexts(form);
-    form.SText.UnloadAbove(0);
-    form.SuitColors.clear();
+    unloadSymbols(form);
 }
 
 void makeNewCard(Zevlin& form) {

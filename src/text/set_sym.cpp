@@ -1,6 +1,7 @@
 #include "text/set_sym.h"
 
 #include <string>
+#include <vector>
 
 #include "app/trace.h"
 #include "app/zevlin.h"
@@ -24,12 +25,19 @@ toolkit::Color shownColor(const Zevlin& form, toolkit::Color standard) {
                                          : static_cast<toolkit::Color>(form.ColorScheme);
 }
 
+/// The elements that show the field's symbols now. Looked up by field: a walk over all symbols for
+/// each field would make a card slower the more suits it holds.
+std::vector<int>& shownSymbols(Zevlin& form, int index) {
+    const auto cell = static_cast<std::size_t>(index);
+    if (form.ShownSymbols.size() <= cell) form.ShownSymbols.resize(cell + 1);
+    return form.ShownSymbols[cell];
+}
+
 /// Elements of a former run stay, unshown, until a new card or a rebuild unloads them.
 void hideOldSymbols(Zevlin& form, int index) {
-    const std::string tag = toolkit::numberText(index);
-    for (int i = 1; i <= form.SText.UBound(); ++i) {
-        if (form.SText[i].Tag == tag) form.SText[i].Visible = false;
-    }
+    std::vector<int>& shown = shownSymbols(form, index);
+    for (const int symbol : shown) form.SText[symbol].Visible = false;
+    shown.clear();
 }
 
 toolkit::Label& newSymbol(Zevlin& form, toolkit::Color standard) {
@@ -61,7 +69,7 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
     const toolkit::Label& label = form.AText[index];
     form.Testtext.Font = label.Font;
     const float left = label.Left + distanceTo(form, label, place);
-    toolkit::Label& symbol = newSymbol(form, isRed(place.suit) ? form.ColorRed : form.ColorBlack);
+    toolkit::Label& symbol = newSymbol(form, isRed(place.suit) ? form.ColorRed : toolkit::black);
     symbol.Tag = toolkit::numberText(index);
     symbol.Font.Size = form.Testtext.Font.Size + pointsAboveText;
     symbol.Font.Bold = false;
@@ -74,6 +82,7 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
         form.Testtext.TextWidth(std::string_view(scanBuffer).substr(position, 2)),
         label.Height + pixelsHigher * twips);
     symbol.Visible = true;
+    shownSymbols(form, index).push_back(form.SText.UBound());
     stack(form, index, symbol);
 }
 
@@ -96,6 +105,12 @@ void SetSym(Zevlin& form, int index) {
     trapped(
         form, "Error in SetSym ", [&] { layOver(form, index); },
         ", index=" + toolkit::numberText(index));
+}
+
+void unloadSymbols(Zevlin& form) {
+    form.SText.UnloadAbove(0);
+    form.SuitColors.clear();
+    form.ShownSymbols.clear();
 }
 
 } // namespace zev

@@ -9,4 +9,7 @@ struct Zevlin;
 /// in the Tag, the text with its escapes blanked in the caption, and the symbols shown.
 void SetSym(Zevlin& form, int index);
 
+/// Takes all symbols off the card.
+void unloadSymbols(Zevlin& form);
+
 } // namespace zev

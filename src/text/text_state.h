@@ -18,6 +18,7 @@ struct TextState {
     toolkit::ControlArray<toolkit::Label> SText;     ///< suit symbols over them
     std::vector<toolkit::Color> TextColors;          ///< present colour of each AText
     std::vector<toolkit::Color> SuitColors;          ///< standard colour of each SText
+    std::vector<std::vector<int>> ShownSymbols;      ///< by field: its SText elements on screen
 
     toolkit::TextBox CText; ///< edits centred fields
     toolkit::TextBox LText; ///< edits left-justified fields
