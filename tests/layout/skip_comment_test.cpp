@@ -63,6 +63,11 @@ TEST(SkipComments, LeavesTheVersionWhereNoLineTellsIt) {
     EXPECT_EQ(skip("' Program\r\n' version: 9\r\n", "old").version, "old");
 }
 
+TEST(SkipComments, KeepsNoMoreThanAVersionOfAVeryLongLine) {
+    EXPECT_EQ(skip("'Program version: 1" + std::string(1000, 'x') + "\r\n").version,
+              "1" + std::string(254, 'x'));
+}
+
 TEST(SkipComments, ReadsTheVersionAgainInTheRestOfALine) {
     toolkit::TextInput input("1,\"Program version: 2\",\"Program version: 3\"\r\n");
     std::string version;
