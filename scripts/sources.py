@@ -1,12 +1,14 @@
 """The project's own source files, as the checks see them."""
 
 import hashlib
+import os
 import pathlib
 import re
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 CACHE = ROOT / "build" / "lint"
-BUILD = ROOT / "build" / "release"
+# A release build that was configured; another one for those who build elsewhere.
+BUILD = pathlib.Path(os.environ.get("ZEVLIN_BUILD", ROOT / "build" / "release"))
 GENERATED = BUILD / "generated"
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
@@ -52,14 +54,22 @@ def closure(path, known=None):
     return known.keys()
 
 
-def fingerprint(path, *more):
-    """Changes whenever the file, one that it includes, or one of the further texts changes."""
+def fingerprint_of(paths, *more):
+    """Changes whenever a file, one that it includes, or one of the further texts changes."""
     digest = hashlib.sha256()
     for text in more:
         digest.update(text.encode() + b"\0")
-    for part in sorted(closure(path)):
+    known = {}
+    for path in paths:
+        closure(path, known)
+    for part in sorted(known):
+        digest.update(name(part).encode() if part.is_relative_to(ROOT) else b"")
         digest.update(part.read_bytes() + b"\0")
     return digest.hexdigest()
+
+
+def fingerprint(path, *more):
+    return fingerprint_of([path], *more)
 
 
 def passed_before(check, key):

@@ -1,0 +1,233 @@
+"""Drives the staged program from outside, with mouse and keys, as a player does.
+
+For the demonstration and for the whole-program tests; both run below scripts/virtual_display. It
+waits by looking again and again for what must happen, never for a fixed time.
+"""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import time
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+STAGE = pathlib.Path(os.environ.get("ZEVLIN_BUILD", ROOT / "build" / "release")) / "stage"
+DESIGN_WIDTH = 1198  # pixels of the card for which a layout gives the places
+TWIPS = 15           # in a pixel, on a screen of 96 dots per inch
+
+
+def wait_for(what, condition, seconds=30):
+    """The condition's value as soon as it is true; an error that says what was missed."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        value = condition()
+        if value:
+            return value
+        time.sleep(0.03)
+    raise TimeoutError(f"waited {seconds} seconds in vain for {what}")
+
+
+def output_of(*command):
+    return subprocess.run(command, capture_output=True, check=True, timeout=20).stdout
+
+
+def xdotool(*arguments):
+    return output_of("xdotool", *map(str, arguments)).decode()
+
+
+class Picture:
+    """A screenshot: the colours of its pixels as three bytes each."""
+
+    def __init__(self, data):
+        header = re.match(rb"P6\s+(\d+)\s+(\d+)\s+255\s", data)
+        self.width, self.height = int(header[1]), int(header[2])
+        self.bytes = data[header.end():]
+
+    def pixel(self, x, y):
+        start = 3 * (y * self.width + x)
+        return self.bytes[start:start + 3]
+
+    def part(self, left, top, width, height):
+        """The bytes of a rectangle, to be compared with those of another picture."""
+        rows = (3 * (y * self.width + left) for y in range(top, top + height))
+        return b"".join(self.bytes[start:start + 3 * width] for start in rows)
+
+
+def screenshot():
+    return Picture(output_of("import", "-silent", "-window", "root", "-depth", "8", "ppm:-"))
+
+
+def save_screenshot(path):
+    output_of("import", "-silent", "-window", "root", str(path))
+
+
+class Home:
+    """A home folder of its own with the program in it, as that of a player who has just installed
+    the program and never started it."""
+
+    def __init__(self, folder):
+        self.folder = pathlib.Path(folder)
+        self.data = self.folder / "Documents" / "ZEV"
+        self.program = self.folder / "program"
+        self.installed = self.program / "zevlin-files"
+        # The first start moves files out of the program's folder, so each home needs its own copy.
+        shutil.copytree(STAGE, self.program)
+        self.runtime = self.folder / "run"
+        self.runtime.mkdir(mode=0o700)
+
+    def card(self, name):
+        return self.data / f"{name}.zev"
+
+    def records(self, name):
+        """What a card file holds: the set marks, and the texts by field number."""
+        lines = self.card(name).read_bytes().decode("cp1252").split("\r\n")
+        records = [line for line in lines if line and not line.startswith("'")]
+        marks = int(records[1])
+        fields = [line.split(",") for line in records[2:2 + marks]]
+        texts = (re.fullmatch(r'(\d+),"(.*)",(\d+)', line) for line in records[3 + marks:])
+        return ({int(number) for number, state, _ in fields if state == "1"},
+                {int(text[1]): text[2] for text in texts})
+
+    def trace(self):
+        path = self.data / "Trace.txt"
+        return path.read_bytes().decode("cp1252") if path.exists() else ""
+
+
+def layout_fields(home):
+    """The places of marks and texts by number: left, top, width, height at design size."""
+    lines = (home.data / "Definitions.Ini").read_bytes().decode("cp1252").split("\r\n")
+    records = [line.split(",") for line in lines if line and not line.startswith("'")]
+    marks = int(records[4][0])
+    texts = int(records[5 + marks][0])
+
+    def places(part):
+        return {int(record[0]): tuple(float(value) for value in record[1:5]) for record in part}
+    return places(records[5:5 + marks]), places(records[6 + marks:6 + marks + texts])
+
+
+class Program:
+    """The program in a home, from its start to its end. A start without a card's name must be the
+    first one in its home; later ones ask for a card."""
+
+    def __init__(self, home, *arguments):
+        self.home = home
+        self.window = None
+        is_first = not home.data.exists()
+        environment = {"HOME": str(home.folder), "PATH": "/usr/bin:/bin", "LANG": "C.UTF-8",
+                       "DISPLAY": os.environ["DISPLAY"], "QT_QPA_PLATFORM": "xcb",
+                       "XDG_RUNTIME_DIR": str(home.runtime)}
+        self.process = subprocess.Popen([home.program / "zevlin", *arguments], env=environment,
+                                        cwd=home.folder)
+        if is_first:
+            # Says that the player's files were moved to the data folder.
+            self.answer(self.wait_for_box("^Zevlin$"), "Return")
+        self.window = wait_for("the program's window", lambda: self.windows(r"^Zevlin  \("))[0]
+
+    def windows(self, title="."):
+        if not self.is_running():
+            raise RuntimeError(f"the program ended with code {self.process.returncode}")
+        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid",
+                                str(self.process.pid), "--name", title],
+                               capture_output=True, timeout=20)
+        return found.stdout.decode().split()
+
+    def title(self):
+        return xdotool("getwindowname", self.window).strip()
+
+    def wait_for_title(self, pattern):
+        return wait_for(f"a title like {pattern}", lambda: re.search(pattern, self.title()))
+
+    def press(self, *keys):
+        xdotool("key", "--clearmodifiers", *keys)
+
+    def type(self, text):
+        xdotool("type", "--delay", 15, text)
+
+    def click(self, x, y, button=1):
+        xdotool("mousemove", "--sync", round(x), round(y), "click", button)
+
+    def boxes(self, title="."):
+        """The windows that the program shows beside its main one."""
+        return [window for window in self.windows(title) if window != self.window]
+
+    def wait_for_box(self, title="."):
+        return wait_for(f"a box {title}", lambda: self.boxes(title))[0]
+
+    def answer(self, box, *keys):
+        """Presses keys in a box and waits until it is gone."""
+        xdotool("windowfocus", "--sync", box, "key", "--clearmodifiers", *keys)
+        wait_for("the box to close", lambda: not self.is_running() or box not in self.windows())
+
+    def answer_name(self, name):
+        """Types a name into the prompt that a command has opened."""
+        box = self.wait_for_box()
+        xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15, name)
+        self.answer(box, "Return")
+
+    def is_running(self):
+        return self.process.poll() is None
+
+    def close(self):
+        """Asks the window to close, as its frame's button does."""
+        xdotool("windowfocus", "--sync", self.window, "key", "--clearmodifiers", "alt+F4")
+
+    def wait_for_end(self):
+        wait_for("the program's end", lambda: not self.is_running())
+        return self.process.returncode
+
+    def kill(self):
+        if self.is_running():
+            self.process.kill()
+            self.process.wait(timeout=10)
+
+
+class Card:
+    """Where the card's fields are on the screen. Made anew whenever the card may have moved."""
+
+    def __init__(self, program):
+        self.program = program
+        self.marks, self.texts = layout_fields(program.home)
+        left, top, width, self.height = (value / TWIPS for value in self.place_in_form())
+        self.scale = width / DESIGN_WIDTH
+        area_left, area_top = self.form_area()
+        self.left, self.top = area_left + left, area_top + top
+
+    def place_in_form(self):
+        """Left, top, width and height of the card in the form, as the trace tells them."""
+        traced = self.program.home.trace().count("**F4**")
+        self.program.press("shift+F3", "shift+F4")
+        wait_for("the card's place in the trace",
+                 lambda: self.program.home.trace().count("**F4**") > traced)
+        line = self.program.home.trace().rpartition("**F4** P1=")[2].splitlines()[0]
+        return [float(value) for value in line.partition(", visible")[0].split(", ")]
+
+    def form_area(self):
+        """Where the form's inside begins on the screen: right below the menu bar."""
+        shell = xdotool("getwindowgeometry", "--shell", self.program.window)
+        x, y, width = (int(re.search(rf"^{name}=(-?\d+)", shell, re.MULTILINE)[1])
+                       for name in ("X", "Y", "WIDTH"))
+        picture = screenshot()
+        columns = range(x + width // 4, x + width // 2)
+        top = next(row for row in range(y, y + 100)
+                   if all(picture.pixel(column, row) == b"\xff\xff\xff" for column in columns))
+        return x, top
+
+    def box(self, place):
+        """A field's rectangle on the screen: left, top, width and height in pixels."""
+        left, top, width, height = (value * self.scale for value in place)
+        return round(self.left + left), round(self.top + top), round(width), round(height)
+
+    def click(self, place, button=1):
+        left, top, width, height = self.box(place)
+        self.program.click(left + 0.4 * width, top + 0.5 * height, button)
+
+    def click_mark(self, number):
+        self.click(self.marks[number])
+
+    def click_text(self, number):
+        self.click(self.texts[number])
+
+    def ink(self, place):
+        """What the screen shows of a field."""
+        return screenshot().part(*self.box(place))

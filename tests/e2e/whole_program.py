@@ -1,0 +1,67 @@
+"""What the whole-program tests share: a home of its own for each test, and what is left of it after
+a failure."""
+
+import pathlib
+import shutil
+import sys
+import tempfile
+import unittest
+
+sys.dont_write_bytecode = True
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+import desktop  # noqa: E402
+
+KEPT = desktop.ROOT / "build" / "e2e"
+
+
+class WholeProgramTest(unittest.TestCase):
+    """A test of the staged program. The trace must hold no error at its end."""
+
+    announced_error = None  # a text that an error line of the trace may hold
+
+    def setUp(self):
+        self.programs = []
+        self.home = desktop.Home(pathlib.Path(tempfile.mkdtemp(prefix="zevlin-")) / "home")
+        self.addCleanup(self.clean_up)
+
+    def start(self, *arguments):
+        program = desktop.Program(self.home, *arguments)
+        self.programs.append(program)
+        return program
+
+    def start_for_the_first_time(self):
+        """The program with its help page closed and a blank card shown."""
+        program = self.start()
+        desktop.wait_for("the options file", (self.home.data / "ZEV.Ini").exists)
+        program.wait_for_title(r"\(unnamed\)$")
+        program.press("Escape")
+        return program
+
+    def leave(self, program):
+        program.close()
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def wait_for_marks(self, name, marks):
+        desktop.wait_for(f"the marks {marks} in the file",
+                         lambda: self.home.records(name)[0] == marks)
+
+    def clean_up(self):
+        if not self._outcome.success:
+            self.keep()
+        for program in self.programs:
+            program.kill()
+        errors = [line for line in self.home.trace().splitlines() if line[9:].startswith("Error")
+                  and not (self.announced_error and self.announced_error in line)]
+        shutil.rmtree(self.home.folder.parent, ignore_errors=True)
+        self.assertEqual(errors, [])
+
+    def keep(self):
+        folder = KEPT / self.id().rpartition(".")[2]
+        shutil.rmtree(folder, ignore_errors=True)
+        folder.mkdir(parents=True)
+        desktop.save_screenshot(folder / "screen.png")
+        shutil.copytree(self.home.folder, folder / "home")
+        print(f"The screen and the home are kept in {folder}", file=sys.stderr)
+
+
+main = unittest.main
