@@ -68,7 +68,8 @@ void readCard(benchmark::State& state) {
         zev::CardReader reader(file, version, [&version](toolkit::TextInput& input) {
             return zev::skipComments(input, version);
         });
-        benchmark::DoNotOptimize(reader.readPartner());
+        benchmark::DoNotOptimize(reader.readPartnerName());
+        benchmark::DoNotOptimize(reader.readPartnerNumber());
         for (int i = reader.readCount(); i > 0; --i) benchmark::DoNotOptimize(reader.readMark());
         for (int i = reader.readCount(); i > 0; --i) benchmark::DoNotOptimize(reader.readText());
     }

@@ -41,14 +41,15 @@ void takeFlags(TextRecord& record) {
 CardReader::CardReader(std::string content, const std::string& versionSeen, Skip skip)
     : input_(std::move(content)), versionSeen_(versionSeen), skip_(std::move(skip)) {}
 
-CardPartner CardReader::readPartner() {
+std::string CardReader::readPartnerName() {
     skip_(input_);
-    CardPartner partner;
-    partner.name = input_.readText();
-    partner.number = input_.readText();
-    putBackQuotes(partner.name);
-    putBackQuotes(partner.number);
-    return partner;
+    return readPartnerNumber();
+}
+
+std::string CardReader::readPartnerNumber() {
+    std::string text = input_.readText();
+    putBackQuotes(text);
+    return text;
 }
 
 int CardReader::readCount() {

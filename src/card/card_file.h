@@ -52,7 +52,9 @@ class CardReader {
     /// `versionSeen` is what `skip` keeps up to date; it decides each record's format.
     CardReader(std::string content, const std::string& versionSeen, Skip skip);
 
-    [[nodiscard]] CardPartner readPartner();
+    [[nodiscard]] std::string readPartnerName();
+    /// Stands behind the name in the same record.
+    [[nodiscard]] std::string readPartnerNumber();
     [[nodiscard]] int readCount();
     [[nodiscard]] MarkRecord readMark();
     [[nodiscard]] TextRecord readText();

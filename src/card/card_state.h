@@ -16,7 +16,7 @@ struct CardState {
     std::string PartnerNumber;
     std::string CardVersion; ///< version of the card loaded last
     bool CardModified = false;
-    std::int16_t NamesField = 0; ///< the text field of the names line; 0 for none
+    std::int16_t NamesField = 0;      ///< the text field of the names line; 0 for none
     std::string FormTitle = "Zevlin"; ///< what every caption of the form begins with
 
     bool ChooserCancelled = false;

@@ -11,6 +11,7 @@
 #include "card/modified.h"
 #include "card/names_line.h"
 #include "card/save.h"
+#include "text/edit_field.h"
 #include "text/set_sym.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
@@ -45,8 +46,8 @@ void makeNewCard(Zevlin& form) {
     // The indexes go first: hiding the boxes must commit nothing into the new card.
     form.OrigIndex = 0;
     form.TIndex = 0;
-    form.LText.Visible = false;
-    form.CText.Visible = false;
+    hideTextBox(form, form.LText);
+    hideTextBox(form, form.CText);
     RestoreBackgroundPicture(form, Rescale::IfChanged);
     form.P1.Move(0, 0);
     clearFields(form);

@@ -25,8 +25,7 @@ namespace {
 enum class Loaded { Whole, Bad };
 
 void tellBadCard() {
-    toolkit::tell("This card file contains errors and cannot be used",
-                  toolkit::Icon::Exclamation);
+    toolkit::tell("This card file contains errors and cannot be used", toolkit::Icon::Exclamation);
 }
 
 void loadMark(Zevlin& form, const MarkRecord& record) {
@@ -65,9 +64,8 @@ void loadText(Zevlin& form, const TextRecord& record) {
 }
 
 Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& path) {
-    const auto partner = card.readPartner();
-    form.PartnerName = partner.name;
-    form.PartnerNumber = partner.number;
+    form.PartnerName = card.readPartnerName();
+    form.PartnerNumber = card.readPartnerNumber();
     const int marks = card.readCount();
     if (marks < 1) {
         tellBadCard();

@@ -32,10 +32,10 @@ std::string askForId(const Question& question) {
 
 void changeMyId(Zevlin& form) {
     commitOpenField(form);
-    const std::string answer = askForId(
-        {.title = "My ID",
-         .prompt = "Enter your name [and optionally, your ACBL ID number].",
-         .present = {form.MyName, form.MyNumber}});
+    const std::string answer =
+        askForId({.title = "My ID",
+                  .prompt = "Enter your name [and optionally, your ACBL ID number].",
+                  .present = {form.MyName, form.MyNumber}});
     if (answer.empty()) return;
     if (answer == " ") {
         form.MyName.clear();
@@ -53,10 +53,10 @@ void changeMyId(Zevlin& form) {
 void changePartnerId(Zevlin& form) {
     commitOpenField(form);
     const PlayerId present{form.PartnerName, form.PartnerNumber};
-    const std::string answer = askForId(
-        {.title = "Partner ID",
-         .prompt = "Enter your partner's name [and optionally, ACBL ID number].",
-         .present = present});
+    const std::string answer =
+        askForId({.title = "Partner ID",
+                  .prompt = "Enter your partner's name [and optionally, ACBL ID number].",
+                  .present = present});
     if (answer.empty()) return;
     if (answer == " ") {
         form.PartnerName.clear();
@@ -68,6 +68,8 @@ void changePartnerId(Zevlin& form) {
     form.PartnerName = partner.name;
     form.PartnerNumber = partner.number;
     ShowNames(form, NamesUpdate::Replace);
+    // A layout without a names line shows nothing of it, but the card holds it.
+    if (!form.CardModified) SetMod(form);
 }
 
 void composeNamesLine(Zevlin& form, NamesUpdate update) {
@@ -80,8 +82,7 @@ void composeNamesLine(Zevlin& form, NamesUpdate update) {
                                   .cardName = form.NameBeforeRebuild.value_or(form.CardName)},
                                  update);
     line.Font.Bold = true;
-    // An unchanged caption may show blanks for suits, which only the Tag still knows.
-    if (line.Caption != before) line.Tag = line.Caption;
+    line.Tag = line.Caption;
     FitText(form, form.CText, form.NamesField);
     if (line.Caption != before) SetMod(form);
 }

@@ -53,16 +53,15 @@ TEST(TruthValue, FailsOnAnythingElse) {
 
 TEST(CardReader, ReadsThePartner) {
     Card card("' Program version: 2.0.0\r\n\r\n\"Jane, Doe\",\"12345\"\r\n");
-    const CardPartner partner = card.reader.readPartner();
-    EXPECT_EQ(partner.name, "Jane, Doe");
-    EXPECT_EQ(partner.number, "12345");
+    EXPECT_EQ(card.reader.readPartnerName(), "Jane, Doe");
+    EXPECT_EQ(card.reader.readPartnerNumber(), "12345");
     EXPECT_EQ(card.versionSeen, "2.0.0");
 }
 
 TEST(CardReader, PutsBackTheQuotesOfThePartner) {
-    const CardPartner partner = Card("\"J \xB2Jo\xB2\",\"\xB2\"\r\n").reader.readPartner();
-    EXPECT_EQ(partner.name, "J \"Jo\"");
-    EXPECT_EQ(partner.number, "\"");
+    Card card("\"J \xB2Jo\xB2\",\"\xB2\"\r\n");
+    EXPECT_EQ(card.reader.readPartnerName(), "J \"Jo\"");
+    EXPECT_EQ(card.reader.readPartnerNumber(), "\"");
 }
 
 TEST(CardReader, ReadsCounts) {
@@ -177,7 +176,8 @@ TEST(CardReader, PassesOverCommentsBetweenRecords) {
 
 TEST(CardReader, AcceptsLineFeedsAloneAndAByteOrderMark) {
     Card card("\xEF\xBB\xBF' Program version: 2.0.0\n\"a\",\"b\"\n\n3\n1,1,0\n", "");
-    EXPECT_EQ(card.reader.readPartner().number, "b");
+    EXPECT_EQ(card.reader.readPartnerName(), "a");
+    EXPECT_EQ(card.reader.readPartnerNumber(), "b");
     EXPECT_EQ(card.reader.readCount(), 3);
     EXPECT_TRUE(card.reader.readMark().set);
 }
@@ -187,7 +187,9 @@ TEST(CardReader, ReadsATextOverSeveralLines) {
 }
 
 TEST(CardReader, FailsPastTheEnd) {
-    EXPECT_EQ(failureOf([] { static_cast<void>(Card("\"a\"").reader.readPartner()); }), 62);
+    Card nameless("\"a\"");
+    EXPECT_EQ(nameless.reader.readPartnerName(), "a");
+    EXPECT_EQ(failureOf([&] { static_cast<void>(nameless.reader.readPartnerNumber()); }), 62);
     EXPECT_EQ(failureOf([] { static_cast<void>(Card("' x").reader.readCount()); }), 62);
     EXPECT_EQ(failureOf([] { static_cast<void>(Card("1,1", "2.0.0").reader.readMark()); }), 62);
     EXPECT_EQ(failureOf([] { static_cast<void>(Card("1,\"a\"", "2.0.0").reader.readText()); }), 62);
@@ -205,7 +207,8 @@ TEST(CardReader, FailsOnValuesOfTheWrongKind) {
 int readWhole(std::string content) {
     Card card(std::move(content));
     return failureOf([&] {
-        static_cast<void>(card.reader.readPartner());
+        static_cast<void>(card.reader.readPartnerName());
+        static_cast<void>(card.reader.readPartnerNumber());
         for (int i = card.reader.readCount(); i > 0; --i) static_cast<void>(card.reader.readMark());
         for (int i = card.reader.readCount(); i > 0; --i) static_cast<void>(card.reader.readText());
     });

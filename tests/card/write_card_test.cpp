@@ -78,7 +78,8 @@ std::vector<std::string> savedAndLoaded(const std::vector<std::string>& texts) {
     CardReader reader(writeCard(document), version, [&version](toolkit::TextInput& input) {
         return skipComments(input, version);
     });
-    static_cast<void>(reader.readPartner());
+    static_cast<void>(reader.readPartnerName());
+    static_cast<void>(reader.readPartnerNumber());
     static_cast<void>(reader.readCount());
     static_cast<void>(reader.readMark());
     std::vector<std::string> loaded;
@@ -102,7 +103,8 @@ TEST(WriteCard, KeepsMarksPartnerAndSwitches) {
     CardReader reader(writeCard(smallCard()), version, [&version](toolkit::TextInput& input) {
         return skipComments(input, version);
     });
-    EXPECT_EQ(reader.readPartner().name, "Jane \"JJ\" Doe");
+    EXPECT_EQ(reader.readPartnerName(), "Jane \"JJ\" Doe");
+    EXPECT_EQ(reader.readPartnerNumber(), "12345");
     ASSERT_EQ(reader.readCount(), 3);
     EXPECT_FALSE(reader.readMark().set);
     EXPECT_TRUE(reader.readMark().set);

@@ -20,7 +20,8 @@ CardDocument readCard(std::string content) {
         return zev::skipComments(input, version);
     });
     try {
-        document.partner = reader.readPartner();
+        document.partner.name = reader.readPartnerName();
+        document.partner.number = reader.readPartnerNumber();
         for (int i = reader.readCount(); i > 0; --i)
             document.marks.push_back(reader.readMark().set);
         for (int i = reader.readCount(); i > 0; --i) {
