@@ -86,6 +86,9 @@ std::vector<toolkit::LabelGroup> cardGroups(Zevlin& form) {
     symbols.MouseDown = [&form](int index, toolkit::MouseArguments& mouse) {
         SText_MouseDown(form, index, mouse);
     };
+    symbols.MouseUp = [&form](int index, toolkit::MouseArguments& mouse) {
+        SText_MouseUp(form, index, mouse);
+    };
     symbols.Click = run(form, SText_Click);
     return {highlights, texts, marks, symbols};
 }

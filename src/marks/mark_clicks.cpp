@@ -20,14 +20,6 @@ void clearMark(Zevlin& form, int index) {
     SetMod(form);
 }
 
-/// The mark's geometry, as the design read-out shows it.
-std::string readOut(int index, const toolkit::Label& mark) {
-    return numberText(index) + ": (" + numberText(mark.Left) + "," + numberText(mark.Top) +
-           ") - (" + numberText(mark.Left + mark.Width) + "," +
-           numberText(mark.Top + mark.Height) + ")  [" + numberText(mark.Width) + "*" +
-           numberText(mark.Height) + "]";
-}
-
 void clickMark(Zevlin& form, int index) {
     if (form.THelp.Visible) return hideHelp(form);
     if (form.LastButton == toolkit::button::left && !form.MShowShapes.Checked) {
@@ -75,6 +67,17 @@ void rememberTabMark(Zevlin& form, int index) {
     form.TabCursorX = form.CursorPos.x;
     form.TabCursorY = form.CursorPos.y;
     form.TabCode = toolkit::toInteger16(index + firstMarkItem);
+}
+
+void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& /*mouse*/) {
+    Traceit(form, "SText_MouseUp " + numberText(index));
+}
+
+std::string readOut(int index, const toolkit::Label& field) {
+    return numberText(index) + ": (" + numberText(field.Left) + "," + numberText(field.Top) +
+           ") - (" + numberText(field.Left + field.Width) + "," +
+           numberText(field.Top + field.Height) + ")  [" + numberText(field.Width) + "*" +
+           numberText(field.Height) + "]";
 }
 
 std::string placeText(const toolkit::Label& label) {

@@ -15,10 +15,14 @@ void AMark_Click(Zevlin& form, int index);
 
 // A symbol has no behaviour of its own: its events go to the field that its Tag names.
 void SText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse);
+void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& mouse);
 void SText_Click(Zevlin& form, int index);
 
 /// Lets SPACE and TAB act on this mark while the cursor stays where it is now.
 void rememberTabMark(Zevlin& form, int index);
+
+/// A field's number, corners and size, as the read-out of the menu bar shows them.
+[[nodiscard]] std::string readOut(int index, const toolkit::Label& field);
 
 /// "left, top, width, height" for traces.
 [[nodiscard]] std::string placeText(const toolkit::Label& label);

@@ -31,13 +31,15 @@ bool cursorIsStill(Zevlin& form) {
 
 std::string walkTrace(const Zevlin& form) {
     return "  P1_KeyDown TabTo " + numberText(form.TabCode) + ", " +
-           numberText(form.TabTable[form.TabCode]) +
-           ", Cursor: " + numberText(form.CursorPos.x) + ", " + numberText(form.CursorPos.y) +
-           " | " + numberText(form.TabCursorX) + ", " + numberText(form.TabCursorY);
+           numberText(form.TabTable[form.TabCode]) + ", Cursor: " + numberText(form.CursorPos.x) +
+           ", " + numberText(form.CursorPos.y) + " | " + numberText(form.TabCursorX) + ", " +
+           numberText(form.TabCursorY);
 }
 
 void goToText(Zevlin& form, int item) {
     FlashFocus(form, item);
+    // A press that never became a click has nothing to do with this field.
+    form.ClickIndex = 0;
     // The flash lets events run: the field may be gone.
     if (form.AText.exists(item)) AText_Click(form, item);
 }
@@ -72,8 +74,7 @@ void moveToMark(Zevlin& form, int item) {
     Traceit(form, "TabToMark (" + numberText(item) + ") at " + placeText(form.AMark[index]));
     CheckOnScreen(form, item);
     const toolkit::Label& mark = form.AMark[index];
-    const auto target =
-        screenPlace(form, mark.Left + mark.Width / 3, mark.Top + mark.Height / 3);
+    const auto target = screenPlace(form, mark.Left + mark.Width / 3, mark.Top + mark.Height / 3);
     form.TabActive = true;
     form.TabCursorX = target.x;
     form.TabCursorY = target.y;
@@ -97,6 +98,15 @@ void flashText(Zevlin& form, int item) {
     label.BackStyle = toolkit::BackStyle::Transparent;
     toolkit::setCursorPosition(screenPlace(form, label.Left, label.Top));
     form.TabActive = false;
+}
+
+/// Twice inverted the mark is as it was.
+void blinkMark(Zevlin& form, int index) {
+    for (int turn = 0; turn < 2; ++turn) {
+        if (!form.AMark.exists(index)) return;
+        form.AMark[index].Visible = !form.AMark[index].Visible;
+        toolkit::wait(flashMilliseconds);
+    }
 }
 
 } // namespace
@@ -144,7 +154,12 @@ void TabToMark(Zevlin& form, int item) {
 void FlashFocus(Zevlin& form, int item) {
     Traceit(form, "FlashFocus " + numberText(item));
     trapped(form, "Error in FlashFocus: #", [&] {
-        if (item >= 1 && item < firstMarkItem) flashText(form, item);
+        if (item >= firstMarkItem) {
+            // In normal use the cursor alone shows the mark.
+            if (form.MShowShapes.Checked) blinkMark(form, item - firstMarkItem);
+        } else if (item >= 1) {
+            flashText(form, item);
+        }
     });
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "app/trace.h"
 #include "app/zevlin.h"
@@ -76,28 +77,44 @@ toolkit::TextBox& showBox(Zevlin& form, int index) {
     return box;
 }
 
-void openField(Zevlin& form, int index, const FieldClick& click) {
-    if (!isOpen(form, index)) {
-        commitFormerField(form);
-        takeOpeningState(form, index);
-    }
+/// What was typed so far stays in the box, and so does the way back.
+toolkit::TextBox& showOpenBox(Zevlin& form, int index) {
+    const std::string typed = form.LText.Visible ? form.LText.Text : form.CText.Text;
+    const bool undo = form.mpopUndo.Enabled;
     toolkit::TextBox& box = showBox(form, index);
-    // The caret comes first: the pop-up of a right click waits for the player.
-    PositionTextCursor(form, box, click.x);
-    box.Height = form.AText[index].Height - boxLower * static_cast<float>(form.TwipsPerPixel);
-    if (click.index == 0) return;
-    form.ClickIndex = 0;
-    toolkit::MouseArguments press{
-        .Button = click.button, .Shift = 0, .X = click.x, .Y = click.y};
-    if (box.MouseDown) box.MouseDown(press);
+    box.Text = typed;
+    form.mpopUndo.Enabled = undo;
+    return box;
 }
 
+toolkit::TextBox& showClosedField(Zevlin& form, int index) {
+    commitFormerField(form);
+    takeOpeningState(form, index);
+    return showBox(form, index);
+}
+
+/// A right click opens the pop-up menu at once.
+void passPress(toolkit::TextBox& box, const FieldClick& click) {
+    if (click.index == 0 || !box.MouseDown) return;
+    toolkit::MouseArguments press{.Button = click.button, .Shift = 0, .X = click.x, .Y = click.y};
+    box.MouseDown(press);
+}
+
+void openField(Zevlin& form, int index, const FieldClick& click) {
+    const bool open = isOpen(form, index);
+    passPress(open ? showOpenBox(form, index) : showClosedField(form, index), click);
+    // The pop-up may have changed the alignment, and with it the box.
+    toolkit::TextBox& box = form.LText.Visible ? form.LText : form.CText;
+    PositionTextCursor(form, box, click.x);
+    box.Height = form.AText[index].Height - boxLower * static_cast<float>(form.TwipsPerPixel);
+}
+
+/// The click is over with this, whatever comes of it: a field that is reached by key later must not
+/// find it.
 FieldClick takeClick(Zevlin& form, int index) {
-    if (form.ClickIndex != index) {
-        form.ClickIndex = 0;
-        return {};
-    }
-    return {form.ClickIndex, form.ClickButton, form.ClickX, form.ClickY};
+    const int pressed = std::exchange(form.ClickIndex, std::int16_t{0});
+    if (pressed != index) return {};
+    return {pressed, form.ClickButton, form.ClickX, form.ClickY};
 }
 
 void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
@@ -108,6 +125,7 @@ void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
     box.Text = field.Tag;
     undoubleAmpersands(box.Text);
     form.mpopBold.Checked = field.Font.Bold;
+    form.mpopBold.Enabled = !form.mBold.Checked;
     form.mpopItalic.Checked = field.Font.Italic;
     form.mpopLeft.Checked = field.Alignment == toolkit::Alignment::Left;
     form.mpopHilite.Checked = form.Highlight[index].Visible;
@@ -118,11 +136,9 @@ void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
 void placeCaret(Zevlin& form, toolkit::TextBox& box, float x) {
     form.Testtext.Font = box.Font;
     const bool centered = box.Alignment == toolkit::Alignment::Center;
-    const float offset =
-        centered ? (box.Width - form.Testtext.TextWidth(box.Text)) / 2 : 0;
-    const int caret = caretAt(box.Text, x, offset, [&](std::string_view text) {
-        return form.Testtext.TextWidth(text);
-    });
+    const float offset = centered ? (box.Width - form.Testtext.TextWidth(box.Text)) / 2 : 0;
+    const int caret = caretAt(box.Text, x, offset,
+                              [&](std::string_view text) { return form.Testtext.TextWidth(text); });
     box.SelStart = std::min(caret, static_cast<int>(box.Text.size()));
     box.SelLength = 0;
 }
@@ -171,9 +187,9 @@ void AText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
 void AText_Click(Zevlin& form, int index) {
     Traceit(form, "AText_Click " + toolkit::numberText(index));
     trapped(form, "Error in AText_Click: #", [&] {
+        const FieldClick click = takeClick(form, index);
         if (form.THelp.Visible) return hideHelp(form);
         if (form.MShowShapes.Checked) return;
-        const FieldClick click = takeClick(form, index);
         const OpeningGuard opening(form.OpeningField);
         openField(form, index, click);
     });

@@ -6,6 +6,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "marks/mark_clicks.h"
 #include "text/edit_field.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
@@ -20,9 +21,11 @@ namespace {
 /// Characters that keys with Ctrl send.
 namespace control_key {
 constexpr int b = 2;
+constexpr int c = 3;
 constexpr int g = 7;
 constexpr int i = 9;
 constexpr int l = 12;
+constexpr int v = 22;
 constexpr int z = 26;
 } // namespace control_key
 
@@ -34,8 +37,8 @@ std::string focusTrace(const Zevlin& form, const toolkit::TextBox& box) {
         text += toolkit::numberText(value) + ", ";
     }
     text.resize(text.size() - 2);
-    return text + ", centered=" +
-           std::string(truthText(box.Alignment == toolkit::Alignment::Center));
+    return text +
+           ", centered=" + std::string(truthText(box.Alignment == toolkit::Alignment::Center));
 }
 
 void closeWithEscape(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
@@ -48,8 +51,7 @@ void closeWithEscape(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
 void closeWithEnter(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
     KeyAscii = 0;
     if (toolkit::isKeyRepeat()) return;
-    xText_LostFocus(form, box,
-                    {.key = CommitCause::Key::Enter, .backward = form.ShiftHeld});
+    xText_LostFocus(form, box, {.key = CommitCause::Key::Enter, .backward = form.ShiftHeld});
     if (!form.CText.Visible && !form.LText.Visible) form.SetFocus(form.P1);
 }
 
@@ -59,16 +61,36 @@ void highlightByKey(Zevlin& form, int& KeyAscii) {
     form.SetFocus(form.P1);
 }
 
+/// Without a private copy the box pastes what the system's clipboard holds.
+void pasteByKey(Zevlin& form, int& KeyAscii) {
+    if (!form.mpopPaste.Enabled) return;
+    KeyAscii = 0;
+    mpopPaste_Click(form);
+}
+
 void actOnKey(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
     switch (KeyAscii) {
-    case toolkit::key::escape: return closeWithEscape(form, box, KeyAscii);
-    case toolkit::key::enter: return closeWithEnter(form, box, KeyAscii);
-    case control_key::b: return toggleBold(form, box, KeyAscii);
-    case control_key::i: return toggleItalic(form, box, KeyAscii);
-    case control_key::l: return toggleJustification(form, KeyAscii);
-    case control_key::g: return highlightByKey(form, KeyAscii);
-    case control_key::z: return undoField(form, box, KeyAscii);
-    default: return;
+    case toolkit::key::escape:
+        return closeWithEscape(form, box, KeyAscii);
+    case toolkit::key::enter:
+        return closeWithEnter(form, box, KeyAscii);
+    case control_key::b:
+        return toggleBold(form, box, KeyAscii);
+    case control_key::i:
+        return toggleItalic(form, box, KeyAscii);
+    case control_key::l:
+        return toggleJustification(form, KeyAscii);
+    // The box goes on and copies its selection to the system's clipboard.
+    case control_key::c:
+        return mpopCopy_Click(form);
+    case control_key::v:
+        return pasteByKey(form, KeyAscii);
+    case control_key::g:
+        return highlightByKey(form, KeyAscii);
+    case control_key::z:
+        return undoField(form, box, KeyAscii);
+    default:
+        return;
     }
 }
 
@@ -98,9 +120,8 @@ void takeOverTyping(Zevlin& form, toolkit::TextBox& box, int keyCode) {
     box.SelStart = start;
 }
 
-std::string mouseTrace(const toolkit::TextBox& box, const Zevlin& form,
-                       const toolkit::MouseArguments& mouse) {
-    return std::string("xText_MouseDown ix=") + (&box == &form.CText ? "C" : "L") +
+std::string mouseTrace(const Zevlin& form, const toolkit::MouseArguments& mouse) {
+    return "xText_MouseDown ix=" + toolkit::numberText(form.TIndex) +
            " B=" + toolkit::numberText(mouse.Button) + " S=" + toolkit::numberText(mouse.Shift) +
            " X=" + toolkit::numberText(mouse.X) + " Y=" + toolkit::numberText(mouse.Y);
 }
@@ -133,11 +154,13 @@ void openPopup(Zevlin& form, toolkit::TextBox& box, const toolkit::MouseArgument
 void xText_GotFocus(Zevlin& form, toolkit::TextBox& box) {
     Traceit(form, focusTrace(form, box));
     trapped(form, "Error in xText_GotFocus: #", [&] {
-        if (form.MShowShapes.Checked) return;
+        if (form.MShowShapes.Checked) {
+            form.MCoord.Caption = readOut(form.TIndex, form.AText[form.TIndex]);
+            return;
+        }
         FitText(form, box, form.TIndex);
         form.Testtext.Font = box.Font;
-        box.Height =
-            form.Testtext.TextHeight("|") - 3 * static_cast<float>(form.TwipsPerPixel);
+        box.Height = form.Testtext.TextHeight("|") - 3 * static_cast<float>(form.TwipsPerPixel);
     });
 }
 
@@ -146,9 +169,9 @@ void xText_KeyDown(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& k
         if (key.KeyCode != toolkit::key::tab) return;
         key.KeyCode = 0;
         if (toolkit::isKeyRepeat()) return;
-        xText_LostFocus(form, box,
-                        {.key = CommitCause::Key::Tab,
-                         .backward = (key.Shift & toolkit::shift::shift) != 0});
+        xText_LostFocus(
+            form, box,
+            {.key = CommitCause::Key::Tab, .backward = (key.Shift & toolkit::shift::shift) != 0});
     });
 }
 
@@ -168,8 +191,8 @@ void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key
     });
 }
 
-void xText_MouseDown(Zevlin& form, toolkit::TextBox& box, toolkit::MouseArguments& mouse) {
-    Traceit(form, mouseTrace(box, form, mouse));
+void xText_MouseDown(Zevlin& form, toolkit::TextBox& /*box*/, toolkit::MouseArguments& mouse) {
+    Traceit(form, mouseTrace(form, mouse));
     trapped(form, "Error in xText_MouseDown: #", [&] {
         if (mouse.Button != toolkit::button::right) return;
         mouse.Button = 0;

@@ -77,10 +77,9 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
     symbol.Caption = form.SuitChars.substr(suit, 1);
     const auto twips = static_cast<float>(form.TwipsPerPixel);
     const auto position = static_cast<std::size_t>(place.position) - 1;
-    symbol.Move(
-        left, label.Top - pixelsAboveField * twips,
-        form.Testtext.TextWidth(std::string_view(scanBuffer).substr(position, 2)),
-        label.Height + pixelsHigher * twips);
+    symbol.Move(left, label.Top - pixelsAboveField * twips,
+                form.Testtext.TextWidth(std::string_view(scanBuffer).substr(position, 2)),
+                label.Height + pixelsHigher * twips);
     symbol.Visible = true;
     shownSymbols(form, index).push_back(form.SText.UBound());
     stack(form, index, symbol);

@@ -28,18 +28,6 @@ void swallow(Zevlin& form, int& KeyAscii) {
     form.SetFocus(form.P1);
 }
 
-/// Shows the other box with what was typed into this one.
-void changeBox(Zevlin& form, toolkit::TextBox& from, toolkit::TextBox& to,
-               toolkit::Alignment alignment) {
-    form.AText[form.TIndex].Alignment = alignment;
-    SetTextBox(form, to, form.TIndex);
-    to.Text = from.Text;
-    to.Visible = true;
-    // The focus moves on before the box goes, and nothing of the field is committed yet.
-    from.Visible = false;
-    form.ActiveControl = &to;
-}
-
 void restoreBox(const toolkit::TextBox& kept, toolkit::TextBox& box) {
     box.Font.Name = kept.Font.Name;
     box.Font.Bold = kept.Font.Bold;
@@ -55,16 +43,34 @@ void restoreField(Zevlin& form) {
     field.Font.Bold = form.UText.Font.Bold;
     field.Font.Italic = form.UText.Font.Italic;
     field.Caption = form.UText.Text;
+    doubleAmpersands(field.Caption);
 }
 
-toolkit::TextBox& openBox(Zevlin& form) {
-    return form.LText.Visible ? form.LText : form.CText;
+bool isEditing(const Zevlin& form) {
+    return form.TIndex > 0 && (form.CText.Visible || form.LText.Visible);
 }
+
+void changeAlignment(Zevlin& form, toolkit::Alignment alignment) {
+    const bool center = alignment == toolkit::Alignment::Center;
+    toolkit::TextBox& from = center ? form.LText : form.CText;
+    toolkit::TextBox& to = center ? form.CText : form.LText;
+    form.AText[form.TIndex].Alignment = alignment;
+    SetTextBox(form, to, form.TIndex);
+    // The Tag is older than what was typed.
+    to.Text = from.Text;
+    to.Visible = true;
+    // The focus moves on before the box goes, and nothing of the field is committed yet.
+    from.Visible = false;
+    form.ActiveControl = &to;
+}
+
+toolkit::TextBox& openBox(Zevlin& form) { return form.LText.Visible ? form.LText : form.CText; }
 
 /// A menu command and its key are one path.
 void pressKey(Zevlin& form, std::string_view name, int key) {
     Traceit(form, name);
     trapped(form, "Error in " + std::string(name) + ": #", [&] {
+        if (!isEditing(form)) return;
         int KeyAscii = key;
         xText_KeyPress(form, openBox(form), KeyAscii);
     });
@@ -84,7 +90,7 @@ std::string copiedText(const Zevlin& form) {
 }
 
 void paste(Zevlin& form) {
-    if (form.MShowShapes.Checked) return;
+    if (form.MShowShapes.Checked || !isEditing(form)) return;
     toolkit::Label& field = form.AText[form.TIndex];
     doubleAmpersands(form.ClipText);
     field.Caption = form.ClipText;
@@ -118,11 +124,7 @@ void toggleItalic(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
 
 void toggleJustification(Zevlin& form, int& KeyAscii) {
     const bool centered = form.AText[form.TIndex].Alignment == toolkit::Alignment::Center;
-    if (centered) {
-        changeBox(form, form.CText, form.LText, toolkit::Alignment::Left);
-    } else {
-        changeBox(form, form.LText, form.CText, toolkit::Alignment::Center);
-    }
+    changeAlignment(form, centered ? toolkit::Alignment::Left : toolkit::Alignment::Center);
     form.mpopLeft.Checked = centered;
     swallow(form, KeyAscii);
 }
@@ -137,8 +139,8 @@ void undoField(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
     restoreField(form);
     KeyAscii = 0;
     if (form.AText[form.TIndex].Alignment != form.OrigAlign) {
-        int justify = leftKey;
-        xText_KeyPress(form, box, justify);
+        changeAlignment(form, form.OrigAlign);
+        xText_GotFocus(form, openBox(form));
     }
     openBox(form).SelStart = caret;
     form.mpopBold.Checked = form.CText.Font.Bold;
@@ -154,8 +156,10 @@ void mpopLeft_Click(Zevlin& form) { pressKey(form, "mpopLeft_Click", leftKey); }
 
 void mpopHilite_Click(Zevlin& form) {
     Traceit(form, "mpopHilite");
+    if (!isEditing(form)) return;
     toolkit::Label& highlight = form.Highlight[form.TIndex];
     highlight.Visible = !highlight.Visible;
+    form.mpopHilite.Checked = highlight.Visible;
     form.P1Stack.sendToBack(highlight);
     form.P1Stack.bringToFront(form.AText[form.TIndex]);
     SetMod(form);
@@ -163,7 +167,9 @@ void mpopHilite_Click(Zevlin& form) {
 
 void mpopCopy_Click(Zevlin& form) {
     Traceit(form, "mpopCopy_Click");
-    trapped(form, "Error in mpopCopy_Click: #", [&] { form.ClipText = copiedText(form); });
+    trapped(form, "Error in mpopCopy_Click: #", [&] {
+        if (isEditing(form)) form.ClipText = copiedText(form);
+    });
 }
 
 void mpopPaste_Click(Zevlin& form) {
@@ -174,10 +180,9 @@ void mpopPaste_Click(Zevlin& form) {
 void openTextMenu(Zevlin& form) {
     const auto row = [&form](toolkit::MenuItem& item, std::string shortcut,
                              void (*procedure)(Zevlin&)) {
-        return toolkit::PopupRow{
-            .item = &item, .shortcut = std::move(shortcut), .Click = [&form, procedure] {
-                procedure(form);
-            }};
+        return toolkit::PopupRow{.item = &item,
+                                 .shortcut = std::move(shortcut),
+                                 .Click = [&form, procedure] { procedure(form); }};
     };
     const std::vector<toolkit::PopupRow> rows{
         row(form.mpopUndo, "Ctrl+Z", mpopUndo_Click),

@@ -1,0 +1,163 @@
+#include "marks/move_card.h"
+
+#include "text/edit_test.h"
+
+namespace zev::test {
+namespace {
+
+using namespace toolkit::test;
+namespace key = toolkit::key;
+namespace shift = toolkit::shift;
+
+class MoveCard : public EditTest {
+  protected:
+    /// A card much larger than the form.
+    void startLarge() {
+        startSmall();
+        resizeWindow(-static_cast<int>(form.Width / pixel) + 600,
+                     -static_cast<int>(form.Height / pixel) + 500);
+        ASSERT_LT(form.ScaleHeight(), form.P1.Height);
+        ASSERT_LT(form.ScaleWidth(), form.P1.Width);
+    }
+    [[nodiscard]] float step() const { return form.P1.Height / 10; }
+    [[nodiscard]] float farLeft() const { return form.ScaleWidth() - form.P1.Width; }
+    [[nodiscard]] float farTop() const { return form.ScaleHeight() - form.P1.Height; }
+    void expectAt(float left, float top) const {
+        EXPECT_FLOAT_EQ(form.P1.Left, left);
+        EXPECT_FLOAT_EQ(form.P1.Top, top);
+    }
+};
+
+TEST_F(MoveCard, CornerKeysGoToTheFourCorners) {
+    startLarge();
+    typeKey(key::end);
+    expectAt(0, farTop());
+    typeKey(key::pageUp);
+    expectAt(farLeft(), 0);
+    typeKey(key::pageDown);
+    expectAt(farLeft(), farTop());
+    typeKey(key::home);
+    expectAt(0, 0);
+    typeKey(key::pageDown, shift::shift);
+    expectAt(farLeft(), farTop());
+}
+
+TEST_F(MoveCard, ArrowsMoveTheViewByATenthOfTheCardsHeight) {
+    startLarge();
+    typeKey(key::down);
+    expectAt(0, -step());
+    typeKey(key::right);
+    expectAt(-step(), -step());
+    typeKey(key::left);
+    expectAt(0, -step());
+    typeKey(key::up);
+    expectAt(0, 0);
+}
+
+TEST_F(MoveCard, ArrowsStopAtTheEdges) {
+    startLarge();
+    typeKey(key::up);
+    typeKey(key::left);
+    expectAt(0, 0);
+    for (int i = 0; i < 12; ++i) {
+        typeKey(key::down);
+        typeKey(key::right);
+    }
+    expectAt(farLeft(), farTop());
+}
+
+TEST_F(MoveCard, CardSmallerThanTheFormIsPinnedToTheFarSide) {
+    startSmall();
+    form.P1.Width = form.ScaleWidth() - 3000;
+    form.P1.Height = form.ScaleHeight() - 1500;
+    typeKey(key::right);
+    expectAt(3000, 1500);
+    typeKey(key::right);
+    EXPECT_EQ(form.P1.Left, 3000);
+    // What is above 0 and not below the far side goes back to the near one.
+    typeKey(key::left);
+    EXPECT_EQ(form.P1.Left, 0);
+}
+
+TEST_F(MoveCard, ArrowWithAModifierIsNotTaken) {
+    startLarge();
+    typeKey(key::down, shift::ctrl);
+    typeKey(key::down, shift::shift);
+    expectAt(0, 0);
+}
+
+TEST_F(MoveCard, WheelGoesPastWhereTheKeysStop) {
+    startLarge();
+    turnWheel(-120);
+    EXPECT_NEAR(form.P1.Top, -step(), 0.5F);
+    for (int i = 0; i < 15; ++i) turnWheel(-120);
+    EXPECT_EQ(form.P1.Top, -form.P1.Height);
+    for (int i = 0; i < 40; ++i) turnWheel(120);
+    EXPECT_EQ(form.P1.Top, form.ScaleHeight());
+    EXPECT_EQ(form.P1.Left, 0);
+}
+
+TEST_F(MoveCard, WheelTakesOneStepWhateverTheRotation) {
+    startLarge();
+    MouseWheel(form, 0, -1, 0, 0);
+    EXPECT_NEAR(form.P1.Top, -step(), 0.5F);
+    MouseWheel(form, 0, 960, 0, 0);
+    EXPECT_NEAR(form.P1.Top, 0, 0.6F);
+    MouseWheel(form, 0, 0, 0, 0);
+    EXPECT_NEAR(form.P1.Top, -step(), 0.6F);
+}
+
+TEST_F(MoveCard, WheelNeedsAShownCardAndItsHook) {
+    startLarge();
+    form.WheelHooked = false;
+    MouseWheel(form, 0, -120, 0, 0);
+    form.WheelHooked = true;
+    form.P1.Visible = false;
+    MouseWheel(form, 0, -120, 0, 0);
+    EXPECT_EQ(form.P1.Top, 0);
+}
+
+TEST_F(MoveCard, WheelLeavesTheRestOnAMarkAlone) {
+    startSmall();
+    clickMark(1);
+    const auto cursor = toolkit::cursorPosition();
+    turnWheel(-120);
+    EXPECT_TRUE(form.TabActive);
+    EXPECT_EQ(toolkit::cursorPosition().y, cursor.y);
+}
+
+TEST_F(MoveCard, CursorFollowsTheMarkThatTheKeyboardRestsOn) {
+    startSmall();
+    form.P1.Top = -600;
+    clickMark(1);
+    const auto cursor = toolkit::cursorPosition();
+    const float before = form.P1.Top;
+    typeKey(key::up);
+    const int moved = toolkit::pixelsFromTwips(form.P1.Top - before);
+    ASSERT_NE(moved, 0);
+    EXPECT_NEAR(toolkit::cursorPosition().y, cursor.y + moved, 1);
+    EXPECT_EQ(form.TabCursorY, toolkit::cursorPosition().y);
+    EXPECT_EQ(form.TabCursorX, toolkit::cursorPosition().x);
+    EXPECT_TRUE(form.TabActive);
+    typeKey(key::space);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+TEST_F(MoveCard, TaskBarAtTheBottomEndsTheRestAtOneArrow) {
+    startSmall();
+    toolkit::overrideScreen(
+        {.width = 24000, .height = 24000, .taskBar = {0, 1560, 1600, 40}, .hasTaskBar = true});
+    clickMark(1);
+    typeKey(key::up);
+    EXPECT_FALSE(form.TabActive);
+}
+
+TEST_F(MoveCard, CursorThatWouldLeaveTheScreenEndsTheRest) {
+    startLarge();
+    clickMark(1);
+    for (int i = 0; i < 3; ++i) typeKey(key::down);
+    EXPECT_FALSE(form.TabActive);
+}
+
+} // namespace
+} // namespace zev::test
