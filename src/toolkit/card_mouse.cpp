@@ -66,6 +66,8 @@ void CardMouse::press(CardPointer pointer, int button, Held before) {
         sendMove(target, pointer, 0);
     takeFocus(target);
     send(target, &LabelGroup::MouseDown, &Control::MouseDown, pointer, button);
+    // The next press at this very place must not be taken for a drag of this one's button.
+    restingAt_.reset();
 }
 
 void CardMouse::move(CardPointer pointer, int buttons) {

@@ -76,6 +76,14 @@ TEST_F(Mouse, NoMovePrecedesAPressWhereThePointerRests) {
     EXPECT_EQ(times("card.MouseMove B=0 S=0 X=30 Y=40"), 0);
 }
 
+TEST_F(Mouse, MovePrecedesTheNextPressAtTheSamePlace) {
+    test::click(px(30), px(40));
+    log.clear();
+    test::pressMouse(px(30), px(40), button::right);
+    test::releaseMouse(px(30), px(40), button::right);
+    EXPECT_EQ(log.front(), "card.MouseMove B=0 S=0 X=30 Y=40");
+}
+
 TEST_F(Mouse, MovePrecedesAPressAfterTheLabelUnderThePointerWasHidden) {
     place(marks[1], 10, 10, 20, 20);
     test::click(px(15), px(15));
