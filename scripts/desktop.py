@@ -145,7 +145,7 @@ class Program:
         xdotool("type", "--delay", 15, text)
 
     def click(self, x, y, button=1):
-        xdotool("mousemove", "--sync", round(x), round(y), "click", button)
+        xdotool("mousemove", round(x), round(y), "click", button)
 
     def boxes(self, title="."):
         """The windows that the program shows beside its main one."""
@@ -195,12 +195,17 @@ class Card:
 
     def place_in_form(self):
         """Left, top, width and height of the card in the form, as the trace tells them."""
-        traced = self.program.home.trace().count("**F4**")
+        before = self.traced_place()
         self.program.press("shift+F3", "shift+F4")
-        wait_for("the card's place in the trace",
-                 lambda: self.program.home.trace().count("**F4**") > traced)
-        line = self.program.home.trace().rpartition("**F4** P1=")[2].splitlines()[0]
+        line = wait_for("the card's place in the trace",
+                        lambda: self.traced_place() != before and self.traced_place())
+        line = line.partition("**F4** P1=")[2]
         return [float(value) for value in line.partition(", visible")[0].split(", ")]
+
+    def traced_place(self):
+        """The last line of the trace that tells the card's place; each has its own time."""
+        lines = [line for line in self.program.home.trace().split("\r\n")[:-1] if "**F4**" in line]
+        return lines[-1] if lines else ""
 
     def form_area(self):
         """Where the form's inside begins on the screen: right below the menu bar."""
