@@ -1,0 +1,110 @@
+#include "layout/check_point.h"
+
+#include "support/form_test.h"
+#include "toolkit/files.h"
+
+namespace zev::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* setAside = "$$TempDef.Ini";
+constexpr const char* layout = "Definitions.Ini";
+
+class CheckPoint : public FormTest {};
+
+TEST_F(CheckPoint, SetsTheLayoutAsideAndWritesThePresentOne) {
+    start();
+    const std::string before = dataFileContent(layout);
+    form.AMark[1].Left += 150;
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent(setAside), before);
+    EXPECT_NE(dataFileContent(layout), before);
+    EXPECT_TRUE(dataFileContent(layout).starts_with("' ****"));
+    EXPECT_TRUE(traced("CheckPointShapes"));
+}
+
+TEST_F(CheckPoint, ReplacesAnEarlierOne) {
+    start();
+    const std::string before = dataFileContent(layout);
+    toolkit::writeFile(dataFile(setAside), "earlier");
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent(setAside), before);
+}
+
+TEST_F(CheckPoint, IsUndoneByRestoring) {
+    start();
+    const std::string before = dataFileContent(layout);
+    form.AMark[1].Left += 150;
+    CheckPointShapes(form);
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(layout), before);
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+}
+
+TEST_F(CheckPoint, RestoringWithoutOneDoesNothing) {
+    start();
+    const std::string before = dataFileContent(layout);
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(layout), before);
+    EXPECT_EQ(traceLines().back(), "RestoreShapes");
+}
+
+TEST_F(CheckPoint, RestoringBringsALayoutThatIsGone) {
+    start();
+    toolkit::writeFile(dataFile(setAside), "aside");
+    fs::remove(dataFile(layout));
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(layout), "aside");
+}
+
+TEST_F(CheckPoint, LeftBehindIsRestoredAtTheNextStart) {
+    fs::copy_file(dataFile(layout), dataFile(setAside));
+    writeLayout(smallLayout({{.left = 1, .top = 1, .width = 9, .height = 9}},
+                            {{.left = 1, .top = 50, .width = 90, .height = 9}}));
+    start();
+    EXPECT_GT(form.AMark.UBound(), 200);
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+}
+
+TEST_F(CheckPoint, WithoutALayoutIsTracedAndWritesNothing) {
+    start();
+    fs::remove(dataFile(layout));
+    announceError("Error in CheckPointShapes 53, File not found");
+    CheckPointShapes(form);
+    EXPECT_TRUE(traced("Error in CheckPointShapes 53, File not found"));
+    EXPECT_FALSE(fs::exists(dataFile(layout)));
+}
+
+TEST_F(CheckPoint, WithAFolderInItsPlaceIsTracedAndKeepsTheLayout) {
+    start();
+    const std::string before = dataFileContent(layout);
+    fs::create_directory(dataFile(setAside));
+    announceError("Error in CheckPointShapes 75, Path/File access error");
+    CheckPointShapes(form);
+    EXPECT_TRUE(traced("Error in CheckPointShapes 75, Path/File access error"));
+    EXPECT_EQ(dataFileContent(layout), before);
+}
+
+TEST_F(CheckPoint, RestoringOverAFolderIsTraced) {
+    start();
+    toolkit::writeFile(dataFile(setAside), "aside");
+    fs::remove(dataFile(layout));
+    fs::create_directory(dataFile(layout));
+    announceError("Error in RestoreShapes: #75, Path/File access error");
+    RestoreShapes(form);
+    EXPECT_TRUE(traced("Error in RestoreShapes: #75, Path/File access error"));
+    EXPECT_EQ(dataFileContent(setAside), "aside");
+}
+
+TEST_F(CheckPoint, BeforeTheFieldsExistTouchesNothing) {
+    wireOnly();
+    form.DataFolder = dataFolder;
+    writeLayout("untouched");
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent(layout), "untouched");
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+}
+
+} // namespace
+} // namespace zev::test
