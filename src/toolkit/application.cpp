@@ -28,7 +28,8 @@ int Application::run() {
     return QApplication::exec();
 }
 
-void Application::quit() { QCoreApplication::quit(); }
+/// Not the platform's quit, which asks each window whether it may be closed: that has been asked.
+void Application::quit() { QCoreApplication::exit(); }
 
 std::string Application::commandLine() const {
     return QCoreApplication::arguments().mid(1).join(u' ').toStdString();

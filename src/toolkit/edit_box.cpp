@@ -144,8 +144,7 @@ void EditBox::mouseReleaseEvent(QMouseEvent* event) {
     if (mouse_.isEnabled() && event->button() != Qt::RightButton)
         QLineEdit::mouseReleaseEvent(event);
     mouse_.release(*this, *event);
-    if (rect().contains(pixelUnder(*event, *this)))
-        mouse_.send(&Control::Click);
+    if (rect().contains(pixelUnder(*event, *this))) mouse_.send(&Control::Click);
     event->accept();
 }
 

@@ -26,7 +26,11 @@ void doEvents() {
 }
 
 void wait(int milliseconds) {
-    if (programOverrides().shortWaits || qApp == nullptr) return doEvents();
+    if (programOverrides().shortWaits || qApp == nullptr) {
+        doEvents();
+        if (programOverrides().duringWait) programOverrides().duringWait(milliseconds);
+        return;
+    }
     updateWindow();
     QEventLoop loop;
     QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);

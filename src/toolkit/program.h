@@ -50,6 +50,8 @@ struct ProgramOverrides {
     bool shortWaits = false;                   ///< wait() is over after one look at the events
     std::function<void(std::string)> launch{}; ///< gets what would be opened
     std::function<void()> beep{};              ///< instead of the sound
+    /// Sees each short wait, with the time that was asked for, once the events have run.
+    std::function<void(int milliseconds)> duringWait{};
 };
 void overrideProgram(ProgramOverrides overrides);
 

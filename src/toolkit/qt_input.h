@@ -15,8 +15,8 @@ namespace toolkit {
 [[nodiscard]] int buttonsOf(Qt::MouseButtons buttons);
 [[nodiscard]] int shiftOf(Qt::KeyboardModifiers modifiers);
 
-/// The whole pixel of the widget that the pointer is in. Worked out when it is asked for: the widget
-/// may have moved under the pointer since the event was made.
+/// The whole pixel of the widget that the pointer is in. Worked out when it is asked for: the
+/// widget may have moved under the pointer since the event was made.
 [[nodiscard]] QPoint pixelUnder(const QMouseEvent& event, const QWidget& widget);
 
 /// The virtual key code of a press or release; 255 for a key that has none.

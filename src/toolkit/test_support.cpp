@@ -61,9 +61,13 @@ void shiftWindow(int toTheRight, int down) {
     settle();
 }
 
-void closeWindow() {
+void requestClose() {
     QCloseEvent event;
     send(window().form(), event);
+}
+
+void closeWindow() {
+    requestClose();
     settle();
 }
 

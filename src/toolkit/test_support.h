@@ -45,7 +45,9 @@ bool chooseMenu(std::string_view captionPath);
 /// The player makes the window larger or shifts it, by pixels.
 void resizeWindow(int wider, int higher);
 void shiftWindow(int toTheRight, int down);
-/// Asks the window to close and lets the answer run.
+/// Asks the window to close; the answer waits in the queue.
+void requestClose();
+/// The same and lets the answer run.
 void closeWindow();
 /// Lets everything that waits in the queue run.
 void settle();

@@ -1,4 +1,4 @@
-// Message boxes, input boxes and pop-up menus, on the screen and answered by a test.
+// Message boxes, and input boxes, on the screen and answered by a test.
 #include "fixture.h"
 
 namespace window_test {
@@ -51,18 +51,6 @@ TEST_F(Dialog, InputBoxGivesWhatWasTypedWithoutControlCharacters) {
                                                                            "bar");
     EXPECT_EQ(seen.title, "My Name");
     EXPECT_EQ(seen.text, "Name?");
-}
-
-TEST_F(Dialog, PopupRunsTheChosenRow) {
-    MenuItem bold{.Caption = "Boldface"};
-    MenuItem italic{.Caption = "Italicize"};
-    const std::vector<PopupRow> rows{
-        {.item = &bold, .Click = [this] { note("bold"); }},
-        {},
-        {.item = &italic, .shortcut = "Ctrl+I", .Click = [this] { note("italic"); }}};
-    test::chooseInNextPopup(2);
-    popupMenu(rows);
-    EXPECT_EQ(log, (Log{"italic"}));
 }
 
 TEST_F(Dialog, TestAnswersInThePlayersPlace) {

@@ -16,6 +16,9 @@
 
 namespace window_test {
 
+/// The one of this process.
+extern toolkit::Application* application;
+
 using Log = std::vector<std::string>;
 
 /// Whole pixels as twips.

@@ -6,9 +6,9 @@ namespace {
 
 using namespace toolkit;
 
-class Menu : public WindowTest {
+class MenuBar : public WindowTest {
   protected:
-    Menu() {
+    MenuBar() {
         file.Caption = "&File";
         save.Caption = "&Save";
         more.Caption = "M&ore";
@@ -39,14 +39,14 @@ class Menu : public WindowTest {
     MenuItem readOut;
 };
 
-TEST_F(Menu, ChosenRowRuns) {
+TEST_F(MenuBar, ChosenRowRuns) {
     EXPECT_TRUE(test::chooseMenu("File>Save"));
     EXPECT_TRUE(test::chooseMenu("File>More>Deep & far"));
     EXPECT_TRUE(test::chooseMenu("Coordinates"));
     EXPECT_EQ(log, (Log{"save", "deep", "readOut"}));
 }
 
-TEST_F(Menu, DisabledHiddenOrUnknownRowCannotBeChosen) {
+TEST_F(MenuBar, DisabledHiddenOrUnknownRowCannotBeChosen) {
     save.Enabled = false;
     more.Visible = false;
     EXPECT_FALSE(test::chooseMenu("File>Save"));
@@ -57,12 +57,12 @@ TEST_F(Menu, DisabledHiddenOrUnknownRowCannotBeChosen) {
     EXPECT_EQ(log, Log{});
 }
 
-TEST_F(Menu, DisabledSubmenuHidesItsRows) {
+TEST_F(MenuBar, DisabledSubmenuHidesItsRows) {
     more.Enabled = false;
     EXPECT_FALSE(test::chooseMenu("File>More>Deep & far"));
 }
 
-TEST_F(Menu, MenuShowsTheCaptionsThatAreTrueWhenItOpens) {
+TEST_F(MenuBar, MenuShowsTheCaptionsThatAreTrueWhenItOpens) {
     EXPECT_TRUE(test::chooseMenu("File>Save"));
     save.Caption = "Save as";
     EXPECT_FALSE(test::chooseMenu("File>Save"));
@@ -71,19 +71,19 @@ TEST_F(Menu, MenuShowsTheCaptionsThatAreTrueWhenItOpens) {
     EXPECT_TRUE(test::chooseMenu("7: (1,2)"));
 }
 
-TEST_F(Menu, ChoosingARowLeavesItsCheckToTheProgram) {
+TEST_F(MenuBar, ChoosingARowLeavesItsCheckToTheProgram) {
     save.Checked = true;
     EXPECT_TRUE(test::chooseMenu("File>Save"));
     EXPECT_TRUE(save.Checked);
 }
 
-TEST_F(Menu, ShortcutRunsTheRowInsteadOfTheControlsKeyDown) {
+TEST_F(MenuBar, ShortcutRunsTheRowInsteadOfTheControlsKeyDown) {
     openBox("abc");
     test::typeKey('S', shift::ctrl);
     EXPECT_EQ(log, (Log{"form.KeyDown 83/2", "save", "box.KeyUp 83/2"}));
 }
 
-TEST_F(Menu, ShortcutNeedsItsRowShownAndEnabled) {
+TEST_F(MenuBar, ShortcutNeedsItsRowShownAndEnabled) {
     EXPECT_EQ(acts('S'), 1);
     save.Enabled = false;
     EXPECT_EQ(acts('S'), 0);
@@ -92,7 +92,7 @@ TEST_F(Menu, ShortcutNeedsItsRowShownAndEnabled) {
     EXPECT_EQ(acts('S'), 0);
 }
 
-TEST_F(Menu, ShortcutNeedsAllMenusAroundItShownAndEnabled) {
+TEST_F(MenuBar, ShortcutNeedsAllMenusAroundItShownAndEnabled) {
     EXPECT_EQ(acts('D'), 1);
     more.Enabled = false;
     EXPECT_EQ(acts('D'), 0);
@@ -104,25 +104,27 @@ TEST_F(Menu, ShortcutNeedsAllMenusAroundItShownAndEnabled) {
     EXPECT_EQ(acts('D'), 0);
 }
 
-TEST_F(Menu, InactiveShortcutGoesOnToTheControl) {
+TEST_F(MenuBar, InactiveShortcutGoesOnToTheControl) {
     save.Enabled = false;
     test::typeKey('S', shift::ctrl);
     EXPECT_EQ(times("card.KeyDown 83/2"), 1);
     EXPECT_EQ(times("card.KeyPress 19"), 1);
 }
 
-TEST_F(Menu, KeyConsumedByTheFormRunsNoShortcut) {
+TEST_F(MenuBar, KeyConsumedByTheFormRunsNoShortcut) {
     form.KeyDown = [](KeyArguments& key) { key.KeyCode = 0; };
     EXPECT_EQ(acts('S'), 0);
 }
 
-TEST_F(Menu, OtherModifiersAreAnotherKey) {
+TEST_F(MenuBar, OtherModifiersAreAnotherKey) {
     test::typeKey('S', shift::ctrl + shift::shift);
     EXPECT_EQ(times("save"), 0);
     EXPECT_EQ(times("card.KeyDown 83/3"), 1);
 }
 
-TEST_F(Menu, BarCountsAsPartOfTheFrame) { EXPECT_GT(form.FrameHeight - form.FrameWidth, px(10)); }
+TEST_F(MenuBar, BarCountsAsPartOfTheFrame) {
+    EXPECT_GT(form.FrameHeight - form.FrameWidth, px(10));
+}
 
 } // namespace
 } // namespace window_test

@@ -1,4 +1,4 @@
-// The form's place, frame and background.
+// What the form paints behind its controls.
 #include "fixture.h"
 
 namespace window_test {
@@ -6,7 +6,7 @@ namespace {
 
 using namespace toolkit;
 
-class FormPlace : public WindowTest {
+class FormArea : public WindowTest {
   protected:
     /// A pixel of the form's inside, right of and below the card.
     std::optional<Color> inside(const Bitmap& shown, int x, int y) const {
@@ -14,40 +14,7 @@ class FormPlace : public WindowTest {
     }
 };
 
-TEST_F(FormPlace, OuterSizeIsTheInsideAndTheFrame) {
-    const Bitmap shown = test::grabWindow();
-    EXPECT_EQ(px(shown.width()), form.Width - form.FrameWidth);
-    EXPECT_EQ(form.ScaleWidth(), px(shown.width()));
-    EXPECT_LT(form.ScaleHeight(), px(shown.height()) + 1);
-}
-
-TEST_F(FormPlace, ValuesStayExactlyAsSet) {
-    form.Left = px(33) + 4;
-    form.Width = px(500) + 7;
-    test::settle();
-    test::moveMouse(px(5), px(5));
-    EXPECT_EQ(form.Left, px(33) + 4);
-    EXPECT_EQ(form.Width, px(500) + 7);
-    EXPECT_EQ(test::grabWindow().width(), 500 - static_cast<int>(form.FrameWidth / px(1)));
-}
-
-TEST_F(FormPlace, SizeGivenByThePlayerGoesIntoTheValues) {
-    test::resizeWindow(20, 10);
-    test::moveMouse(px(5), px(5));
-    EXPECT_EQ(form.Width, px(660));
-    EXPECT_EQ(form.Height, px(490));
-    EXPECT_EQ(form.Left, px(50));
-}
-
-TEST_F(FormPlace, PlaceGivenByThePlayerGoesIntoTheValues) {
-    test::shiftWindow(7, -3);
-    test::moveMouse(px(5), px(5));
-    EXPECT_EQ(form.Left, px(57));
-    EXPECT_EQ(form.Top, px(57));
-    EXPECT_EQ(form.Width, px(640));
-}
-
-TEST_F(FormPlace, CardMayLieOutsideTheForm) {
+TEST_F(FormArea, CardMayLieOutsideTheForm) {
     card.Left = -px(100);
     card.Top = -px(50);
     card.Picture = std::make_shared<Bitmap>(400, 300, rgb(1, 2, 3));
@@ -57,7 +24,7 @@ TEST_F(FormPlace, CardMayLieOutsideTheForm) {
     EXPECT_EQ(inside(shown, 299, 250), form.BackColor);
 }
 
-TEST_F(FormPlace, BackgroundIsTiledBelowItsOffset) {
+TEST_F(FormArea, BackgroundIsTiledBelowItsOffset) {
     auto tile = std::make_shared<Bitmap>(10, 10, rgb(10, 20, 30));
     tile->setPixel(0, 0, rgb(200, 0, 0));
     form.Background = {.backdrop = Backdrop::Tiles, .tile = tile, .tileScale = 1, .yOffset = px(5)};
@@ -69,7 +36,7 @@ TEST_F(FormPlace, BackgroundIsTiledBelowItsOffset) {
     EXPECT_EQ(inside(shown, 451, 5), rgb(10, 20, 30));
 }
 
-TEST_F(FormPlace, GradientRunsFromTopToBottomOfThePresentSize) {
+TEST_F(FormArea, GradientRunsFromTopToBottomOfThePresentSize) {
     form.Background = {
         .backdrop = Backdrop::Gradient, .top = rgb(208, 224, 255), .bottom = rgb(144, 154, 255)};
     const Bitmap shown = test::grabWindow();
@@ -82,7 +49,7 @@ TEST_F(FormPlace, GradientRunsFromTopToBottomOfThePresentSize) {
     EXPECT_NEAR(redOf(inside(shown, 500, height - 1).value_or(black)), 144, 1);
 }
 
-TEST_F(FormPlace, TextStandsInTheBottomLeftCorner) {
+TEST_F(FormArea, TextStandsInTheBottomLeftCorner) {
     form.Background.text = "HHHH";
     const Bitmap shown = test::grabWindow();
     const FontSpec font{.Name = "Arial", .Size = 8, .Bold = true};

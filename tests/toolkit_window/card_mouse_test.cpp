@@ -5,70 +5,38 @@ namespace window_test {
 namespace {
 
 using namespace toolkit;
-namespace button = toolkit::button;
 
-class Mouse : public WindowTest {};
+class CardMouse : public WindowTest {};
 
-TEST_F(Mouse, ClickOnTheCardComesAsMoveDownUpClick) {
+TEST_F(CardMouse, ClickOnTheCardComesAsMoveDownUpClick) {
     test::click(px(30), px(40));
     EXPECT_EQ(log, (Log{"card.MouseMove B=0 S=0 X=30 Y=40", "card.GotFocus",
                         "card.MouseDown B=1 S=0 X=30 Y=40", "card.MouseUp B=1 S=0 X=30 Y=40",
                         "card.Click"}));
 }
 
-TEST_F(Mouse, ClickOnALabelGoesToTheLabelWithItsOwnCoordinates) {
+TEST_F(CardMouse, ClickOnALabelGoesToTheLabelWithItsOwnCoordinates) {
     place(texts[2], 100, 50, 40, 20);
     test::click(px(110), px(55));
     EXPECT_EQ(log, (Log{"text2.MouseMove B=0 S=0 X=10 Y=5", "text2.MouseDown B=1 S=0 X=10 Y=5",
                         "text2.MouseUp B=1 S=0 X=10 Y=5", "text2.Click"}));
 }
 
-TEST_F(Mouse, RightAndMiddleButtonClickToo) {
-    place(marks[1], 10, 10, 20, 20);
-    test::click(px(15), px(15), button::right);
-    test::click(px(15), px(15), button::middle);
-    EXPECT_EQ(times("mark1.Click"), 2);
-    EXPECT_EQ(times("mark1.MouseDown B=2 S=0 X=5 Y=5"), 1);
-    EXPECT_EQ(times("mark1.MouseUp B=4 S=0 X=5 Y=5"), 1);
-}
-
-TEST_F(Mouse, SecondPressOfADoubleClickIsAPressAndAClick) {
+TEST_F(CardMouse, SecondPressOfADoubleClickIsAPressAndAClick) {
     place(marks[1], 10, 10, 20, 20);
     test::doubleClick(px(15), px(15));
     EXPECT_EQ(times("mark1.MouseDown B=1 S=0 X=5 Y=5"), 2);
     EXPECT_EQ(times("mark1.Click"), 2);
 }
 
-TEST_F(Mouse, ModifiersComeAsOneTwoFour) {
-    for (const int held : {shift::shift, shift::ctrl, shift::alt, 7}) {
-        log.clear();
-        test::pressMouse(px(30), px(40), button::left, held);
-        test::releaseMouse(px(30), px(40), button::left, held);
-        ASSERT_FALSE(log.empty());
-        EXPECT_EQ(log.back(), "card.Click");
-        EXPECT_EQ(log[log.size() - 2], "card.MouseUp B=1 S=" + std::to_string(held) + " X=30 Y=40");
-    }
-}
-
-TEST_F(Mouse, MoveBringsTheSumOfTheButtonsHeld) {
-    test::pressMouse(px(30), px(40), button::left);
-    test::pressMouse(px(30), px(40), button::right);
-    test::moveMouse(px(31), px(40), button::left + button::right);
-    EXPECT_EQ(log.back(), "card.MouseMove B=3 S=0 X=31 Y=40");
-    test::releaseMouse(px(31), px(40), button::left);
-    test::moveMouse(px(32), px(40), button::right);
-    EXPECT_EQ(log.back(), "card.MouseMove B=2 S=0 X=32 Y=40");
-    test::releaseMouse(px(32), px(40), button::right);
-}
-
-TEST_F(Mouse, PressOnTheCardIsPrecededByAMoveThere) {
+TEST_F(CardMouse, PressOnTheCardIsPrecededByAMoveThere) {
     test::pressMouse(px(30), px(40));
     test::releaseMouse(px(30), px(40));
     ASSERT_GE(log.size(), 1U);
     EXPECT_EQ(log.front(), "card.MouseMove B=0 S=0 X=30 Y=40");
 }
 
-TEST_F(Mouse, NoMovePrecedesAPressWhereThePointerRests) {
+TEST_F(CardMouse, NoMovePrecedesAPressWhereThePointerRests) {
     test::moveMouse(px(30), px(40));
     log.clear();
     test::pressMouse(px(30), px(40));
@@ -76,7 +44,7 @@ TEST_F(Mouse, NoMovePrecedesAPressWhereThePointerRests) {
     EXPECT_EQ(times("card.MouseMove B=0 S=0 X=30 Y=40"), 0);
 }
 
-TEST_F(Mouse, MovePrecedesTheNextPressAtTheSamePlace) {
+TEST_F(CardMouse, MovePrecedesTheNextPressAtTheSamePlace) {
     test::click(px(30), px(40));
     log.clear();
     test::pressMouse(px(30), px(40), button::right);
@@ -84,7 +52,7 @@ TEST_F(Mouse, MovePrecedesTheNextPressAtTheSamePlace) {
     EXPECT_EQ(log.front(), "card.MouseMove B=0 S=0 X=30 Y=40");
 }
 
-TEST_F(Mouse, MovePrecedesAPressAfterTheLabelUnderThePointerWasHidden) {
+TEST_F(CardMouse, MovePrecedesAPressAfterTheLabelUnderThePointerWasHidden) {
     place(marks[1], 10, 10, 20, 20);
     test::click(px(15), px(15));
     marks[1].Visible = false;
@@ -94,7 +62,7 @@ TEST_F(Mouse, MovePrecedesAPressAfterTheLabelUnderThePointerWasHidden) {
     EXPECT_EQ(log.front(), "card.MouseMove B=0 S=0 X=15 Y=15");
 }
 
-TEST_F(Mouse, MovePrecedesAPressAfterTheCardMovedUnderThePointer) {
+TEST_F(CardMouse, MovePrecedesAPressAfterTheCardMovedUnderThePointer) {
     test::moveMouse(px(30), px(40));
     card.Left -= px(7);
     log.clear();
@@ -103,7 +71,7 @@ TEST_F(Mouse, MovePrecedesAPressAfterTheCardMovedUnderThePointer) {
     EXPECT_EQ(log.front(), "card.MouseMove B=0 S=0 X=37 Y=40");
 }
 
-TEST_F(Mouse, LabelThatWasPressedKeepsTheMovesAndTheRelease) {
+TEST_F(CardMouse, LabelThatWasPressedKeepsTheMovesAndTheRelease) {
     place(texts[1], 100, 50, 40, 20);
     test::pressMouse(px(110), px(55));
     test::moveMouse(px(10), px(5), button::left);
@@ -112,7 +80,7 @@ TEST_F(Mouse, LabelThatWasPressedKeepsTheMovesAndTheRelease) {
     EXPECT_EQ(log.back(), "text1.MouseUp B=1 S=0 X=-90 Y=-45");
 }
 
-TEST_F(Mouse, MovesOfADraggedLabelAreMeasuredFromWhereItIsNow) {
+TEST_F(CardMouse, MovesOfADraggedLabelAreMeasuredFromWhereItIsNow) {
     place(texts[1], 100, 50, 40, 20);
     test::pressMouse(px(110), px(55));
     texts[1].Left += px(30);
@@ -121,7 +89,7 @@ TEST_F(Mouse, MovesOfADraggedLabelAreMeasuredFromWhereItIsNow) {
     test::releaseMouse(px(140), px(55));
 }
 
-TEST_F(Mouse, DragOfTheCardKeepsTheGrabPointUnderThePointer) {
+TEST_F(CardMouse, DragOfTheCardKeepsTheGrabPointUnderThePointer) {
     card.MouseMove = [this](MouseArguments& mouse) {
         note(text(mouse));
         if (mouse.Button == button::left) card.Left += mouse.X - px(30);
@@ -137,21 +105,21 @@ TEST_F(Mouse, DragOfTheCardKeepsTheGrabPointUnderThePointer) {
     test::releaseMouse(px(30), px(40));
 }
 
-TEST_F(Mouse, ReleaseOutsideTheLabelIsNoClick) {
+TEST_F(CardMouse, ReleaseOutsideTheLabelIsNoClick) {
     place(texts[1], 100, 50, 40, 20);
     test::pressMouse(px(110), px(55));
     test::releaseMouse(px(140), px(55));
     EXPECT_EQ(log.back(), "text1.MouseUp B=1 S=0 X=40 Y=5");
 }
 
-TEST_F(Mouse, ReleaseOverALabelStillClicksThePressedCard) {
+TEST_F(CardMouse, ReleaseOverALabelStillClicksThePressedCard) {
     place(texts[1], 100, 50, 40, 20);
     test::pressMouse(px(30), px(40));
     test::releaseMouse(px(110), px(55));
     EXPECT_EQ(log.back(), "card.Click");
 }
 
-TEST_F(Mouse, ReleaseOutsideTheCardIsNoClick) {
+TEST_F(CardMouse, ReleaseOutsideTheCardIsNoClick) {
     test::pressMouse(px(30), px(40));
     test::releaseMouse(px(-1), px(40));
     EXPECT_EQ(log.back(), "card.MouseUp B=1 S=0 X=-1 Y=40");
@@ -160,7 +128,7 @@ TEST_F(Mouse, ReleaseOutsideTheCardIsNoClick) {
     EXPECT_EQ(log.back(), "card.MouseUp B=1 S=0 X=400 Y=40");
 }
 
-TEST_F(Mouse, LabelHiddenWhilePressedIsNotClicked) {
+TEST_F(CardMouse, LabelHiddenWhilePressedIsNotClicked) {
     place(marks[1], 10, 10, 20, 20);
     test::pressMouse(px(15), px(15));
     marks[1].Visible = false;
@@ -168,7 +136,7 @@ TEST_F(Mouse, LabelHiddenWhilePressedIsNotClicked) {
     EXPECT_EQ(log.back(), "mark1.MouseUp B=1 S=0 X=5 Y=5");
 }
 
-TEST_F(Mouse, LabelUnloadedWhilePressedGetsNothingMore) {
+TEST_F(CardMouse, LabelUnloadedWhilePressedGetsNothingMore) {
     place(marks[3], 10, 10, 20, 20);
     test::pressMouse(px(15), px(15));
     log.clear();
@@ -178,50 +146,18 @@ TEST_F(Mouse, LabelUnloadedWhilePressedGetsNothingMore) {
     EXPECT_EQ(log, Log{});
 }
 
-TEST_F(Mouse, SingleLabelSwallowsThePress) {
+TEST_F(CardMouse, SingleLabelSwallowsThePress) {
     place(stamp, 10, 10, 20, 20);
     test::click(px(15), px(15));
     EXPECT_EQ(log, Log{});
 }
 
-TEST_F(Mouse, DisabledCardGetsNothingAndNeitherDoItsLabels) {
+TEST_F(CardMouse, DisabledCardGetsNothingAndNeitherDoItsLabels) {
     place(marks[1], 10, 10, 20, 20);
     card.Enabled = false;
     test::click(px(15), px(15));
     test::click(px(100), px(100));
     EXPECT_EQ(log, Log{});
-}
-
-TEST_F(Mouse, PlacesAreRoundedDownToWholePixels) {
-    test::pressMouse(px(30) + 14, px(40) + 14);
-    EXPECT_EQ(log.back(), "card.MouseDown B=1 S=0 X=30 Y=40");
-    test::releaseMouse(-1, -1);
-    EXPECT_EQ(log.back(), "card.MouseUp B=1 S=0 X=-1 Y=-1");
-}
-
-TEST_F(Mouse, CursorPositionFollowsThePointer) {
-    test::moveMouse(px(30), px(40));
-    const CursorPosition before = cursorPosition();
-    test::moveMouse(px(34), px(41));
-    EXPECT_EQ(cursorPosition().x - before.x, 4);
-    EXPECT_EQ(cursorPosition().y - before.y, 1);
-}
-
-TEST_F(Mouse, FailureInAHandlerIsReportedAndTheNextEventComes) {
-    card.MouseDown = [](MouseArguments&) { throw RunTimeError(Failure::Overflow); };
-    test::click(px(30), px(40));
-    EXPECT_EQ(log.back(), "card.Click");
-    EXPECT_EQ(times("Unhandled 6"), 1);
-}
-
-TEST_F(Mouse, EndOfTheProgramReachesTheTest) {
-    overrideProgram({.throwAtEnd = true});
-    card.Click = [] { endProgram(); };
-    EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
-    // It came once; the next event goes its usual way.
-    card.Click = [this] { note("again"); };
-    test::click(px(30), px(40));
-    EXPECT_EQ(log.back(), "again");
 }
 
 } // namespace

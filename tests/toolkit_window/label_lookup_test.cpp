@@ -6,7 +6,7 @@ namespace {
 
 using namespace toolkit;
 
-class Hit : public WindowTest {
+class LabelLookup : public WindowTest {
   protected:
     /// Who gets the press: "mark1", "text2", "card"; empty for no one.
     std::string at(int x, int y) {
@@ -21,7 +21,7 @@ class Hit : public WindowTest {
     }
 };
 
-TEST_F(Hit, LeftAndTopEdgeBelongToTheLabelRightAndBottomDoNot) {
+TEST_F(LabelLookup, LeftAndTopEdgeBelongToTheLabelRightAndBottomDoNot) {
     place(marks[1], 50, 60, 20, 10);
     EXPECT_EQ(at(50, 60), "mark1");
     EXPECT_EQ(at(69, 69), "mark1");
@@ -31,7 +31,7 @@ TEST_F(Hit, LeftAndTopEdgeBelongToTheLabelRightAndBottomDoNot) {
     EXPECT_EQ(at(60, 70), "card");
 }
 
-TEST_F(Hit, EdgesAreRoundedToTheNearestPixelEachByItself) {
+TEST_F(LabelLookup, EdgesAreRoundedToTheNearestPixelEachByItself) {
     marks[1].Visible = true;
     // 50.4 to 70.6 pixels across, 60.6 to 70.4 down.
     const float tenth = px(1) / 10;
@@ -43,7 +43,7 @@ TEST_F(Hit, EdgesAreRoundedToTheNearestPixelEachByItself) {
     EXPECT_EQ(at(60, 70), "card");
 }
 
-TEST_F(Hit, HigherInTheStackWins) {
+TEST_F(LabelLookup, HigherInTheStackWins) {
     place(marks[1], 50, 60, 20, 20, 5);
     place(marks[2], 60, 60, 20, 20, 4);
     place(texts[1], 65, 60, 20, 20, 6);
@@ -54,7 +54,7 @@ TEST_F(Hit, HigherInTheStackWins) {
     EXPECT_EQ(at(67, 65), "mark2");
 }
 
-TEST_F(Hit, AmongEqualsTheLaterGroupAndTheHigherIndexWin) {
+TEST_F(LabelLookup, AmongEqualsTheLaterGroupAndTheHigherIndexWin) {
     place(marks[1], 50, 60, 20, 20);
     place(marks[2], 50, 60, 20, 20);
     EXPECT_EQ(at(55, 65), "mark2");
@@ -62,20 +62,20 @@ TEST_F(Hit, AmongEqualsTheLaterGroupAndTheHigherIndexWin) {
     EXPECT_EQ(at(55, 65), "text1");
 }
 
-TEST_F(Hit, HiddenLabelLetsThePressThrough) {
+TEST_F(LabelLookup, HiddenLabelLetsThePressThrough) {
     place(marks[1], 50, 60, 20, 20);
     marks[1].Visible = false;
     EXPECT_EQ(at(55, 65), "card");
 }
 
-TEST_F(Hit, LabelPartlyOutsideTheCardIsHitOnTheCard) {
+TEST_F(LabelLookup, LabelPartlyOutsideTheCardIsHitOnTheCard) {
     place(marks[1], -10, -10, 20, 20);
     EXPECT_EQ(at(0, 0), "mark1");
     EXPECT_EQ(at(9, 9), "mark1");
     EXPECT_EQ(at(10, 9), "card");
 }
 
-TEST_F(Hit, EditBoxLiesOverTheLabels) {
+TEST_F(LabelLookup, EditBoxLiesOverTheLabels) {
     place(texts[1], 20, 20, 120, 20, 1000);
     openBox("abc");
     EXPECT_EQ(at(30, 30), "box");
@@ -83,7 +83,7 @@ TEST_F(Hit, EditBoxLiesOverTheLabels) {
     EXPECT_EQ(at(30, 30), "text1");
 }
 
-TEST_F(Hit, ListLiesOverTheCard) {
+TEST_F(LabelLookup, ListLiesOverTheCard) {
     list.Move(px(100), px(100), px(80), px(80));
     list.List = {"one"};
     list.Visible = true;

@@ -1,0 +1,81 @@
+// Failures and the end of the program in handlers, and a close in the middle of one.
+#include "fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class Delivery : public WindowTest {};
+
+TEST_F(Delivery, FailureInAHandlerIsReportedAndTheNextEventComes) {
+    card.MouseDown = [](MouseArguments&) { throw RunTimeError(Failure::Overflow); };
+    test::click(px(30), px(40));
+    EXPECT_EQ(log.back(), "card.Click");
+    EXPECT_EQ(times("Unhandled 6"), 1);
+}
+
+TEST_F(Delivery, EndOfTheProgramReachesTheTest) {
+    overrideProgram({.throwAtEnd = true});
+    card.Click = [] { endProgram(); };
+    EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
+    // It came once; the next event goes its usual way.
+    card.Click = [this] { note("again"); };
+    test::click(px(30), px(40));
+    EXPECT_EQ(log.back(), "again");
+}
+
+TEST_F(Delivery, IsAskedOnceAndARefusalKeepsTheWindow) {
+    form.QueryClose = [this] {
+        note("asked");
+        return true;
+    };
+    test::closeWindow();
+    EXPECT_EQ(log, (Log{"asked"}));
+    EXPECT_TRUE(test::isShown(card));
+    test::closeWindow();
+    EXPECT_EQ(times("asked"), 2);
+}
+
+TEST_F(Delivery, WaitsForTheRunningProcedure) {
+    form.QueryClose = [this] {
+        note("asked");
+        return true;
+    };
+    card.Click = [this] {
+        test::closeWindow();
+        doEvents();
+        wait(1);
+        note("procedure over");
+    };
+    test::click(px(30), px(40));
+    log.clear();
+    test::settle();
+    EXPECT_EQ(log, (Log{"asked"}));
+}
+
+TEST_F(Delivery, ProcedureIsOverBeforeTheQuestion) {
+    form.QueryClose = [this] {
+        note("asked");
+        return true;
+    };
+    card.MouseDown = [this](MouseArguments&) {
+        test::closeWindow();
+        test::settle();
+        note("down over");
+    };
+    test::click(px(30), px(40));
+    test::settle();
+    EXPECT_EQ(times("asked"), 1);
+    EXPECT_LT(std::find(log.begin(), log.end(), "down over"),
+              std::find(log.begin(), log.end(), "asked"));
+}
+
+TEST_F(Delivery, EndInTheQuestionReachesTheTest) {
+    overrideProgram({.throwAtEnd = true});
+    form.QueryClose = []() -> bool { endProgram(); };
+    EXPECT_THROW(test::closeWindow(), ProgramEnded);
+}
+
+} // namespace
+} // namespace window_test

@@ -1,0 +1,46 @@
+// The window of the form: its menu bar above, its inside below.
+#include "fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class FormWidget : public WindowTest {
+  protected:
+    FormWidget() {
+        file.Caption = "File";
+        menu = {{.level = 0, .item = &file}};
+    }
+
+    MenuItem file;
+};
+
+TEST_F(FormWidget, InsideBeginsBelowTheMenuBar) {
+    card.Move(0, 0, px(50), px(50));
+    card.Picture = std::make_shared<Bitmap>(50, 50, rgb(1, 2, 3));
+    const Bitmap shown = test::grabWindow();
+    const int bar = shown.height() - static_cast<int>(form.ScaleHeight() / px(1));
+    ASSERT_GT(bar, 10);
+    EXPECT_NE(shown.pixel(25, bar - 1), rgb(1, 2, 3));
+    EXPECT_EQ(shown.pixel(25, bar), rgb(1, 2, 3));
+    EXPECT_EQ(shown.pixel(49, bar + 49), rgb(1, 2, 3));
+    EXPECT_EQ(shown.pixel(50, bar + 49), form.BackColor);
+}
+
+TEST_F(FormWidget, InsideGrowsWithTheWindow) {
+    const float before = form.ScaleHeight();
+    form.Height += px(30);
+    test::settle();
+    EXPECT_EQ(form.ScaleHeight(), before + px(30));
+    EXPECT_EQ(test::grabWindow().pixel(5, test::grabWindow().height() - 1), form.BackColor);
+}
+
+TEST_F(FormWidget, IsShownAndHiddenByItsValue) {
+    EXPECT_TRUE(test::isShown(card));
+    form.Visible = false;
+    EXPECT_FALSE(test::isShown(card));
+}
+
+} // namespace
+} // namespace window_test

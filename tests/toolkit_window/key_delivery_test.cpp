@@ -1,0 +1,78 @@
+// The way of a key: form, menu, control, character, control's own handling.
+#include "fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class KeyDelivery : public WindowTest {};
+
+TEST_F(KeyDelivery, FormComesFirstThenDownPressUpOfTheControl) {
+    openBox("");
+    test::typeKey('A');
+    EXPECT_EQ(log,
+              (Log{"form.KeyDown 65/0", "box.KeyDown 65/0", "box.KeyPress 97", "box.KeyUp 65/0"}));
+    EXPECT_EQ(box.Text, "a");
+}
+
+TEST_F(KeyDelivery, ConsumedByTheFormStillBringsKeyUp) {
+    openBox("");
+    form.KeyDown = [](KeyArguments& key) { key.KeyCode = 0; };
+    test::typeKey('A');
+    EXPECT_EQ(log, (Log{"box.KeyUp 65/0"}));
+    EXPECT_EQ(box.Text, "");
+}
+
+TEST_F(KeyDelivery, ConsumedByTheControlGivesNoCharacter) {
+    openBox("");
+    box.KeyDown = [](KeyArguments& key) { key.KeyCode = 0; };
+    test::typeKey('A');
+    EXPECT_EQ(log, (Log{"form.KeyDown 65/0", "box.KeyUp 65/0"}));
+    EXPECT_EQ(box.Text, "");
+}
+
+TEST_F(KeyDelivery, CharacterSetToZeroIsSwallowed) {
+    openBox("");
+    box.KeyPress = [](int& character) { character = 0; };
+    test::typeKey('A');
+    EXPECT_EQ(box.Text, "");
+    EXPECT_EQ(log.back(), "box.KeyUp 65/0");
+}
+
+TEST_F(KeyDelivery, TabInABoxStaysThere) {
+    openBox("abc");
+    otherBox.Move(px(20), px(60), px(120), px(20));
+    otherBox.Visible = true;
+    test::typeKey(key::tab);
+    test::typeKey(key::tab, shift::shift);
+    EXPECT_TRUE(test::hasPlatformFocus(box));
+    EXPECT_EQ(box.Text, "abc");
+    EXPECT_EQ(times("box.KeyDown 9/0"), 1);
+    EXPECT_EQ(times("box.KeyDown 9/1"), 1);
+    EXPECT_EQ(times("box.LostFocus"), 0);
+}
+
+TEST_F(KeyDelivery, RepetitionIsToldAndReleasesNothing) {
+    card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
+    test::pressKey('A');
+    test::repeatKey('A');
+    test::releaseKey('A');
+    EXPECT_EQ(times("pressed"), 1);
+    EXPECT_EQ(times("repeated"), 1);
+    EXPECT_EQ(times("card.KeyUp 65/0"), 1);
+    EXPECT_FALSE(isKeyRepeat());
+}
+
+TEST_F(KeyDelivery, KeyReachesItsHandlersOnce) {
+    openBox("");
+    // No box takes Escape or Enter by itself; neither may climb to the card behind.
+    test::typeKey(key::escape);
+    test::typeKey(key::enter);
+    EXPECT_EQ(times("form.KeyDown 27/0"), 1);
+    EXPECT_EQ(times("form.KeyDown 13/0"), 1);
+    EXPECT_EQ(times("card.KeyDown 27/0"), 0);
+}
+
+} // namespace
+} // namespace window_test

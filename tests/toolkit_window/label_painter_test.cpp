@@ -1,0 +1,101 @@
+// A label, pixel by pixel.
+#include "painting.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+using LabelPainter = PaintTest;
+
+TEST_F(LabelPainter, OpaqueLabelFillsExactlyItsPixels) {
+    block(marks[1], 50, 60, 20, 10, red);
+    const Bitmap shown = test::grabCard();
+    EXPECT_EQ(shown.pixel(50, 60), red);
+    EXPECT_EQ(shown.pixel(69, 69), red);
+    EXPECT_EQ(shown.pixel(49, 60), white);
+    EXPECT_EQ(shown.pixel(50, 59), white);
+    EXPECT_EQ(shown.pixel(70, 69), white);
+    EXPECT_EQ(shown.pixel(69, 70), white);
+}
+
+TEST_F(LabelPainter, EdgesBetweenPixelsAreRoundedToNearest) {
+    block(marks[1], 50, 60, 20, 10, red);
+    const float tenth = px(1) / 10;
+    marks[1].Move(px(50) + 6 * tenth, px(60) + 4 * tenth, px(20), px(10));
+    const Ink ink = inkOf(test::grabCard());
+    EXPECT_EQ(ink.left, 51);
+    EXPECT_EQ(ink.right, 70);
+    EXPECT_EQ(ink.top, 60);
+    EXPECT_EQ(ink.bottom, 69);
+}
+
+TEST_F(LabelPainter, NeighboursAtFractionsMeetWithoutAGap) {
+    const float third = px(1) / 3;
+    for (int index = 1; index <= 2; ++index) {
+        block(marks[index], 0, 10, 10, 10, red);
+        marks[index].Left = px(10) + static_cast<float>(index - 1) * (px(10) + third);
+        marks[index].Width = px(10) + third;
+    }
+    const Bitmap shown = test::grabCard();
+    for (int x = 10; x < 31; ++x) EXPECT_EQ(shown.pixel(x, 15), red) << x;
+    EXPECT_EQ(shown.pixel(31, 15), white);
+}
+
+TEST_F(LabelPainter, TextIsPaintedAsDrawTextPaintsIt) {
+    place(texts[1], 50, 60, 200, 30);
+    write(texts[1], "Weak", Alignment::Left);
+    Bitmap expected(400, 300);
+    drawText(expected, 50, 60, texts[1].Font, black, "Weak");
+    const Bitmap shown = test::grabCard();
+    for (int y = 0; y < 300; ++y)
+        for (int x = 0; x < 400; ++x) ASSERT_EQ(shown.pixel(x, y), expected.pixel(x, y));
+    EXPECT_GT(inkOf(shown).right, 60);
+}
+
+TEST_F(LabelPainter, CentredAndRightTextStandWhereTheirWidthsPutThem) {
+    place(texts[1], 50, 60, 200, 30);
+    write(texts[1], "HHHH", Alignment::Left);
+    const Ink left = inkOf(test::grabCard());
+    const float width = textWidth(texts[1].Font, "HHHH") / px(1);
+    texts[1].Alignment = Alignment::Right;
+    const Ink right = inkOf(test::grabCard());
+    EXPECT_NEAR(right.left - left.left, 200 - width, 1);
+    texts[1].Alignment = Alignment::Center;
+    const Ink centre = inkOf(test::grabCard());
+    EXPECT_NEAR(centre.left - left.left, (200 - width) / 2, 1);
+    EXPECT_EQ(centre.top, left.top);
+}
+
+TEST_F(LabelPainter, TrailingBlanksPushCentredTextToTheLeft) {
+    place(texts[1], 50, 60, 200, 30);
+    write(texts[1], "HHHH", Alignment::Center);
+    const Ink bare = inkOf(test::grabCard());
+    texts[1].Caption = "HHHH    ";
+    const Ink blanks = inkOf(test::grabCard());
+    const float shift = textWidth(texts[1].Font, "    ") / px(1) / 2;
+    EXPECT_NEAR(bare.left - blanks.left, shift, 1);
+}
+
+TEST_F(LabelPainter, DoubledAmpersandPaintsOne) {
+    place(texts[1], 50, 60, 200, 30);
+    write(texts[1], "H&&H", Alignment::Left);
+    const Ink doubled = inkOf(test::grabCard());
+    const float width = textWidth(texts[1].Font, "H&H") / px(1);
+    EXPECT_NEAR(doubled.right - 50, width, 2);
+}
+
+TEST_F(LabelPainter, TextTooWideIsCutOffAtTheLabelUnlessItMayOverflow) {
+    place(texts[1], 100, 60, 30, 30);
+    write(texts[1], "HHHHHHHH", Alignment::Center);
+    const Ink cut = inkOf(test::grabCard());
+    EXPECT_GE(cut.left, 100);
+    EXPECT_LT(cut.right, 130);
+    texts[1].Clips = false;
+    const Ink overflowing = inkOf(test::grabCard());
+    EXPECT_LT(overflowing.left, 95);
+    EXPECT_GT(overflowing.right, 135);
+}
+
+} // namespace
+} // namespace window_test

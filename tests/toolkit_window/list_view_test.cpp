@@ -1,0 +1,100 @@
+// What mouse and keys do to a list.
+#include "list_fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+using ListView = ListTest;
+
+TEST_F(ListView, FocusAloneMakesNoRowCurrent) {
+    openList({"one", "two"});
+    form.SetFocus(list);
+    window->update();
+    EXPECT_TRUE(test::hasPlatformFocus(list));
+    EXPECT_EQ(list.ListIndex, -1);
+}
+
+TEST_F(ListView, ClickMakesTheRowCurrentAndComesAsAnEvent) {
+    openList({"one", "two", "three"});
+    int current = -2;
+    list.Click = [&] { current = list.ListIndex; };
+    test::click(px(110), middleOfRow(1));
+    EXPECT_EQ(current, 1);
+    EXPECT_EQ(list.ListIndex, 1);
+}
+
+TEST_F(ListView, ClickBelowTheLastRowIsNone) {
+    openList({"one"});
+    test::click(px(110), middleOfRow(3));
+    EXPECT_EQ(times("list.Click"), 0);
+    EXPECT_EQ(list.PointedIndex, -1);
+}
+
+TEST_F(ListView, ArrowMovesTheCurrentRowAndClicks) {
+    openList({"one", "two", "three"});
+    list.ListIndex = 0;
+    form.SetFocus(list);
+    test::typeKey(key::down);
+    EXPECT_EQ(list.ListIndex, 1);
+    EXPECT_EQ(times("list.Click"), 1);
+    test::typeKey(key::home);
+    EXPECT_EQ(list.ListIndex, 0);
+}
+
+TEST_F(ListView, EnterAndEscapeComeAsCharacters) {
+    openList({"one"});
+    form.SetFocus(list);
+    test::typeKey(key::enter);
+    test::typeKey(key::escape);
+    EXPECT_EQ(times("list.KeyPress 13"), 1);
+    EXPECT_EQ(times("list.KeyPress 27"), 1);
+}
+
+TEST_F(ListView, HandlerMayHideTheListInItsClick) {
+    openList({"one", "two"});
+    list.Click = [this] { list.Visible = false; };
+    test::click(px(110), middleOfRow(0));
+    EXPECT_FALSE(test::isShown(list));
+    EXPECT_EQ(form.ActiveControl, &card);
+}
+
+TEST_F(ListView, DoubleClickComesAsItsOwnEvent) {
+    openList({"one", "two"});
+    test::doubleClick(px(110), middleOfRow(1));
+    EXPECT_EQ(times("list.DblClick"), 1);
+    EXPECT_EQ(list.ListIndex, 1);
+}
+
+TEST_F(ListView, RightPressTellsTheRowAndSelectsNothing) {
+    openList({"one", "two"});
+    int pointed = -2;
+    list.MouseDown = [&](MouseArguments& mouse) {
+        if (mouse.Button == button::right) pointed = list.PointedIndex;
+    };
+    test::click(px(110), middleOfRow(1), button::right);
+    EXPECT_EQ(pointed, 1);
+    EXPECT_EQ(list.ListIndex, -1);
+    EXPECT_EQ(times("list.Click"), 0);
+}
+
+TEST_F(ListView, IndexSetByTheProgramStays) {
+    openList({"one", "two", "three"});
+    list.ListIndex = 2;
+    test::moveMouse(px(5), px(5));
+    EXPECT_EQ(list.ListIndex, 2);
+    list.List.pop_back();
+    test::moveMouse(px(6), px(5));
+    EXPECT_EQ(list.ListIndex, -1);
+}
+
+TEST_F(ListView, DisabledCardLeavesTheListAlone) {
+    openList({"one", "two"});
+    card.Enabled = false;
+    test::click(px(110), middleOfRow(1));
+    EXPECT_EQ(list.ListIndex, 1);
+}
+
+} // namespace
+} // namespace window_test

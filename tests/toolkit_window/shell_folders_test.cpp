@@ -1,0 +1,39 @@
+// Folders of the program and of the desktop, and what is opened there.
+#include "fixture.h"
+
+#include <filesystem>
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class ShellFolders : public WindowTest {};
+
+TEST_F(ShellFolders, FolderForTestsIsGiven) {
+    overrideProgram({.programFolder = "/somewhere/else"});
+    EXPECT_EQ(programFolder(), "/somewhere/else");
+}
+
+TEST_F(ShellFolders, DocumentsFolderIsMadeWhenAbsent) {
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / "zevlin-window-test" / "Documents";
+    std::filesystem::remove_all(folder.parent_path());
+    overrideProgram({.documentsFolder = folder});
+    EXPECT_EQ(specialFolder(5), folder);
+    EXPECT_TRUE(std::filesystem::is_directory(folder));
+    EXPECT_TRUE(specialFolder(6).empty());
+    std::filesystem::remove_all(folder.parent_path());
+    overrideProgram({.noDocuments = true});
+    EXPECT_TRUE(specialFolder(5).empty());
+}
+
+TEST_F(ShellFolders, LaunchesAreToldToATest) {
+    overrideProgram({.launch = [this](const std::string& address) { note(address); }});
+    openWebPage("https://zevlin.example/history#faq");
+    showInFileManager("/home/a b/ZEV/ZEV.ini");
+    EXPECT_EQ(log, (Log{"https://zevlin.example/history#faq", "file:///home/a b/ZEV"}));
+}
+
+} // namespace
+} // namespace window_test
