@@ -32,8 +32,8 @@ void pressCard(Zevlin& form, const toolkit::MouseArguments& mouse) {
         form.LastY = mouse.Y;
         form.LastButton = toolkit::button::left;
         form.MarkHitPending = true;
-        Traceit(form, "  P1_MouseDown Amark(" + numberText(*hit) + ") at " +
-                          placeText(form.AMark[*hit]));
+        Traceit(form,
+                "  P1_MouseDown Amark(" + numberText(*hit) + ") at " + placeText(form.AMark[*hit]));
     }
     // Nothing to set here: the card is about to be dragged.
     if (!form.MarkHitPending) form.P1.MousePointer = toolkit::MousePointer::Hand;

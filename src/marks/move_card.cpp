@@ -38,11 +38,16 @@ std::optional<Place> cornerOf(const Zevlin& form, int keyCode) {
     const float right = form.ScaleWidth() - form.P1.Width;
     const float bottom = form.ScaleHeight() - form.P1.Height;
     switch (keyCode) {
-    case toolkit::key::home: return Place{0, 0};
-    case toolkit::key::end: return Place{0, bottom};
-    case toolkit::key::pageUp: return Place{right, 0};
-    case toolkit::key::pageDown: return Place{right, bottom};
-    default: return {};
+    case toolkit::key::home:
+        return Place{0, 0};
+    case toolkit::key::end:
+        return Place{0, bottom};
+    case toolkit::key::pageUp:
+        return Place{right, 0};
+    case toolkit::key::pageDown:
+        return Place{right, bottom};
+    default:
+        return {};
     }
 }
 
@@ -51,11 +56,20 @@ std::optional<Place> stepped(const Zevlin& form, int keyCode) {
     const float step = stepOf(form);
     Place place{form.P1.Left, form.P1.Top};
     switch (keyCode) {
-    case toolkit::key::left: place.left += step; break;
-    case toolkit::key::right: place.left -= step; break;
-    case toolkit::key::up: place.top += step; break;
-    case toolkit::key::down: place.top -= step; break;
-    default: return {};
+    case toolkit::key::left:
+        place.left += step;
+        break;
+    case toolkit::key::right:
+        place.left -= step;
+        break;
+    case toolkit::key::up:
+        place.top += step;
+        break;
+    case toolkit::key::down:
+        place.top -= step;
+        break;
+    default:
+        return {};
     }
     return Place{clamped(place.left, form.ScaleWidth(), form.P1.Width),
                  clamped(place.top, form.ScaleHeight(), form.P1.Height)};
@@ -82,8 +96,7 @@ void followWithCursor(Zevlin& form, const Place& before) {
     if (!form.TabActive) return;
     const auto twips = static_cast<float>(form.TwipsPerPixel);
     const auto cursor = toolkit::cursorPosition();
-    const float x =
-        static_cast<float>(cursor.x) * twips - wholeTwips(before.left - form.P1.Left);
+    const float x = static_cast<float>(cursor.x) * twips - wholeTwips(before.left - form.P1.Left);
     const float y = static_cast<float>(cursor.y) * twips - wholeTwips(before.top - form.P1.Top);
     if (!cursorCanFollow(form, x, y)) {
         form.TabActive = false;
@@ -159,9 +172,8 @@ void pullOnScreen(Zevlin& form, int item) {
 void MouseWheel(Zevlin& form, int /*keys*/, int rotation, int /*x*/, int /*y*/) {
     if (!form.P1.Visible || !form.WheelHooked) return;
     const float step = stepOf(form);
-    form.P1.Top = rotation > 0
-                      ? std::min(wholeTwips(form.P1.Top + step), form.ScaleHeight())
-                      : std::max(wholeTwips(form.P1.Top - step), -form.P1.Height);
+    form.P1.Top = rotation > 0 ? std::min(wholeTwips(form.P1.Top + step), form.ScaleHeight())
+                               : std::max(wholeTwips(form.P1.Top - step), -form.P1.Height);
 }
 
 void CheckOnScreen(Zevlin& form, int item) {

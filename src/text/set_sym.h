@@ -5,8 +5,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// Expects the raw text in the field's caption and the field's font to be final. Leaves the raw text
-/// in the Tag, the text with its escapes blanked in the caption, and the symbols shown.
+/// Expects the raw text in the field's caption and the field's font to be final. Leaves the raw
+/// text in the Tag, the text with its escapes blanked in the caption, and the symbols shown.
 void SetSym(Zevlin& form, int index);
 
 /// Takes all symbols off the card.

@@ -37,12 +37,12 @@ struct TextState {
     std::string OrigText;       ///< its Tag at opening
     toolkit::Alignment OrigAlign = toolkit::Alignment::Left;
     bool OpeningField = false;
-    bool ShiftHeld = false; ///< at the last key press
+    bool ShiftHeld = false;      ///< at the last key press
     std::int16_t ClickIndex = 0; ///< the label pressed, until its click is done; 0 for none
     std::int16_t ClickButton = 0;
     float ClickX = 0; ///< twips in the label
     float ClickY = 0;
-    std::string ClipText;           ///< the private clipboard
+    std::string ClipText;          ///< the private clipboard
     std::int16_t FirstBigText = 0; ///< lowest text field of size 3; 0 if none
 
     toolkit::MenuItem mpopUndo{.Caption = "&Undo", .Enabled = false};

@@ -84,6 +84,14 @@ TEST_F(CardMouse, LowerOfTwoOverlappingMarksIsSet) {
     EXPECT_FALSE(form.AMark[2].Visible);
 }
 
+TEST_F(CardMouse, EmptyTextOverAnUnsetMarkTakesTheClick) {
+    startSmall();
+    form.AMark[1].Move(form.AText[1].Left + 100 * pixel, form.AText[1].Top - 5 * pixel);
+    clickMark(1);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_EQ(form.TIndex, 1);
+}
+
 TEST_F(CardMouse, SetMarkBehindAnotherTakesTheClickOnlyWhereNoneIsInFront) {
     startSmall();
     form.AMark[2].Move(form.AMark[1].Left, form.AMark[1].Top);

@@ -126,6 +126,17 @@ TEST_F(MoveCard, WheelLeavesTheRestOnAMarkAlone) {
     EXPECT_EQ(toolkit::cursorPosition().y, cursor.y);
 }
 
+TEST_F(MoveCard, CornerKeysLeaveTheRestOnAMarkAlone) {
+    startLarge();
+    clickMark(1);
+    const auto cursor = toolkit::cursorPosition();
+    typeKey(key::pageDown);
+    EXPECT_TRUE(form.TabActive);
+    EXPECT_EQ(toolkit::cursorPosition().y, cursor.y);
+    typeKey(key::space);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
 TEST_F(MoveCard, CursorFollowsTheMarkThatTheKeyboardRestsOn) {
     startSmall();
     form.P1.Top = -600;

@@ -153,13 +153,19 @@ TEST_F(TextWalk, FlashIsOverWhenTheFieldIsOpenAndTheCursorIsAtItsCorner) {
 
 TEST_F(TextWalk, FieldFlashesPaleYellow) {
     startSmall();
-    const int before = cardPaints().paints;
-    FlashFocus(form, 1);
-    settle();
-    EXPECT_GT(cardPaints().paints, before);
+    int flashes = 0;
+    duringWait = [&](int milliseconds) {
+        ++flashes;
+        EXPECT_EQ(milliseconds, 100);
+        EXPECT_EQ(form.AText[1].BackColor, toolkit::rgb(255, 255, 160));
+        EXPECT_EQ(form.AText[1].BackStyle, toolkit::BackStyle::Opaque);
+        EXPECT_EQ(grabCard().pixel(103, 303), toolkit::rgb(255, 255, 160));
+    };
     form.TabActive = true;
     FlashFocus(form, 1);
+    EXPECT_EQ(flashes, 1);
     EXPECT_FALSE(form.TabActive);
+    EXPECT_EQ(form.AText[1].BackColor, toolkit::white);
 }
 
 TEST_F(TextWalk, WithoutATableEachTabTracesTheBoundError) {
@@ -177,17 +183,38 @@ TEST_F(TextWalk, WithoutATableEachTabTracesTheBoundError) {
 TEST_F(TextWalk, MarksBlinkInDesignModeOnlyAndComeBackAsTheyWere) {
     startSmall();
     clickMark(1);
-    const auto repaints = [&] {
-        settle();
-        const int before = cardPaints().paints;
-        FlashFocus(form, 1001);
-        settle();
-        return cardPaints().paints - before;
+    std::vector<bool> shown;
+    duringWait = [&](int milliseconds) {
+        EXPECT_EQ(milliseconds, 100);
+        shown.push_back(form.AMark[1].Visible);
     };
-    EXPECT_EQ(repaints(), 0);
+    FlashFocus(form, 1001);
+    EXPECT_TRUE(shown.empty());
     form.MShowShapes.Checked = true;
-    EXPECT_GT(repaints(), 0);
+    FlashFocus(form, 1001);
+    EXPECT_EQ(shown, (std::vector<bool>{false, true}));
     EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(TextWalk, FieldThatGoesDuringItsFlashIsNotOpened) {
+    startSmall();
+    clickText(1);
+    typeText("North");
+    duringWait = [&](int) {
+        form.AText.UnloadAbove(0);
+        form.Highlight.UnloadAbove(0);
+    };
+    typeKey(key::tab);
+    EXPECT_EQ(form.TIndex, 1);
+    EXPECT_FALSE(isEditing());
+}
+
+TEST_F(TextWalk, MarkThatGoesDuringItsBlinkIsLeftAlone) {
+    startSmall();
+    form.MShowShapes.Checked = true;
+    duringWait = [&](int) { form.AMark.UnloadAbove(0); };
+    FlashFocus(form, 1001);
+    EXPECT_EQ(form.AMark.UBound(), 0);
 }
 
 } // namespace

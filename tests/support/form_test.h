@@ -91,6 +91,8 @@ class FormTest : public testing::Test {
     int popups = 0;                          ///< pop-up menus so far
     int beeps = 0;
     std::vector<std::string> launched;       ///< what was opened outside the program
+    /// Runs in the middle of each wait of the program.
+    std::function<void(int milliseconds)> duringWait;
     Zevlin form;
     std::unique_ptr<toolkit::Window> window;
 

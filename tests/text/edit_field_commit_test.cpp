@@ -186,6 +186,7 @@ TEST_F(Commit, BySaveKeepsTheFocusOnTheCardAndWalksNowhere) {
     typeKey('S', toolkit::shift::ctrl);
     EXPECT_FALSE(isEditing());
     EXPECT_TRUE(hasPlatformFocus(form.P1));
+    EXPECT_EQ(form.ActiveControl, &form.P1);
     EXPECT_NE(dataFileContent("Jones.zev").find("1NT"), std::string::npos);
     EXPECT_EQ(form.TIndex, 0);
 }

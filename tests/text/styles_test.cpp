@@ -123,6 +123,20 @@ TEST_F(Styles, CopyTakesTheSelection) {
     EXPECT_EQ(form.ClipText, "34");
 }
 
+TEST_F(Styles, CopiedSelectionIsOnTheSystemsClipboardToo) {
+    startSmall();
+    openWith("1234");
+    typeKey(toolkit::key::left, toolkit::shift::shift);
+    typeKey(toolkit::key::left, toolkit::shift::shift);
+    ctrl('C');
+    form.ClipText.clear();
+    clickText(2);
+    ASSERT_FALSE(form.mpopPaste.Enabled);
+    typeText("5");
+    ctrl('V');
+    EXPECT_EQ(shownText(form.CText), "534");
+}
+
 TEST_F(Styles, CopyDoesNotEnablePasteButTheNextOpeningDoes) {
     startSmall();
     openWith("North");
