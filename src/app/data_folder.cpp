@@ -30,13 +30,14 @@ struct Move {
     std::string lowerCaseName;
 };
 
+/// A folder of that name is no target: copying over it fails, and the player is told.
 bool hasGoodTarget(const Move& move) {
-    return fs::exists(move.target) &&
+    return fs::is_regular_file(move.target) &&
            isGoodTarget(toolkit::fileTime(move.source), toolkit::fileTime(move.target));
 }
 
 bool isVerified(const Move& move) {
-    return fs::exists(move.target) &&
+    return fs::is_regular_file(move.target) &&
            toolkit::fileTime(move.source) == toolkit::fileTime(move.target) &&
            toolkit::fileLength(move.source) == toolkit::fileLength(move.target);
 }
@@ -54,7 +55,13 @@ bool isSameFolder(const fs::path& left, const fs::path& right) {
     return fs::equivalent(left, right, ignored);
 }
 
+void requireFolder(const fs::path& folder) {
+    if (!fs::is_directory(folder)) throw toolkit::RunTimeError(toolkit::Failure::PathNotFound);
+}
+
 void moveFiles(const fs::path& source, const fs::path& sink) {
+    requireFolder(source);
+    requireFolder(sink);
     if (isSameFolder(source, sink)) return;
     for (const std::string& name : toolkit::listFiles(source, "")) {
         const std::string lowerCaseName = toolkit::lowerCase(name);

@@ -1,5 +1,7 @@
 #include "app/initialize.h"
 
+#include <utility>
+
 #include "app/build_fields.h"
 #include "app/data_folder.h"
 #include "app/fonts_check.h"
@@ -29,12 +31,12 @@ namespace {
 void begin(Zevlin& form) {
     Traceit(form, "Initialize");
     const auto folder = toolkit::displayText(form.DataFolder);
-    Traceit(form, "Initialize: Changed path to: " + folder + "  ... actual current path is: " +
-                      toolkit::displayText(currentFolder(form)));
+    Traceit(form, "Initialize: Changed path to: " + folder +
+                      "  ... actual current path is: " + toolkit::displayText(currentFolder(form)));
     form.Initializing = true;
     form.TwipsPerPixel = static_cast<std::int16_t>(toolkit::twipsPerPixel());
-    form.ScreenWidthPixels = toolkit::toInteger16(toolkit::screen().Width /
-                                                  static_cast<float>(form.TwipsPerPixel));
+    form.ScreenWidthPixels =
+        toolkit::toInteger16(toolkit::screen().Width / static_cast<float>(form.TwipsPerPixel));
 }
 
 void readOptionsFile(Zevlin& form, InitializeRun& run) {
@@ -49,9 +51,10 @@ void readOptionsFile(Zevlin& form, InitializeRun& run) {
         return;
     }
     run.step = 300;
-    readOptions(form, *file);
+    std::string content = toolkit::readFile(*file);
     run.step = 310;
     Traceit(form, "Initialize step 310: ZEV.Ini opened successfully in " + folder);
+    readOptions(form, std::move(content));
     run.step = 400;
     form.OptionsVersion = form.VersionSeen;
     form.mpopBold.Enabled = !form.mBold.Checked;
@@ -66,7 +69,7 @@ void choosePrinter(Zevlin& form) {
             if (printer.DeviceName != form.Myprinter.Devicename) continue;
             if (form.CurrentPrinter.DeviceName != printer.DeviceName) form.CurrentPrinter = printer;
             if (form.Myprinter.PaperBin > 0) form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
-            form.Myprinter.BitsPerPixel = form.CurrentPrinter.ColorMode == 2 ? 24 : 8;
+            form.Myprinter.BitsPerPixel = form.CurrentPrinter.ColorMode == 2 ? 24 : 1;
             return;
         }
     });

@@ -59,8 +59,13 @@ std::string layoutMissing(int step) {
            reinstallLines(step);
 }
 
-/// Shows the box; on OK the file in the data folder goes.
-void offerToDelete(Zevlin& form, const std::string& text, const char* fileName) {
+struct SuspectFile {
+    std::filesystem::path folder;
+    const char* name;
+};
+
+/// Shows the box; on OK the file goes.
+void offerToDelete(const std::string& text, const SuspectFile& suspect) {
     const auto answer = toolkit::show({.text = text,
                                        .buttons = toolkit::Buttons::OkCancel,
                                        .icon = toolkit::Icon::Exclamation,
@@ -68,18 +73,17 @@ void offerToDelete(Zevlin& form, const std::string& text, const char* fileName) 
                                        .preset = {}});
     if (answer != toolkit::Answer::Ok) return;
     ignoringFailures([&] {
-        if (const auto file = toolkit::findFile(form.DataFolder, fileName)) {
+        if (const auto file = toolkit::findFile(suspect.folder, suspect.name)) {
             toolkit::deleteFile(*file);
         }
     });
 }
 
-void tellLayoutFailure(Zevlin& form, int step) {
+void tellLayoutFailure(const Zevlin& form, int step) {
     const auto folder = form.DataFolder.empty() ? toolkit::programFolder() : form.DataFolder;
     const bool there = toolkit::findFile(folder, layoutFileName).has_value();
-    offerToDelete(
-        form, there ? layoutAtFault(toolkit::displayText(folder), step) : layoutMissing(step),
-        layoutFileName);
+    offerToDelete(there ? layoutAtFault(toolkit::displayText(folder), step) : layoutMissing(step),
+                  {folder, layoutFileName});
 }
 
 } // namespace
@@ -88,8 +92,8 @@ void endFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int
     traceFailure(form, "Error in Initialize ", failure,
                  ", after step " + toolkit::numberText(step));
     if (step > 0 && step < firstStepBehindOptions) {
-        offerToDelete(form, optionsAtFault(toolkit::displayText(currentFolder(form)), step),
-                      optionsFileName);
+        offerToDelete(optionsAtFault(toolkit::displayText(currentFolder(form)), step),
+                      {form.DataFolder, optionsFileName});
     } else {
         tellLayoutFailure(form, step);
     }

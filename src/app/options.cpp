@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "app/data_folder.h"
 #include "app/options_file.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
@@ -41,10 +42,18 @@ void setFit(Zevlin& form, const OptionLine& line) {
 void setFontSize(Zevlin& form, const OptionLine& line) {
     form.mNormalTextFont.Checked = false;
     switch (line.number) {
-    case 1: form.mSmallerTextFont.Checked = true; break;
-    case 2: form.mLargerTextFont.Checked = true; break;
-    case 3: form.mBigTextFont.Checked = true; break;
-    default: form.mNormalTextFont.Checked = true; break;
+    case 1:
+        form.mSmallerTextFont.Checked = true;
+        break;
+    case 2:
+        form.mLargerTextFont.Checked = true;
+        break;
+    case 3:
+        form.mBigTextFont.Checked = true;
+        break;
+    default:
+        form.mNormalTextFont.Checked = true;
+        break;
     }
 }
 
@@ -141,7 +150,7 @@ void describeMachine(const Zevlin& form, OptionsDocument& document) {
     document.actualTwipsY = screen.TwipsPerPixelY;
     document.applicationPath = toolkit::displayText(toolkit::programFolder());
     document.documentsPath = toolkit::displayText(form.DataFolder);
-    document.currentPath = toolkit::displayText(form.DataFolder);
+    document.currentPath = toolkit::displayText(currentFolder(form));
     document.memory = toolkit::memoryFacts();
     document.usage = toolkit::memoryUsage();
 }
@@ -171,9 +180,9 @@ OptionsDocument documentOf(const Zevlin& form) {
 
 } // namespace
 
-void readOptions(Zevlin& form, const std::filesystem::path& file) {
+void readOptions(Zevlin& form, std::string content) {
     form.VersionSeen.clear();
-    toolkit::TextInput input(toolkit::readFile(file));
+    toolkit::TextInput input(std::move(content));
     while (!SkipComment(form, input)) {
         if (const auto line = parseOption(input.readLine())) applyOption(form, *line);
     }

@@ -1,7 +1,7 @@
 // Reading and writing the options: each lives in the control or field that uses it.
 #pragma once
 
-#include <filesystem>
+#include <string>
 
 namespace zev {
 
@@ -9,8 +9,8 @@ struct Zevlin;
 
 constexpr const char* optionsFileName = "ZEV.Ini";
 
-/// Applies the options file line by line. Failures are the reader's; unknown keys are passed over.
-void readOptions(Zevlin& form, const std::filesystem::path& file);
+/// Applies an options file's content line by line; unknown keys are passed over.
+void readOptions(Zevlin& form, std::string content);
 
 /// Rewrites the options file from the present state. A failure is traced only.
 void IniWrite(Zevlin& form);

@@ -1,0 +1,200 @@
+#include "app/form_load.h"
+
+#include "app/layouts.h"
+#include "toolkit/bitmap.h"
+#include "toolkit/clock.h"
+#include "toolkit/files.h"
+#include "toolkit/key.h"
+
+namespace zev::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A card file that sets mark 1 of a layout with a single mark.
+constexpr const char* cardWithMark =
+    "'Card\r\n'Program version: 2.0.0\r\n\"Pat\",\"77\"\r\n1\r\n1,1,0\r\n1\r\n1,\"\",0\r\n";
+
+class FormLoad : public FormTest {
+  protected:
+    FormLoad() { writeLayout(smallLayout({{.left = 100, .top = 100}}, {})); }
+    void expectBlankCard() const {
+        EXPECT_EQ(form.CardName, "");
+        EXPECT_EQ(form.Caption, "Zevlin  (unnamed)");
+        EXPECT_FALSE(form.AMark[1].Visible);
+    }
+};
+
+TEST_F(FormLoad, TheStateOfAFreshStart) {
+    start();
+    EXPECT_EQ(form.ZoomLevels, 11);
+    EXPECT_EQ(form.DesignZoomLevel, 5);
+    EXPECT_EQ(form.ZoomTable, (std::array<float, 12>{0, 0.2F, 0.25F, 1.0F / 3, 0.425F, 0.5F, 0.6F,
+                                                     2.0F / 3, 0.75F, 0.8F, 0.9F, 1}));
+    EXPECT_EQ(form.MarkFontName, "Wingdings");
+    EXPECT_EQ(form.MarkFontName2, "Wingdings 2");
+    EXPECT_EQ(form.TextFontName, "Arial");
+    EXPECT_EQ(form.NarrowFontName, "Arial Narrow");
+    EXPECT_EQ(form.FallbackFontName, "Tahoma");
+    EXPECT_EQ(form.SuitFontName, "Symbol");
+    EXPECT_EQ(form.SuitChars, "\xA7\xA8\xA9\xAA");
+    EXPECT_EQ(form.PrintMethod, 3);
+    EXPECT_EQ(form.LastSchemeIndex, 1);
+    EXPECT_EQ(form.Top, 0);
+    EXPECT_FALSE(form.Initializing);
+    EXPECT_FALSE(form.TraceOn);
+    EXPECT_EQ(form.BackColor, form.FormBackColor);
+}
+
+TEST_F(FormLoad, WithoutAZoomInTheOptionsTheCardStandsAtStepFour) {
+    writeOptions("Fit=0\r\n");
+    start();
+    EXPECT_EQ(form.ZoomLevel, 4);
+    EXPECT_EQ(form.P1.Width, 1018 * 15);
+    EXPECT_FLOAT_EQ(form.CardScale, 1018.0F / 1198);
+}
+
+TEST_F(FormLoad, ADeliveredBuildHidesTheDesignMenuAndListensToTheWheel) {
+    start();
+    EXPECT_TRUE(form.ProductionBuild);
+    EXPECT_FALSE(form.MShapes.Visible);
+    EXPECT_FALSE(form.MShowDesignMenu.Checked);
+    EXPECT_TRUE(form.WheelHooked);
+    EXPECT_FALSE(toolkit::test::chooseMenu("Design>Red"));
+}
+
+TEST_F(FormLoad, TheTraceOfARunBeforeIsKept) {
+    toolkit::writeFile(dataFile("Trace.txt"), "before");
+    start();
+    EXPECT_EQ(traceFile(), "before");
+}
+
+TEST_F(FormLoad, ThePenIsSmallBlackAndACheck) {
+    start();
+    EXPECT_TRUE(form.MSmall.Checked);
+    EXPECT_TRUE(form.MBlack.Checked);
+    EXPECT_TRUE(form.MCheck.Checked);
+    EXPECT_FALSE(form.MMedium.Checked);
+}
+
+TEST_F(FormLoad, ThePrintColourItemsNeverShow) {
+    start();
+    EXPECT_FALSE(form.MMono.Visible);
+    EXPECT_FALSE(form.MColor.Visible);
+    EXPECT_FALSE(form.z21.Visible);
+}
+
+TEST_F(FormLoad, ALeftOverTemporaryCardIsDeleted) {
+    writeCard("$$Tempcard", "left over");
+    start();
+    EXPECT_FALSE(fs::exists(dataFile("$$Tempcard.zev")));
+}
+
+TEST_F(FormLoad, ALayoutThatACrashLeftSetAsideComesBack) {
+    toolkit::writeFile(dataFile("$$TempDef.Ini"), fewFields());
+    start();
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), fewFields());
+    EXPECT_FALSE(fs::exists(dataFile("$$TempDef.Ini")));
+    EXPECT_EQ(form.AMark.UBound(), 4);
+}
+
+TEST_F(FormLoad, TheTraceBeginsWithVersionHelpAndThePath) {
+    toolkit::overrideClock(0);
+    start();
+    const auto lines = traceLines();
+    ASSERT_GT(lines.size(), 3U);
+    EXPECT_EQ(lines[0], "AppVersion");
+    EXPECT_EQ(lines[1], "HelpCreate");
+    EXPECT_TRUE(lines[2].starts_with("Form_Load 1970-01-01 "));
+    EXPECT_TRUE(lines[2].ends_with(", path: " + dataFolder.string()));
+}
+
+TEST_F(FormLoad, APictureInTheDataFolderReplacesTheCardsButNotTheLayout) {
+    toolkit::savePng(toolkit::Bitmap(2000, 2000, toolkit::rgb(1, 2, 3)),
+                     dataFile("Convention card.gif"));
+    start();
+    EXPECT_EQ(form.PBase.width(), 2000);
+    EXPECT_EQ(form.P1.Width, 1000 * 15);
+    EXPECT_EQ(form.AMark.UBound(), 1);
+    EXPECT_EQ(toolkit::test::grabCard().pixel(500, 500), toolkit::rgb(1, 2, 3));
+}
+
+TEST_F(FormLoad, ACommandLineInAnyFolderOpensTheCardOfThatNameInTheDataFolder) {
+    writeCard("Jones", cardWithMark);
+    start("/somewhere/else/Jones.zev");
+    EXPECT_EQ(form.CardName, "Jones");
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_EQ(form.PartnerName, "Pat");
+    EXPECT_EQ(form.Caption, "Zevlin  ( Jones )");
+    EXPECT_EQ(form.TSaveAs, "Jones");
+    EXPECT_TRUE(form.ChooserTaken);
+    EXPECT_FALSE(form.CardModified);
+    EXPECT_EQ(form.P1.Left, 0);
+    EXPECT_EQ(form.P1.Top, 0);
+}
+
+TEST_F(FormLoad, ACommandLineWithBackslashesIsCutAtTheLast) {
+    writeCard("Jones", cardWithMark);
+    start("C:\\cards\\Jones.zev");
+    EXPECT_EQ(form.CardName, "Jones");
+}
+
+TEST_F(FormLoad, ANameOnTheCommandLineMayHoldBlanks) {
+    writeCard("My Card", cardWithMark);
+    start("My Card.zev");
+    EXPECT_EQ(form.CardName, "My Card");
+}
+
+TEST_F(FormLoad, ANameOnTheCommandLineLosesAllFromItsFirstDotOn) {
+    writeCard("a", cardWithMark);
+    writeCard("a.b", "");
+    start("a.b.zev");
+    EXPECT_EQ(form.CardName, "a");
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(FormLoad, ACardThatIsNotThereLeavesTheBlankCardUnnamed) {
+    start("Nobody.zev");
+    expectBlankCard();
+}
+
+TEST_F(FormLoad, QuotesOnTheCommandLineArePartOfTheName) {
+    writeCard("Jones", cardWithMark);
+    start("\"Jones.zev\"");
+    expectBlankCard();
+}
+
+TEST_F(FormLoad, WithCardsAndNoCommandLineTheChooserOpens) {
+    writeCard("Jones", cardWithMark);
+    answerInput("Jones");
+    start();
+    EXPECT_EQ(inputs.size(), 1U);
+    EXPECT_EQ(form.CardName, "Jones");
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_TRUE(traced("MOpen_Click"));
+}
+
+TEST_F(FormLoad, WithoutCardsTheBlankCardStandsAtOnce) {
+    start();
+    EXPECT_TRUE(inputs.empty());
+    expectBlankCard();
+}
+
+TEST_F(FormLoad, TheMenuHelpTakesAQuarterOfTheForm) {
+    wireOnly();
+    form.PopHelp.Height = 300;
+    Form_Load(form, {});
+    EXPECT_EQ(form.PopHelp.Left, form.ScaleWidth() * 3 / 8);
+    EXPECT_EQ(form.PopHelp.Width, form.ScaleWidth() / 4);
+    EXPECT_EQ(form.PopHelp.Height, 1200);
+}
+
+TEST_F(FormLoad, TheCardHasTheFocusSoThatKeysReachIt) {
+    start();
+    EXPECT_EQ(form.ActiveControl, &form.P1);
+    toolkit::test::typeKey(toolkit::key::f1);
+    EXPECT_TRUE(form.THelp.Visible);
+}
+
+} // namespace
+} // namespace zev::test

@@ -1,0 +1,150 @@
+#include "app/menu_table.h"
+
+#include <algorithm>
+#include <set>
+
+#include "support/form_test.h"
+#include "toolkit/key.h"
+
+namespace zev::test {
+namespace {
+
+struct Written {
+    int level;
+    std::string_view caption;
+    std::string_view shortcut;
+    friend bool operator==(const Written&, const Written&) = default;
+};
+
+/// The menu bar as players know it; an empty caption is a separator.
+const std::vector<Written> menuBar = {{0, "&File", ""},
+                                      {1, "&New", ""},
+                                      {1, "&Open...", "Ctrl+O"},
+                                      {1, "&Save", "Ctrl+S"},
+                                      {1, "Save &As...", ""},
+                                      {1, "", ""},
+                                      {1, "E&xit", ""},
+                                      {0, "&Options", ""},
+                                      {1, "My Name", ""},
+                                      {1, "Partner's Name", ""},
+                                      {0, "&Design", ""},
+                                      {1, "Small", ""},
+                                      {1, "Medium", ""},
+                                      {1, "Large", ""},
+                                      {1, "", ""},
+                                      {1, "Black", ""},
+                                      {1, "Red", ""},
+                                      {1, "Blue", ""},
+                                      {1, "", ""},
+                                      {1, "Checkmark", ""},
+                                      {1, "Circle", ""},
+                                      {1, "Text", ""},
+                                      {1, "", ""},
+                                      {1, "Save Design", ""},
+                                      {0, "&Help", ""}};
+
+class MenuTable : public FormTest {};
+
+TEST_F(MenuTable, CaptionsShortcutsAndOrderAreAsWritten) {
+    std::vector<Written> rows;
+    for (const auto& row : menuTable()) rows.push_back({row.level, row.caption, row.shortcut});
+    EXPECT_EQ(rows.size(), menuBar.size());
+    for (std::size_t i = 0; i < std::min(rows.size(), menuBar.size()); ++i) {
+        EXPECT_EQ(rows[i], menuBar[i]) << i << ": " << rows[i].caption;
+    }
+}
+
+TEST_F(MenuTable, EveryItemHasAProcedureAndEveryMenuHasItems) {
+    const auto rows = menuTable();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto& row = rows[i];
+        if (row.item == nullptr) {
+            EXPECT_EQ(row.procedure, nullptr) << "a separator that does something";
+            continue;
+        }
+        const bool isMenu = i + 1 < rows.size() && rows[i + 1].level > row.level;
+        EXPECT_NE(isMenu, row.procedure != nullptr) << row.caption;
+        EXPECT_FALSE(row.caption.empty());
+    }
+}
+
+TEST_F(MenuTable, NoItemStandsTwiceAndNoShortcutIsTakenTwice) {
+    std::set<std::string_view> captions;
+    std::set<std::string_view> shortcuts;
+    for (const auto& row : menuTable()) {
+        if (row.item == nullptr) continue;
+        EXPECT_TRUE(captions.insert(row.caption).second) << row.caption;
+        if (!row.shortcut.empty()) {
+            EXPECT_TRUE(shortcuts.insert(row.shortcut).second) << row.shortcut;
+        }
+    }
+}
+
+TEST_F(MenuTable, NoMenuBeginsOrEndsWithASeparator) {
+    const auto rows = menuTable();
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].item != nullptr) continue;
+        ASSERT_GT(i, 0U);
+        ASSERT_LT(i + 1, rows.size());
+        EXPECT_NE(rows[i - 1].item, nullptr);
+        EXPECT_EQ(rows[i - 1].level, rows[i].level);
+        EXPECT_NE(rows[i + 1].item, nullptr);
+        EXPECT_EQ(rows[i + 1].level, rows[i].level);
+    }
+}
+
+/// Each row's item runs the procedure of its own name.
+TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
+    start();
+    form.MShapes.Visible = true;
+    form.MSaveShapes.Enabled = true;
+    const std::vector<std::pair<std::string, std::string>> traces = {
+        {"File>New", "MNew_Click"},
+        {"File>Save", "MSave_Click"},
+        {"Design>Small", "MSmall_Click"},
+        {"Design>Medium", "MMedium_Click"},
+        {"Design>Large", "MLarge_Click"},
+        {"Design>Black", "MBlack_Click"},
+        {"Design>Red", "MRed_Click"},
+        {"Design>Blue", "MBlue_Click"},
+        {"Design>Checkmark", "MCheck_Click"},
+        {"Design>Circle", "MCircle_Click"},
+        {"Design>Text", "MText_Click"},
+        {"Design>Save Design", "MSaveShapes_Click"},
+        {"File>Open...", "MOpen_Click"},
+        {"File>Save As...", "MSaveAs_Click"},
+        {"Options>My Name", "MMyID_Click"},
+        {"Options>Partner's Name", "MPartnerID_Click"},
+        {"Help", "MHelp_Click"}};
+    for (int i = 0; i < 5; ++i) answerInput("");
+    for (const auto& [path, line] : traces) {
+        form.Trace.clear();
+        EXPECT_TRUE(toolkit::test::chooseMenu(path)) << path;
+        EXPECT_TRUE(traced(line)) << path;
+    }
+}
+
+TEST_F(MenuTable, ExitEndsTheProgram) {
+    start();
+    EXPECT_TRUE(endsProgram([] { static_cast<void>(toolkit::test::chooseMenu("File>Exit")); }));
+}
+
+TEST_F(MenuTable, SaveDesignIsGreyAtTheStart) {
+    start();
+    form.MShapes.Visible = true;
+    EXPECT_FALSE(form.MSaveShapes.Enabled);
+    EXPECT_FALSE(toolkit::test::chooseMenu("Design>Save Design"));
+}
+
+TEST_F(MenuTable, ShortcutsReachTheirItems) {
+    start();
+    answerInput("");
+    toolkit::test::typeKey('S', toolkit::shift::ctrl);
+    EXPECT_TRUE(traced("MSave_Click"));
+    answerInput("");
+    toolkit::test::typeKey('O', toolkit::shift::ctrl);
+    EXPECT_TRUE(traced("MOpen_Click"));
+}
+
+} // namespace
+} // namespace zev::test
