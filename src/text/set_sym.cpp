@@ -1,6 +1,7 @@
 #include "text/set_sym.h"
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/trace.h"
@@ -55,20 +56,42 @@ void stack(Zevlin& form, int index, toolkit::Label& symbol) {
     form.P1Stack.bringToFront(symbol);
 }
 
-/// Twips from the field's left edge to the blanks that hold the symbol's place.
-float distanceTo(const Zevlin& form, const toolkit::Label& label, const SuitPlace& place) {
-    const float lead = form.Testtext.TextWidth(
-        std::string_view(label.Caption).substr(0, static_cast<std::size_t>(place.position) - 1));
-    const float shift = label.Alignment == toolkit::Alignment::Center
-                            ? (label.Width - form.Testtext.TextWidth(label.Caption)) / 2
-                            : 0;
-    return lead + shift;
+/// How far from the text's left edge its symbols begin. Each place is measured from the one before
+/// it: a text of any length is gone through once.
+class SymbolLeads {
+  public:
+    SymbolLeads(const toolkit::FontSpec& font, std::string_view caption)
+        : font_(font), caption_(caption) {}
+    /// Twips; positions are one-based and rise from call to call.
+    float at(int position) {
+        const auto end = static_cast<std::size_t>(position) - 1;
+        lead_ += toolkit::textWidth(font_, caption_.substr(measured_, end - measured_));
+        measured_ = end;
+        return static_cast<float>(lead_);
+    }
+
+  private:
+    toolkit::FontSpec font_;
+    std::string_view caption_;
+    std::size_t measured_ = 0;
+    double lead_ = 0;
+};
+
+/// Twips from the card's left edge to where the field's text begins.
+float textLeft(const toolkit::Label& label) {
+    if (label.Alignment != toolkit::Alignment::Center) return label.Left;
+    return label.Left + (label.Width - toolkit::textWidth(label.Font, label.Caption)) / 2;
 }
 
-void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const SuitPlace& place) {
+/// Whether any of a symbol can be seen: a text that is far too wide has more of them than the card
+/// could hold.
+bool liesNearCard(const Zevlin& form, float left) {
+    return left > -form.P1.Width && left < form.P1.Width;
+}
+
+void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const SuitPlace& place,
+                 float left) {
     const toolkit::Label& label = form.AText[index];
-    form.Testtext.Font = label.Font;
-    const float left = label.Left + distanceTo(form, label, place);
     toolkit::Label& symbol = newSymbol(form, isRed(place.suit) ? form.ColorRed : toolkit::black);
     symbol.Tag = toolkit::numberText(index);
     symbol.Font.Size = form.Testtext.Font.Size + pointsAboveText;
@@ -92,8 +115,12 @@ void layOver(Zevlin& form, int index) {
     label.Caption = blanked.caption;
     undoubleAmpersands(blanked.scanBuffer);
     hideOldSymbols(form, index);
+    form.Testtext.Font = label.Font;
+    SymbolLeads leads(label.Font, label.Caption);
+    const float start = textLeft(label);
     for (const SuitPlace& place : suitPlaces(blanked.scanBuffer)) {
-        placeSymbol(form, index, blanked.scanBuffer, place);
+        const float left = start + leads.at(place.position);
+        if (liesNearCard(form, left)) placeSymbol(form, index, blanked.scanBuffer, place, left);
     }
 }
 

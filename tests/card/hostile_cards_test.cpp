@@ -1,4 +1,4 @@
-#include <chrono>
+#include <ctime>
 #include <random>
 
 #include "card/load.h"
@@ -8,6 +8,9 @@ namespace zev::test {
 namespace {
 
 namespace fs = std::filesystem;
+
+/// By this process, however busy the machine is.
+double secondsSpent() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
 class HostileCard : public CardFormTest {
   protected:
@@ -100,7 +103,7 @@ TEST_F(HostileCard, WithNulBytesInATextIsLoadedAndSavedAgain) {
 
 TEST_F(HostileCard, WithALineOfTenMillionCharactersIsLoadedInTime) {
     start();
-    const auto began = std::chrono::steady_clock::now();
+    const double began = secondsSpent();
     const std::string text(10'000'000, 'x');
     ASSERT_EQ(load(cardFile({.texts = {"1,\"" + text + "\",0", "2,\"b\",0"}})), Outcome::Loaded);
     EXPECT_EQ(form.AText[1].Tag.size(), text.size());
@@ -109,16 +112,20 @@ TEST_F(HostileCard, WithALineOfTenMillionCharactersIsLoadedInTime) {
     toolkit::test::settle();
     EXPECT_EQ(load("'" + text + "\r\n"), Outcome::Traced);
     EXPECT_EQ(load(text), Outcome::Traced);
-    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(20));
+    EXPECT_LT(secondsSpent() - began, 60);
 }
 
 TEST_F(HostileCard, OfCountlessSymbolsIsLoadedInTime) {
     start();
-    const auto began = std::chrono::steady_clock::now();
+    const double began = secondsSpent();
     std::string text;
-    for (int i = 0; i < 2'000; ++i) text += "^h";
+    for (int i = 0; i < 5'000'000; ++i) text += "^h";
     ASSERT_EQ(load(cardFile({.texts = {"1,\"" + text + "\",0"}})), Outcome::Loaded);
-    EXPECT_LT(std::chrono::steady_clock::now() - began, std::chrono::seconds(20));
+    EXPECT_GT(form.SText.UBound(), 50);
+    EXPECT_LT(form.SText.UBound(), 5'000);
+    window->update();
+    toolkit::test::settle();
+    EXPECT_LT(secondsSpent() - began, 60);
 }
 
 TEST_F(HostileCard, OnDiskAtTheStartLeavesABlankCard) {
