@@ -99,5 +99,15 @@ TEST_F(BuildFields, TheTraceTellsThatTheLayoutIsOpened) {
         traced("Initialize step 1480: about to open Definitions.Ini in " + dataFolder.string()));
 }
 
+TEST_F(BuildFields, AConversionUnderASchemeKeepsTheFieldsOwnColours) {
+    writeOptions("Zoom=5\r\nColorScheme=255\r\n");
+    startOnOtherScreen(fewFields());
+    const SecondRun next(window);
+    EXPECT_EQ(next.form.MarkColors[1], toolkit::black);
+    EXPECT_EQ(next.form.MarkColors[2], next.form.ColorRed);
+    EXPECT_EQ(next.form.MarkColors[3], next.form.ColorBlue);
+    EXPECT_EQ(next.form.TextColors[2], next.form.ColorRed);
+}
+
 } // namespace
 } // namespace zev::test

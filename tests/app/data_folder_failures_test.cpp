@@ -1,3 +1,4 @@
+#include "app/data_folder.h"
 #include "app/layouts.h"
 #include "app/settings.h"
 #include "toolkit/files.h"
@@ -116,6 +117,19 @@ TEST_F(DataFolderFailures, WithoutADocumentsFolderABadLayoutOfTheProgramIsOffere
     EXPECT_TRUE(boxes[0].text.starts_with("The 'Definitions.Ini' file in '" +
                                           programFolder.string() + "' contains errors."));
     EXPECT_FALSE(fs::exists(programFolder / "Definitions.Ini"));
+}
+
+TEST_F(DataFolderFailures, AFileInThePlaceOfTheDocumentsFolderMeansThatThereIsNone) {
+    wireOnly();
+    EXPECT_EQ(GetSpecialFolder(form, 5), home / "Documents");
+    fs::remove_all(home / "Documents");
+    toolkit::writeFile(home / "Documents", "a file");
+    EXPECT_EQ(GetSpecialFolder(form, 5), fs::path());
+}
+
+TEST_F(DataFolderFailures, OtherShellFoldersAreUnknown) {
+    wireOnly();
+    EXPECT_EQ(GetSpecialFolder(form, 7), fs::path());
 }
 
 } // namespace

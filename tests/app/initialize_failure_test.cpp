@@ -153,6 +153,7 @@ TEST_F(InitializeFailure, AFolderInThePlaceOfTheLayoutStays) {
     fs::create_directory(dataFile("Definitions.Ini"));
     announceError("Error in CheckIniUpdate 75");
     EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(boxes.empty());
     EXPECT_TRUE(fs::exists(dataFile("Definitions.Ini")));
 }
 

@@ -147,5 +147,28 @@ TEST_F(Initialization, TheFieldsOwnColoursAreKeptUnderAScheme) {
     EXPECT_EQ(form.MarkColors[3], form.ColorBlue);
 }
 
+TEST_F(Initialization, AVersionReadBeforeDoesNotCountForTheOptions) {
+    start();
+    ASSERT_EQ(form.VersionSeen, "2.0.0");
+    Initialize(form);
+    EXPECT_EQ(form.OptionsVersion, "");
+}
+
+TEST_F(Initialization, OptionsAreReadAnewEachTimeAndChangeNothingByThat) {
+    writeOptions("Name=Ann\r\nZoom=6\r\nFit=1\r\nFontSize=2\r\nBold=1\r\nColorScheme=255\r\n");
+    start();
+    // The window's real frame is known from its first showing on.
+    Initialize(form);
+    const auto scale = form.LastImageScale;
+    Initialize(form);
+    EXPECT_EQ(form.LastImageScale, scale);
+    EXPECT_TRUE(form.MFitScreenWidth.Checked);
+    EXPECT_TRUE(form.mLargerTextFont.Checked);
+    EXPECT_EQ(form.ZoomLevel, 6);
+    EXPECT_EQ(form.ColorScheme, 255);
+    EXPECT_FALSE(form.Zooming);
+    EXPECT_FALSE(form.Initializing);
+}
+
 } // namespace
 } // namespace zev::test

@@ -1,4 +1,6 @@
 #include "support/form_test.h"
+#include "toolkit/key.h"
+#include "toolkit/screen.h"
 
 namespace zev::test {
 namespace {
@@ -22,6 +24,24 @@ TEST_F(Start, AClickedMarkIsSetAndTheCardModified) {
     EXPECT_TRUE(form.AMark[1].Visible);
     EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
 }
+
+/// On a screen with other dots per inch each start has the installed layout made for it.
+class StartOnOtherScreens : public FormTest, public testing::WithParamInterface<int> {};
+
+TEST_P(StartOnOtherScreens, TheInstalledLayoutFitsAndItsMarksCanBeClicked) {
+    toolkit::overrideScreen({.twipsPerPixel = GetParam(), .width = 24000, .height = 24000});
+    std::filesystem::remove(dataFile("Definitions.Ini"));
+    start();
+    toolkit::test::typeKey(toolkit::key::escape, 0, "\x1B");
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_EQ(form.OriginalTwips, GetParam());
+    for (const int mark : {1, 50, 200}) {
+        clickMark(mark);
+        EXPECT_TRUE(form.AMark[mark].Visible) << mark;
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Twips, StartOnOtherScreens, testing::Values(12, 13, 15));
 
 } // namespace
 } // namespace zev::test
