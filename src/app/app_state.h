@@ -18,8 +18,8 @@ struct TraceState {
 };
 
 struct AppState {
-    bool TraceOn = false;      ///< every line goes straight to the file
-    bool TraceSetting = false; ///< the option as it will be saved
+    bool TraceOn = false;          ///< every line goes straight to the file
+    bool TraceSetting = false;     ///< the option as it will be saved
     std::deque<std::string> Trace; ///< the last 100 lines, newest first
     TraceState traceState;
 

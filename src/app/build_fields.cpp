@@ -36,16 +36,15 @@ void readEnvironment(Zevlin& form, InitializeRun& run, LayoutReader& layout) {
 
 void computeRatio(Zevlin& form, InitializeRun& run) {
     run.step = 1520;
-    if (std::abs(form.TwipsPerPixel) >= fewestTwips && std::abs(form.OriginalTwips) >= fewestTwips) {
+    if (std::abs(form.TwipsPerPixel) >= fewestTwips &&
+        std::abs(form.OriginalTwips) >= fewestTwips) {
         run.step = 1530;
-        run.ratio =
-            static_cast<float>(form.TwipsPerPixel) / static_cast<float>(form.OriginalTwips);
+        run.ratio = static_cast<float>(form.TwipsPerPixel) / static_cast<float>(form.OriginalTwips);
         return;
     }
-    Traceit(form,
-            "Error in Initialize, step 1500 (check for zero divide or overflow): twips=" +
-                toolkit::numberText(form.TwipsPerPixel) +
-                "; origtwips=" + toolkit::numberText(form.OriginalTwips));
+    Traceit(form, "Error in Initialize, step 1500 (check for zero divide or overflow): twips=" +
+                      toolkit::numberText(form.TwipsPerPixel) +
+                      "; origtwips=" + toolkit::numberText(form.OriginalTwips));
     if (form.TwipsPerPixel < fewestTwips) form.TwipsPerPixel = 15;
     if (form.OriginalTwips < fewestTwips) form.OriginalTwips = form.TwipsPerPixel;
     run.ratio = 1;

@@ -12,8 +12,8 @@ struct InitializeRun;
 /// resolution; where that is missing too, a box says so and the program ends.
 [[nodiscard]] std::filesystem::path findLayout(Zevlin& form, InitializeRun& run);
 
-/// Asks once in a run, when the layout was made at another resolution, whether to take the installed
-/// one instead. On Yes the program ends.
+/// Asks once in a run, when the layout was made at another resolution, whether to take the
+/// installed one instead. On Yes the program ends.
 void checkScreenFonts(Zevlin& form);
 
 } // namespace zev

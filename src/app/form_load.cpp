@@ -52,9 +52,8 @@ bool findDataFolder(Zevlin& form) {
 
 /// What comes before failures are told.
 void prepare(Zevlin& form, LoadRun& run) {
-    ignoringFailures([&] {
-        form.TwipsPerPixel = static_cast<std::int16_t>(toolkit::twipsPerPixel());
-    });
+    ignoringFailures(
+        [&] { form.TwipsPerPixel = static_cast<std::int16_t>(toolkit::twipsPerPixel()); });
     ignoringFailures([&] { run.showHelp = findDataFolder(form); });
     ignoringFailures([&] { AppVersion(form); });
     ignoringFailures([&] { HelpCreate(form); });
@@ -151,8 +150,7 @@ void openFirstCard(Zevlin& form, std::string_view commandLine) {
 }
 
 void placeMenuHelp(Zevlin& form) {
-    form.PopHelp.Move(form.ScaleWidth() * 3 / 8, 0, form.ScaleWidth() / 4,
-                      form.PopHelp.Height * 4);
+    form.PopHelp.Move(form.ScaleWidth() * 3 / 8, 0, form.ScaleWidth() / 4, form.PopHelp.Height * 4);
     form.PopHelp.Font.Size = form.TwipsPerPixel == 15 ? 9 : 8;
 }
 
@@ -209,12 +207,12 @@ std::string printerMissingText() {
     traceFailure(form, "Error in Form_Load ", failure,
                  ", at step " + stepText + ", hdc=" + toolkit::numberText(form.Myprinter.hdc));
     // Without a printer whatever failed is taken for the missing printer.
-    toolkit::tell(form.Myprinter.hdc == 0
-                      ? printerMissingText()
-                      : "Sorry, program error #" + number + " (" + failure.description() +
-                            ")\nat step " + stepText + " while starting. Please send 'Trace.txt' to " +
-                            std::string(supportAddress) +
-                            ", and mention both the error # and the step.",
+    toolkit::tell(form.Myprinter.hdc == 0 ? printerMissingText()
+                                          : "Sorry, program error #" + number + " (" +
+                                                failure.description() + ")\nat step " + stepText +
+                                                " while starting. Please send 'Trace.txt' to " +
+                                                std::string(supportAddress) +
+                                                ", and mention both the error # and the step.",
                   toolkit::Icon::Exclamation);
     toolkit::endProgram();
 }

@@ -12,11 +12,11 @@ namespace zev {
 enum class AtStart { Enabled, Disabled };
 
 struct MenuEntry {
-    int level = 0;                                ///< 0 on the bar, 1 in its menu
-    toolkit::MenuItem Zevlin::*item = nullptr;    ///< none: a separator
+    int level = 0;                             ///< 0 on the bar, 1 in its menu
+    toolkit::MenuItem Zevlin::*item = nullptr; ///< none: a separator
     std::string_view caption{};
-    std::string_view shortcut{};                  ///< acts while the item is shown and enabled
-    void (*procedure)(Zevlin&) = nullptr;         ///< none: a menu
+    std::string_view shortcut{};          ///< acts while the item is shown and enabled
+    void (*procedure)(Zevlin&) = nullptr; ///< none: a menu
     AtStart atStart = AtStart::Enabled;
 };
 

@@ -84,10 +84,10 @@ void traceSpecs(Zevlin& form, const toolkit::Label& text) {
                       ", " + toolkit::numberText(form.Testtext.TextHeight("y")));
     Traceit(form, "    Init specs - symfont font,sz,bld,ht:  " + fontText(symbols) + ", " +
                       toolkit::numberText(toolkit::textHeight(symbols)));
-    Traceit(form, "    Init specs - small,med,lg font sizes: " +
-                      joinedValues({form.TextFontSize[1], form.TextFontSize[2],
-                                    form.TextFontSize[3]},
-                                   ", "));
+    Traceit(
+        form,
+        "    Init specs - small,med,lg font sizes: " +
+            joinedValues({form.TextFontSize[1], form.TextFontSize[2], form.TextFontSize[3]}, ", "));
 }
 
 void placeHighlight(Zevlin& form, int index, float left, float top) {

@@ -48,9 +48,7 @@ std::filesystem::path directFile(const Zevlin& form) {
     return toolkit::resolveFile(folder, traceFileName);
 }
 
-bool isErrorLine(std::string_view text) {
-    return toolkit::lowerCase(text.substr(0, 5)) == "error";
-}
+bool isErrorLine(std::string_view text) { return toolkit::lowerCase(text.substr(0, 5)) == "error"; }
 
 void dumpRing(Zevlin& form) {
     std::string block = joined({lineEnd, headerLine(form)});
@@ -76,10 +74,10 @@ std::string measuresOf(const toolkit::FontSpec& font) {
 std::string dimensions(Zevlin& form) {
     const toolkit::Label& first = form.AText[1];
     form.Testtext.Font = first.Font;
-    std::string block = joined({"Dimensions:", lineEnd,
-                                "    AText(1) font name, size, height, textheight: ",
-                                measuresOf(first.Font), " ", toolkit::numberText(first.Height), " ",
-                                toolkit::numberText(form.Testtext.TextHeight("|")), lineEnd});
+    std::string block =
+        joined({"Dimensions:", lineEnd, "    AText(1) font name, size, height, textheight: ",
+                measuresOf(first.Font), " ", toolkit::numberText(first.Height), " ",
+                toolkit::numberText(form.Testtext.TextHeight("|")), lineEnd});
     form.Testtext.SetFontName(form.NarrowFontName);
     block += joined({"    Test font name, size, textheight: ", measuresOf(form.Testtext.Font), " ",
                      toolkit::numberText(form.Testtext.TextHeight("|")), lineEnd});

@@ -7,7 +7,7 @@ namespace zev {
 
 struct DesignState {
     bool DesignDirty = false;
-    toolkit::MenuItem MShapes;         ///< the Design menu
+    toolkit::MenuItem MShapes; ///< the Design menu
     toolkit::MenuItem MShowDesignMenu;
     toolkit::MenuItem MShowShapes{.Visible = false}; ///< checked: design mode
     toolkit::MenuItem MSmall;

@@ -53,7 +53,8 @@ void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& 
 }
 
 void RestoreBackgroundPicture(Zevlin& form, Rescale rescale) {
-    Traceit(form, std::string(truthText(rescale == Rescale::Always)) + " RestoreBackgroundPicture ");
+    Traceit(form,
+            std::string(truthText(rescale == Rescale::Always)) + " RestoreBackgroundPicture ");
     trapped(form, "Error in RestoreBackgroundPicture: #", [&] {
         const bool fit = form.MFitScreenWidth.Checked || form.MFitScreenHeight.Checked;
         const auto step = fit ? std::size_t{0} : static_cast<std::size_t>(form.ZoomLevel);
