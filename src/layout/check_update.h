@@ -5,8 +5,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// Where the data folder holds a numbered layout of a newer version, asks whether it may replace the
-/// player's. A failure ends the program.
+/// Where the data folder holds a numbered layout of a newer version, asks whether it may replace
+/// the player's. A failure ends the program.
 void CheckIniUpdate(Zevlin& form);
 
 } // namespace zev

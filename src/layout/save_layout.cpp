@@ -36,9 +36,7 @@ int sizeOf(const std::vector<std::int16_t>& sizes, int index) {
 }
 
 FieldRecord recordOf(const Zevlin& form, const toolkit::Label& label, int index, float scale) {
-    const auto pixels = [&](float twips) {
-        return wholePixels(twips / scale, form.TwipsPerPixel);
-    };
+    const auto pixels = [&](float twips) { return wholePixels(twips / scale, form.TwipsPerPixel); };
     FieldRecord record;
     record.number = index;
     record.left = pixels(label.Left);

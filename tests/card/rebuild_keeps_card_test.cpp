@@ -71,6 +71,18 @@ TEST_F(RebuildKeepsCard, NamesLineWithoutTheTemporaryName) {
     EXPECT_EQ(form.AText[3].Caption, "");
 }
 
+TEST_F(RebuildKeepsCard, NameAndChangedStateWhereTheProgramEnds) {
+    start();
+    openCard("Jones", {});
+    clickMark(1);
+    std::filesystem::create_directory(dataFile("$$Tempcard.zev"));
+    announceError("Error in MSave_Click 75, Path/File access error");
+    EXPECT_TRUE(endsProgram([&] { RebuildScreenImage(form); }));
+    EXPECT_EQ(form.CardName, "Jones");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_TRUE(boxes.empty());
+}
+
 TEST_F(RebuildKeepsCard, WholeCardAtEveryZoom) {
     start();
     typeInto(1, "5^h");

@@ -125,6 +125,13 @@ TEST_F(SaveAs, AsksAlsoForANameInAnotherCaseOrWithBlanks) {
     EXPECT_EQ(dataFileContent("Jones.zev"), "old");
 }
 
+TEST_F(SaveAs, TakesATypedExtensionForPartOfTheName) {
+    start();
+    saveAs("Jones.zev");
+    EXPECT_EQ(form.CardName, "Jones.zev");
+    EXPECT_TRUE(std::filesystem::exists(dataFile("Jones.zev.zev")));
+}
+
 TEST_F(SaveAs, TellsItsStepsInTheTrace) {
     start();
     saveAs("Jones");

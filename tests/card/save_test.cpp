@@ -117,6 +117,15 @@ TEST_F(SaveCard, TrimsTheName) {
     EXPECT_EQ(form.Caption, "Zevlin  ( Jones )");
 }
 
+TEST_F(SaveCard, NamesTheFileInThePlatformsOwnCharacters) {
+    start();
+    form.CardName = "Ren\xE9";
+    choose("File>Save");
+    EXPECT_TRUE(std::filesystem::exists(dataFile("Ren\xC3\xA9.zev")));
+    EXPECT_NE(dataFileContent("Ren\xC3\xA9.zev").find("card called: Ren\xE9\r\n"),
+              std::string::npos);
+}
+
 TEST_F(SaveCard, ReplacesTheFileOfTheSameNameInAnotherCase) {
     start();
     writeCard("JONES", "old");

@@ -84,6 +84,7 @@ TEST_F(Calibration, LeavesTheTemplatesWithoutACaption) {
     EXPECT_EQ(form.AMark[0].Caption, "");
     EXPECT_EQ(form.AText[0].Caption, "");
     EXPECT_EQ(form.AMark[0].Font.Name, form.MarkFontName);
+    EXPECT_FALSE(form.AMark[0].Font.Bold);
     EXPECT_EQ(form.AText[0].Font.Name, form.TextFontName);
 }
 
