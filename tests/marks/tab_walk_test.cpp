@@ -43,7 +43,7 @@ TEST_F(MarkWalk, HeldSpaceTogglesOnce) {
     startSmall();
     clickMark(1);
     pressKey(key::space);
-    for (int i = 0; i < 4; ++i) repeatKey(key::space);
+    for (int i = 0; i < 3; ++i) repeatKey(key::space);
     EXPECT_FALSE(form.AMark[1].Visible);
 }
 
@@ -118,6 +118,7 @@ TEST_F(MarkWalk, TabToAMarkTracesItsPlace) {
 TEST_F(MarkWalk, TabOntoATextOpensItAndEndsTheRestOnMarks) {
     startSmall();
     clickMark(2);
+    duringWait = [&](int) { EXPECT_FALSE(form.TabActive); };
     typeKey(key::tab);
     EXPECT_EQ(form.TIndex, 3);
     EXPECT_TRUE(isEditing());

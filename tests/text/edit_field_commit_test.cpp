@@ -113,6 +113,7 @@ TEST_F(Commit, StandsInTheTraceWithItsField) {
     typeText("x^s");
     form.Trace.clear();
     commitOpenField(form);
+    EXPECT_EQ(form.ActiveControl, &form.P1);
     const int begun = traceIndex("xText_LostFocus tindex=1,  origindex=1, False");
     EXPECT_GE(begun, 0);
     EXPECT_LT(traceIndex("CText_LostFocus"), begun);

@@ -223,6 +223,7 @@ TEST_F(Styles, UndoBringsStylesAndAlignmentBack) {
     EXPECT_FALSE(form.AText[1].Font.Italic);
     EXPECT_FALSE(form.mpopLeft.Checked);
     EXPECT_EQ(shownText(form.CText), "North");
+    EXPECT_LT(form.CText.Height, form.AText[1].Height);
     EXPECT_TRUE(hasPlatformFocus(form.CText));
 }
 
