@@ -65,7 +65,8 @@ void CardFormTest::typeInto(int field, std::string_view utf8) {
 
 testing::AssertionResult CardFormTest::tracedInOrder(const std::vector<std::string>& lines) const {
     const auto ring = traceLines();
-    if (!std::ranges::search(ring, lines).empty()) return testing::AssertionSuccess();
+    if (std::search(ring.begin(), ring.end(), lines.begin(), lines.end()) != ring.end())
+        return testing::AssertionSuccess();
     auto failure = testing::AssertionFailure() << "the trace tells:";
     for (const std::string& line : ring) failure << "\n  " << line;
     return failure;

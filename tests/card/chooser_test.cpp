@@ -61,6 +61,7 @@ TEST_F(Chooser, CancelEmptiesTheNameAndRenewsTheTitle) {
 TEST_F(Chooser, TakesANameOfBlanksForACancel) {
     start();
     EXPECT_EQ(choose("   "), "");
+    EXPECT_EQ(form.TSaveAs, "");
     EXPECT_TRUE(form.ChooserCancelled);
     EXPECT_TRUE(boxes.empty());
 }
