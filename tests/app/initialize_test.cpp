@@ -170,5 +170,16 @@ TEST_F(Initialization, OptionsAreReadAnewEachTimeAndChangeNothingByThat) {
     EXPECT_FALSE(form.Initializing);
 }
 
+TEST_F(Initialization, OptionsThatVanishedAreWrittenAlsoWhereTheFitStaysAsItWas) {
+    writeOptions("Fit=1\r\n");
+    start();
+    Initialize(form);
+    std::filesystem::remove(dataFile("ZEV.Ini"));
+    form.Trace.clear();
+    Initialize(form);
+    EXPECT_FALSE(traced("RebuildScreenImage"));
+    EXPECT_NE(dataFileContent("ZEV.Ini").find("Fit=1 "), std::string::npos);
+}
+
 } // namespace
 } // namespace zev::test
