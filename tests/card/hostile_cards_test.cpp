@@ -104,7 +104,8 @@ TEST_F(HostileCard, WithNulBytesInATextIsLoadedAndSavedAgain) {
 TEST_F(HostileCard, WithALineOfTenMillionCharactersIsLoadedInTime) {
     start();
     const double began = secondsSpent();
-    const std::string text(10'000'000, 'x');
+    std::string text;
+    text.resize(10'000'000, 'x');
     ASSERT_EQ(load(cardFile({.texts = {"1,\"" + text + "\",0", "2,\"b\",0"}})), Outcome::Loaded);
     EXPECT_EQ(form.AText[1].Tag.size(), text.size());
     EXPECT_EQ(form.AText[2].Tag, "b");

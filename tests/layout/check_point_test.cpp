@@ -9,24 +9,24 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* setAside = "$$TempDef.Ini";
-constexpr const char* layout = "Definitions.Ini";
+constexpr const char* layoutName = "Definitions.Ini";
 
 class CheckPoint : public FormTest {};
 
 TEST_F(CheckPoint, SetsTheLayoutAsideAndWritesThePresentOne) {
     start();
-    const std::string before = dataFileContent(layout);
+    const std::string before = dataFileContent(layoutName);
     form.AMark[1].Left += 150;
     CheckPointShapes(form);
     EXPECT_EQ(dataFileContent(setAside), before);
-    EXPECT_NE(dataFileContent(layout), before);
-    EXPECT_TRUE(dataFileContent(layout).starts_with("' ****"));
+    EXPECT_NE(dataFileContent(layoutName), before);
+    EXPECT_TRUE(dataFileContent(layoutName).starts_with("' ****"));
     EXPECT_TRUE(traced("CheckPointShapes"));
 }
 
 TEST_F(CheckPoint, ReplacesAnEarlierOne) {
     start();
-    const std::string before = dataFileContent(layout);
+    const std::string before = dataFileContent(layoutName);
     toolkit::writeFile(dataFile(setAside), "earlier");
     CheckPointShapes(form);
     EXPECT_EQ(dataFileContent(setAside), before);
@@ -34,32 +34,32 @@ TEST_F(CheckPoint, ReplacesAnEarlierOne) {
 
 TEST_F(CheckPoint, IsUndoneByRestoring) {
     start();
-    const std::string before = dataFileContent(layout);
+    const std::string before = dataFileContent(layoutName);
     form.AMark[1].Left += 150;
     CheckPointShapes(form);
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layout), before);
+    EXPECT_EQ(dataFileContent(layoutName), before);
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
 }
 
 TEST_F(CheckPoint, RestoringWithoutOneDoesNothing) {
     start();
-    const std::string before = dataFileContent(layout);
+    const std::string before = dataFileContent(layoutName);
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layout), before);
+    EXPECT_EQ(dataFileContent(layoutName), before);
     EXPECT_EQ(traceLines().back(), "RestoreShapes");
 }
 
 TEST_F(CheckPoint, RestoringBringsALayoutThatIsGone) {
     start();
     toolkit::writeFile(dataFile(setAside), "aside");
-    fs::remove(dataFile(layout));
+    fs::remove(dataFile(layoutName));
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layout), "aside");
+    EXPECT_EQ(dataFileContent(layoutName), "aside");
 }
 
 TEST_F(CheckPoint, LeftBehindIsRestoredAtTheNextStart) {
-    fs::copy_file(dataFile(layout), dataFile(setAside));
+    fs::copy_file(dataFile(layoutName), dataFile(setAside));
     writeLayout(smallLayout({{.left = 1, .top = 1, .width = 9, .height = 9}},
                             {{.left = 1, .top = 50, .width = 90, .height = 9}}));
     start();
@@ -69,28 +69,28 @@ TEST_F(CheckPoint, LeftBehindIsRestoredAtTheNextStart) {
 
 TEST_F(CheckPoint, WithoutALayoutIsTracedAndWritesNothing) {
     start();
-    fs::remove(dataFile(layout));
+    fs::remove(dataFile(layoutName));
     announceError("Error in CheckPointShapes 53, File not found");
     CheckPointShapes(form);
     EXPECT_TRUE(traced("Error in CheckPointShapes 53, File not found"));
-    EXPECT_FALSE(fs::exists(dataFile(layout)));
+    EXPECT_FALSE(fs::exists(dataFile(layoutName)));
 }
 
 TEST_F(CheckPoint, WithAFolderInItsPlaceIsTracedAndKeepsTheLayout) {
     start();
-    const std::string before = dataFileContent(layout);
+    const std::string before = dataFileContent(layoutName);
     fs::create_directory(dataFile(setAside));
     announceError("Error in CheckPointShapes 75, Path/File access error");
     CheckPointShapes(form);
     EXPECT_TRUE(traced("Error in CheckPointShapes 75, Path/File access error"));
-    EXPECT_EQ(dataFileContent(layout), before);
+    EXPECT_EQ(dataFileContent(layoutName), before);
 }
 
 TEST_F(CheckPoint, RestoringOverAFolderIsTraced) {
     start();
     toolkit::writeFile(dataFile(setAside), "aside");
-    fs::remove(dataFile(layout));
-    fs::create_directory(dataFile(layout));
+    fs::remove(dataFile(layoutName));
+    fs::create_directory(dataFile(layoutName));
     announceError("Error in RestoreShapes: #75, Path/File access error");
     RestoreShapes(form);
     EXPECT_TRUE(traced("Error in RestoreShapes: #75, Path/File access error"));
@@ -102,7 +102,7 @@ TEST_F(CheckPoint, BeforeTheFieldsExistTouchesNothing) {
     form.DataFolder = dataFolder;
     writeLayout("untouched");
     CheckPointShapes(form);
-    EXPECT_EQ(dataFileContent(layout), "untouched");
+    EXPECT_EQ(dataFileContent(layoutName), "untouched");
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
 }
 
