@@ -8,6 +8,7 @@
 #include <QtWidgets/QWidget>
 
 #include "toolkit/qt_geometry.h"
+#include "toolkit/screen.h"
 
 namespace toolkit {
 namespace {
@@ -47,8 +48,23 @@ void FormPlace::pullFrame(int menuHeight) {
     frameChanged_ = frameChanged_ || frame != frame_;
     frame_ = frame;
     menuHeight_ = menuHeight;
-    form_.FrameWidth = twipsFromPixels(frame.left() + frame.right());
-    form_.FrameHeight = twipsFromPixels(frame.top() + frame.bottom() + menuHeight);
+    const float width = twipsFromPixels(frame.left() + frame.right());
+    const float height = twipsFromPixels(frame.top() + frame.bottom() + menuHeight);
+    // Before the first placing there is no inside yet that could be kept.
+    if (!knownPixels_.isNull() && !fillsTheScreen(widget_)) keepInside(width, height);
+    form_.FrameWidth = width;
+    form_.FrameHeight = height;
+}
+
+/// The program sized the inside to the card: a frame other than guessed must not cut it, unless the
+/// screen does.
+void FormPlace::keepInside(float frameWidth, float frameHeight) {
+    const Screen screen = toolkit::screen();
+    const auto grown = [](float outer, float change, float most) {
+        return std::min(outer + change, std::max(outer, most));
+    };
+    form_.Width = grown(form_.Width, frameWidth - form_.FrameWidth, screen.Width);
+    form_.Height = grown(form_.Height, frameHeight - form_.FrameHeight, screen.Height);
 }
 
 /// A value stays exactly as the program set it unless the window really is elsewhere. Before the
@@ -65,8 +81,6 @@ void FormPlace::pullPlace() {
     known_ = wanted();
 }
 
-/// A frame other than guessed changes the inside, not the outer size: a size that is saved and set
-/// again in the next run would grow from run to run.
 void FormPlace::push() {
     const Outer outer = wanted();
     if (outer == known_ && (!frameChanged_ || fillsTheScreen(widget_))) return;

@@ -33,6 +33,7 @@ class FormPlace {
     [[nodiscard]] Outer wanted() const;
     [[nodiscard]] QMargins presentFrame() const;
     void pullFrame(int menuHeight);
+    void keepInside(float frameWidth, float frameHeight);
     void pullPlace();
 
     Form& form_;

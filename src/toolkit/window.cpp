@@ -42,6 +42,9 @@ Window::Implementation::Implementation(WindowParts shown)
         lists_.push_back(std::make_unique<ListView>(form_.area(), parts_, *list, delivery_));
     watchKeys();
     current() = this;
+    // The bar's height belongs to the frame, by which the program sizes the form before its first
+    // event.
+    form_.menuBar().push();
     form_.pull();
 }
 

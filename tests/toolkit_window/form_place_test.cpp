@@ -15,7 +15,28 @@ TEST_F(FormPlace, OuterSizeIsTheInsideAndTheFrame) {
     EXPECT_LT(form.ScaleHeight(), px(shown.height()) + 1);
 }
 
+TEST_F(FormPlace, InsideStaysAsSetWhenTheRealFrameBecomesKnown) {
+    const float inside = form.ScaleWidth();
+    const float insideHeight = form.ScaleHeight();
+    test::settle();
+    test::moveMouse(px(5), px(5));
+    EXPECT_GT(form.FrameWidth, 0);
+    EXPECT_EQ(form.ScaleWidth(), inside);
+    EXPECT_EQ(form.ScaleHeight(), insideHeight);
+    EXPECT_EQ(px(test::grabWindow().width()), inside);
+}
+
+TEST_F(FormPlace, FrameDoesNotMakeTheFormLargerThanTheScreen) {
+    overrideScreen({.width = form.Width + px(1), .height = form.Height});
+    test::settle();
+    test::moveMouse(px(5), px(5));
+    EXPECT_EQ(form.Width, px(641));
+    EXPECT_EQ(form.Height, px(480));
+}
+
 TEST_F(FormPlace, ValuesStayExactlyAsSet) {
+    test::settle();
+    test::moveMouse(px(5), px(5));
     form.Left = px(33) + 4;
     form.Width = px(500) + 7;
     test::settle();
@@ -26,19 +47,26 @@ TEST_F(FormPlace, ValuesStayExactlyAsSet) {
 }
 
 TEST_F(FormPlace, SizeGivenByThePlayerGoesIntoTheValues) {
+    form.Left = px(50) + 3;
+    test::settle();
+    const float width = form.Width;
+    const float height = form.Height;
     test::resizeWindow(20, 10);
     test::moveMouse(px(5), px(5));
-    EXPECT_EQ(form.Width, px(660));
-    EXPECT_EQ(form.Height, px(490));
-    EXPECT_EQ(form.Left, px(50));
+    EXPECT_EQ(form.Width, width + px(20));
+    EXPECT_EQ(form.Height, height + px(10));
+    EXPECT_EQ(form.Left, px(50) + 3);
 }
 
 TEST_F(FormPlace, PlaceGivenByThePlayerGoesIntoTheValues) {
+    test::settle();
+    const float width = form.Width;
+    const float width = form.Width;
     test::shiftWindow(7, -3);
     test::moveMouse(px(5), px(5));
     EXPECT_EQ(form.Left, px(57));
     EXPECT_EQ(form.Top, px(57));
-    EXPECT_EQ(form.Width, px(640));
+    EXPECT_EQ(form.Width, width);
 }
 
 } // namespace
