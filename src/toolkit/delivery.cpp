@@ -41,8 +41,7 @@ void Delivery::run(const std::function<void()>& handler) {
 }
 
 void Delivery::askToClose() {
-    if (std::exchange(closeAsked_, true)) return;
-    if (depth_ == 0) scheduleClose();
+    if (!std::exchange(closeAsked_, true)) scheduleClose();
 }
 
 /// Queued: the close procedure may end the program, which must not happen below the platform's own

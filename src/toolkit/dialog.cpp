@@ -71,7 +71,6 @@ Answer showOnScreen(const MessageBox& box) {
     shown.setIcon(qIcon(box.icon));
     for (const Answer answer : answers) shown.addButton(qButton(answer));
     shown.setDefaultButton(qButton(box.preset.value_or(answers.front())));
-    shown.setEscapeButton(qButton(answers.back()));
     const int pressed = shown.exec();
     const auto found = std::ranges::find(qtButtons, pressed, [](auto pair) { return pair.second; });
     return found == qtButtons.end() ? answers.back() : found->first;

@@ -81,7 +81,6 @@ void KeyDelivery::release(const QKeyEvent& event) {
 
 bool KeyDelivery::passes(const std::function<void(KeyArguments&)>& slot, const QKeyEvent& event) {
     KeyArguments arguments{keyCodeOf(event), shiftOf(event.modifiers())};
-    if (event.key() == Qt::Key_Backtab) arguments.Shift |= shift::shift;
     delivery_.run([&] {
         if (slot) slot(arguments);
     });

@@ -42,7 +42,7 @@ QRect paintedRectangle(const Label& label) {
 
 void paintLabel(QPainter& painter, const Label& label) {
     const QRect place = pixelRectangle(label);
-    painter.setClipRect(label.Clips ? place : paintedRectangle(label));
+    painter.setClipRect(paintedRectangle(label));
     if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
     const std::string text = paintedText(label.Caption);
     if (text.empty()) return;

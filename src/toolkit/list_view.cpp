@@ -32,6 +32,7 @@ void ListView::pull() {
 /// A hidden list keeps its old rows: comparing thousands of them after each event would cost.
 void ListView::push() {
     if (list_.Visible) {
+        // Setting no current row keeps the view from choosing one when it gets the focus.
         if (rows_.replace(list_.List)) setCurrentIndex({});
         pushIndex();
         if (const QString tip = qString(list_.ToolTip); tip != toolTip()) setToolTip(tip);
@@ -40,7 +41,6 @@ void ListView::push() {
 }
 
 void ListView::pushIndex() {
-    if (list_.ListIndex >= rows_.rowCount()) list_.ListIndex = -1;
     knownIndex_ = list_.ListIndex;
     if (currentIndex().row() != list_.ListIndex) setCurrentIndex(rows_.index(list_.ListIndex));
 }
@@ -74,12 +74,6 @@ void ListView::mouseReleaseEvent(QMouseEvent* event) {
 void ListView::wheelEvent(QWheelEvent* event) {
     QListView::wheelEvent(event);
     event->accept();
-}
-
-/// The base would make the first row current; a list has a current row when one is chosen.
-void ListView::focusInEvent(QFocusEvent* event) {
-    QAbstractScrollArea::focusInEvent(event);
-    viewport()->update();
 }
 
 } // namespace toolkit

@@ -54,7 +54,6 @@ class ListView : public QListView {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void focusInEvent(QFocusEvent* event) override;
     bool focusNextPrevChild(bool /*next*/) override { return false; }
 
   private:

@@ -4,6 +4,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QInputDialog>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
@@ -41,7 +42,8 @@ void endNextBox(std::optional<Answer> answer, ShownBox& seen) {
     onceThere([answer, &seen] {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr) return false;
-        seen = {ansiText(box->windowTitle()), ansiText(box->text())};
+        seen = {ansiText(box->windowTitle()), ansiText(box->text()),
+                box->textFormat() == Qt::PlainText};
         if (answer)
             box->button(qButton(*answer))->click();
         else
@@ -55,7 +57,8 @@ void fillNextInputBox(std::string_view utf8, ShownBox& seen) {
     onceThere([text, &seen] {
         auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
         if (box == nullptr) return false;
-        seen = {ansiText(box->windowTitle()), ansiText(box->labelText())};
+        seen = {ansiText(box->windowTitle()), ansiText(box->labelText()),
+                box->findChild<QLabel*>()->textFormat() == Qt::PlainText};
         box->setTextValue(text);
         box->accept();
         return true;

@@ -52,6 +52,16 @@ TEST_F(CardMouse, MovePrecedesTheNextPressAtTheSamePlace) {
     EXPECT_EQ(log.front(), "card.MouseMove B=0 S=0 X=30 Y=40");
 }
 
+TEST_F(CardMouse, MovePrecedesAPressWhereADragEnded) {
+    test::pressMouse(px(30), px(40));
+    test::moveMouse(px(50), px(40), button::left);
+    test::releaseMouse(px(50), px(40));
+    log.clear();
+    test::pressMouse(px(50), px(40));
+    test::releaseMouse(px(50), px(40));
+    EXPECT_EQ(log.front(), "card.MouseMove B=0 S=0 X=50 Y=40");
+}
+
 TEST_F(CardMouse, MovePrecedesAPressAfterTheLabelUnderThePointerWasHidden) {
     place(marks[1], 10, 10, 20, 20);
     test::click(px(15), px(15));

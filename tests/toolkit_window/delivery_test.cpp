@@ -71,6 +71,23 @@ TEST_F(Delivery, ProcedureIsOverBeforeTheQuestion) {
               std::find(log.begin(), log.end(), "asked"));
 }
 
+TEST_F(Delivery, QueuedCloseWaitsForAProcedureThatBeganMeanwhile) {
+    form.QueryClose = [this] {
+        note("asked");
+        return true;
+    };
+    card.Click = [this] {
+        doEvents();
+        note("procedure over");
+    };
+    test::requestClose();
+    test::click(px(30), px(40));
+    EXPECT_EQ(times("asked"), 0);
+    EXPECT_EQ(times("procedure over"), 1);
+    test::settle();
+    EXPECT_EQ(times("asked"), 1);
+}
+
 TEST_F(Delivery, EndInTheQuestionReachesTheTest) {
     overrideProgram({.throwAtEnd = true});
     form.QueryClose = []() -> bool { endProgram(); };

@@ -43,6 +43,7 @@ TEST_F(Dialog, TitleIsTheGivenOneOrTheProgramsName) {
 TEST_F(Dialog, TextIsPlain) {
     onScreenQuietly({.text = "<b>caf\xe9</b>"});
     EXPECT_EQ(seen.text, "<b>caf\xe9</b>");
+    EXPECT_TRUE(seen.plain);
 }
 
 TEST_F(Dialog, InputBoxGivesWhatWasTypedWithoutControlCharacters) {
@@ -51,6 +52,7 @@ TEST_F(Dialog, InputBoxGivesWhatWasTypedWithoutControlCharacters) {
                                                                            "bar");
     EXPECT_EQ(seen.title, "My Name");
     EXPECT_EQ(seen.text, "Name?");
+    EXPECT_TRUE(seen.plain);
 }
 
 TEST_F(Dialog, TestAnswersInThePlayersPlace) {
@@ -68,15 +70,17 @@ TEST_F(Dialog, TestAnswersInThePlayersPlace) {
     EXPECT_EQ(log, (Log{"Save?", "chosen"}));
 }
 
-TEST_F(Dialog, ValuesAreOnTheScreenBeforeTheBox) {
-    answerDialogsWith({.message = [this](const MessageBox&) {
-        note(test::shownText(box));
+TEST_F(Dialog, ValuesAreTakenOverBeforeTheBox) {
+    const Control* active = nullptr;
+    answerDialogsWith({.message = [&](const MessageBox&) {
+        active = form.ActiveControl;
         return Answer::Ok;
     }});
     openBox("abc");
-    box.Text = "set just before";
+    // Only a window that has taken this over knows that the focus is the card's now.
+    box.Visible = false;
     tell("Done", Icon::Information);
-    EXPECT_EQ(log, (Log{"set just before"}));
+    EXPECT_EQ(active, &card);
 }
 
 } // namespace

@@ -61,7 +61,6 @@ TEST_F(FormPlace, SizeGivenByThePlayerGoesIntoTheValues) {
 TEST_F(FormPlace, PlaceGivenByThePlayerGoesIntoTheValues) {
     test::settle();
     const float width = form.Width;
-    const float width = form.Width;
     test::shiftWindow(7, -3);
     test::moveMouse(px(5), px(5));
     EXPECT_EQ(form.Left, px(57));

@@ -17,9 +17,9 @@ TEST_F(ListRows, RowsAreAsHighAsALineSoThatAllFit) {
     list.Height = textHeight(list.Font) * 20 + px(6);
     const Bitmap shown = test::grabWindow();
     int ink = 0;
-    const int menuBar = static_cast<int>(form.FrameHeight / px(1));
-    const int bottom = menuBar + 100 + static_cast<int>(list.Height / px(1));
-    for (int y = bottom - 30; y < bottom - 2; ++y)
+    const int inside = shown.height() - static_cast<int>(form.ScaleHeight() / px(1));
+    const int bottom = inside + 100 + static_cast<int>(list.Height / px(1));
+    for (int y = bottom - 20; y < bottom - 4; ++y)
         for (int x = 102; x < 140; ++x)
             if (redOf(shown.pixel(x, y).value_or(white)) < 100) ++ink;
     EXPECT_GT(ink, 20);

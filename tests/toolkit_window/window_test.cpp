@@ -1,4 +1,4 @@
-// Where the keys go and which events tell so.
+// Where the keys go, which events tell so, and what lies over what.
 #include "fixture.h"
 
 namespace window_test {
@@ -6,15 +6,15 @@ namespace {
 
 using namespace toolkit;
 
-class Focus : public WindowTest {};
+class WindowOrder : public WindowTest {};
 
-TEST_F(Focus, KeysGoToTheCardBeforeAnythingHasTheFocus) {
+TEST_F(WindowOrder, KeysGoToTheCardBeforeAnythingHasTheFocus) {
     test::typeKey('Q');
     EXPECT_EQ(log, (Log{"form.KeyDown 81/0", "card.KeyDown 81/0", "card.KeyPress 113",
                         "card.KeyUp 81/0"}));
 }
 
-TEST_F(Focus, PressOnTheCardRunsLostFocusOfTheOpenBoxBeforeMouseDown) {
+TEST_F(WindowOrder, PressOnTheCardRunsLostFocusOfTheOpenBoxBeforeMouseDown) {
     openBox("abc");
     test::moveMouse(px(200), px(200));
     log.clear();
@@ -24,7 +24,7 @@ TEST_F(Focus, PressOnTheCardRunsLostFocusOfTheOpenBoxBeforeMouseDown) {
     test::releaseMouse(px(200), px(200));
 }
 
-TEST_F(Focus, PressOnAMarkTakesTheFocus) {
+TEST_F(WindowOrder, PressOnAMarkTakesTheFocus) {
     openBox("abc");
     place(marks[1], 200, 200, 20, 20);
     test::pressMouse(px(205), px(205));
@@ -32,7 +32,7 @@ TEST_F(Focus, PressOnAMarkTakesTheFocus) {
     test::releaseMouse(px(205), px(205));
 }
 
-TEST_F(Focus, PressOnAnotherLabelLeavesTheFocus) {
+TEST_F(WindowOrder, PressOnAnotherLabelLeavesTheFocus) {
     openBox("abc");
     place(texts[1], 200, 200, 20, 20);
     place(stamp, 240, 200, 20, 20);
@@ -42,13 +42,13 @@ TEST_F(Focus, PressOnAnotherLabelLeavesTheFocus) {
     EXPECT_EQ(form.ActiveControl, &box);
 }
 
-TEST_F(Focus, PressInTheBoxThatHasTheFocusIsNoFocusEvent) {
+TEST_F(WindowOrder, PressInTheBoxThatHasTheFocusIsNoFocusEvent) {
     openBox("abc");
     test::click(px(30), px(30));
     EXPECT_EQ(times("box.LostFocus") + times("box.GotFocus"), 0);
 }
 
-TEST_F(Focus, PressOnAListTakesTheFocus) {
+TEST_F(WindowOrder, PressOnAListTakesTheFocus) {
     openBox("abc");
     list.Move(px(100), px(100), px(80), px(80));
     list.List = {"one", "two"};
@@ -61,14 +61,14 @@ TEST_F(Focus, PressOnAListTakesTheFocus) {
     test::releaseMouse(px(95), px(95));
 }
 
-TEST_F(Focus, PlatformFocusFollowsTheForms) {
+TEST_F(WindowOrder, PlatformFocusFollowsTheForms) {
     openBox("abc");
     EXPECT_TRUE(test::hasPlatformFocus(box));
     form.SetFocus(card);
     EXPECT_TRUE(test::hasPlatformFocus(card));
 }
 
-TEST_F(Focus, FocusedBoxThatIsHiddenLeavesItToTheCardWithoutEvents) {
+TEST_F(WindowOrder, FocusedBoxThatIsHiddenLeavesItToTheCardWithoutEvents) {
     openBox("abc");
     box.Visible = false;
     window->update();
@@ -77,7 +77,7 @@ TEST_F(Focus, FocusedBoxThatIsHiddenLeavesItToTheCardWithoutEvents) {
     EXPECT_EQ(log, Log{});
 }
 
-TEST_F(Focus, BoxOnTheScreenIsNoLostFocus) {
+TEST_F(WindowOrder, BoxOnTheScreenIsNoLostFocus) {
     openBox("abc");
     test::ShownBox seen;
     test::endNextBox(Answer::Ok, seen);
@@ -87,12 +87,25 @@ TEST_F(Focus, BoxOnTheScreenIsNoLostFocus) {
     EXPECT_EQ(form.ActiveControl, &box);
 }
 
-TEST_F(Focus, HandlerThatMovesTheFocusKeepsTheKeyFromTheOldBox) {
+TEST_F(WindowOrder, HandlerThatMovesTheFocusKeepsTheKeyFromTheOldBox) {
     openBox("abc");
     box.KeyDown = [this](KeyArguments&) { form.SetFocus(card); };
     test::typeKey('Q');
     EXPECT_EQ(box.Text, "abc");
     EXPECT_EQ(log.back(), "card.KeyUp 81/0");
+}
+
+TEST_F(WindowOrder, HigherInTheStackIsNearerToTheFront) {
+    list.Move(px(100), px(100), px(80), px(80));
+    list.List = {"one"};
+    list.Visible = true;
+    list.Stack = -1;
+    test::click(px(95), px(95));
+    EXPECT_EQ(times("card.Click"), 1);
+    list.Stack = 1;
+    test::click(px(95), px(95));
+    EXPECT_EQ(times("card.Click"), 1);
+    EXPECT_EQ(times("list.MouseDown B=1 S=0 X=5 Y=5"), 1);
 }
 
 } // namespace
