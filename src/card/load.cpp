@@ -56,8 +56,8 @@ void loadText(Zevlin& form, const TextRecord& record) {
     if (record.number == 0 || record.number > form.AText.UBound()) return;
     applyStyles(form, record);
     std::string text = record.text;
-    undoubleAmpersands(text);
-    doubleAmpersands(text);
+    AmpRem(text);
+    AmpAdd(text);
     form.AText[record.number].Caption = text;
     FitText(form, form.CText, record.number);
     SetSym(form, record.number);

@@ -36,7 +36,7 @@ CardDocument documentOf(const Zevlin& form) {
     for (int i = 1; i <= form.AMark.UBound(); ++i) document.marks.push_back(form.AMark[i].Visible);
     for (int i = 1; i <= form.AText.UBound(); ++i) {
         std::string text = form.AText[i].Tag;
-        undoubleAmpersands(text);
+        AmpRem(text);
         document.texts.push_back({std::move(text), switchesOf(form, i)});
     }
     return document;

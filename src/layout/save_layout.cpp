@@ -36,7 +36,7 @@ int sizeOf(const std::vector<std::int16_t>& sizes, int index) {
 }
 
 FieldRecord recordOf(const Zevlin& form, const toolkit::Label& label, int index, float scale) {
-    const auto pixels = [&](float twips) { return wholePixels(twips / scale, form.TwipsPerPixel); };
+    const auto pixels = [&](float twips) { return px(twips / scale, form.TwipsPerPixel); };
     FieldRecord record;
     record.number = index;
     record.left = pixels(label.Left);
@@ -81,8 +81,7 @@ FileOffsets pixelOffsets(const Zevlin& form) {
     for (std::size_t kind = 1; kind <= 3; ++kind) {
         for (std::size_t size = 1; size <= 3; ++size) {
             for (std::size_t side = 1; side <= 2; ++side) {
-                offsets[cell++] =
-                    wholePixels(form.FontOffsets[kind][size][side], form.TwipsPerPixel);
+                offsets[cell++] = px(form.FontOffsets[kind][size][side], form.TwipsPerPixel);
             }
         }
     }

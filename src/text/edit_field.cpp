@@ -123,7 +123,7 @@ void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
     box.ForeColor = field.ForeColor;
     box.Move(field.Left, field.Top, field.Width, field.Height);
     box.Text = field.Tag;
-    undoubleAmpersands(box.Text);
+    AmpRem(box.Text);
     form.mpopBold.Checked = field.Font.Bold;
     form.mpopBold.Enabled = !form.mBold.Checked;
     form.mpopItalic.Checked = field.Font.Italic;
@@ -145,7 +145,7 @@ void placeCaret(Zevlin& form, toolkit::TextBox& box, float x) {
 
 void takeOverText(Zevlin& form, toolkit::TextBox& box) {
     std::string text = box.Text;
-    doubleAmpersands(text);
+    AmpAdd(text);
     if (text != form.OrigText) SetMod(form);
     toolkit::Label& field = form.AText[form.TIndex];
     field.Caption = text;

@@ -107,7 +107,7 @@ void takeOverTyping(Zevlin& form, toolkit::TextBox& box, int keyCode) {
     int start = box.SelStart;
     insertSuit(text, start, keyCode);
     box.Text = text;
-    doubleAmpersands(text);
+    AmpAdd(text);
     toolkit::Label& field = form.AText[form.TIndex];
     if (text != field.Caption) {
         SetMod(form);

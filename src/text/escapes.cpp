@@ -7,7 +7,7 @@
 
 namespace zev {
 
-void doubleAmpersands(std::string& text) {
+void AmpAdd(std::string& text) {
     std::string doubled;
     doubled.reserve(text.size() + text.size() / 4);
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -19,7 +19,7 @@ void doubleAmpersands(std::string& text) {
     text = std::move(doubled);
 }
 
-void undoubleAmpersands(std::string& text) {
+void AmpRem(std::string& text) {
     const auto bothAmpersands = [](char left, char right) { return left == '&' && right == '&'; };
     text.erase(std::unique(text.begin(), text.end(), bothAmpersands), text.end());
 }
@@ -45,7 +45,7 @@ BlankedText blankEscapes(std::string_view raw) {
 
 std::vector<SuitPlace> suitPlaces(std::string_view scanBuffer) {
     std::string buffer(scanBuffer);
-    undoubleAmpersands(buffer);
+    AmpRem(buffer);
     std::vector<SuitPlace> places;
     for (std::size_t caret = buffer.find('^'); caret != std::string::npos;
          caret = buffer.find('^', caret + 1)) {

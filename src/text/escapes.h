@@ -11,9 +11,9 @@ namespace zev {
 constexpr std::string_view suitLetters = "cdhs";
 
 /// Doubles each "&" that isn't followed by another one.
-void doubleAmpersands(std::string& text);
+void AmpAdd(std::string& text);
 /// Makes every run of ampersands a single one.
-void undoubleAmpersands(std::string& text);
+void AmpRem(std::string& text);
 
 /// A text with its escapes blanked. A "^" right behind an escape is passed over and stays.
 struct BlankedText {

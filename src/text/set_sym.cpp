@@ -113,7 +113,7 @@ void layOver(Zevlin& form, int index) {
     label.Tag = label.Caption;
     BlankedText blanked = blankEscapes(label.Caption);
     label.Caption = blanked.caption;
-    undoubleAmpersands(blanked.scanBuffer);
+    AmpRem(blanked.scanBuffer);
     hideOldSymbols(form, index);
     form.Testtext.Font = label.Font;
     SymbolLeads leads(label.Font, label.Caption);

@@ -43,7 +43,7 @@ void restoreField(Zevlin& form) {
     field.Font.Bold = form.UText.Font.Bold;
     field.Font.Italic = form.UText.Font.Italic;
     field.Caption = form.UText.Text;
-    doubleAmpersands(field.Caption);
+    AmpAdd(field.Caption);
 }
 
 bool isEditing(const Zevlin& form) {
@@ -85,17 +85,17 @@ std::string copiedText(const Zevlin& form) {
                                static_cast<std::size_t>(box.SelLength));
     }
     std::string text = field.Caption;
-    undoubleAmpersands(text);
+    AmpRem(text);
     return text;
 }
 
 void paste(Zevlin& form) {
     if (form.MShowShapes.Checked || !isEditing(form)) return;
     toolkit::Label& field = form.AText[form.TIndex];
-    doubleAmpersands(form.ClipText);
+    AmpAdd(form.ClipText);
     field.Caption = form.ClipText;
     field.Tag = field.Caption;
-    undoubleAmpersands(form.ClipText);
+    AmpRem(form.ClipText);
     form.CText.Text = form.LText.Text = form.ClipText;
     SetMod(form);
     FitText(form, form.CText, form.TIndex);

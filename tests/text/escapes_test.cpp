@@ -6,12 +6,12 @@ namespace zev {
 namespace {
 
 std::string doubled(std::string text) {
-    doubleAmpersands(text);
+    AmpAdd(text);
     return text;
 }
 
 std::string undoubled(std::string text) {
-    undoubleAmpersands(text);
+    AmpRem(text);
     return text;
 }
 
@@ -167,9 +167,9 @@ TEST(Escapes, TakeVeryLongTextsInOneGo) {
     const BlankedText blanked = blankEscapes(text);
     EXPECT_EQ(blanked.caption.size(), 12'500'000U);
     EXPECT_EQ(suitPlaces(blanked.scanBuffer).size(), 2'500'000U);
-    doubleAmpersands(text);
+    AmpAdd(text);
     EXPECT_EQ(text.size(), 12'500'000U);
-    undoubleAmpersands(text);
+    AmpRem(text);
     EXPECT_EQ(text.size(), 10'000'000U);
 }
 
