@@ -19,10 +19,25 @@ class WholeProgramTest(unittest.TestCase):
 
     announced_error = None  # a text that an error line of the trace may hold
 
-    def setUp(self):
+    def run(self, result=None):
+        result = result or self.defaultTestResult()
         self.programs = []
         self.home = desktop.Home(pathlib.Path(tempfile.mkdtemp(prefix="zevlin-")) / "home")
-        self.addCleanup(self.clean_up)
+        failures = len(result.failures) + len(result.errors)
+        try:
+            super().run(result)
+            if len(result.failures) + len(result.errors) > failures:
+                self.keep()
+        finally:
+            for program in self.programs:
+                program.kill()
+            shutil.rmtree(self.home.folder.parent, ignore_errors=True)
+        return result
+
+    def tearDown(self):
+        errors = [line for line in self.home.trace().splitlines() if line[9:].startswith("Error")
+                  and not (self.announced_error and self.announced_error in line)]
+        self.assertEqual(errors, [])
 
     def start(self, *arguments):
         program = desktop.Program(self.home, *arguments)
@@ -40,20 +55,6 @@ class WholeProgramTest(unittest.TestCase):
     def leave(self, program):
         program.close()
         self.assertEqual(program.wait_for_end(), 0)
-
-    def wait_for_marks(self, name, marks):
-        desktop.wait_for(f"the marks {marks} in the file",
-                         lambda: self.home.records(name)[0] == marks)
-
-    def clean_up(self):
-        if not self._outcome.success:
-            self.keep()
-        for program in self.programs:
-            program.kill()
-        errors = [line for line in self.home.trace().splitlines() if line[9:].startswith("Error")
-                  and not (self.announced_error and self.announced_error in line)]
-        shutil.rmtree(self.home.folder.parent, ignore_errors=True)
-        self.assertEqual(errors, [])
 
     def keep(self):
         folder = KEPT / self.id().rpartition(".")[2]
