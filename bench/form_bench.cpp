@@ -32,7 +32,8 @@ class Program {
     Program() : home_(newFolder()) {
         const fs::path data = home_ / "ZEV";
         fs::create_directories(data);
-        fs::copy_file(fs::path(ZEVLIN_CARD_FOLDER) / "Definitions.Ini.15", data / "Definitions.Ini");
+        fs::copy_file(fs::path(ZEVLIN_CARD_FOLDER) / "Definitions.Ini.15",
+                      data / "Definitions.Ini");
         toolkit::writeFile(data / "ZEV.Ini", "Zoom=5\r\n");
         toolkit::overrideScreen({.width = 24000, .height = 24000});
         toolkit::overrideProgram({.programFolder = ZEVLIN_CARD_FOLDER, .documentsFolder = home_});
@@ -59,7 +60,8 @@ class Program {
         document.cardName = name;
         document.programVersion = form.ProgramVersion;
         document.marks.assign(static_cast<std::size_t>(form.AMark.UBound()), true);
-        document.texts.assign(static_cast<std::size_t>(form.AText.UBound()), {"2^h 3^s && more", 0});
+        document.texts.assign(static_cast<std::size_t>(form.AText.UBound()),
+                              {"2^h 3^s && more", 0});
         toolkit::writeFile(form.DataFolder / (name + ".zev"), zev::writeCard(document));
     }
 

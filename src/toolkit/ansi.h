@@ -15,7 +15,8 @@ constexpr char superscriptTwo = '\xB2';
 /// Codes compare unsigned: 'é' is above 'z'.
 constexpr unsigned char code(char character) { return static_cast<unsigned char>(character); }
 
-/// The Unicode value that a byte of the code page stands for; the five unused bytes map to themselves.
+/// The Unicode value that a byte of the code page stands for; the five unused bytes map to
+/// themselves.
 [[nodiscard]] char32_t unicodeOf(char character);
 
 /// The byte for a Unicode value, none where the code page lacks it.

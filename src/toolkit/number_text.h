@@ -21,8 +21,8 @@ namespace toolkit {
 /// With "," every three digits: 1234567 gives 1,234,567.
 [[nodiscard]] std::string groupedText(std::uint64_t value);
 
-/// The number that a text begins with (leading blanks skipped), 0 if it begins with none; beyond the
-/// range of double it saturates.
+/// The number that a text begins with (leading blanks skipped), 0 if it begins with none; beyond
+/// the range of double it saturates.
 [[nodiscard]] double leadingNumber(std::string_view text);
 
 /// The number that the whole text is (blanks at either end allowed), none if it is none.

@@ -62,9 +62,10 @@ FormTest::FormTest() : home(newFolder()) {
                               .shortWaits = true,
                               .launch = [this](std::string what) { launched.push_back(what); },
                               .beep = [this] { ++beeps; },
-                              .duringWait = [this](int milliseconds) {
-                                  if (duringWait) duringWait(milliseconds);
-                              }});
+                              .duringWait =
+                                  [this](int milliseconds) {
+                                      if (duringWait) duringWait(milliseconds);
+                                  }});
     // A screen on which the whole card can be clicked.
     toolkit::overrideScreen({.width = 24000, .height = 24000});
     fs::copy_file(programFolder / "Definitions.Ini.15", dataFolder / "Definitions.Ini");

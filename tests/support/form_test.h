@@ -29,8 +29,8 @@ struct ShownBox {
     std::optional<toolkit::Answer> preset{};
 };
 
-/// Every box must be foreseen: one that no answer waits for fails the test. A trace line that begins
-/// with "Error" fails the test unless it was announced.
+/// Every box must be foreseen: one that no answer waits for fails the test. A trace line that
+/// begins with "Error" fails the test unless it was announced.
 class FormTest : public testing::Test {
   protected:
     FormTest();
@@ -47,8 +47,8 @@ class FormTest : public testing::Test {
     /// Runs a call that is expected to end the program; true if it did.
     [[nodiscard]] static bool endsProgram(const std::function<void()>& call);
 
-    // Before start(): what stands in the data folder; by default an options file (half size, no fit)
-    // and the installed layout, no cards.
+    // Before start(): what stands in the data folder; by default an options file (half size, no
+    // fit) and the installed layout, no cards.
     void makeFirstRun();
     void writeOptions(std::string_view content);
     void writeLayout(std::string_view content);
@@ -86,11 +86,11 @@ class FormTest : public testing::Test {
     std::filesystem::path home;
     std::filesystem::path dataFolder;
     std::filesystem::path programFolder;
-    std::vector<ShownBox> boxes;             ///< every message box so far
-    std::vector<toolkit::InputBox> inputs;   ///< every input box so far
-    int popups = 0;                          ///< pop-up menus so far
+    std::vector<ShownBox> boxes;           ///< every message box so far
+    std::vector<toolkit::InputBox> inputs; ///< every input box so far
+    int popups = 0;                        ///< pop-up menus so far
     int beeps = 0;
-    std::vector<std::string> launched;       ///< what was opened outside the program
+    std::vector<std::string> launched; ///< what was opened outside the program
     /// Runs in the middle of each wait of the program.
     std::function<void(int milliseconds)> duringWait;
     Zevlin form;
