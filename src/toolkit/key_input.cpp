@@ -107,6 +107,7 @@ int keyCodeOf(const QKeyEvent& event) {
     return lookUp(namedKeys, qtKey);
 }
 
+/// The control characters that TAB and Delete bring as their texts are dropped with all others.
 int characterOf(const QKeyEvent& event) {
     const int qtKey = event.key();
     switch (qtKey) {
@@ -117,10 +118,6 @@ int characterOf(const QKeyEvent& event) {
         return key::escape;
     case Qt::Key_Backspace:
         return backspaceCharacter;
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-    case Qt::Key_Delete:
-        return 0;
     default:
         break;
     }

@@ -62,6 +62,9 @@ void settle();
 /// Whether the platform sends its keys to the control.
 [[nodiscard]] bool hasPlatformFocus(const Control& control);
 
+/// Whether the key comes to the handlers before any shortcut of the platform's own can take it.
+[[nodiscard]] bool isClaimed(int keyCode, int shift);
+
 /// How often and how much of the card was painted since the program began.
 struct CardPaints {
     int paints = 0;

@@ -62,6 +62,14 @@ void repeatKey(int keyCode, int shift) {
     sendKey(QEvent::KeyPress, stroke, textOf(keyCode, shift));
 }
 
+bool isClaimed(int keyCode, int shift) {
+    const KeyStroke stroke = keyStrokeOf(keyCode, shift);
+    QKeyEvent event(QEvent::ShortcutOverride, stroke.key, stroke.modifiers, textOf(keyCode, shift));
+    event.ignore();
+    send(focusWidget(), event);
+    return event.isAccepted();
+}
+
 void releaseKey(int keyCode, int shift) {
     sendKey(QEvent::KeyRelease, keyStrokeOf(keyCode, shift), {});
 }

@@ -74,5 +74,16 @@ TEST_F(KeyDelivery, KeyReachesItsHandlersOnce) {
     EXPECT_EQ(times("card.KeyDown 27/0"), 0);
 }
 
+TEST_F(KeyDelivery, NoShortcutOfThePlatformTakesAKeyButTheMenuBarsAccessKeys) {
+    EXPECT_TRUE(test::isClaimed('Q', shift::ctrl));
+    EXPECT_TRUE(test::isClaimed(key::f1, 0));
+    EXPECT_TRUE(test::isClaimed(key::f4, shift::alt));
+    EXPECT_TRUE(test::isClaimed(key::tab, shift::shift));
+    EXPECT_FALSE(test::isClaimed('F', shift::alt));
+    openBox("abc");
+    EXPECT_TRUE(test::isClaimed('Z', shift::ctrl));
+    EXPECT_FALSE(test::isClaimed('F', shift::alt));
+}
+
 } // namespace
 } // namespace window_test

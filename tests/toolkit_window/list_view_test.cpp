@@ -41,6 +41,8 @@ TEST_F(ListView, ArrowMovesTheCurrentRowAndClicks) {
     EXPECT_EQ(times("list.Click"), 1);
     test::typeKey(key::home);
     EXPECT_EQ(list.ListIndex, 0);
+    test::typeKey(key::up);
+    EXPECT_EQ(times("list.Click"), 2);
 }
 
 TEST_F(ListView, EnterAndEscapeComeAsCharacters) {
