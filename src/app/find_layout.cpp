@@ -56,7 +56,7 @@ std::filesystem::path copyInstalledLayout(Zevlin& form, InitializeRun& run) {
     run.firstRun = true;
     form.LayoutCopied = true;
     run.step = 1350;
-    const auto target = form.DataFolder / layoutFileName;
+    auto target = form.DataFolder / layoutFileName;
     Traceit(form, "Initialize step 1350: creating " + toolkit::displayText(target));
     toolkit::copyFile(*installed, target);
     return target;

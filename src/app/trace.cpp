@@ -1,5 +1,7 @@
 #include "app/trace.h"
 
+#include <ranges>
+
 #include "app/zevlin.h"
 #include "toolkit/ansi.h"
 #include "toolkit/clock.h"
@@ -52,8 +54,8 @@ bool isErrorLine(std::string_view text) { return toolkit::lowerCase(text.substr(
 
 void dumpRing(Zevlin& form) {
     std::string block = joined({lineEnd, headerLine(form)});
-    for (auto line = form.Trace.rbegin(); line != form.Trace.rend(); ++line) {
-        block += *line;
+    for (const std::string& line : form.Trace | std::views::reverse) {
+        block += line;
         block += lineEnd;
     }
     block += memoryLines();

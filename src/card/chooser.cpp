@@ -34,7 +34,7 @@ std::string askForName(Zevlin& form) {
     form.ChooserCancelled = form.ChooserTaken = false;
     form.TSaveAs = toolkit::ask(
         {.prompt = promptFor(cardNames(form)), .title = form.Caption, .preset = form.TSaveAs});
-    const std::string name(toolkit::trim(form.TSaveAs));
+    std::string name(toolkit::trim(form.TSaveAs));
     if (name.empty()) {
         form.ChooserCancelled = true;
         form.TSaveAs.clear();

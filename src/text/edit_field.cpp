@@ -33,13 +33,13 @@ struct FieldClick {
 /// OpeningField for as long as a field is being opened, also when that fails.
 class OpeningGuard {
   public:
-    explicit OpeningGuard(bool& flag) : flag_(flag) { flag_ = true; }
+    explicit OpeningGuard(Zevlin& form) : form_(form) { form.OpeningField = true; }
     OpeningGuard(const OpeningGuard&) = delete;
     OpeningGuard& operator=(const OpeningGuard&) = delete;
-    ~OpeningGuard() { flag_ = false; }
+    ~OpeningGuard() { form_.OpeningField = false; }
 
   private:
-    bool& flag_;
+    Zevlin& form_;
 };
 
 bool isOpen(const Zevlin& form, int index) {
@@ -190,7 +190,7 @@ void AText_Click(Zevlin& form, int index) {
         const FieldClick click = takeClick(form, index);
         if (form.THelp.Visible) return hideHelp(form);
         if (form.MShowShapes.Checked) return;
-        const OpeningGuard opening(form.OpeningField);
+        const OpeningGuard opening(form);
         openField(form, index, click);
     });
 }

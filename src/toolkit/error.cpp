@@ -87,11 +87,10 @@ Failure failureOfErrno(int errorCode) {
     case ENAMETOOLONG:
         return Failure::BadFileName;
     case ENOSPC:
-        return Failure::DiskFull;
 #ifdef EDQUOT
     case EDQUOT:
-        return Failure::DiskFull;
 #endif
+        return Failure::DiskFull;
     case EMFILE:
     case ENFILE:
         return Failure::TooManyFiles;

@@ -38,7 +38,7 @@ void writeContent(const fs::path& path, FileMode mode, std::string_view content)
 }
 
 void copyContent(FileHandle& source, FileHandle& target) {
-    std::array<char, chunkSize> buffer;
+    std::array<char, chunkSize> buffer{};
     while (true) {
         const std::string_view chunk = source.read(buffer);
         if (chunk.empty()) break;
@@ -64,7 +64,7 @@ void removeHalfWritten(const fs::path& path) {
 
 std::string readFile(const fs::path& path) {
     FileHandle file(path, FileMode::Read);
-    std::array<char, chunkSize> buffer;
+    std::array<char, chunkSize> buffer{};
     std::string content;
     while (true) {
         const std::string_view chunk = file.read(buffer);

@@ -56,8 +56,8 @@ QByteArray uncompress(std::span<const std::byte> data) {
     std::uint32_t claimed = 0;
     for (int byte = 0; byte < 4; ++byte) claimed = claimed << 8U | reader.takeByte();
     require(claimed > 0 && claimed <= largestContent);
-    const QByteArray content = qUncompress(reinterpret_cast<const uchar*>(data.data()),
-                                           static_cast<qsizetype>(data.size()));
+    QByteArray content = qUncompress(reinterpret_cast<const uchar*>(data.data()),
+                                     static_cast<qsizetype>(data.size()));
     require(content.size() == static_cast<qsizetype>(claimed));
     return content;
 }

@@ -41,7 +41,7 @@ std::filesystem::path documentsFolder() {
 std::filesystem::path programFolder() {
     if (!programOverrides().programFolder.empty()) return programOverrides().programFolder;
     const std::filesystem::path program = nativePath(QCoreApplication::applicationDirPath());
-    const std::filesystem::path beside = program / "zevlin-files";
+    std::filesystem::path beside = program / "zevlin-files";
     std::error_code failure;
     if (std::filesystem::is_directory(beside, failure)) return beside;
     return program.parent_path() / "share" / "zevlin";

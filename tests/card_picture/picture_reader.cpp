@@ -53,7 +53,8 @@ Picture readPacked(const std::string& path) {
     const int colours = word(bytes, 4);
     const int start = 6 + 3 * colours;
     if (bytes.size() != start + picture.width * picture.height) return {};
-    picture.pixels.reserve(static_cast<std::size_t>(picture.width * picture.height));
+    picture.pixels.reserve(static_cast<std::size_t>(picture.width) *
+                           static_cast<std::size_t>(picture.height));
     for (int at = start; at < bytes.size(); ++at) {
         const int entry = 6 + 3 * byte(bytes, at);
         if (entry >= start) return {};

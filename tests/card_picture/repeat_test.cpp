@@ -1,5 +1,5 @@
-#include "card/card_file.h"
 #include "card_picture/layout_reader.h"
+#include "card_tool/card_file.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -49,7 +49,7 @@ TEST(Tool, WritesTheSameBytesOnEachRun) {
 }
 
 std::string described(const QTemporaryDir& folder, const std::string& text) {
-    const std::string path = folder.path().toStdString() + "/card.txt";
+    std::string path = folder.path().toStdString() + "/card.txt";
     std::ofstream(path) << text;
     return path;
 }

@@ -44,6 +44,7 @@ Area textWithSuits(const Field& text, int twips) {
 void expectTargetsApart(int twips, double scale) {
     const std::vector<Field>& marks = layout(twips).marks;
     std::vector<Area> targets;
+    targets.reserve(marks.size());
     for (const Field& mark : marks) targets.push_back(targetOf(mark, twips, scale));
     for (std::size_t one = 0; one < targets.size(); ++one)
         for (std::size_t other = one + 1; other < targets.size(); ++other)

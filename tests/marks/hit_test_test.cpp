@@ -48,7 +48,9 @@ TEST(Marks, ToleranceGoesByTheScreensPixels) {
 
 TEST(Marks, MarkOfLessThanTenPixelsHeightIsNeverHit) {
     const toolkit::Label flat = markAtPlace(0, 0, 300, 149);
-    for (float y = 0; y < 150; y += 0.5F) ASSERT_FALSE(hitsMark(flat, 100, y, twipsPerPixel));
+    for (int half = 0; half < 300; ++half) {
+        ASSERT_FALSE(hitsMark(flat, 100, static_cast<float>(half) / 2, twipsPerPixel));
+    }
 }
 
 toolkit::ControlArray<toolkit::Label> overlappingMarks() {

@@ -1,6 +1,7 @@
 #include "support/form_test.h"
 
 #include <algorithm>
+#include <ranges>
 #include <sstream>
 
 #include "app/form_load.h"
@@ -55,17 +56,18 @@ FormTest::FormTest() : home(newFolder()) {
         const std::string name = std::string("Definitions.Ini.") + number;
         fs::copy_file(fs::path(ZEVLIN_CARD_FOLDER) / name, programFolder / name);
     }
-    toolkit::overrideProgram({.programFolder = programFolder,
-                              .documentsFolder = home / "Documents",
-                              .noDocuments = false,
-                              .throwAtEnd = true,
-                              .shortWaits = true,
-                              .launch = [this](std::string what) { launched.push_back(what); },
-                              .beep = [this] { ++beeps; },
-                              .duringWait =
-                                  [this](int milliseconds) {
-                                      if (duringWait) duringWait(milliseconds);
-                                  }});
+    toolkit::overrideProgram(
+        {.programFolder = programFolder,
+         .documentsFolder = home / "Documents",
+         .noDocuments = false,
+         .throwAtEnd = true,
+         .shortWaits = true,
+         .launch = [this](const std::string& what) { launched.push_back(what); },
+         .beep = [this] { ++beeps; },
+         .duringWait =
+             [this](int milliseconds) {
+                 if (duringWait) duringWait(milliseconds);
+             }});
     // A screen on which the whole card can be clicked.
     toolkit::overrideScreen({.width = 24000, .height = 24000});
     fs::copy_file(programFolder / "Definitions.Ini.15", dataFolder / "Definitions.Ini");
@@ -173,8 +175,8 @@ void FormTest::announceError(std::string_view beginning) { announced_.emplace_ba
 
 std::vector<std::string> FormTest::traceLines() const {
     std::vector<std::string> lines;
-    for (auto line = form.Trace.rbegin(); line != form.Trace.rend(); ++line) {
-        lines.push_back(messageOf(*line));
+    for (const std::string& line : form.Trace | std::views::reverse) {
+        lines.push_back(messageOf(line));
     }
     return lines;
 }

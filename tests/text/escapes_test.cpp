@@ -99,8 +99,7 @@ BlankedText blankedStepByStep(std::string_view raw) {
                                         ? letter
                                         : std::string(1, static_cast<char>(letter[0] + 32));
         const auto replace = [&](std::string& text, const std::string& by) {
-            text = text.substr(0, place) + by +
-                   (place + 2 < text.size() ? text.substr(place + 2) : std::string());
+            text.replace(place, 2, by);
         };
         replace(blanked.caption, std::string(threeBlanks));
         replace(blanked.scanBuffer, "^" + lowered + "\xA0");

@@ -8,13 +8,13 @@ using namespace toolkit;
 
 class Dialog : public WindowTest {
   protected:
-    Answer onScreen(MessageBox message, std::optional<Answer> pressed) {
+    Answer onScreen(const MessageBox& message, std::optional<Answer> pressed) {
         test::endNextBox(pressed, seen);
         return show(message);
     }
 
-    void onScreenQuietly(MessageBox message) {
-        EXPECT_EQ(onScreen(std::move(message), Answer::Ok), Answer::Ok);
+    void onScreenQuietly(const MessageBox& message) {
+        EXPECT_EQ(onScreen(message, Answer::Ok), Answer::Ok);
     }
 
     test::ShownBox seen;

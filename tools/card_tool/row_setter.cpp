@@ -1,0 +1,218 @@
+#include "card_tool/row_setter.h"
+
+#include "card_tool/failure.h"
+#include "card_tool/units.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace card {
+namespace {
+
+// A box's edges lie on even full pixels, as its centre is odd: so they stay crisp at half scale.
+constexpr int boxSide = 30;
+constexpr int ruleWidth = 2;
+// The box stands on the level of the rules of the text areas, which lies below the words' base
+// line.
+constexpr int boxCentreAboveBaseline = 9;
+constexpr int ruleBelowBaseline = 4;
+constexpr double circlePitch = 46;
+constexpr double circleEm = 30;
+constexpr int circleAboveBaseline = 9;
+constexpr double leastArea = 44;
+// A caption may be wider than the column of boxes under it by this much.
+constexpr double centredOverhang = 24;
+// A suit sign is set this much larger than the words, which makes it as high as their capitals.
+constexpr double suitSize = 1.24;
+
+double evenDown(double value) { return std::floor(value / 2) * 2; }
+
+const Typeface& faceOf(const Typefaces& faces, char32_t character, Weight weight) {
+    return isSuit(character) ? faces.suits : faces.print(weight);
+}
+
+struct Character {
+    char32_t code = 0;
+    double em = 0;
+};
+
+Character characterOf(char32_t character, double em) {
+    return isSuit(character) ? Character{suitCode(character), em * suitSize}
+                             : Character{character, em};
+}
+
+Ink wordInk(const Item& item, char32_t character, const RowStyle& style) {
+    if (isSuit(character) && !style.inverse) return isRedSuit(character) ? Ink::Red : Ink::Black;
+    return style.inverse ? Ink::Paper : item.ink;
+}
+
+Weight weightOf(const Item& item, const RowStyle& style) {
+    return style.weight == Weight::Bold ? Weight::Bold : item.weight;
+}
+
+bool stretches(const Item& item) { return item.kind == ItemKind::Area && item.width == 0; }
+
+} // namespace
+
+RowSetter::RowSetter(const Typefaces& faces, Sheet& sheet)
+    : m_faces(faces), m_sheet(sheet), m_check(centreOffset(faces, MarkKind::Check)),
+      m_circle(centreOffset(faces, MarkKind::Circle)) {}
+
+double RowSetter::wordsWidth(const Item& item, const RowStyle& style) const {
+    double width = 0;
+    for (const char32_t letter : item.text) {
+        const Character character = characterOf(letter, style.em);
+        width +=
+            faceOf(m_faces, letter, weightOf(item, style)).advance(character.code) * character.em;
+    }
+    return width;
+}
+
+double RowSetter::itemWidth(const Item& item, const RowStyle& style) const {
+    switch (item.kind) {
+    case ItemKind::Words:
+        return wordsWidth(item, style);
+    case ItemKind::Box:
+        return boxSide;
+    case ItemKind::Circle:
+        return circlePitch;
+    case ItemKind::Area:
+        return item.width == 0 ? leastArea : item.width * fullPerDesign;
+    case ItemKind::Fill:
+        break;
+    }
+    return 0;
+}
+
+/// The paper between two items. A box's click cell is wider than its print, so a text area beside
+/// it keeps clear of that cell.
+double RowSetter::gap(const Item& before, const Item& item, const RowStyle& style) const {
+    using enum ItemKind;
+    if (before.kind == Fill || item.kind == Fill) return 0;
+    if (before.kind == Circle && item.kind == Circle) return 0;
+    if (before.kind == Words && item.kind == Words)
+        return item.blankBefore ? m_faces.printRegular.advance(U' ') * style.em : 0;
+    if (before.kind == Box && !item.blankBefore) return 5;
+    if (before.kind == Box) return item.kind == Box ? 22 : item.kind == Area ? 14 : 16;
+    if (item.kind == Box) return before.kind == Area ? 14 : 8;
+    return 7;
+}
+
+double RowSetter::naturalWidth(const Cell& cell, const RowStyle& style) const {
+    double width = 0;
+    for (std::size_t at = 0; at < cell.items.size(); ++at) {
+        if (at > 0) width += gap(cell.items[at - 1], cell.items[at], style);
+        width += itemWidth(cell.items[at], style);
+    }
+    return width;
+}
+
+std::vector<double> RowSetter::itemWidths(const Cell& cell, const RowStyle& style,
+                                          double width) const {
+    const double spare = width - naturalWidth(cell, style);
+    if (spare < -(cell.align == CellAlign::Centre ? centredOverhang : 0.01))
+        throw Failure("the row is " + std::to_string(-spare / fullPerDesign) + " pixels too wide");
+    const bool areas = std::ranges::any_of(cell.items, stretches);
+    const auto takesShare = [areas](const Item& item) {
+        return areas ? stretches(item) : item.kind == ItemKind::Fill;
+    };
+    const auto sharers = std::ranges::count_if(cell.items, takesShare);
+    std::vector<double> widths;
+    for (const Item& item : cell.items)
+        widths.push_back(itemWidth(item, style) +
+                         (takesShare(item) ? spare / static_cast<double>(sharers) : 0));
+    return widths;
+}
+
+void RowSetter::setCell(const Cell& cell, const RowStyle& style, Span span, int baseline) {
+    const std::vector<double> widths = itemWidths(cell, style, span.width());
+    double left = span.left;
+    if (cell.align == CellAlign::Centre) left += (span.width() - naturalWidth(cell, style)) / 2;
+    for (std::size_t at = 0; at < cell.items.size(); ++at) {
+        if (at > 0) left += gap(cell.items[at - 1], cell.items[at], style);
+        setItem(cell.items[at], style, {left, left + widths[at]}, baseline);
+        left += widths[at];
+    }
+}
+
+void RowSetter::setItem(const Item& item, const RowStyle& style, Span span, int baseline) {
+    switch (item.kind) {
+    case ItemKind::Words:
+        setWords(item, style, span.left, baseline);
+        break;
+    case ItemKind::Box:
+        setBox(item, span, baseline);
+        break;
+    case ItemKind::Circle:
+        setCircle(item, span, baseline);
+        break;
+    case ItemKind::Area:
+        setArea(item, span, baseline);
+        break;
+    case ItemKind::Fill:
+        break;
+    }
+}
+
+void RowSetter::setWords(const Item& item, const RowStyle& style, double left, int baseline) {
+    for (const char32_t letter : item.text) {
+        const Character character = characterOf(letter, style.em);
+        const Typeface& face = faceOf(m_faces, letter, weightOf(item, style));
+        addShape(wordInk(item, letter, style),
+                 face.outline(character.code, character.em).translated(left, baseline));
+        left += face.advance(character.code) * character.em;
+    }
+}
+
+void RowSetter::setBox(const Item& item, Span span, int baseline) {
+    const int centreX = exactCentre((span.left + span.right) / 2, m_check.x);
+    const int centreY = exactCentre(baseline - boxCentreAboveBaseline, m_check.y);
+    const double half = boxSide / 2.0;
+    QPainterPath frame;
+    frame.setFillRule(Qt::OddEvenFill);
+    frame.addRect(centreX - half, centreY - half, boxSide, boxSide);
+    frame.addRect(centreX - half + ruleWidth, centreY - half + ruleWidth, boxSide - 2 * ruleWidth,
+                  boxSide - 2 * ruleWidth);
+    addShape(item.ink, std::move(frame));
+    m_sheet.marks.push_back({item.id, MarkKind::Check, item.ink, double(centreX), double(centreY)});
+    walkTo(FieldKind::Mark, m_sheet.marks.size());
+}
+
+void RowSetter::setCircle(const Item& item, Span span, int baseline) {
+    const int centreX = exactCentre((span.left + span.right) / 2, m_circle.x);
+    QPainterPath letter = m_faces.print(item.weight).outline(item.text.front(), circleEm);
+    letter.translate(centreX - letter.boundingRect().center().x(), baseline);
+    // One height for the whole row, between the middles of capitals and of small letters.
+    const int centreY = exactCentre(baseline - circleAboveBaseline, m_circle.y);
+    addShape(item.ink, std::move(letter));
+    m_sheet.marks.push_back(
+        {item.id, MarkKind::Circle, item.ink, double(centreX), double(centreY)});
+}
+
+void RowSetter::setArea(const Item& item, Span span, int baseline) {
+    const double left = evenDown(span.left + 1);
+    const double width = evenDown(span.right - left + 0.001);
+    const int ruleTop = baseline + ruleBelowBaseline;
+    rectangle(item.ink, left, ruleTop, width, ruleWidth);
+    m_sheet.texts.push_back({item.id, item.areaSize, item.ink, static_cast<int>(left),
+                             static_cast<int>(width), ruleTop});
+    walkTo(FieldKind::Text, m_sheet.texts.size());
+}
+
+void RowSetter::walkTo(FieldKind kind, std::size_t number) {
+    m_sheet.walk.push_back({kind, static_cast<int>(number)});
+}
+
+void RowSetter::rectangle(Ink ink, double left, double top, double width, double height) {
+    QPainterPath path;
+    path.addRect(left, top, width, height);
+    addShape(ink, std::move(path));
+}
+
+void RowSetter::addShape(Ink ink, QPainterPath path) {
+    if (path.isEmpty()) return;
+    const QRectF bounds = path.boundingRect();
+    m_sheet.shapes.push_back({ink, std::move(path), bounds});
+}
+
+} // namespace card

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "card_tool/mark_cell.h"
+#include "card_tool/sheet.h"
+#include "card_tool/typeface.h"
+
+#include <vector>
+
+namespace card {
+
+/// How the words of a row look.
+struct RowStyle {
+    /// The em in full pixels.
+    double em = 28;
+    Weight weight = Weight::Regular;
+    /// Whether words on black are printed in paper instead of ink.
+    bool inverse = false;
+};
+
+inline constexpr RowStyle bodyStyle{28, Weight::Regular, false};
+inline constexpr RowStyle headStyle{28, Weight::Bold, false};
+inline constexpr RowStyle captionStyle{22, Weight::Regular, false};
+inline constexpr RowStyle barStyle{30, Weight::Bold, true};
+inline constexpr RowStyle barCaptionStyle{22, Weight::Bold, true};
+
+/// The horizontal place of a cell, in full pixels.
+struct Span {
+    double left = 0;
+    double right = 0;
+    [[nodiscard]] double width() const { return right - left; }
+};
+
+/// Sets the items of a row beside each other, and files their ink and fields on a sheet.
+class RowSetter {
+  public:
+    RowSetter(const Typefaces& faces, Sheet& sheet);
+
+    /// The width that a cell needs, with its stretching areas at their least.
+    [[nodiscard]] double naturalWidth(const Cell& cell, const RowStyle& style) const;
+
+    /// Sets a cell on a base line (an even full pixel). Throws Failure if it is wider than its
+    /// span.
+    void setCell(const Cell& cell, const RowStyle& style, Span span, int baseline);
+
+    /// A filled rectangle.
+    void rectangle(Ink ink, double left, double top, double width, double height);
+
+  private:
+    [[nodiscard]] double itemWidth(const Item& item, const RowStyle& style) const;
+    [[nodiscard]] double wordsWidth(const Item& item, const RowStyle& style) const;
+    [[nodiscard]] double gap(const Item& before, const Item& item, const RowStyle& style) const;
+    [[nodiscard]] std::vector<double> itemWidths(const Cell& cell, const RowStyle& style,
+                                                 double width) const;
+
+    void setItem(const Item& item, const RowStyle& style, Span span, int baseline);
+    void setWords(const Item& item, const RowStyle& style, double left, int baseline);
+    void setBox(const Item& item, Span span, int baseline);
+    void setCircle(const Item& item, Span span, int baseline);
+    void setArea(const Item& item, Span span, int baseline);
+    void addShape(Ink ink, QPainterPath path);
+    void walkTo(FieldKind kind, std::size_t number);
+
+    const Typefaces& m_faces;
+    Sheet& m_sheet;
+    CentreOffset m_check{};
+    CentreOffset m_circle{};
+};
+
+} // namespace card

@@ -1,0 +1,72 @@
+#include "card_tool/typeface.h"
+
+#include "card_tool/failure.h"
+
+#include <QtGui/QFont>
+#include <QtGui/QTransform>
+
+namespace card {
+
+Typeface Typeface::installed(const char* family, Weight weight) {
+    QFont wanted(QString::fromLatin1(family));
+    wanted.setPixelSize(static_cast<int>(size));
+    wanted.setBold(weight == Weight::Bold);
+    wanted.setHintingPreference(QFont::PreferNoHinting);
+    QRawFont font = QRawFont::fromFont(wanted);
+    if (!font.isValid() || font.familyName() != QString::fromLatin1(family))
+        throw Failure(std::string("the font is not installed: ") + family);
+    return Typeface(std::move(font));
+}
+
+Typeface Typeface::fromFile(const std::filesystem::path& path) {
+    QRawFont font(QString::fromStdString(path.string()), size, QFont::PreferNoHinting);
+    if (!font.isValid()) throw Failure("not a font: " + path.string());
+    return Typeface(std::move(font));
+}
+
+quint32 Typeface::glyph(char32_t character) const {
+    const QList<quint32> found = m_font.glyphIndexesForString(QString::fromUcs4(&character, 1));
+    if (found.isEmpty() || found.front() == 0)
+        throw Failure("the font " + m_font.familyName().toStdString() + " lacks character " +
+                      std::to_string(static_cast<unsigned>(character)));
+    return found.front();
+}
+
+double Typeface::advance(char32_t character) const {
+    return m_font.advancesForGlyphIndexes({glyph(character)}, QRawFont::UseDesignMetrics)
+               .front()
+               .x() /
+           size;
+}
+
+QPainterPath Typeface::outline(char32_t character, double em) const {
+    QPainterPath path = m_font.pathForGlyph(glyph(character));
+    path.setFillRule(Qt::WindingFill);
+    return QTransform::fromScale(em / size, em / size).map(path);
+}
+
+Typefaces loadTypefaces(const std::filesystem::path& ownFonts) {
+    return {.printRegular = Typeface::installed("Liberation Sans Narrow", Weight::Regular),
+            .printBold = Typeface::installed("Liberation Sans Narrow", Weight::Bold),
+            .suits = Typeface::fromFile(ownFonts / "zevlin-suits.ttf"),
+            .marksRegular = Typeface::fromFile(ownFonts / "zevlin-marks-regular.ttf"),
+            .marksBold = Typeface::fromFile(ownFonts / "zevlin-marks-bold.ttf"),
+            .textRegular = Typeface::installed("Liberation Sans", Weight::Regular),
+            .textBold = Typeface::installed("Liberation Sans", Weight::Bold),
+            .textNarrow = Typeface::installed("Liberation Sans Narrow", Weight::Regular)};
+}
+
+char32_t suitCode(char32_t suit) {
+    switch (suit) {
+    case U'\u2663':
+        return 167;
+    case U'\u2666':
+        return 168;
+    case U'\u2665':
+        return 169;
+    default:
+        return 170;
+    }
+}
+
+} // namespace card
