@@ -53,7 +53,8 @@ struct Run {
         glyphs.clear();
         positions.clear();
         const double pixelsPerUnit = pixelSize / face.measures.unitsPerEm;
-        int units = 0;
+        // A file may bring a text of any length: its width is beyond an int.
+        double units = 0;
         for (const char character : text) {
             if (character != ' ' && character != noBreakSpace) {
                 glyphs.push_back(face.glyphs[code(character)]);
