@@ -1,6 +1,6 @@
 #include "app/trace.h"
 
-#include <ranges>
+#include <algorithm>
 
 #include "app/zevlin.h"
 #include "toolkit/ansi.h"
@@ -54,10 +54,10 @@ bool isErrorLine(std::string_view text) { return toolkit::lowerCase(text.substr(
 
 void dumpRing(Zevlin& form) {
     std::string block = joined({lineEnd, headerLine(form)});
-    for (const std::string& line : form.Trace | std::views::reverse) {
+    std::for_each(form.Trace.rbegin(), form.Trace.rend(), [&](const std::string& line) {
         block += line;
         block += lineEnd;
-    }
+    });
     block += memoryLines();
     toolkit::appendFile(ringFile(form), block);
     form.Trace.clear();

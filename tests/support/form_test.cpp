@@ -1,7 +1,7 @@
 #include "support/form_test.h"
 
 #include <algorithm>
-#include <ranges>
+#include <iterator>
 #include <sstream>
 
 #include "app/form_load.h"
@@ -175,9 +175,7 @@ void FormTest::announceError(std::string_view beginning) { announced_.emplace_ba
 
 std::vector<std::string> FormTest::traceLines() const {
     std::vector<std::string> lines;
-    for (const std::string& line : form.Trace | std::views::reverse) {
-        lines.push_back(messageOf(line));
-    }
+    std::transform(form.Trace.rbegin(), form.Trace.rend(), std::back_inserter(lines), messageOf);
     return lines;
 }
 
