@@ -19,7 +19,7 @@ std::string printedWords() {
         if (text == line) continue;
         text = std::regex_replace(text, std::regex(R"(\{(red|blue) )"), "");
         text = std::regex_replace(text, std::regex(R"(\[[^\]]*\]|<[^>]*>|@[^=]*=!?)"), " _ ");
-        words += std::regex_replace(text, std::regex(R"([*~^|}])"), "") + " ";
+        words += std::regex_replace(text, std::regex(R"([*~^|}>\\])"), "") + " ";
     }
     return std::regex_replace(words, std::regex(" +"), " ");
 }
@@ -80,7 +80,7 @@ TEST(Description, HasTheWordsOfCompetition) {
          "Responses "
          "New Suit: Forcing _ NFConst _ NF _ Jump Raise: Forcing _ Inv. _ Weak _",
          "JUMP OVERCALL Strong _ Intermediate _ Weak _ _",
-         "OPENING PREEMPTS 3/4-bids: Sound _ Light _ Very Light _ "
+         "OPENING PREEMPTS 3/4-bids Sound _ Light _ Very Light _ "
          "Conv./Resp. _",
          "DIRECT CUEBID Minor Major Natural _ _ Strong T/O _ _ Michaels _ _ _",
          "SLAM CONVENTIONS Gerber _ 4NT: Blackwood _ RKC _ 1430 _ _ vs Interference: DOPI _ DEPO _ "
@@ -186,9 +186,7 @@ TEST(Description, AlertableFieldsAreRed) {
                                                        "2s.conv",
                                                        "2s.new_suit",
                                                        "other.two_way",
-                                                       "other.jump.competition",
                                                        "other.jump.free",
-                                                       "other.fourth.round",
                                                        "other.fourth.game",
                                                        "double.penalty",
                                                        "double.penalty.what",

@@ -4,10 +4,14 @@
 
 #include <charconv>
 #include <sstream>
+#include <string_view>
 #include <utility>
 
 namespace card {
 namespace {
+
+/// Blanks that stay where they are.
+constexpr std::u32string_view indent = U"\u00A0\u00A0\u00A0";
 
 std::u32string fromUtf8(const std::string& bytes) {
     std::u32string characters;
@@ -49,6 +53,12 @@ class RowReader {
             break;
         case U'^':
             m_cells.back().align = CellAlign::Centre;
+            break;
+        case U'>':
+            m_cells.back().place = CellPlace::LentToNext;
+            break;
+        case U'\\':
+            m_words += indent;
             break;
         case U'*':
             switchWeight();

@@ -29,10 +29,13 @@ struct Item {
 };
 
 enum class CellAlign { Left, Centre };
+/// Whether a cell's place is its own or makes the next cell wider.
+enum class CellPlace { Own, LentToNext };
 
 /// One cell of a row: the items between two bars "|".
 struct Cell {
     CellAlign align = CellAlign::Left;
+    CellPlace place = CellPlace::Own;
     std::vector<Item> items{};
 };
 

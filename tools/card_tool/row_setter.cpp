@@ -24,6 +24,8 @@ constexpr double leastArea = 44;
 constexpr double centredOverhang = 24;
 // A suit sign is set this much larger than the words, which makes it as high as their capitals.
 constexpr double suitSize = 1.24;
+// Paper before a suit sign, in ems of the words: enough to keep it off the digit before it.
+constexpr double suitAir = 0.07;
 
 double evenDown(double value) { return std::floor(value / 2) * 2; }
 
@@ -34,10 +36,11 @@ const Typeface& faceOf(const Typefaces& faces, char32_t character, Weight weight
 struct Character {
     char32_t code = 0;
     double em = 0;
+    double air = 0;
 };
 
 Character characterOf(char32_t character, double em) {
-    return isSuit(character) ? Character{suitCode(character), em * suitSize}
+    return isSuit(character) ? Character{suitCode(character), em * suitSize, em * suitAir}
                              : Character{character, em};
 }
 
@@ -62,8 +65,8 @@ double RowSetter::wordsWidth(const Item& item, const RowStyle& style) const {
     double width = 0;
     for (const char32_t letter : item.text) {
         const Character character = characterOf(letter, style.em);
-        width +=
-            faceOf(m_faces, letter, weightOf(item, style)).advance(character.code) * character.em;
+        const Typeface& face = faceOf(m_faces, letter, weightOf(item, style));
+        width += character.air + face.advance(character.code) * character.em;
     }
     return width;
 }
@@ -158,6 +161,7 @@ void RowSetter::setWords(const Item& item, const RowStyle& style, double left, i
     for (const char32_t letter : item.text) {
         const Character character = characterOf(letter, style.em);
         const Typeface& face = faceOf(m_faces, letter, weightOf(item, style));
+        left += character.air;
         addShape(wordInk(item, letter, style),
                  face.outline(character.code, character.em).translated(left, baseline));
         left += face.advance(character.code) * character.em;

@@ -12,7 +12,7 @@ namespace card {
 namespace {
 
 constexpr int sideMargin = 26;
-constexpr int topMargin = 20;
+constexpr int topMargin = 18;
 constexpr int gutter = 44;
 constexpr int panelWidth = (pictureWidth - 2 * sideMargin - gutter) / 2;
 
@@ -20,12 +20,19 @@ constexpr int usualPitch = 52;
 constexpr int baselineInRow = 34;
 constexpr int barTop = 6;
 constexpr int barHeight = 34;
+/// The rows under a bar move up by this much, and the frame's foot keeps as much paper: so a frame
+/// has the same paper above its first box and below its last one.
+constexpr int barLift = 8;
+constexpr int belowBar = usualPitch - barLift - barTop - barHeight;
 constexpr int frameFoot = 2;
+/// Frames are heavier than what stands in them, and grow to the sides where there is paper.
+constexpr int frameLine = 4;
+constexpr int frameGrowth = 2;
 constexpr int line = 2;
 constexpr int framePadding = 12;
 constexpr int frameGap = 12;
 constexpr int cellGap = 16;
-constexpr int besideBox = 18;
+constexpr int besideBox = 20;
 
 double fullPixels(double designPixels) { return designPixels * fullPerDesign; }
 
@@ -107,16 +114,17 @@ class Typesetter {
         const Span outer = place.span;
         place.span = {outer.left + framePadding, outer.right - framePadding};
         place.within = Place::Within::Frame;
-        const int height = setStack(frame, place);
+        const int height = setStack(frame, place) + barLift;
         drawFrame(outer, place.top + barTop, place.top + height - frameFoot);
         return height;
     }
 
-    void drawFrame(Span outer, int top, int bottom) {
-        m_setter.rectangle(Ink::Black, outer.left, top, outer.width(), line);
-        m_setter.rectangle(Ink::Black, outer.left, bottom - line, outer.width(), line);
-        m_setter.rectangle(Ink::Black, outer.left, top, line, bottom - top);
-        m_setter.rectangle(Ink::Black, outer.right - line, top, line, bottom - top);
+    void drawFrame(Span around, int top, int bottom) {
+        const Span outer{around.left - frameGrowth, around.right + frameGrowth};
+        m_setter.rectangle(Ink::Black, outer.left, top, outer.width(), frameLine);
+        m_setter.rectangle(Ink::Black, outer.left, bottom - frameLine, outer.width(), frameLine);
+        m_setter.rectangle(Ink::Black, outer.left, top, frameLine, bottom - top);
+        m_setter.rectangle(Ink::Black, outer.right - frameLine, top, frameLine, bottom - top);
     }
 
     int setColumns(const Node& columns, Place place) {
@@ -140,14 +148,18 @@ class Typesetter {
         return height;
     }
 
-    /// The rules begin at the columns' own bars, or else at what stands above the columns.
+    /// The rules reach from the bar above the columns to the frame's foot. Where the columns have
+    /// bars of their own, paper parts these.
     void drawColumnRules(const Node& columns, const std::vector<double>& rules, int top,
                          int height) {
         const auto& first = columns.parts.front().parts;
         const bool bars = !first.empty() && first.front().kind == NodeKind::Bar;
-        const int start = bars ? top + barTop : top - (usualPitch - barTop - barHeight);
-        for (const double rule : rules)
-            m_setter.rectangle(Ink::Black, rule, start, line, top + height - frameFoot - start);
+        const int start = bars ? top + barTop + barHeight : top - belowBar;
+        for (const double rule : rules) {
+            m_setter.rectangle(Ink::Black, rule, start, line,
+                               top + height + barLift - frameFoot - start);
+            if (bars) m_setter.rectangle(Ink::Paper, rule, top + barTop, line, barHeight);
+        }
     }
 
     int setGrid(const Node& grid, Place place) {
@@ -184,8 +196,9 @@ class Typesetter {
             if (row.cells.size() < 2) continue;
             widths.resize(std::max(widths.size(), row.cells.size()));
             for (std::size_t at = 0; at < row.cells.size(); ++at)
-                widths[at] =
-                    std::max(widths[at], m_setter.naturalWidth(row.cells[at], styleOf(row, at)));
+                if (at == 0 || row.cells[at - 1].place == CellPlace::Own)
+                    widths[at] = std::max(widths[at],
+                                          m_setter.naturalWidth(row.cells[at], styleOf(row, at)));
         }
         double spare = width + cellGap;
         for (const double each : widths) spare -= each + cellGap;
@@ -221,12 +234,19 @@ class Typesetter {
         const int baseline = place.top + baselineInRow + (place.pitch - usualPitch) / 4 * 2;
         try {
             for (std::size_t at = 0; at < row.cells.size(); ++at)
-                m_setter.setCell(row.cells[at], styleOf(row, at), roomFor(row, at, cells[at]),
+                m_setter.setCell(row.cells[at], styleOf(row, at),
+                                 roomFor(row, at, {leftEdge(row, at, cells), cells[at].right}),
                                  baseline);
         } catch (const Failure& failure) {
             m_faults += "\n  " + atLine(row, failure.what());
         }
-        return place.pitch;
+        return place.pitch - (row.kind == NodeKind::Bar ? barLift : 0);
+    }
+
+    /// Where a cell begins: it has the room of the cells before it that are lent to it.
+    static double leftEdge(const Node& row, std::size_t at, const std::vector<Span>& cells) {
+        while (at > 0 && row.cells[at - 1].place == CellPlace::LentToNext) --at;
+        return cells[at].left;
     }
 
     /// Words may use the paper beside a centred box in the next cell.
