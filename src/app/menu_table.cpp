@@ -9,6 +9,7 @@
 #include "design/pen.h"
 #include "help/help_page.h"
 #include "layout/save_layout.h"
+#include "marks/record_tabs.h"
 
 namespace zev {
 namespace {
@@ -40,6 +41,7 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MCircle,     "Circle",             "",       MCircle_Click},
     {1, &Zevlin::MText,       "Text",               "",       MText_Click},
     separator,
+    {1, &Zevlin::MSetTabs,    "Set Tab sequence",   "",       MSetTabs_Click, AtStart::Disabled},
     {1, &Zevlin::MSaveShapes, "Save Design",        "",       MSaveShapes_Click, AtStart::Disabled},
     {0, &Zevlin::MHelp,       "&Help",              "",       MHelp_Click},
 });

@@ -19,6 +19,7 @@ struct DesignState {
     toolkit::MenuItem MCheck;
     toolkit::MenuItem MCircle;
     toolkit::MenuItem MText;
+    toolkit::MenuItem MSetTabs; ///< checked: a TAB sequence is being recorded
     toolkit::MenuItem MSaveShapes;
     toolkit::MenuItem MCoord{.Caption = "Coordinates", .Visible = false};
 };

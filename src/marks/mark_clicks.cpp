@@ -4,6 +4,7 @@
 #include "app/zevlin.h"
 #include "card/modified.h"
 #include "help/help_page.h"
+#include "marks/record_tabs.h"
 #include "text/edit_field.h"
 #include "toolkit/number_text.h"
 
@@ -42,6 +43,7 @@ void AMark_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
         // The mark may be gone: the press went to it by number.
         static_cast<void>(form.AMark[index]);
         form.LastButton = static_cast<std::int16_t>(mouse.Button);
+        recordTabPress(form, index + firstMarkItem, mouse);
     });
 }
 

@@ -40,7 +40,7 @@ struct MarksState {
     int TabCursorY = 0;
     std::int16_t TabCode = 0; ///< item number: a mark is its index plus 1000
     toolkit::CursorPosition CursorPos;
-    std::int16_t TabRecordPrev = 0;
+    std::int16_t TabRecordPrev = 0; ///< item pressed last while recording; 0 when none
 };
 
 } // namespace zev

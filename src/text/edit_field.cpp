@@ -8,6 +8,7 @@
 #include "app/zevlin.h"
 #include "card/modified.h"
 #include "help/help_page.h"
+#include "marks/record_tabs.h"
 #include "marks/tab_walk.h"
 #include "text/escapes.h"
 #include "text/fit.h"
@@ -176,7 +177,7 @@ std::string commitTrace(const Zevlin& form) {
 
 void AText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
     trapped(form, "Error in AText_MouseDown: #", [&] {
-        if (form.THelp.Visible) return;
+        if (form.THelp.Visible || recordTabPress(form, index, mouse)) return;
         form.ClickIndex = static_cast<std::int16_t>(index);
         form.ClickButton = static_cast<std::int16_t>(mouse.Button);
         form.ClickX = mouse.X;

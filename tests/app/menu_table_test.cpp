@@ -40,6 +40,7 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {1, "Circle", ""},
                                       {1, "Text", ""},
                                       {1, "", ""},
+                                      {1, "Set Tab sequence", ""},
                                       {1, "Save Design", ""},
                                       {0, "&Help", ""}};
 
@@ -97,7 +98,8 @@ TEST_F(MenuTable, NoMenuBeginsOrEndsWithASeparator) {
 TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
     start();
     form.MShapes.Visible = true;
-    form.MSaveShapes.Enabled = true;
+    form.MSetTabs.Enabled = form.MSaveShapes.Enabled = true;
+    answer(toolkit::Answer::Cancel);
     const std::vector<std::pair<std::string, std::string>> traces = {
         {"File>New", "MNew_Click"},
         {"File>Save", "MSave_Click"},
@@ -110,6 +112,7 @@ TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
         {"Design>Checkmark", "MCheck_Click"},
         {"Design>Circle", "MCircle_Click"},
         {"Design>Text", "MText_Click"},
+        {"Design>Set Tab sequence", "MSetTabs_Click"},
         {"Design>Save Design", "MSaveShapes_Click"},
         {"File>Open...", "MOpen_Click"},
         {"File>Save As...", "MSaveAs_Click"},
@@ -129,11 +132,13 @@ TEST_F(MenuTable, ExitEndsTheProgram) {
     EXPECT_TRUE(endsProgram([] { static_cast<void>(toolkit::test::chooseMenu("File>Exit")); }));
 }
 
-TEST_F(MenuTable, SaveDesignIsGreyAtTheStart) {
+TEST_F(MenuTable, WhatDesigningNeedsIsGreyAtTheStart) {
     start();
     form.MShapes.Visible = true;
     EXPECT_FALSE(form.MSaveShapes.Enabled);
     EXPECT_FALSE(toolkit::test::chooseMenu("Design>Save Design"));
+    EXPECT_FALSE(form.MSetTabs.Enabled);
+    EXPECT_FALSE(toolkit::test::chooseMenu("Design>Set Tab sequence"));
 }
 
 TEST_F(MenuTable, ShortcutsReachTheirItems) {

@@ -1,0 +1,20 @@
+// Recording a TAB sequence by clicking on the fields in their order.
+#pragma once
+
+#include "toolkit/control.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// Switches recording. Where a sequence exists it asks first whether to keep or to discard it.
+void MSetTabs_Click(Zevlin& form);
+
+/// Takes a press on the item with this number as a step of the recording: the item pressed before
+/// leads to it. False, and nothing has happened, unless a sequence is being recorded.
+bool recordTabPress(Zevlin& form, int item, toolkit::MouseArguments& mouse);
+
+/// Part of the form's interface; a sequence is set by clicking alone.
+void SetTabSequence(Zevlin& form);
+
+} // namespace zev
