@@ -4,6 +4,8 @@
 #include <QtGui/QGuiApplication>
 
 #include "toolkit/qt_cursor.h"
+#include "toolkit/qt_screen.h"
+#include "toolkit/screen.h"
 
 namespace toolkit {
 namespace {
@@ -11,7 +13,7 @@ namespace {
 /// Some platforms let no program move the pointer. The walk from field to field must work there
 /// too, so a place that was asked for stands until the pointer is seen elsewhere than just then.
 struct AssumedCursor {
-    CursorPosition asked;
+    QPoint asked;
     QPoint pointerThen;
 };
 
@@ -26,16 +28,17 @@ QPoint pointer() { return qGuiApp == nullptr ? QPoint() : QCursor::pos(); }
 
 CursorPosition cursorPosition() {
     const QPoint now = pointer();
-    if (assumed() && assumed()->pointerThen == now) return assumed()->asked;
-    assumed().reset();
-    return {now.x(), now.y()};
+    if (assumed() && assumed()->pointerThen != now) assumed().reset();
+    const QPoint place = (assumed() ? assumed()->asked : now) - screenOrigin();
+    return {place.x(), place.y()};
 }
 
 void setCursorPosition(CursorPosition position) {
-    if (qGuiApp != nullptr) QCursor::setPos(position.x, position.y);
-    assumeCursorAt(position);
+    const QPoint place = screenOrigin() + QPoint(position.x, position.y);
+    if (qGuiApp != nullptr) QCursor::setPos(place);
+    assumeCursorAt(place);
 }
 
-void assumeCursorAt(CursorPosition position) { assumed() = AssumedCursor{position, pointer()}; }
+void assumeCursorAt(QPoint place) { assumed() = AssumedCursor{place, pointer()}; }
 
 } // namespace toolkit

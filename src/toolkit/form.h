@@ -26,7 +26,8 @@ struct FormBackground {
     friend bool operator==(const FormBackground&, const FormBackground&) = default;
 };
 
-/// Left, Top, Width and Height are those of the outer frame, twips on the screen.
+/// Left, Top, Width and Height are those of the outer frame, twips on the screen that holds its
+/// centre.
 struct Form {
     float Left = 0;
     float Top = 0;

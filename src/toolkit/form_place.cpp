@@ -8,6 +8,7 @@
 #include <QtWidgets/QWidget>
 
 #include "toolkit/qt_geometry.h"
+#include "toolkit/qt_screen.h"
 #include "toolkit/screen.h"
 
 namespace toolkit {
@@ -21,6 +22,10 @@ QMargins estimatedFrame(const QWidget& widget) {
 
 bool isExposed(const QWidget& widget) {
     return widget.windowHandle() != nullptr && widget.windowHandle()->isExposed();
+}
+
+QRect placeOnScreen(const QWidget& widget) {
+    return widget.frameGeometry().translated(-screenOrigin());
 }
 
 bool fillsTheScreen(const QWidget& widget) { return widget.isMaximized() || widget.isFullScreen(); }
@@ -71,7 +76,7 @@ void FormPlace::keepInside(float frameWidth, float frameHeight) {
 /// first exposure it only seems to be, for its frame isn't known.
 void FormPlace::pullPlace() {
     if (!isExposed(widget_) || widget_.isMinimized()) return;
-    const QRect now = widget_.frameGeometry();
+    const QRect now = placeOnScreen(widget_);
     if (now == knownPixels_ || (frameChanged_ && !fillsTheScreen(widget_))) return;
     if (now.left() != knownPixels_.left()) form_.Left = twipsFromPixels(now.left());
     if (now.top() != knownPixels_.top()) form_.Top = twipsFromPixels(now.top());
@@ -90,8 +95,10 @@ void FormPlace::push() {
     const QSize inside =
         QSize(pixelsFromTwips(outer.width), pixelsFromTwips(outer.height)).shrunkBy(frame_);
     if (inside != widget_.size()) widget_.resize(inside.expandedTo({1, 1}));
-    if (moved) widget_.move(pixelsFromTwips(outer.left), pixelsFromTwips(outer.top));
-    knownPixels_ = widget_.frameGeometry();
+    if (moved)
+        widget_.move(screenOrigin() +
+                     QPoint(pixelsFromTwips(outer.left), pixelsFromTwips(outer.top)));
+    knownPixels_ = placeOnScreen(widget_);
 }
 
 } // namespace toolkit

@@ -1,11 +1,12 @@
 // The cursor's place where no pointer of the platform can be moved. Internal to the toolkit.
 #pragma once
 
-#include "toolkit/screen.h"
+#include <QtCore/QPoint>
 
 namespace toolkit {
 
-/// From now on the cursor counts as being here, until the platform's pointer really moves.
-void assumeCursorAt(CursorPosition position);
+/// From now on the cursor counts as being here, a place among all screens, until the platform's
+/// pointer really moves.
+void assumeCursorAt(QPoint place);
 
 } // namespace toolkit

@@ -1,9 +1,12 @@
 #include "toolkit/screen.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include <QtGui/QGuiApplication>
-#include <QtGui/QScreen>
+
+#include "toolkit/qt_screen.h"
+#include "toolkit/qt_window.h"
 
 namespace toolkit {
 namespace {
@@ -25,12 +28,26 @@ int measuredTwipsPerPixel() {
     return measured > 0 ? measured : twipsPerPixelAt96;
 }
 
-TaskBar barOf(const QRect& rectangle) {
-    return {static_cast<float>(rectangle.left()), static_cast<float>(rectangle.top()),
-            static_cast<float>(rectangle.width()), static_cast<float>(rectangle.height())};
+TaskBar barOf(const QRect& found) {
+    const QRect bar = found.translated(-screenOrigin());
+    return {static_cast<float>(bar.left()), static_cast<float>(bar.top()),
+            static_cast<float>(bar.width()), static_cast<float>(bar.height())};
 }
 
 } // namespace
+
+const QScreen* presentScreen() {
+    if (currentWindow() == nullptr) return QGuiApplication::primaryScreen();
+    const QWidget& form = currentWindow()->form();
+    const QScreen* underCentre =
+        form.isVisible() ? QGuiApplication::screenAt(form.frameGeometry().center()) : nullptr;
+    return underCentre == nullptr ? form.screen() : underCentre;
+}
+
+QPoint screenOrigin() {
+    const QScreen* present = presentScreen();
+    return present == nullptr ? QPoint() : present->geometry().topLeft();
+}
 
 int twipsPerPixel() {
     const int overridden = overridesInForce().twipsPerPixel;
@@ -45,9 +62,9 @@ Screen screen() {
     const ScreenOverrides& overrides = overridesInForce();
     const auto twips = static_cast<float>(twipsPerPixel());
     Screen found{.TwipsPerPixelX = twips, .TwipsPerPixelY = twips};
-    if (const QScreen* primary = QGuiApplication::primaryScreen(); primary != nullptr) {
-        found.Width = static_cast<float>(primary->geometry().width()) * twips;
-        found.Height = static_cast<float>(primary->geometry().height()) * twips;
+    if (const QScreen* present = presentScreen(); present != nullptr) {
+        found.Width = static_cast<float>(present->geometry().width()) * twips;
+        found.Height = static_cast<float>(present->geometry().height()) * twips;
     }
     if (overrides.width > 0) found.Width = overrides.width;
     if (overrides.height > 0) found.Height = overrides.height;
@@ -57,10 +74,10 @@ Screen screen() {
 /// Desktops tell only what is left free of the screen; the widest strip outside is the bar.
 TaskBar taskBar() {
     if (overridesInForce().hasTaskBar) return overridesInForce().taskBar;
-    const QScreen* primary = QGuiApplication::primaryScreen();
-    if (primary == nullptr) return {};
-    const QRect whole = primary->geometry();
-    const QRect free = primary->availableGeometry();
+    const QScreen* present = presentScreen();
+    if (present == nullptr) return {};
+    const QRect whole = present->geometry();
+    const QRect free = present->availableGeometry();
     const int atLeft = free.left() - whole.left();
     const int atTop = free.top() - whole.top();
     const int atRight = whole.right() - free.right();

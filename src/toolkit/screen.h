@@ -3,7 +3,10 @@
 
 namespace toolkit {
 
-/// The primary screen. Width and height in twips.
+// Where there are several screens, all of this is told of the one that holds the form's centre, and
+// places are relative to its upper left corner.
+
+/// Width and height in twips.
 struct Screen {
     float Width = 0;
     float Height = 0;

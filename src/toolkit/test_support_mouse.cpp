@@ -38,7 +38,7 @@ void sendMouse(QEvent::Type type, float x, float y, Qt::MouseButton button,
                Qt::MouseButtons buttons, int shift) {
     updateWindow();
     const QPointF global = globalPlace(x, y);
-    assumeCursorAt({pixelAt(global).x(), pixelAt(global).y()});
+    assumeCursorAt(pixelAt(global));
     const bool grabbed = mouse().grabber != nullptr && type != QEvent::MouseButtonPress &&
                          type != QEvent::MouseButtonDblClick;
     QWidget& widget = grabbed ? *mouse().grabber : widgetUnder(global);

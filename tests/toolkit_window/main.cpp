@@ -1,14 +1,39 @@
 #include <cstdlib>
+#include <filesystem>
+#include <fstream>
 
 #include "fixture.h"
 
 toolkit::Application* window_test::application = nullptr;
 
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Two screens, the second to the right of the first and lower.
+constexpr const char* screens = R"({"screens": [
+  {"name": "first", "x": 0, "y": 0, "width": 800, "height": 800,
+   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
+  {"name": "second", "x": 800, "y": 100, "width": 1000, "height": 700,
+   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+
+/// The platform reads the description of its screens from this file.
+fs::path describedScreens() {
+    std::string name = (fs::temp_directory_path() / "zevlin-screens-XXXXXX").string();
+    const fs::path file = fs::path(mkdtemp(name.data())) / "screens.json";
+    std::ofstream(file) << screens;
+    return file;
+}
+
+} // namespace
+
 int main(int argumentCount, char** arguments) {
+    const fs::path file = describedScreens();
     // A test opens no window on anyone's desktop unless asked to.
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + file.string()).c_str(), 0);
     testing::InitGoogleTest(&argumentCount, arguments);
     toolkit::Application made(argumentCount, arguments);
+    fs::remove_all(file.parent_path());
     window_test::application = &made;
     return RUN_ALL_TESTS();
 }
