@@ -34,13 +34,14 @@ void measureMark(Zevlin& form, int kind, int size, char symbol) {
     auto& offsets = form.FontOffsets[static_cast<std::size_t>(kind)][cell];
     InkMeasure measure{.left = offsets[inkLeft], .bottom = offsets[inkBottom]};
     if (kind == ink_kind::circle) measure.right = measure.top = -1;
-    if (!Calibrate(form, mark, measure)) return;
-    offsets[inkLeft] = measure.left;
-    offsets[inkBottom] = measure.bottom;
-    if (kind == ink_kind::circle) {
-        form.CircleAdjust[cell][1] = measure.right;
-        form.CircleAdjust[cell][2] = measure.top;
+    if (Calibrate(form, mark, measure)) {
+        offsets[inkLeft] = measure.left;
+        offsets[inkBottom] = measure.bottom;
     }
+    if (kind != ink_kind::circle) return;
+    // Without ink both stay -1: unmeasured.
+    form.CircleAdjust[cell][1] = measure.right;
+    form.CircleAdjust[cell][2] = measure.top;
 }
 
 void measureText(Zevlin& form, int size) {

@@ -61,6 +61,7 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
 }
 
 void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
+    if (moveCardByKey(form, key.KeyCode, key.Shift)) return;
     if (toolkit::isKeyRepeat()) return;
     if (key.KeyCode == toolkit::key::tab) {
         walkFromMark(form, key.Shift);
