@@ -14,7 +14,7 @@ import time
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 STAGE = pathlib.Path(os.environ.get("ZEVLIN_BUILD", ROOT / "build" / "release")) / "stage"
 DESIGN_WIDTH = 1198  # pixels of the card for which a layout gives the places
-TWIPS = 15           # in a pixel, on a screen of 96 dots per inch
+TWIPS_PER_INCH = 1440
 
 
 def wait_for(what, condition, seconds=30):
@@ -89,6 +89,13 @@ class Home:
         return ({int(number) for number, state, _ in fields if state == "1"},
                 {int(text[1]): text[2] for text in texts})
 
+    def tab_pairs(self):
+        """The TAB sequence: for each field the next one, marks as their number plus 1000."""
+        lines = (self.data / "Definitions.Ini").read_bytes().decode("cp1252").split("\r\n")
+        records = [line.split(",") for line in lines if line and not line.startswith("'")]
+        last = max(index for index, record in enumerate(records) if len(record) == 1)
+        return {int(field): int(following) for field, following in records[last + 1:]}
+
     def trace(self):
         path = self.data / "Trace.txt"
         return path.read_bytes().decode("cp1252") if path.exists() else ""
@@ -108,20 +115,27 @@ def layout_fields(home):
 
 class Program:
     """The program in a home, from its start to its end. A start without a card's name must be the
-    first one in its home; later ones ask for a card."""
+    first one in its home; later ones ask for a card. `answers` are the titles of the boxes that come
+    before the window, each with the key that answers it."""
 
-    def __init__(self, home, *arguments):
+    def __init__(self, home, *arguments, dots_per_inch=96, answers=()):
         self.home = home
+        self.twips = round(TWIPS_PER_INCH / dots_per_inch)
         self.window = None
         is_first = not home.data.exists()
         environment = {"HOME": str(home.folder), "PATH": "/usr/bin:/bin", "LANG": "C.UTF-8",
                        "DISPLAY": os.environ["DISPLAY"], "QT_QPA_PLATFORM": "xcb",
                        "XDG_RUNTIME_DIR": str(home.runtime)}
+        if dots_per_inch != 96:
+            # Else a finer screen would be magnified and still count as one of 96.
+            environment |= {"QT_FONT_DPI": str(dots_per_inch), "QT_ENABLE_HIGHDPI_SCALING": "0"}
         self.process = subprocess.Popen([home.program / "zevlin", *arguments], env=environment,
                                         cwd=home.folder)
         if is_first:
             # Says that the player's files were moved to the data folder.
             self.answer(self.wait_for_box("^Zevlin$"), "Return")
+        for title, key in answers:
+            self.answer(self.wait_for_box(title), key)
         self.window = wait_for("the program's window", lambda: self.windows(r"^Zevlin  \("))[0]
 
     def windows(self, title="."):
@@ -188,7 +202,7 @@ class Card:
     def __init__(self, program):
         self.program = program
         self.marks, self.texts = layout_fields(program.home)
-        left, top, width, self.height = (value / TWIPS for value in self.place_in_form())
+        left, top, width, self.height = (value / program.twips for value in self.place_in_form())
         self.scale = width / DESIGN_WIDTH
         area_left, area_top = self.form_area()
         self.left, self.top = area_left + left, area_top + top

@@ -78,7 +78,7 @@ class FillingIn(whole_program.WholeProgramTest):
     def test_tab_walks_on_and_space_toggles(self):
         program = self.start_for_the_first_time()
         card = desktop.Card(program)
-        walk = self.walk()
+        walk = self.home.tab_pairs()
         start = next(number for number in self.shown_marks(card)
                      if walk.get(number + 1000, 0) > 1000
                      and walk[number + 1000] - 1000 in self.shown_marks(card))
@@ -93,13 +93,6 @@ class FillingIn(whole_program.WholeProgramTest):
         program.answer_name("Walked")
         program.wait_for_title(r"\( Walked \)$")
         self.assertEqual(self.home.records("Walked")[0], {start, following})
-
-    def walk(self):
-        """The TAB sequence: for each field the next one, marks as their number plus 1000."""
-        lines = (self.home.data / "Definitions.Ini").read_text("cp1252").split("\n")
-        records = [line.split(",") for line in lines if line.strip() and line[0] != "'"]
-        last = max(index for index, record in enumerate(records) if len(record) == 1)
-        return {int(field): int(following) for field, following in records[last + 1:]}
 
     @staticmethod
     def looks(card, mark, text):

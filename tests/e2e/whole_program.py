@@ -39,14 +39,14 @@ class WholeProgramTest(unittest.TestCase):
                   and not (self.announced_error and self.announced_error in line)]
         self.assertEqual(errors, [])
 
-    def start(self, *arguments):
-        program = desktop.Program(self.home, *arguments)
+    def start(self, *arguments, **settings):
+        program = desktop.Program(self.home, *arguments, **settings)
         self.programs.append(program)
         return program
 
-    def start_for_the_first_time(self):
+    def start_for_the_first_time(self, **settings):
         """The program with its help page closed and a blank card shown."""
-        program = self.start()
+        program = self.start(**settings)
         desktop.wait_for("the options file", (self.home.data / "ZEV.Ini").exists)
         program.wait_for_title(r"\(unnamed\)$")
         program.press("Escape")
