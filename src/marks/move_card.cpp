@@ -172,10 +172,8 @@ void pullOnScreen(Zevlin& form, int item) {
 void MouseWheel(Zevlin& form, int /*keys*/, int rotation, int /*x*/, int /*y*/) {
     if (!form.P1.Visible || !form.WheelHooked) return;
     const float step = stepOf(form);
-    ignoringFailures([&] {
-        form.P1.Top = rotation > 0 ? std::min(wholeTwips(form.P1.Top + step), form.ScaleHeight())
-                                   : std::max(wholeTwips(form.P1.Top - step), -form.P1.Height);
-    });
+    form.P1.Top = rotation > 0 ? std::min(wholeTwips(form.P1.Top + step), form.ScaleHeight())
+                               : std::max(wholeTwips(form.P1.Top - step), -form.P1.Height);
 }
 
 void CheckOnScreen(Zevlin& form, int item) {

@@ -22,7 +22,7 @@ void releaseMouse(float x, float y, int button = button::left, int shift = 0);
 /// Move, press, release at one point.
 void click(float x, float y, int button = button::left, int shift = 0);
 void doubleClick(float x, float y);
-/// Over the card; 120 is one notch away from the player.
+/// At the middle of the card, over whatever lies there; 120 is one notch away from the player.
 void turnWheel(int rotation);
 
 /// A key by virtual code, pressed or released on the widget that has the focus.

@@ -90,10 +90,11 @@ void doubleClick(float x, float y) {
 void turnWheel(int rotation) {
     updateWindow();
     CardWidget& card = window().card();
-    const QPointF place = QRectF(card.rect()).center();
-    QWheelEvent event(place, card.mapToGlobal(place), QPoint(), QPoint(0, rotation), Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
-    send(card, event);
+    const QPointF place = card.mapToGlobal(QRectF(card.rect()).center());
+    QWidget& widget = widgetUnder(place);
+    QWheelEvent event(widget.mapFromGlobal(place), place, QPoint(), QPoint(0, rotation),
+                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    send(widget, event);
 }
 
 } // namespace toolkit::test

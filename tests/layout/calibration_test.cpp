@@ -109,6 +109,10 @@ TEST_F(Calibration, WithoutInkKeepsTheEarlierOffsets) {
     form.TextFontSize = {0, 40, 50, 60};
     GetOffsets(form);
     EXPECT_EQ(form.FontOffsets, offsets);
+    for (std::size_t size = 1; size <= 3; ++size) {
+        EXPECT_EQ(form.CircleAdjust[size][1], -1) << size;
+        EXPECT_EQ(form.CircleAdjust[size][2], -1) << size;
+    }
     form.AMark[0].ForeColor = form.AText[0].ForeColor = toolkit::black;
     GetOffsets(form);
     EXPECT_NE(form.FontOffsets, offsets);

@@ -108,5 +108,20 @@ TEST_F(FormKeys, ConsumedKeyIsReportedAsNone) {
     EXPECT_EQ(other.KeyCode, 'Q');
 }
 
+TEST_F(FormKeys, CardTakesTheCornerKeysThatTheFormLetThrough) {
+    startSmall();
+    const float lowest = form.ScaleHeight() - form.P1.Height;
+    toolkit::KeyArguments endKey{key::end, 0};
+    P1_KeyDown(form, endKey);
+    EXPECT_EQ(form.P1.Top, lowest);
+    toolkit::KeyArguments homeKey{key::home, 0};
+    P1_KeyDown(form, homeKey);
+    EXPECT_EQ(form.P1.Top, 0);
+    form.P1.Move(-150, -300);
+    toolkit::KeyArguments leftKey{key::left, 0};
+    P1_KeyDown(form, leftKey);
+    EXPECT_NE(form.P1.Left, -150);
+}
+
 } // namespace
 } // namespace zev::test

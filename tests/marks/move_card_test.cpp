@@ -107,6 +107,15 @@ TEST_F(MoveCard, WheelTakesOneStepWhateverTheRotation) {
     EXPECT_NEAR(form.P1.Top, -step(), 0.6F);
 }
 
+TEST_F(MoveCard, WheelOverTheHelpLeavesTheCardAlone) {
+    startSmall();
+    typeKey(key::f1);
+    ASSERT_TRUE(form.THelp.Visible);
+    form.THelp.Move(0, 0, form.ScaleWidth(), form.ScaleHeight());
+    for (int i = 0; i < 3; ++i) turnWheel(120);
+    EXPECT_EQ(form.P1.Top, 0);
+}
+
 TEST_F(MoveCard, WheelNeedsAShownCardAndItsHook) {
     startLarge();
     form.WheelHooked = false;
@@ -159,6 +168,28 @@ TEST_F(MoveCard, TaskBarAtTheBottomEndsTheRestAtOneArrow) {
     toolkit::overrideScreen(
         {.width = 24000, .height = 24000, .taskBar = {0, 1560, 1600, 40}, .hasTaskBar = true});
     clickMark(1);
+    typeKey(key::up);
+    EXPECT_FALSE(form.TabActive);
+}
+
+TEST_F(MoveCard, TaskBarAtTheTopLetsTheCursorFollow) {
+    startSmall();
+    form.P1.Top = -600;
+    toolkit::overrideScreen(
+        {.width = 24000, .height = 24000, .taskBar = {0, 0, 1600, 40}, .hasTaskBar = true});
+    clickMark(1);
+    const int before = form.TabCursorY;
+    typeKey(key::up);
+    EXPECT_TRUE(form.TabActive);
+    EXPECT_NE(form.TabCursorY, before);
+}
+
+TEST_F(MoveCard, CursorBelowAScreenLessTheHeightOfABarAtTheTopEndsTheRest) {
+    startSmall();
+    clickMark(1);
+    const auto room = static_cast<float>(toolkit::cursorPosition().y + 30) * pixel;
+    toolkit::overrideScreen(
+        {.width = 24000, .height = room, .taskBar = {0, 0, 1600, 40}, .hasTaskBar = true});
     typeKey(key::up);
     EXPECT_FALSE(form.TabActive);
 }

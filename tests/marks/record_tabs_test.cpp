@@ -66,6 +66,10 @@ TEST_F(RecordTabs, NoDiscardsTheSequenceAtOnceAndRecords) {
     EXPECT_TRUE(form.MSetTabs.Checked);
     EXPECT_EQ(form.TabTable.UBound(), 0);
     EXPECT_FALSE(form.DesignDirty);
+    // Only building the card anew brings it back.
+    leaveDesign();
+    RebuildScreenImage(form);
+    EXPECT_EQ(next(1), 2);
 }
 
 TEST_F(RecordTabs, CancelChangesNothing) {

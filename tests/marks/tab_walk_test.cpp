@@ -1,5 +1,6 @@
 #include "marks/tab_walk.h"
 
+#include "marks/keys.h"
 #include "text/edit_test.h"
 
 namespace zev::test {
@@ -145,6 +146,26 @@ TEST_F(MarkWalk, AnyModifierWalksBackward) {
         typeKey(key::tab, held);
         EXPECT_EQ(form.TabCode, 1001) << held;
     }
+}
+
+TEST_F(MarkWalk, AltWalksBackwardWhereItReachesTheCard) {
+    startSmall();
+    clickMark(2);
+    toolkit::KeyArguments pressed{key::tab, shift::alt};
+    P1_KeyDown(form, pressed);
+    EXPECT_EQ(form.TabCode, 1001);
+}
+
+TEST_F(MarkWalk, WalksOnToATextThatWasDraggedOffTheCard) {
+    startSmall();
+    form.AText[3].Move(-3000, 7500);
+    clickMark(2);
+    typeKey(key::tab);
+    EXPECT_GE(form.FrameWidth + form.Left + form.P1.Left + form.AText[3].Left, form.Left);
+    EXPECT_TRUE(isEditing());
+    typeText("East");
+    typeKey(key::escape);
+    EXPECT_EQ(form.AText[3].Tag, "East");
 }
 
 TEST_F(MarkWalk, BackwardFromAMarkReachesATextToo) {

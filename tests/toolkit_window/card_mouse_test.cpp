@@ -156,6 +156,18 @@ TEST_F(CardMouse, LabelUnloadedWhilePressedGetsNothingMore) {
     EXPECT_EQ(log, Log{});
 }
 
+TEST_F(CardMouse, PressWhoseReleaseNeverCameIsForgottenAtTheNextMove) {
+    place(texts[1], 100, 50, 40, 20);
+    place(marks[1], 10, 10, 20, 20);
+    test::pressMouse(px(110), px(55));
+    // A box or pop-up took the release.
+    test::moveMouse(px(15), px(15));
+    EXPECT_EQ(log.back(), "mark1.MouseMove B=0 S=0 X=5 Y=5");
+    test::click(px(15), px(15));
+    EXPECT_EQ(log.back(), "mark1.Click");
+    EXPECT_EQ(times("text1.Click"), 0);
+}
+
 TEST_F(CardMouse, SingleLabelSwallowsThePress) {
     place(stamp, 10, 10, 20, 20);
     test::click(px(15), px(15));

@@ -91,6 +91,17 @@ TEST_F(ListView, IndexSetByTheProgramStays) {
     EXPECT_EQ(list.ListIndex, -1);
 }
 
+TEST_F(ListView, WheelOverTheListNeverReachesTheForm) {
+    openList({"one", "two"});
+    form.MouseWheel = [this](int, int, int, int) { note("form.MouseWheel"); };
+    test::turnWheel(-120);
+    test::turnWheel(120);
+    EXPECT_EQ(log, Log{});
+    list.Visible = false;
+    test::turnWheel(120);
+    EXPECT_EQ(log, Log{"form.MouseWheel"});
+}
+
 TEST_F(ListView, DisabledCardLeavesTheListAlone) {
     openList({"one", "two"});
     card.Enabled = false;

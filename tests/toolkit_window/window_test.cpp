@@ -77,6 +77,19 @@ TEST_F(WindowOrder, FocusedBoxThatIsHiddenLeavesItToTheCardWithoutEvents) {
     EXPECT_EQ(log, Log{});
 }
 
+TEST_F(WindowOrder, CardThatWasHiddenForAMomentHasTheKeysAgain) {
+    form.SetFocus(card);
+    for (const bool shown : {false, true}) {
+        card.Visible = shown;
+        window->update();
+        test::settle();
+    }
+    log.clear();
+    test::typeKey(key::tab);
+    EXPECT_TRUE(test::hasPlatformFocus(card));
+    EXPECT_EQ(times("card.KeyDown 9/0"), 1);
+}
+
 TEST_F(WindowOrder, BoxOnTheScreenIsNoLostFocus) {
     openBox("abc");
     test::ShownBox seen;
