@@ -48,8 +48,10 @@ void paintLabel(QPainter& painter, const Label& label) {
     if (text.empty()) return;
     const auto scale = static_cast<double>(twipsPerPixel());
     const float offset = textOffset(label, textWidth(label.Font, text));
-    const QPointF origin(place.left() + static_cast<double>(offset) / scale,
-                         place.top() + pixelsFromTwips(textAscent(label.Font)));
+    // Rounded once, from the exact place: the base line of a text keeps to its printed rule, and a
+    // mark to its box, as well as whole pixels allow.
+    const QPointF origin(static_cast<double>(label.Left + offset) / scale,
+                         pixelsFromTwips(label.Top + textAscent(label.Font)));
     drawRun(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
 }
 
