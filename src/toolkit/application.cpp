@@ -1,5 +1,6 @@
 #include <QtWidgets/QApplication>
 
+#include "toolkit/qt_program_icon.h"
 #include "toolkit/qt_window.h"
 #include "toolkit/window.h"
 
@@ -17,6 +18,7 @@ Application::Application(int& argumentCount, char** arguments) {
     QCoreApplication::setAttribute(Qt::AA_DontShowIconsInMenus);
     QCoreApplication::setApplicationName(QStringLiteral("zevlin"));
     implementation_ = std::make_unique<Implementation>(argumentCount, arguments);
+    QGuiApplication::setWindowIcon(programIcon());
     // Boxes come and go before the main window is there.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }

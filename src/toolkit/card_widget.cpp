@@ -29,6 +29,7 @@ CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& d
 
 void CardWidget::push() {
     pushPlace();
+    pushPointer();
     if (picture_ != parts_.card->Picture) {
         picture_ = parts_.card->Picture;
         update();
@@ -44,6 +45,15 @@ void CardWidget::pushPlace() {
     const QRect place(pixelsFromTwips(card.Left), pixelsFromTwips(card.Top),
                       pixelsFromTwips(card.Width), pixelsFromTwips(card.Height));
     if (place != geometry()) setGeometry(place);
+}
+
+/// The hand closes when it takes the card along.
+void CardWidget::pushPointer() {
+    const Grip grip = dragged_ ? Grip::Closed : Grip::Open;
+    if (pointer_ == parts_.card->MousePointer && grip_ == grip) return;
+    pointer_ = parts_.card->MousePointer;
+    grip_ = grip;
+    setPointer(*this, pointer_, grip_);
 }
 
 void CardWidget::paintPicture(QPainter& painter, const QRect& area) const {
@@ -85,6 +95,7 @@ void CardWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(eve
 
 void CardWidget::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
+    dragged_ = event->buttons() != Qt::NoButton;
     mouse_.move(pointerOf(*event), buttonsOf(event->buttons()));
 }
 
@@ -92,6 +103,7 @@ void CardWidget::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
     const int button = buttonOf(event->button());
     const int others = buttonsOf(event->buttons()) & ~button;
+    dragged_ = dragged_ && others != 0;
     if (button != 0)
         mouse_.release(pointerOf(*event), button,
                        others == 0 ? CardMouse::Held::None : CardMouse::Held::Others);

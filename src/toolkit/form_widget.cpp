@@ -3,22 +3,10 @@
 #include <QtCore/QTimer>
 #include <QtGui/QCloseEvent>
 
+#include "toolkit/qt_pointer.h"
 #include "toolkit/qt_text.h"
 
 namespace toolkit {
-
-void setPointer(QWidget& widget, MousePointer pointer) {
-    switch (pointer) {
-    case MousePointer::Default:
-        return widget.unsetCursor();
-    case MousePointer::Arrow:
-        return widget.setCursor(Qt::ArrowCursor);
-    case MousePointer::Hourglass:
-        return widget.setCursor(Qt::WaitCursor);
-    case MousePointer::Hand:
-        return widget.setCursor(Qt::OpenHandCursor);
-    }
-}
 
 FormWidget::FormWidget(const WindowParts& parts, Delivery& delivery, Wheel& wheel)
     : form_(*parts.form), delivery_(delivery), menuBar_(*this, parts, delivery),

@@ -5,6 +5,7 @@
 
 #include "toolkit/qt_card_mouse.h"
 #include "toolkit/qt_label_scene.h"
+#include "toolkit/qt_pointer.h"
 #include "toolkit/qt_wheel.h"
 
 namespace toolkit {
@@ -34,6 +35,7 @@ class CardWidget : public QWidget {
   private:
     [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
     void pushPlace();
+    void pushPointer();
     void paintPicture(QPainter& painter, const QRect& area) const;
 
     const WindowParts& parts_;
@@ -42,6 +44,9 @@ class CardWidget : public QWidget {
     LabelScene scene_;
     std::shared_ptr<const Bitmap> picture_;
     Painted painted_;
+    MousePointer pointer_ = MousePointer::Default;
+    Grip grip_ = Grip::Open;
+    bool dragged_ = false; ///< the mouse has moved since a button went down
 };
 
 } // namespace toolkit

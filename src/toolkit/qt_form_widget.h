@@ -59,7 +59,4 @@ class FormWidget : public QWidget {
     MousePointer pointer_ = MousePointer::Default;
 };
 
-/// Gives the widget the cursor for a pointer; Default is that of the widget behind it.
-void setPointer(QWidget& widget, MousePointer pointer);
-
 } // namespace toolkit

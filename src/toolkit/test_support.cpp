@@ -6,6 +6,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QImage>
+#include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
 
 #include "toolkit/qt_delivery.h"
@@ -15,16 +16,28 @@
 namespace toolkit::test {
 namespace {
 
-Bitmap grab(QWidget& widget) {
-    updateWindow();
-    QImage image(widget.size(), QImage::Format_RGB32);
-    image.fill(Qt::white);
-    widget.render(&image);
+Bitmap bitmapOf(const QImage& image) {
     Bitmap bitmap(image.width(), image.height());
     for (int y = 0; y < image.height(); ++y)
         std::memcpy(bitmap.row(y), image.constScanLine(y),
                     static_cast<std::size_t>(image.width()) * sizeof(std::uint32_t));
     return bitmap;
+}
+
+/// On grey, so that what is white in the picture can be told from what is transparent.
+Bitmap onGrey(const QPixmap& picture) {
+    QImage image(picture.size(), QImage::Format_RGB32);
+    image.fill(Qt::gray);
+    QPainter(&image).drawPixmap(0, 0, picture);
+    return bitmapOf(image);
+}
+
+Bitmap grab(QWidget& widget) {
+    updateWindow();
+    QImage image(widget.size(), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    widget.render(&image);
+    return bitmapOf(image);
 }
 
 } // namespace
@@ -84,6 +97,13 @@ void settle() {
 
 Bitmap grabCard() { return grab(window().card()); }
 Bitmap grabWindow() { return grab(window().form()); }
+
+Bitmap shownPointer() {
+    updateWindow();
+    return onGrey(window().card().cursor().pixmap());
+}
+
+Bitmap shownIcon(int size) { return onGrey(window().form().windowIcon().pixmap(size)); }
 
 bool isShown(const Control& control) {
     updateWindow();

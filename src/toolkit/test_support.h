@@ -57,6 +57,10 @@ void settle();
 [[nodiscard]] Bitmap grabWindow();
 
 // For tests of the window itself: what the platform shows.
+/// The picture of the mouse pointer over the card; empty where it is one of the platform's own.
+[[nodiscard]] Bitmap shownPointer();
+/// The window's icon in that size.
+[[nodiscard]] Bitmap shownIcon(int size);
 [[nodiscard]] bool isShown(const Control& control);
 [[nodiscard]] std::string shownText(const TextBox& box);
 /// Whether the platform sends its keys to the control.
