@@ -118,14 +118,14 @@ class Program:
     first one in its home; later ones ask for a card. `answers` are the titles of the boxes that come
     before the window, each with the key that answers it."""
 
-    def __init__(self, home, *arguments, dots_per_inch=96, answers=()):
+    def __init__(self, home, *arguments, dots_per_inch=96, magnified=1, answers=()):
         self.home = home
-        self.twips = round(TWIPS_PER_INCH / dots_per_inch)
+        self.twips = round(TWIPS_PER_INCH / dots_per_inch) / magnified  # in a pixel of the screen
         self.window = None
         is_first = not home.data.exists()
         environment = {"HOME": str(home.folder), "PATH": "/usr/bin:/bin", "LANG": "C.UTF-8",
                        "DISPLAY": os.environ["DISPLAY"], "QT_QPA_PLATFORM": "xcb",
-                       "XDG_RUNTIME_DIR": str(home.runtime)}
+                       "XDG_RUNTIME_DIR": str(home.runtime), "QT_SCALE_FACTOR": str(magnified)}
         if dots_per_inch != 96:
             # Else a finer screen would be magnified and still count as one of 96.
             environment |= {"QT_FONT_DPI": str(dots_per_inch), "QT_ENABLE_HIGHDPI_SCALING": "0"}

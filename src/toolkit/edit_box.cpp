@@ -5,6 +5,7 @@
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
+#include <QtGui/QWheelEvent>
 
 #include "toolkit/qt_input.h"
 #include "toolkit/qt_text.h"
@@ -152,5 +153,8 @@ void EditBox::inputMethodEvent(QInputMethodEvent* event) {
     composing_ = !event->preeditString().isEmpty();
     QLineEdit::inputMethodEvent(event);
 }
+
+/// The wheel of who types into a box is the box's, or the card would move away below it.
+void EditBox::wheelEvent(QWheelEvent* event) { event->accept(); }
 
 } // namespace toolkit

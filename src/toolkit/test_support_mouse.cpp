@@ -1,3 +1,4 @@
+#include <QtCore/QCoreApplication>
 #include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>
@@ -7,6 +8,11 @@
 #include "toolkit/qt_input.h"
 #include "toolkit/qt_test_window.h"
 #include "toolkit/test_support.h"
+
+/// An event as if it came from outside. The platform lets a function of this very name do so.
+bool qt_sendSpontaneousEvent(QObject* receiver, QEvent* event) {
+    return QCoreApplication::sendSpontaneousEvent(receiver, event);
+}
 
 namespace toolkit::test {
 namespace {
@@ -94,7 +100,9 @@ void turnWheel(int rotation) {
     QWidget& widget = widgetUnder(place);
     QWheelEvent event(widget.mapFromGlobal(place), place, QPoint(), QPoint(0, rotation),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-    send(widget, event);
+    // Only wheel events from outside go on to the widget behind one that can't use them.
+    qt_sendSpontaneousEvent(&widget, &event);
+    rethrowKept();
 }
 
 } // namespace toolkit::test

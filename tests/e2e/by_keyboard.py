@@ -14,21 +14,27 @@ class ByKeyboard(whole_program.WholeProgramTest):
     def test_the_whole_card_can_be_filled_in(self):
         program = self.start_for_the_first_time()
         walk = self.walk()
-        card = desktop.Card(program)
         self.assertGreater(len(walk), 200)
+        filled = self.fill_in(program, walk)
+        self.assertEqual(filled, set(desktop.layout_fields(self.home)[1]))
+
+    def test_the_walk_finds_its_fields_on_a_magnified_screen(self):
+        self.fill_in(self.start_for_the_first_time(magnified=1.5), self.walk()[:60])
+
+    def fill_in(self, program, walk):
+        """Fills in the fields of the walk, saves, and compares; the text areas that it filled."""
         keys, marks, texts = self.filling_in(walk)
         # The walk begins at the field that was clicked; from here on no hand leaves the keyboard.
-        card.click_text(walk[0])
+        desktop.Card(program).click_text(walk[0])
         self.press_slowly(keys)
         program.press("Escape", "ctrl+s")
         desktop.wait_for("the end of the walk", program.boxes, 120)
         program.answer_name("By keyboard")
         program.wait_for_title(r"\( By keyboard \)$")
-
         saved_marks, saved_texts = self.home.records("By keyboard")
         self.assertEqual(saved_marks, marks)
         self.assertEqual({key: value for key, value in saved_texts.items() if value}, texts)
-        self.assertEqual(set(texts), set(card.texts))
+        return set(texts)
 
     def test_shift_and_tab_lead_back_to_where_the_walk_began(self):
         program = self.start_for_the_first_time()

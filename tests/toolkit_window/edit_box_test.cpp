@@ -205,6 +205,18 @@ TEST_F(EditBox, DisabledCardDisablesItsBoxesForTheMouse) {
     EXPECT_EQ(box.SelStart, 0);
 }
 
+TEST_F(EditBox, WheelOverTheBoxNeverReachesTheForm) {
+    openBox("abc");
+    form.MouseWheel = [this](int, int, int, int) { note("form.MouseWheel"); };
+    // The wheel is turned at the middle of the card.
+    box.Move(px(150), px(140), px(120), px(20));
+    test::turnWheel(-120);
+    EXPECT_EQ(log, Log{});
+    box.Move(px(150), px(200), px(120), px(20));
+    test::turnWheel(-120);
+    EXPECT_EQ(log, Log{"form.MouseWheel"});
+}
+
 TEST_F(EditBox, ShowsExactlyWhenItsValueSaysSo) {
     EXPECT_FALSE(test::isShown(box));
     openBox("abc");
