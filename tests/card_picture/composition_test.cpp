@@ -1,0 +1,184 @@
+// What a printer looks at: margins, weights of rules, leading, paper around rows.
+#include "card_picture/picture_reader.h"
+#include "card_tool/description.h"
+#include "card_tool/typesetter.h"
+#include "card_tool/units.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <limits>
+#include <set>
+
+namespace card_picture {
+namespace {
+
+// In full pixels.
+constexpr int fold = card::pictureWidth / 2;
+constexpr int pitch = 52;
+constexpr double frameLine = 4;
+constexpr double thinLine = 2;
+constexpr double barHeight = 34;
+/// Between a bar and the first row's boxes and between the last row's and the frame.
+constexpr double paperAroundRows = 14;
+constexpr double leastPaper = 8;
+
+const card::Sheet& sheet() {
+    static const card::Sheet set =
+        card::typeset(card::readDescription(CARD_DESCRIPTION), card::loadTypefaces(CARD_FONTS));
+    return set;
+}
+
+bool isRectangle(const card::InkShape& shape) {
+    return shape.path.elementCount() == 5 &&
+           std::ranges::all_of(std::vector{0, 1, 2, 3, 4},
+                               [&](int at) { return !shape.path.elementAt(at).isCurveTo(); });
+}
+double thickness(const card::InkShape& shape) {
+    return std::min(shape.bounds.width(), shape.bounds.height());
+}
+/// Longer than any stroke of a letter.
+bool isLong(const card::InkShape& shape) {
+    return std::max(shape.bounds.width(), shape.bounds.height()) > pitch;
+}
+bool isRule(const card::InkShape& shape, double thick) {
+    return isRectangle(shape) && shape.ink == card::Ink::Black && thickness(shape) == thick &&
+           isLong(shape);
+}
+bool isDivider(const card::InkShape& shape) {
+    return isRule(shape, thinLine) && shape.bounds.width() == thinLine;
+}
+/// Words, boxes and writing lines.
+bool isContent(const card::InkShape& shape) {
+    return shape.ink != card::Ink::Paper && !isRule(shape, frameLine) &&
+           !isRule(shape, barHeight) && !isDivider(shape);
+}
+
+std::vector<QRectF> boundsOf(bool (*chosen)(const card::InkShape&)) {
+    std::vector<QRectF> bounds;
+    for (const card::InkShape& shape : sheet().shapes)
+        if (chosen(shape)) bounds.push_back(shape.bounds);
+    return bounds;
+}
+std::vector<QRectF> frameLines() {
+    return boundsOf([](const card::InkShape& shape) { return isRule(shape, frameLine); });
+}
+std::vector<QRectF> bars() {
+    return boundsOf([](const card::InkShape& shape) { return isRule(shape, barHeight); });
+}
+bool share(const QRectF& one, const QRectF& other) {
+    return one.left() < other.right() && other.left() < one.right();
+}
+
+struct Extent {
+    int left = std::numeric_limits<int>::max();
+    int right = -1;
+    int top = std::numeric_limits<int>::max();
+    int bottom = -1;
+};
+Extent inkBetween(int left, int right) {
+    Extent extent;
+    for (int y = 0; y < fullPicture().height; ++y)
+        for (int x = left; x < right; ++x)
+            if (fullPicture().ink(x, y))
+                extent = {std::min(extent.left, x), std::max(extent.right, x),
+                          std::min(extent.top, y), std::max(extent.bottom, y)};
+    return extent;
+}
+
+TEST(Composition, OuterMarginIsEven) {
+    const Extent all = inkBetween(0, fullPicture().width);
+    EXPECT_EQ(all.left, 24);
+    EXPECT_EQ(fullPicture().width - 1 - all.right, all.left);
+    EXPECT_EQ(all.top, all.left);
+    // The time stamp's rows, and no more paper than keeps it off the frames.
+    const int foot = fullPicture().height - 1 - all.bottom;
+    EXPECT_GE(foot, card::footRows + 10);
+    EXPECT_LE(foot, card::footRows + 16);
+}
+
+TEST(Composition, PanelsBalanceAboutTheFold) {
+    const Extent left = inkBetween(0, fold);
+    const Extent right = inkBetween(fold, fullPicture().width);
+    EXPECT_EQ(left.top, right.top);
+    EXPECT_EQ(left.bottom, right.bottom);
+    EXPECT_EQ(fold - 1 - left.right, right.left - fold);
+    EXPECT_EQ(left.right - left.left, right.right - right.left);
+}
+
+TEST(Composition, RulesHaveTwoWeights) {
+    std::set<double> weights;
+    for (const card::InkShape& shape : sheet().shapes)
+        if (isRectangle(shape) && isLong(shape) && shape.ink != card::Ink::Paper)
+            weights.insert(thickness(shape));
+    // Bars are no rules; the sides of boxes are thin lines, as the tests of fields measure.
+    weights.erase(barHeight);
+    EXPECT_EQ(weights, (std::set<double>{thinLine, frameLine}));
+}
+
+TEST(Composition, NothingTouchesAFrame) {
+    const std::vector<QRectF> lines = frameLines();
+    ASSERT_GT(lines.size(), 60U);
+    for (const QRectF& content : boundsOf(isContent)) {
+        const QRectF around = content.adjusted(-leastPaper, -leastPaper, leastPaper, leastPaper);
+        // A heading stands in its bar, which covers the frame's upper line.
+        const bool inBar =
+            std::ranges::any_of(bars(), [&](const QRectF& bar) { return bar.intersects(content); });
+        if (inBar) continue;
+        for (const QRectF& line : lines)
+            EXPECT_FALSE(around.intersects(line)) << content.left() << "," << content.top();
+    }
+}
+
+/// The paper between a bar and the nearest content below it.
+double paperBelow(const QRectF& bar, const std::vector<QRectF>& contents) {
+    double paperRows = pitch;
+    for (const QRectF& content : contents)
+        if (share(content, bar) && content.top() >= bar.bottom())
+            paperRows = std::min(paperRows, content.top() - bar.bottom());
+    return paperRows;
+}
+double paperAbove(const QRectF& line, const std::vector<QRectF>& contents) {
+    double paperRows = pitch;
+    for (const QRectF& content : contents)
+        if (share(content, line) && content.bottom() <= line.top())
+            paperRows = std::min(paperRows, line.top() - content.bottom());
+    return paperRows;
+}
+
+TEST(Composition, AreasHaveTheSamePaperBelowTheirBarAndAboveTheirFoot) {
+    const std::vector<QRectF> contents = boundsOf(isContent);
+    for (const QRectF& bar : bars())
+        EXPECT_GE(paperBelow(bar, contents), paperAroundRows) << bar.left() << "," << bar.top();
+    const std::vector<QRectF> lines = frameLines();
+    std::size_t feet = 0;
+    for (const QRectF& line : lines) {
+        const double paperRows = paperAbove(line, contents);
+        // Above the upper lines lies the area before, foot and all.
+        if (line.width() < line.height() || paperRows > paperAroundRows) continue;
+        ++feet;
+        EXPECT_GE(paperRows, paperAroundRows - 2) << line.left() << "," << line.top();
+    }
+    // The leads have more: rings reach below their letters.
+    EXPECT_EQ(feet, lines.size() / 4 - 1);
+}
+
+TEST(Composition, RowsOfNeighbouringColumnsStandOnOneLine) {
+    std::set<int> left;
+    std::set<int> right;
+    const auto leads = std::ranges::find_if(
+        sheet().marks, [](const card::MarkPlace& mark) { return mark.id == "s.xx.1"; });
+    ASSERT_NE(leads, sheet().marks.end());
+    for (const card::TextPlace& text : sheet().texts) {
+        if (text.size == card::AreaSize::Large) continue;
+        if (text.left > fold)
+            right.insert(text.ruleTop % pitch);
+        else if (text.ruleTop < leads->centreY)
+            left.insert(text.ruleTop % pitch);
+    }
+    EXPECT_EQ(left.size(), 1U);
+    EXPECT_EQ(right.size(), 1U);
+}
+
+} // namespace
+} // namespace card_picture
