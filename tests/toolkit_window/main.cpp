@@ -20,7 +20,7 @@ constexpr const char* screens = R"({"screens": [
 /// The platform reads the description of its screens from this file.
 fs::path describedScreens() {
     std::string name = (fs::temp_directory_path() / "zevlin-screens-XXXXXX").string();
-    const fs::path file = fs::path(mkdtemp(name.data())) / "screens.json";
+    fs::path file = fs::path(mkdtemp(name.data())) / "screens.json";
     std::ofstream(file) << screens;
     return file;
 }
