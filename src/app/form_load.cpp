@@ -1,5 +1,6 @@
 #include "app/form_load.h"
 
+#include <memory>
 #include <string>
 
 #include "app/command_line.h"
@@ -27,6 +28,7 @@
 #include "toolkit/program.h"
 #include "toolkit/screen.h"
 #include "view/background.h"
+#include "view/felt.h"
 
 namespace zev {
 namespace {
@@ -126,6 +128,7 @@ void prepareForm(Zevlin& form) {
     setFonts(form);
     setPen(form);
     setZoom(form);
+    form.BGPat.Picture = std::make_shared<const toolkit::Bitmap>(feltTile());
     choosePicture(form);
 }
 
@@ -182,7 +185,7 @@ void load(Zevlin& form, std::string_view commandLine, LoadRun& run) {
     form.LastSchemeIndex = static_cast<std::int16_t>(form.mcolorscheme.size() - 1);
     Initialize(form);
     MNew_Click(form);
-    CreateBG(form);
+    CreateBG(form, form.BGPat, 0, 0);
     openFirstCard(form, commandLine);
     showCard(form, run);
     finish(form);

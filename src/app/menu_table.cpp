@@ -10,6 +10,8 @@
 #include "help/help_page.h"
 #include "layout/save_layout.h"
 #include "marks/record_tabs.h"
+#include "view/fit.h"
+#include "view/zoom.h"
 
 namespace zev {
 namespace {
@@ -25,6 +27,13 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MSaveAs,     "Save &As...",        "",       MSaveAs_Click},
     separator,
     {1, &Zevlin::MExit,       "E&xit",              "",       MExit_Click},
+    {0, &Zevlin::MView,       "&View",              "",       nullptr},
+    {1, &Zevlin::MZoomIn,     "Zoom In (Bigger)                   Ctrl +", "", MZoomIn_Click},
+    {1, &Zevlin::MZoomOut,    "Zoom Out (Smaller)               Ctrl  -",  "", MZoomOut_Click},
+    separator,
+    {1, &Zevlin::MFitScreenWidth,  "Fit to screen width                Ctrl  0", "",
+     MFitScreenWidth_Click},
+    {1, &Zevlin::MFitScreenHeight, "Fit to screen height", "", MFitScreenHeight_Click},
     {0, &Zevlin::MOptions,    "&Options",           "",       nullptr},
     {1, &Zevlin::MMyID,       "My Name",            "",       MMyID_Click},
     {1, &Zevlin::MPartnerID,  "Partner's Name",     "",       MPartnerID_Click},

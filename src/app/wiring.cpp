@@ -124,6 +124,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.cardLabels = {&form.Timestamp, &form.CreditLabel};
     parts.cardTextBoxes = {&form.CText, &form.LText};
     parts.lists = {&form.THelp};
+    parts.panels = {&form.P3};
     parts.menu = menuRows(form);
     return parts;
 }

@@ -84,7 +84,7 @@ Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& 
 }
 
 void loadCard(Zevlin& form) {
-    CreateBG(form);
+    CreateBG(form, form.BGPat, 0, 0);
     form.VersionSeen.clear();
     // The path goes by the name as it came, before it is cleaned.
     const auto path = cardPath(form);

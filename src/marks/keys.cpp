@@ -10,6 +10,8 @@
 #include "toolkit/key.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
+#include "view/fit.h"
+#include "view/zoom.h"
 
 namespace zev {
 namespace {
@@ -60,8 +62,31 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
     }
 }
 
+/// The zoom keys with Ctrl alone; held down they go on along the ladder. True if it was one.
+bool zoomByKey(Zevlin& form, const toolkit::KeyArguments& key) {
+    if (key.Shift != toolkit::shift::ctrl) return false;
+    switch (key.KeyCode) {
+    case toolkit::key::digit0:
+        // Always on, whatever it was: leaving a fit is for the other two.
+        form.MFitScreenWidth.Checked = false;
+        MFitScreenWidth_Click(form);
+        return true;
+    case toolkit::key::add:
+    case toolkit::key::plus:
+        MZoomIn_Click(form);
+        return true;
+    case toolkit::key::subtract:
+    case toolkit::key::minus:
+        MZoomOut_Click(form);
+        return true;
+    default:
+        return false;
+    }
+}
+
 void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
     if (moveCardByKey(form, key.KeyCode, key.Shift)) return;
+    if (zoomByKey(form, key)) return;
     if (toolkit::isKeyRepeat()) return;
     if (key.KeyCode == toolkit::key::tab) {
         walkFromMark(form, key.Shift);

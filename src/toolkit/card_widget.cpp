@@ -32,6 +32,7 @@ void CardWidget::push() {
     pushPointer();
     if (picture_ != parts_.card->Picture) {
         picture_ = parts_.card->Picture;
+        sharp_.reset();
         update();
     }
     const QRegion changes = scene_.takeOver(parts_);
@@ -56,6 +57,35 @@ void CardWidget::pushPointer() {
     setPointer(*this, pointer_, grip_);
 }
 
+/// Whether this screen gets a picture of its own, made when it is first painted there.
+bool CardWidget::findSharpPicture(double ratio) {
+    const SharpPicture& sharp = parts_.card->Sharp;
+    if (ratio <= 1 || !picture_ || sharp.of != picture_ || !sharp.drawn) return false;
+    if (!sharp_ || sharpRatio_ != ratio) {
+        sharp_ = sharp.drawn(static_cast<float>(ratio));
+        sharpRatio_ = ratio;
+    }
+    return !sharp_->empty();
+}
+
+/// Pixel by pixel where it has the screen's own, else stretched.
+void CardWidget::paintSharpPicture(QPainter& painter, const QRect& area) const {
+    const QImage image = imageOf(*sharp_);
+    const QSizeF size(picture_->width(), picture_->height());
+    painter.save();
+    painter.setClipRect(area);
+    if (image.size() == (size * sharpRatio_).toSize()) {
+        painter.scale(1 / sharpRatio_, 1 / sharpRatio_);
+        painter.drawImage(0, 0, image);
+    } else {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF(QPointF(0, 0), size), image);
+    }
+    painter.restore();
+    for (const QRect& rest : QRegion(area) - QRect(QPoint(0, 0), size.toSize()))
+        painter.fillRect(rest, qColor(parts_.card->BackColor));
+}
+
 void CardWidget::paintPicture(QPainter& painter, const QRect& area) const {
     QRect pictureArea;
     if (picture_ && !picture_->empty()) {
@@ -69,8 +99,12 @@ void CardWidget::paintPicture(QPainter& painter, const QRect& area) const {
 
 void CardWidget::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
+    const bool sharp = findSharpPicture(painter.deviceTransform().m11());
     for (const QRect& area : event->region()) {
-        paintPicture(painter, area);
+        if (sharp)
+            paintSharpPicture(painter, area);
+        else
+            paintPicture(painter, area);
         painted_.pixels += area.width() * area.height();
     }
     scene_.paint(painter, event->region());

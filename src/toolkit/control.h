@@ -82,11 +82,31 @@ struct Control {
     }
 };
 
+/// What a panel shows behind its controls.
+enum class PanelFill {
+    Plain,       ///< its BackColor
+    FormGradient ///< the form's gradient, without a seam; else its BackColor
+};
+
+/// A panel on the form, on which other controls may lie.
+struct Panel : Control {
+    PanelFill Fill = PanelFill::Plain;
+    int CornerRadius = 0; ///< pixels
+};
+
+/// A picture as screens show it that have more than one pixel to a logical one.
+struct SharpPicture {
+    std::shared_ptr<const Bitmap> of{}; ///< counts only while this very picture is the box's
+    /// The picture drawn anew, `ratio` (above 1) times as large, or as large as it can be.
+    std::function<std::shared_ptr<const Bitmap>(float ratio)> drawn{};
+};
+
 /// A picture box with a persistent picture. ScaleMode is always 1, twips.
 struct PictureBox : Control {
     static constexpr int ScaleMode = 1;
     /// The picture shown at (0, 0), shared because it is replaced as a whole, never drawn upon.
     std::shared_ptr<const Bitmap> Picture;
+    SharpPicture Sharp;
     toolkit::MousePointer MousePointer = toolkit::MousePointer::Default;
 };
 

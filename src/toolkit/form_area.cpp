@@ -6,13 +6,12 @@
 
 #include "toolkit/qt_form_widget.h"
 #include "toolkit/qt_geometry.h"
+#include "toolkit/qt_gradient.h"
 #include "toolkit/text_painter.h"
 
 namespace toolkit {
 namespace {
 
-constexpr float smallestTileScale = 0.05F;
-constexpr float largestTileScale = 10;
 constexpr int textMargin = 2;
 
 const FontSpec textFont{.Name = "Arial", .Size = 8, .Bold = true};
@@ -22,29 +21,18 @@ void paintTiles(QPainter& painter, const FormBackground& background, QSize size)
     const Bitmap& tile = *background.tile;
     const QImage image(reinterpret_cast<const uchar*>(tile.row(0)), tile.width(), tile.height(),
                        tile.width() * 4, QImage::Format_RGB32);
-    const bool usable =
-        background.tileScale >= smallestTileScale && background.tileScale <= largestTileScale;
-    const double scale = usable ? static_cast<double>(background.tileScale) : 1;
+    const auto scale = static_cast<double>(background.tileScale);
     const int top = pixelsFromTwips(background.yOffset);
     QBrush brush(image);
     brush.setTransform(QTransform::fromTranslate(0, top).scale(scale, scale));
     painter.fillRect(QRect(0, top, size.width(), size.height() - top), brush);
 }
 
-int component(int top, int bottom, double share) {
-    return static_cast<int>(top + (bottom - top) * share);
-}
-
 void paintGradient(QPainter& painter, const FormBackground& background, const QRect& area,
                    QSize size) {
-    const auto [top, bottom] = std::pair(background.top, background.bottom);
-    for (int y = area.top(); y <= area.bottom(); ++y) {
-        const double share = static_cast<double>(y) / size.height();
+    for (int y = area.top(); y <= area.bottom(); ++y)
         painter.fillRect(area.left(), y, area.width(), 1,
-                         QColor(component(redOf(top), redOf(bottom), share),
-                                component(greenOf(top), greenOf(bottom), share),
-                                component(blueOf(top), blueOf(bottom), share)));
-    }
+                         gradientColor(background, y, size.height()));
 }
 
 void paintText(QPainter& painter, const std::string& text, int height) {

@@ -89,6 +89,17 @@ int keypadCodeOf(int qtKey) {
     return lookUp(keypadKeys, qtKey);
 }
 
+/// On layouts where digits need Shift, the key of the zero brings a letter that has no code of its
+/// own ("a" with grave, "e" with acute); it is the zero all the same.
+bool isAtPlaceOfZero(const QKeyEvent& event) {
+#ifdef Q_OS_WIN
+    return event.nativeVirtualKey() == key::digit0;
+#else
+    constexpr quint32 placeOfZero = 19;
+    return event.nativeScanCode() == placeOfZero;
+#endif
+}
+
 /// Ctrl+letter gives 1 to 26, told by the key: the text of such a key differs by platform. 13 is
 /// left to Enter alone, or Ctrl+M would close the field that is being edited.
 int controlCharacterOf(int qtKey) {
@@ -104,7 +115,8 @@ int keyCodeOf(const QKeyEvent& event) {
         if (const int code = keypadCodeOf(qtKey); code != unknownKey) return code;
     if (isLetter(qtKey) || isDigit(qtKey)) return qtKey;
     if (qtKey >= Qt::Key_F1 && qtKey <= Qt::Key_F24) return key::f1 + qtKey - Qt::Key_F1;
-    return lookUp(namedKeys, qtKey);
+    const int code = lookUp(namedKeys, qtKey);
+    return code == unknownKey && isAtPlaceOfZero(event) ? key::digit0 : code;
 }
 
 /// The control characters that TAB and Delete bring as their texts are dropped with all others.

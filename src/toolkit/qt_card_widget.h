@@ -37,12 +37,17 @@ class CardWidget : public QWidget {
     void pushPlace();
     void pushPointer();
     void paintPicture(QPainter& painter, const QRect& area) const;
+    void paintSharpPicture(QPainter& painter, const QRect& area) const;
+    [[nodiscard]] bool findSharpPicture(double ratio);
 
     const WindowParts& parts_;
     CardMouse mouse_;
     Wheel& wheel_;
     LabelScene scene_;
     std::shared_ptr<const Bitmap> picture_;
+    /// The picture in the pixels of the screen that it was last painted on, and their ratio.
+    std::shared_ptr<const Bitmap> sharp_;
+    double sharpRatio_ = 0;
     Painted painted_;
     MousePointer pointer_ = MousePointer::Default;
     Grip grip_ = Grip::Open;

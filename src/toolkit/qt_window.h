@@ -9,6 +9,7 @@
 #include "toolkit/qt_form_widget.h"
 #include "toolkit/qt_key_delivery.h"
 #include "toolkit/qt_list_view.h"
+#include "toolkit/qt_panel_widget.h"
 #include "toolkit/window.h"
 
 namespace toolkit {
@@ -41,9 +42,10 @@ class Window::Implementation {
     FormWidget form_;
     CardWidget card_;
     std::vector<std::unique_ptr<EditBox>> boxes_;
+    std::vector<std::unique_ptr<PanelWidget>> panels_;
     std::vector<std::unique_ptr<ListView>> lists_;
     KeyDelivery keys_;
-    std::vector<const Control*> stacked_; ///< card and lists, the hindmost first
+    std::vector<const Control*> stacked_; ///< card, panels and lists, the hindmost first
     bool pushing_ = false;
 };
 

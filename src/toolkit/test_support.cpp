@@ -32,9 +32,10 @@ Bitmap onGrey(const QPixmap& picture) {
     return bitmapOf(image);
 }
 
-Bitmap grab(QWidget& widget) {
+Bitmap grab(QWidget& widget, double pixelRatio = 1) {
     updateWindow();
-    QImage image(widget.size(), QImage::Format_RGB32);
+    QImage image((QSizeF(widget.size()) * pixelRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(pixelRatio);
     image.fill(Qt::white);
     widget.render(&image);
     return bitmapOf(image);
@@ -96,6 +97,7 @@ void settle() {
 }
 
 Bitmap grabCard() { return grab(window().card()); }
+Bitmap grabCardAt(double pixelRatio) { return grab(window().card(), pixelRatio); }
 Bitmap grabWindow() { return grab(window().form()); }
 
 Bitmap shownPointer() {

@@ -28,6 +28,8 @@ void turnWheel(int rotation);
 /// A key by virtual code, pressed or released on the widget that has the focus.
 void pressKey(int keyCode, int shift = 0, std::string_view text = {});
 void releaseKey(int keyCode, int shift = 0);
+/// The key at the place of the zero, on a layout on which it brings this character (UTF-8).
+void pressAtPlaceOfZero(std::string_view character, int shift);
 /// One repetition of a key that is held down.
 void repeatKey(int keyCode, int shift = 0);
 /// Press and release.
@@ -55,6 +57,8 @@ void settle();
 /// What the card shows, at one pixel a pixel.
 [[nodiscard]] Bitmap grabCard();
 [[nodiscard]] Bitmap grabWindow();
+/// What the card shows on a screen with so many pixels to a logical one, side by side.
+[[nodiscard]] Bitmap grabCardAt(double pixelRatio);
 
 // For tests of the window itself: what the platform shows.
 /// The picture of the mouse pointer over the card; empty where it is one of the platform's own.

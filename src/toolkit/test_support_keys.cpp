@@ -55,6 +55,14 @@ void pressKey(int keyCode, int shift, std::string_view text) {
     sendKey(QEvent::KeyPress, keyStrokeOf(keyCode, shift), givenText(keyCode, shift, text));
 }
 
+void pressAtPlaceOfZero(std::string_view character, int shift) {
+    constexpr quint32 scanCode = 19;
+    const QString text = fromUtf8(character);
+    QKeyEvent event(QEvent::KeyPress, static_cast<int>(text.toUpper().front().unicode()),
+                    modifiersOf(shift), scanCode, key::digit0, 0, text);
+    send(focusWidget(), event);
+}
+
 void repeatKey(int keyCode, int shift) {
     KeyStroke stroke = keyStrokeOf(keyCode, shift);
     stroke.repeated = true;

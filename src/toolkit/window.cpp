@@ -38,6 +38,8 @@ Window::Implementation::Implementation(WindowParts shown)
             [this](const QKeyEvent& event) { return form_.menuBar().runShortcut(event); }) {
     for (TextBox* box : parts_.cardTextBoxes)
         boxes_.push_back(std::make_unique<EditBox>(card_, parts_, *box, delivery_));
+    for (const Panel* panel : parts_.panels)
+        panels_.push_back(std::make_unique<PanelWidget>(form_.area(), *parts_.form, *panel));
     for (ListBox* list : parts_.lists)
         lists_.push_back(std::make_unique<ListView>(form_.area(), parts_, *list, delivery_));
     watchKeys();
@@ -76,6 +78,7 @@ void Window::Implementation::push() {
     form_.push();
     card_.push();
     for (const auto& box : boxes_) box->push();
+    for (const auto& panel : panels_) panel->push();
     for (const auto& list : lists_) list->push();
     pushStacking();
     pushFocus();
@@ -87,6 +90,8 @@ QWidget* Window::Implementation::widgetOf(const Control* control) {
     if (control == parts_.card) return &card_;
     for (std::size_t index = 0; index < boxes_.size(); ++index)
         if (parts_.cardTextBoxes[index] == control) return boxes_[index].get();
+    for (std::size_t index = 0; index < panels_.size(); ++index)
+        if (parts_.panels[index] == control) return panels_[index].get();
     for (std::size_t index = 0; index < lists_.size(); ++index)
         if (parts_.lists[index] == control) return lists_[index].get();
     return nullptr;
@@ -108,6 +113,7 @@ void Window::Implementation::pushFocus() {
 
 void Window::Implementation::pushStacking() {
     std::vector<const Control*> order{parts_.card};
+    order.insert(order.end(), parts_.panels.begin(), parts_.panels.end());
     order.insert(order.end(), parts_.lists.begin(), parts_.lists.end());
     std::ranges::stable_sort(order, {}, &Control::Stack);
     if (order == stacked_) return;

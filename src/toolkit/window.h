@@ -40,6 +40,7 @@ struct WindowParts {
     std::vector<Label*> cardLabels{};      ///< single labels on the card; they swallow presses
     std::vector<TextBox*> cardTextBoxes{}; ///< over the labels of the card
     std::vector<ListBox*> lists{};         ///< on the form, over the card
+    std::vector<Panel*> panels{};          ///< on the form, over the card
     std::vector<MenuRow> menu{};
 };
 

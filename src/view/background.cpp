@@ -2,18 +2,24 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
-#include "view/felt.h"
 
 namespace zev {
+namespace {
 
-void CreateBG(Zevlin& form) {
+constexpr float smallestTileScale = 0.05F;
+constexpr float largestTileScale = 10;
+
+} // namespace
+
+void CreateBG(Zevlin& form, const toolkit::PictureBox& texture, float scaleFactor, float yOffset) {
     Traceit(form, "CreateBG");
     trapped(form, "Error in CreateBG ", [&] {
-        static const auto tile = std::make_shared<const toolkit::Bitmap>(feltTile());
+        const bool canScale = scaleFactor >= smallestTileScale && scaleFactor <= largestTileScale;
+        const bool canShift = yOffset >= 0 && yOffset <= form.Height;
         form.Background = {.backdrop = toolkit::Backdrop::Tiles,
-                           .tile = tile,
-                           .tileScale = 1,
-                           .yOffset = 0,
+                           .tile = texture.Picture,
+                           .tileScale = canScale ? scaleFactor : 1,
+                           .yOffset = canShift ? yOffset : 0,
                            .top = toolkit::white,
                            .bottom = toolkit::white,
                            .text = form.ProgramVersion};

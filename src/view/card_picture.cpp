@@ -1,5 +1,7 @@
 #include "view/card_picture.h"
 
+#include <utility>
+
 #include "toolkit/indexed_picture.h"
 #include "view/scale_picture.h"
 
@@ -10,29 +12,44 @@ constexpr int builtInWidth = 2396;
 constexpr int builtInHeight = 2473;
 constexpr float half = 0.5F;
 
-toolkit::Bitmap builtIn(const char* name) {
-    return expanded(toolkit::decodePicture(toolkit::embeddedFile(name)));
+/// Decoded once, when a scale first asks for it.
+const toolkit::IndexedPicture& builtInFull() {
+    static const auto picture = toolkit::decodePicture(toolkit::embeddedFile("/card/full.bin"));
+    return picture;
+}
+
+/// Comes ready made with the program, so a start needs no full picture.
+const toolkit::IndexedPicture& builtInHalf() {
+    static const auto picture = toolkit::decodePicture(toolkit::embeddedFile("/card/half.bin"));
+    return picture;
 }
 
 } // namespace
 
+struct CardPicture::Replacement {
+    toolkit::Bitmap full;
+    toolkit::Bitmap half;
+};
+
 void CardPicture::load(const std::filesystem::path& path) {
-    replacement_ = std::make_shared<const toolkit::Bitmap>(toolkit::loadBitmap(path));
+    toolkit::Bitmap full = toolkit::loadBitmap(path);
+    toolkit::Bitmap half = halved(full);
+    replacement_ =
+        std::make_shared<const Replacement>(Replacement{std::move(full), std::move(half)});
 }
 
-int CardPicture::width() const { return replacement_ ? replacement_->width() : builtInWidth; }
+int CardPicture::width() const { return replacement_ ? replacement_->full.width() : builtInWidth; }
 
-int CardPicture::height() const { return replacement_ ? replacement_->height() : builtInHeight; }
+int CardPicture::height() const {
+    return replacement_ ? replacement_->full.height() : builtInHeight;
+}
 
 toolkit::Bitmap CardPicture::scaledTo(float scale, int width, int height) const {
-    if (scale > half) {
-        const ScaleRequest whole{.factor = scale, .width = width, .height = height};
-        return replacement_ ? scaled(*replacement_, whole)
-                            : scaled(builtIn("/card/full.bin"), whole);
-    }
-    // The half comes ready made with the program, so a start needs no full picture.
-    const ScaleRequest fromHalf{.factor = scale / half, .width = width, .height = height};
-    return scaled(replacement_ ? halved(*replacement_) : builtIn("/card/half.bin"), fromHalf);
+    const bool fromFull = scale > half;
+    const ScaleRequest request{
+        .factor = fromFull ? scale : scale / half, .width = width, .height = height};
+    if (replacement_) return scaled(fromFull ? replacement_->full : replacement_->half, request);
+    return scaled(fromFull ? builtInFull() : builtInHalf(), request);
 }
 
 } // namespace zev

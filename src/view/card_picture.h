@@ -23,7 +23,8 @@ class CardPicture {
     [[nodiscard]] toolkit::Bitmap scaledTo(float scale, int width, int height) const;
 
   private:
-    std::shared_ptr<const toolkit::Bitmap> replacement_;
+    struct Replacement;
+    std::shared_ptr<const Replacement> replacement_;
 };
 
 } // namespace zev

@@ -1,7 +1,10 @@
 #include "view/image_size.h"
 
+#include <algorithm>
 #include <cmath>
+#include <memory>
 #include <string>
+#include <utility>
 
 #include "app/trace.h"
 #include "app/zevlin.h"
@@ -21,21 +24,45 @@ std::string flagsText(float scale, Rescale rescale) {
            std::string(truthText(rescale == Rescale::Always));
 }
 
+/// A picture of the card at one size, in pixels, with the white strip at its foot.
+struct Drawing {
+    float scale = 1;
+    float width = 0;
+    float height = 0; ///< with the strip
+    float strip = 0;
+
+    /// `ratio` times as large, for screens with smaller pixels.
+    [[nodiscard]] Drawing enlarged(float ratio) const {
+        return {scale * ratio, wholePixelsOf(width * ratio), wholePixelsOf(height * ratio),
+                strip * ratio};
+    }
+};
+
+std::shared_ptr<const toolkit::Bitmap> draw(const CardPicture& source, const Drawing& drawing) {
+    auto bitmap = source.scaledTo(drawing.scale, static_cast<int>(drawing.width),
+                                  static_cast<int>(drawing.height));
+    const int stripTop = static_cast<int>(std::floor(drawing.height - drawing.strip));
+    bitmap.fill(0, stripTop, bitmap.width(), bitmap.height() - stripTop, toolkit::white);
+    return std::make_shared<const toolkit::Bitmap>(std::move(bitmap));
+}
+
 void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source,
                  float scale) {
     const auto twips = static_cast<float>(form.TwipsPerPixel);
-    const float shown = form.LastImageScale;
-    const float width = wholePixelsOf(static_cast<float>(source.width()) * shown);
-    const float picture = wholePixelsOf(static_cast<float>(source.height()) * shown);
+    Drawing drawing{.scale = form.LastImageScale};
+    drawing.width = wholePixelsOf(static_cast<float>(source.width()) * drawing.scale);
     // The strip goes by the scale asked for, also where another one is shown.
-    const float strip = scale * stripPixels;
-    const float height = wholePixelsOf(picture + strip);
-    auto bitmap = source.scaledTo(shown, static_cast<int>(width), static_cast<int>(height));
-    const int stripTop = static_cast<int>(std::floor(height - strip));
-    bitmap.fill(0, stripTop, bitmap.width(), bitmap.height() - stripTop, toolkit::white);
-    target.Width = width * twips;
-    target.Height = height * twips;
-    target.Picture = std::make_shared<const toolkit::Bitmap>(std::move(bitmap));
+    drawing.strip = scale * stripPixels;
+    drawing.height = wholePixelsOf(
+        wholePixelsOf(static_cast<float>(source.height()) * drawing.scale) + drawing.strip);
+    target.Width = drawing.width * twips;
+    target.Height = drawing.height * twips;
+    target.Picture = draw(source, drawing);
+    target.Sharp = {target.Picture, [source, drawing](float ratio) {
+                        // More than its full size there isn't to see.
+                        const float most = std::max(largestScale / drawing.scale, 1.0F);
+                        return draw(source, drawing.enlarged(std::min(ratio, most)));
+                    }};
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "view/rebuild.h"
 
+#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -25,6 +26,11 @@ void deleteTemporaryCard(Zevlin& form) {
         const auto name = std::string(temporaryCardName) + std::string(cardExtension);
         if (const auto file = toolkit::findFile(form.DataFolder, name)) toolkit::deleteFile(*file);
     });
+}
+
+/// Whatever cleans or syncs the folder must not take the player's work along.
+void writeIfGone(const std::filesystem::path& file, const std::string& content) {
+    if (!std::filesystem::exists(file)) toolkit::writeFile(file, content);
 }
 
 /// Name and changed flag for the time of a rebuild: whatever happens, they and the card come back.
@@ -59,17 +65,19 @@ void carryThrough(Zevlin& form) {
     deleteTemporaryCard(form);
     form.CardName = temporaryCardName;
     MSave_Click(form);
+    const std::string content = toolkit::readFile(cardPath(form));
     ResetMod(form);
     MNew_Click(form);
     form.P1.Visible = false;
     Initialize(form);
     form.CardName = temporaryCardName;
+    writeIfGone(cardPath(form), content);
     GetCardFile(form);
     kept.putBack();
     SetCaption(form);
     deleteTemporaryCard(form);
     form.P1.Visible = true;
-    CreateBG(form);
+    CreateBG(form, form.BGPat, 0, 0);
 }
 
 } // namespace

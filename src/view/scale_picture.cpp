@@ -62,15 +62,15 @@ Coverage coverageOf(int length, double factor, int outputLength) {
 
 // The rows below an output row, averaged to 8 bits and as many behind the point. All rows of a
 // column at once, so that no sum is stored before it is whole.
-void averageRows(const toolkit::Bitmap& source, const Span& rows, const std::uint32_t* weights,
-                 std::span<Channels> averages) {
+template <typename Element, typename ChannelsOf>
+void averageRows(const Element* first, const Span& rows, const std::uint32_t* weights,
+                 std::span<Channels> averages, ChannelsOf channelsOf) {
     const std::size_t width = averages.size();
-    const Pixel* first = source.row(rows.first);
     for (std::size_t x = 0; x < width; ++x) {
         Channels sum{0x0000008000000080U, 0x80U};
-        const Pixel* pixel = first + x;
-        for (int i = 0; i < rows.count; ++i, pixel += width) {
-            const Channels channels = split(*pixel);
+        const Element* element = first + x;
+        for (int i = 0; i < rows.count; ++i, element += width) {
+            const Channels& channels = channelsOf(*element);
             sum.redAndBlue += channels.redAndBlue * weights[i];
             sum.green += channels.green * weights[i];
         }
@@ -142,6 +142,26 @@ const std::uint8_t* indexRow(const toolkit::IndexedPicture& picture, int y) {
            static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width);
 }
 
+template <typename Row, typename ChannelsOf>
+toolkit::Bitmap scaledRows(int sourceWidth, int sourceHeight, const ScaleRequest& request, Row row,
+                           ChannelsOf channelsOf) {
+    toolkit::Bitmap result(request.width, request.height);
+    const double factor = request.factor;
+    const Coverage columns = coverageOf(sourceWidth, factor, result.width());
+    const Coverage rows = coverageOf(sourceHeight, factor, result.height());
+    std::vector<Channels> sums(static_cast<std::size_t>(sourceWidth));
+    Pixel* output = result.row(0);
+    for (const Span& span : rows.spans) {
+        averageRows(row(span.first), span, &rows.weights[span.weights], sums, channelsOf);
+        Pixel* pixel = output;
+        for (const Span& column : columns.spans)
+            *pixel++ = averageColumns(&sums[static_cast<std::size_t>(column.first)],
+                                      &columns.weights[column.weights], column.count);
+        output += result.width();
+    }
+    return result;
+}
+
 } // namespace
 
 toolkit::Bitmap halved(const toolkit::IndexedPicture& picture) {
@@ -169,21 +189,16 @@ toolkit::Bitmap expanded(const toolkit::IndexedPicture& picture) {
 }
 
 toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& request) {
-    toolkit::Bitmap result(request.width, request.height);
-    const double factor = request.factor;
-    const Coverage columns = coverageOf(source.width(), factor, result.width());
-    const Coverage rows = coverageOf(source.height(), factor, result.height());
-    std::vector<Channels> sums(static_cast<std::size_t>(source.width()));
-    Pixel* output = result.row(0);
-    for (const Span& row : rows.spans) {
-        averageRows(source, row, &rows.weights[row.weights], sums);
-        Pixel* pixel = output;
-        for (const Span& span : columns.spans)
-            *pixel++ = averageColumns(&sums[static_cast<std::size_t>(span.first)],
-                                      &columns.weights[span.weights], span.count);
-        output += result.width();
-    }
-    return result;
+    return scaledRows(
+        source.width(), source.height(), request, [&](int y) { return source.row(y); }, split);
+}
+
+toolkit::Bitmap scaled(const toolkit::IndexedPicture& source, const ScaleRequest& request) {
+    std::array<Channels, 256> palette;
+    std::ranges::transform(fullPalette(source), palette.begin(), split);
+    return scaledRows(
+        source.width, source.height, request, [&](int y) { return indexRow(source, y); },
+        [&](std::uint8_t index) -> const Channels& { return palette[index]; });
 }
 
 } // namespace zev

@@ -21,5 +21,7 @@ struct ScaleRequest {
     int height = 0;
 };
 [[nodiscard]] toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& request);
+[[nodiscard]] toolkit::Bitmap scaled(const toolkit::IndexedPicture& source,
+                                     const ScaleRequest& request);
 
 } // namespace zev

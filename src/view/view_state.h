@@ -11,12 +11,15 @@
 #include "toolkit/form.h"
 #include "toolkit/label.h"
 #include "view/card_picture.h"
+#include "view/zoom_ladder.h"
 
 namespace zev {
 
 struct ViewState {
-    toolkit::PictureBox P1; ///< the card as shown, with its fields
-    CardPicture PBase;      ///< the card at full size, never shown
+    toolkit::PictureBox P1;    ///< the card as shown, with its fields
+    CardPicture PBase;         ///< the card at full size, never shown
+    toolkit::PictureBox BGPat; ///< the tile of the background
+    toolkit::Panel P3;         ///< the chooser's panel
     toolkit::Stacking P1Stack;
     toolkit::Label Timestamp;
     toolkit::Label CreditLabel;
@@ -24,7 +27,7 @@ struct ViewState {
     std::int16_t ZoomLevel = 0;
     std::int16_t ZoomLevels = 0;
     std::int16_t DesignZoomLevel = 0;
-    std::array<float, 12> ZoomTable{}; ///< cell 0: the fit scale, 0 for none
+    ZoomLadder ZoomTable{};
     float LastImageScale = 0;
     bool Zooming = false;
     /// While the screen is rebuilt: the name that the card had before it took the temporary one.
@@ -36,6 +39,9 @@ struct ViewState {
         toolkit::MenuItem{.Caption = "ACBL Compliant", .Checked = true},
         toolkit::MenuItem{.Caption = "Custom..."}};
 
+    toolkit::MenuItem MView;
+    toolkit::MenuItem MZoomIn;
+    toolkit::MenuItem MZoomOut;
     toolkit::MenuItem MFitScreenWidth;
     toolkit::MenuItem MFitScreenHeight;
     toolkit::MenuItem mSmallerTextFont;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "app/layouts.h"
 #include "support/form_test.h"
 #include "toolkit/key.h"
 
@@ -24,6 +25,12 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {1, "Save &As...", ""},
                                       {1, "", ""},
                                       {1, "E&xit", ""},
+                                      {0, "&View", ""},
+                                      {1, "Zoom In (Bigger)                   Ctrl +", ""},
+                                      {1, "Zoom Out (Smaller)               Ctrl  -", ""},
+                                      {1, "", ""},
+                                      {1, "Fit to screen width                Ctrl  0", ""},
+                                      {1, "Fit to screen height", ""},
                                       {0, "&Options", ""},
                                       {1, "My Name", ""},
                                       {1, "Partner's Name", ""},
@@ -96,6 +103,7 @@ TEST_F(MenuTable, NoMenuBeginsOrEndsWithASeparator) {
 
 /// Each row's item runs the procedure of its own name.
 TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
+    writeLayout(fewFields()); // so that the trace keeps all that an item does
     start();
     form.MShapes.Visible = true;
     form.MSetTabs.Enabled = form.MSaveShapes.Enabled = true;
@@ -116,6 +124,10 @@ TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
         {"Design>Save Design", "MSaveShapes_Click"},
         {"File>Open...", "MOpen_Click"},
         {"File>Save As...", "MSaveAs_Click"},
+        {"View>Zoom In (Bigger)                   Ctrl +", "MZoomIn_Click"},
+        {"View>Zoom Out (Smaller)               Ctrl  -", "MZoomOut_Click"},
+        {"View>Fit to screen width                Ctrl  0", "MFitScreenWidth"},
+        {"View>Fit to screen height", "MFitScreenHeight_Click"},
         {"Options>My Name", "MMyID_Click"},
         {"Options>Partner's Name", "MPartnerID_Click"},
         {"Help", "MHelp_Click"}};

@@ -133,7 +133,7 @@ TEST_F(NewCard, TellsItsStepsInTheTrace) {
     start();
     form.Trace.clear();
     choose("File>New");
-    CreateBG(form); // marks the end
+    CreateBG(form, form.BGPat, 0, 0); // marks the end
     EXPECT_TRUE(tracedInOrder(
         {"MNew_Click", "CheckMod False, False, False", "False RestoreBackgroundPicture ",
          "SetImageSize 0.5, False, False", "ShowNames", "ResetMod 0", "SetCaption", "MakeTimeStamp",

@@ -29,6 +29,56 @@ TEST_F(CardWidget, PictureLargerThanTheCardIsCutOff) {
     EXPECT_EQ(shown.pixel(399, 299), grey);
 }
 
+TEST_F(CardWidget, SharpPictureIsPaintedInTheScreensOwnPixels) {
+    card.Picture = std::make_shared<Bitmap>(400, 300, grey);
+    float asked = 0;
+    card.Sharp = {card.Picture, [&asked](float ratio) {
+                      asked = ratio;
+                      auto twice = std::make_shared<Bitmap>(800, 600, grey);
+                      twice->setPixel(101, 51, red);
+                      return twice;
+                  }};
+    EXPECT_EQ(test::grabCard().pixel(50, 25), grey);
+    EXPECT_EQ(asked, 0);
+    const Bitmap sharp = test::grabCardAt(2);
+    EXPECT_EQ(asked, 2);
+    ASSERT_EQ(sharp.width(), 800);
+    EXPECT_EQ(sharp.pixel(101, 51), red);
+    EXPECT_EQ(sharp.pixel(100, 51), grey);
+    EXPECT_EQ(sharp.pixel(799, 599), grey);
+}
+
+TEST_F(CardWidget, SharpPictureOfAnotherPictureDoesNotCount) {
+    card.Sharp = {std::make_shared<Bitmap>(400, 300, red),
+                  [](float) { return std::make_shared<Bitmap>(800, 600, red); }};
+    card.Picture = std::make_shared<Bitmap>(400, 300, grey);
+    EXPECT_EQ(test::grabCardAt(2).pixel(300, 300), grey);
+}
+
+TEST_F(CardWidget, SharpPictureSmallerThanTheScreensIsStretchedOverTheWholePlace) {
+    card.Picture = std::make_shared<Bitmap>(400, 300, grey);
+    card.Sharp = {card.Picture, [](float) { return std::make_shared<Bitmap>(500, 375, red); }};
+    const Bitmap sharp = test::grabCardAt(2);
+    EXPECT_EQ(sharp.pixel(0, 0), red);
+    EXPECT_EQ(sharp.pixel(799, 599), red);
+}
+
+TEST_F(CardWidget, SharpTextIsWrittenInTheScreensOwnPixels) {
+    write(stamp, "Illinois", Alignment::Left);
+    place(stamp, 20, 20, 200, 40);
+    const Bitmap once = test::grabCard();
+    const Bitmap twice = test::grabCardAt(2);
+    const Ink small = inkOf(once);
+    const Ink large = inkOf(twice);
+    EXPECT_NEAR(large.right - large.left, 2 * (small.right - small.left), 3);
+    // Were the small text merely enlarged, all its pixels would stand in blocks of four.
+    int split = 0;
+    for (int y = large.top / 2 * 2; y < large.bottom; y += 2)
+        for (int x = large.left / 2 * 2; x < large.right; x += 2)
+            if (twice.pixel(x, y) != twice.pixel(x + 1, y)) ++split;
+    EXPECT_GT(split, 20);
+}
+
 TEST_F(CardWidget, HandlersChangeIsOnTheScreenAfterTheEvent) {
     card.Click = [this] { block(marks[1], 50, 60, 20, 10, blue); };
     const test::CardPaints before = test::cardPaints();

@@ -147,6 +147,7 @@ class WindowTest : public testing::Test {
         parts.cardLabels = {&stamp};
         parts.cardTextBoxes = {&box, &otherBox};
         parts.lists = {&list};
+        parts.panels = {&panel};
         parts.menu = menu;
         window = std::make_unique<toolkit::Window>(std::move(parts));
         window->update();
@@ -162,6 +163,7 @@ class WindowTest : public testing::Test {
     toolkit::TextBox box;
     toolkit::TextBox otherBox;
     toolkit::ListBox list;
+    toolkit::Panel panel;
     std::vector<toolkit::MenuRow> menu;
     std::unique_ptr<toolkit::Window> window;
 };

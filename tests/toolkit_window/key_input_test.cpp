@@ -25,6 +25,14 @@ TEST_F(KeyInput, TabIsAKeyButNoCharacter) {
     EXPECT_EQ(onCard(key::tab, shift::ctrl), (Log{"KeyDown 9/2", "KeyUp 9/2"}));
 }
 
+TEST_F(KeyInput, AtThePlaceOfZeroAnAccentedLetterIsTheZero) {
+    test::pressAtPlaceOfZero("\u00E0", shift::ctrl);
+    EXPECT_EQ(log.at(1), "card.KeyDown 48/2");
+    log.clear();
+    test::pressAtPlaceOfZero("9", shift::ctrl);
+    EXPECT_EQ(log.at(1), "card.KeyDown 57/2");
+}
+
 TEST_F(KeyInput, ControlLettersAreCharactersOneToTwentySix) {
     EXPECT_EQ(onCard('B', shift::ctrl)[1], "KeyPress 2");
     EXPECT_EQ(onCard('I', shift::ctrl)[1], "KeyPress 9");

@@ -101,6 +101,92 @@ TEST_F(ImageSize, AnImpossibleScaleIsNoCrash) {
     }
 }
 
+/// One black pixel column among white ones at full size tells which resolution is painted.
+class SharpImage : public FormTest {
+  protected:
+    SharpImage() {
+        writeLayout(fewFields());
+        toolkit::Bitmap card(2000, 1000, toolkit::white);
+        for (int x = 0; x < 2000; x += 2) card.fill(x, 0, 1, 1000, blue);
+        toolkit::savePng(card, dataFile("Convention card.gif"));
+    }
+    void startAt(const std::string& step) {
+        writeOptions("Zoom=" + step + "\r\n");
+        start();
+        form.Timestamp.Visible = form.CreditLabel.Visible = false;
+    }
+};
+
+TEST_F(SharpImage, AScreenOfTwicePixelsShowsTheStripesThatOthersAverage) {
+    startAt("5");
+    const auto plain = toolkit::test::grabCard();
+    EXPECT_EQ(plain.width(), 1000);
+    EXPECT_EQ(plain.pixel(500, 100), plain.pixel(501, 100));
+    const auto sharp = toolkit::test::grabCardAt(2);
+    EXPECT_EQ(sharp.width(), 2000);
+    EXPECT_EQ(sharp.pixel(1000, 200), blue);
+    EXPECT_EQ(sharp.pixel(1001, 200), toolkit::white);
+}
+
+TEST_F(SharpImage, TheLogicKeepsItsWholeLogicalPixels) {
+    startAt("5");
+    const auto picture = form.P1.Picture;
+    (void)toolkit::test::grabCardAt(2);
+    EXPECT_EQ(form.P1.Picture, picture);
+    EXPECT_EQ(picture->width(), 1000);
+    EXPECT_EQ(form.P1.Width, 1000 * pixel);
+    EXPECT_EQ(toolkit::test::grabCard().pixel(500, 100), picture->pixel(500, 100));
+}
+
+TEST_F(SharpImage, OneAndAHalfTimesThePixelsShowThePictureOfThatSize) {
+    startAt("5");
+    const auto sharp = toolkit::test::grabCardAt(1.5);
+    ASSERT_EQ(sharp.width(), 1500);
+    const auto expected = form.PBase.scaledTo(0.75F, 1500, 750);
+    for (int x = 300; x < 320; ++x) EXPECT_EQ(sharp.pixel(x, 500), expected.pixel(x, 500)) << x;
+}
+
+TEST_F(SharpImage, TheStripStaysWhiteAtItsPlace) {
+    startAt("5");
+    const auto sharp = toolkit::test::grabCardAt(2);
+    const int strip = form.P1.Picture->height() - 500;
+    EXPECT_EQ(sharp.pixel(1000, 2 * 500 - 1), blue);
+    for (int y = 1; y < 2 * strip; ++y)
+        EXPECT_EQ(sharp.pixel(1000, sharp.height() - y), toolkit::white) << y;
+}
+
+TEST_F(SharpImage, AtFullSizeThePictureIsStretched) {
+    startAt("11");
+    const auto sharp = toolkit::test::grabCardAt(2);
+    ASSERT_EQ(sharp.width(), 4000);
+    EXPECT_EQ(sharp.pixel(2000, 1996), toolkit::test::grabCardAt(2).pixel(2000, 4));
+    int darkest = 255;
+    int lightest = 0;
+    for (int x = 2000; x < 2008; ++x) {
+        const int red = static_cast<int>(sharp.pixel(x, 900).value_or(0) & 0xFFU);
+        darkest = std::min(darkest, red);
+        lightest = std::max(lightest, red);
+    }
+    EXPECT_GT(lightest - darkest, 100);
+    EXPECT_EQ(sharp.pixel(2000, 2029), toolkit::white);
+}
+
+TEST_F(SharpImage, APictureThatWasReplacedIsShownAsItIs) {
+    startAt("5");
+    (void)toolkit::test::grabCardAt(2);
+    form.P1.Picture = std::make_shared<const toolkit::Bitmap>(1000, 508, blue);
+    EXPECT_EQ(toolkit::test::grabCardAt(2).pixel(1001, 200), blue);
+}
+
+TEST_F(SharpImage, TheNextZoomStepIsSharpToo) {
+    startAt("5");
+    (void)toolkit::test::grabCardAt(2);
+    SetImageSize(form, form.P1, form.PBase, 0.25F, Rescale::IfChanged);
+    const auto sharp = toolkit::test::grabCardAt(2);
+    EXPECT_EQ(sharp.width(), 1000);
+    EXPECT_EQ(sharp.pixel(501, 100), form.PBase.scaledTo(0.5F, 1000, 500).pixel(501, 100));
+}
+
 TEST_F(ImageSize, WithoutAFitTheZoomStepCounts) {
     start();
     form.ZoomLevel = 2;

@@ -1,6 +1,10 @@
 #include "view/rebuild.h"
 
+#include <sys/stat.h>
+
 #include <algorithm>
+#include <fstream>
+#include <thread>
 
 #include "app/layouts.h"
 #include "toolkit/files.h"
@@ -121,6 +125,40 @@ TEST_F(Rebuild, TheStampNeverTellsTheTemporaryName) {
     start("Jones.zev");
     RebuildScreenImage(form);
     EXPECT_TRUE(form.Timestamp.Caption.starts_with("[ Jones ]  "));
+}
+
+TEST_F(Rebuild, ATemporaryCardThatVanishesInBetweenIsWrittenAgain) {
+    startWithContent();
+    // The rebuild waits for its layout from a pipe, and meanwhile the card goes.
+    fs::remove(dataFile("Definitions.Ini"));
+    ASSERT_EQ(mkfifo(dataFile("Definitions.Ini").c_str(), 0600), 0);
+    bool vanished = false;
+    std::thread cleaner([&] {
+        std::ofstream pipe(dataFile("Definitions.Ini"), std::ios::binary);
+        vanished = fs::remove(dataFile("$$Tempcard.zev"));
+        pipe << fewFields();
+    });
+    form.ZoomLevel = 7;
+    RebuildScreenImage(form);
+    cleaner.join();
+    EXPECT_TRUE(vanished);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_EQ(form.AText[1].Tag, "a \"quote\" && more");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_FALSE(hasTemporaryCard());
+}
+
+TEST_F(Rebuild, AFolderThatTakesNoMoreFilesEndsTheProgramWithTheCardAsItWas) {
+    startWithContent();
+    announceError("Error in IniWrite ");
+    announceError("Error in MSave_Click ");
+    announceError("Error in Traceit: #76, Path not found");
+    fs::rename(dataFolder, home / "gone");
+    EXPECT_TRUE(endsProgram([&] { RebuildScreenImage(form); }));
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_EQ(form.CardName, "");
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_TRUE(boxes.empty());
 }
 
 TEST_F(Rebuild, ALayoutThatBecameUnreadableEndsTheProgramAndLeavesTheCardInItsFile) {

@@ -1,0 +1,174 @@
+// What zooming and dragging cost, each beside the bare work in the same run: the counter "ratio" is
+// the program's time over the bare work's.
+//
+// Set QT_QPA_PLATFORM=xcb to paint on a real screen.
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+#include <QtWidgets/QWidget>
+
+#include "bench_program.h"
+#include "view/rebuild.h"
+#include "view/zoom.h"
+
+namespace {
+
+using bench::Program;
+using Clock = std::chrono::steady_clock;
+
+template <typename Work>
+double secondsOf(Work work) {
+    const auto start = Clock::now();
+    work();
+    return std::chrono::duration<double>(Clock::now() - start).count();
+}
+
+/// The card's picture at full size, as a program would keep it that only shows it.
+class BarePicture : public QWidget {
+  public:
+    BarePicture()
+        : full_(QImage(QStringLiteral(ZEVLIN_CARD_FOLDER "/card.gif"))
+                    .convertToFormat(QImage::Format_RGB32)) {
+        setAttribute(Qt::WA_OpaquePaintEvent);
+        show();
+    }
+    /// Scales the full picture once and paints it once.
+    void showAt(double scale) {
+        const QSize size(qRound(full_.width() * scale), qRound(full_.height() * scale));
+        scaled_ = full_.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        if (size == this->size()) return repaint();
+        resize(size);
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent* /*event*/) override { QPainter(this).drawImage(0, 0, scaled_); }
+
+  private:
+    QImage full_;
+    QImage scaled_;
+};
+
+/// From the command to the painted card, onto each step of the ladder.
+void zoomStep(benchmark::State& state) {
+    Program program;
+    program.openFullCard();
+    auto& form = program.form;
+    BarePicture bare;
+    const auto step = static_cast<std::int16_t>(state.range(0));
+    const double scale = static_cast<double>(form.ZoomTable.at(static_cast<std::size_t>(step)));
+    const auto before = static_cast<std::int16_t>(step == 1 ? 2 : step - 1);
+    double ours = 0;
+    double theirs = 0;
+    for (auto _ : state) {
+        form.ZoomLevel = before;
+        zev::RebuildScreenImage(form);
+        toolkit::test::settle();
+        const double one = secondsOf([&] {
+            step == 1 ? zev::MZoomOut_Click(form) : zev::MZoomIn_Click(form);
+            toolkit::test::settle();
+        });
+        state.SetIterationTime(one);
+        ours += one;
+        bare.showAt(static_cast<double>(form.ZoomTable.at(static_cast<std::size_t>(before))));
+        theirs += secondsOf([&] { bare.showAt(scale); });
+    }
+    state.counters["bare_ms"] = theirs * 1000 / static_cast<double>(state.iterations());
+    state.counters["ratio"] = ours / theirs;
+}
+BENCHMARK(zoomStep)->DenseRange(1, 11)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+/// One move of the card under the hand, painted, beside painting the bare picture once.
+void dragStep(benchmark::State& state) {
+    Program program;
+    program.openFullCard();
+    auto& form = program.form;
+    form.ZoomLevel = 11;
+    zev::RebuildScreenImage(form);
+    toolkit::test::settle();
+    float way = 30;
+    for (auto _ : state) {
+        form.P1.Left += way;
+        form.P1.Top += way;
+        way = -way;
+        toolkit::test::settle();
+    }
+    state.counters["frames_per_second"] =
+        benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
+}
+BENCHMARK(dragStep)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+/// The fields of the installed card so many times over.
+std::string layoutOf(int times) {
+    const int marks = 230 * times;
+    const int texts = 120 * times;
+    std::ostringstream layout;
+    layout << "' Program version: 2.0.0\r\n15,19200\r\n\"Arial\",\"11.00\",\"14.00\",\"18.00\"\r\n"
+           << "\"Wingdings\",\"18.00\",\"22.00\",\"30.00\"\r\n"
+           << "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0\r\n"
+           << marks << "\r\n";
+    for (int i = 1; i <= marks; ++i)
+        layout << i << ',' << i % 58 * 20 << ',' << i / 58 * 20 % 1200 << ",18,18,1,1,252,0\r\n";
+    layout << texts << "\r\n";
+    for (int i = 1; i <= texts; ++i)
+        layout << i << ',' << i % 10 * 110 << ',' << i / 10 * 20 % 1200 << ",100,18,1,1,0\r\n";
+    return layout.str();
+}
+
+/// A rebuild with up to ten times as many fields; the cost for each field is what must stay.
+void rebuildWithFields(benchmark::State& state) {
+    Program program(layoutOf(static_cast<int>(state.range(0))));
+    program.openFullCard();
+    for (auto _ : state) {
+        zev::RebuildScreenImage(program.form);
+        toolkit::test::settle();
+    }
+    state.counters["times_fields"] = static_cast<double>(state.range(0));
+}
+BENCHMARK(rebuildWithFields)->Arg(1)->Arg(2)->Arg(5)->Arg(10)->Unit(benchmark::kMillisecond);
+
+double residentMebibytes() {
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);)
+        if (line.starts_with("VmRSS:")) return std::stod(line.substr(6)) / 1024;
+    return 0;
+}
+
+/// Memory behind ten zoom steps and behind a thousand.
+void thousandZoomSteps(benchmark::State& state) {
+    Program program;
+    program.openFullCard();
+    auto& form = program.form;
+    const auto walk = [&](int count) {
+        for (int i = 0; i < count; ++i) {
+            i / 10 % 2 == 0 ? zev::MZoomIn_Click(form) : zev::MZoomOut_Click(form);
+            toolkit::test::settle();
+        }
+    };
+    for (auto _ : state) {
+        form.ZoomLevel = 1;
+        zev::RebuildScreenImage(form);
+        walk(20);
+        state.counters["first_MiB"] = residentMebibytes();
+        walk(1000);
+        state.counters["last_MiB"] = residentMebibytes();
+    }
+}
+BENCHMARK(thousandZoomSteps)->Unit(benchmark::kSecond)->Iterations(1);
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    benchmark::Initialize(&argumentCount, arguments);
+    const toolkit::Application application(argumentCount, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+}

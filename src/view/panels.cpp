@@ -1,0 +1,31 @@
+#include "view/panels.h"
+
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+
+namespace zev {
+namespace {
+
+constexpr auto gradientTop = toolkit::rgb(208, 224, 255);
+constexpr auto gradientFoot = toolkit::rgb(144, 154, 255);
+
+} // namespace
+
+void GradientFill(Zevlin& form, IncludePanel includePanel) {
+    const bool withPanel = includePanel == IncludePanel::Yes;
+    Traceit(form, "GradientFill " + std::string(truthText(withPanel)));
+    trapped(form, "Error in GradientFill: #", [&] {
+        form.Background = {
+            .backdrop = toolkit::Backdrop::Gradient, .top = gradientTop, .bottom = gradientFoot};
+        if (withPanel) form.P3.Fill = toolkit::PanelFill::FormGradient;
+    });
+}
+
+void MakeObjRounded(Zevlin& form, toolkit::Panel& panel, int radius) {
+    Traceit(form, "MakeObjRounded");
+    trapped(form, "Error in MakeObjRounded: #", [&] { panel.CornerRadius = radius; });
+}
+
+} // namespace zev

@@ -1,0 +1,62 @@
+#include "view/zoom.h"
+
+#include <optional>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "layout/position.h"
+#include "toolkit/program.h"
+#include "view/rebuild.h"
+
+namespace zev {
+namespace {
+
+using FindStep = std::optional<std::int16_t> (*)(const ZoomLadder&, std::int16_t);
+
+/// A fit ends on the ladder: on the step from which one more in the wanted direction passes it.
+void leaveFit(Zevlin& form, FindStep findStep) {
+    if (form.ZoomTable[0] == 0) return;
+    if (const auto step = findStep(form.ZoomTable, form.ZoomLevels)) form.ZoomLevel = *step;
+    form.ZoomTable[0] = 0;
+    form.MFitScreenWidth.Checked = false;
+    form.MFitScreenHeight.Checked = false;
+}
+
+void goTo(Zevlin& form, int step) {
+    if (step < 1 || step > form.ZoomLevels) return toolkit::beep();
+    form.ZoomLevel = static_cast<std::int16_t>(step);
+    RebuildScreenImage(form);
+}
+
+template <typename Body>
+void zoom(Zevlin& form, Body body) {
+    form.Zooming = true;
+    PositionSave(form);
+    body();
+    PositionRestore(form);
+    form.Zooming = false;
+}
+
+} // namespace
+
+void MZoomIn_Click(Zevlin& form) {
+    Traceit(form, "MZoomIn_Click");
+    trapped(form, "Error in MZoomIn_Click: #", [&] {
+        zoom(form, [&] {
+            leaveFit(form, stepBelowFit);
+            goTo(form, form.ZoomLevel + 1);
+        });
+    });
+}
+
+void MZoomOut_Click(Zevlin& form) {
+    Traceit(form, "MZoomOut_Click");
+    trapped(form, "Error in MZoomOut_Click: #", [&] {
+        zoom(form, [&] {
+            leaveFit(form, stepAboveFit);
+            goTo(form, form.ZoomLevel - 1);
+        });
+    });
+}
+
+} // namespace zev

@@ -1,0 +1,322 @@
+#include "view/zoom.h"
+
+#include <algorithm>
+
+#include "app/layouts.h"
+#include "toolkit/key.h"
+
+namespace zev::test {
+namespace {
+
+namespace fs = std::filesystem;
+namespace key = toolkit::key;
+namespace shift = toolkit::shift;
+using toolkit::test::typeKey;
+
+constexpr float pixel = 15;
+constexpr std::array steps = {0.2F,        0.25F, 1.0F / 3.0F, 0.425F, 0.5F, 0.6F,
+                              2.0F / 3.0F, 0.75F, 0.8F,        0.9F,   1.0F};
+
+class Zoom : public FormTest {
+  protected:
+    Zoom() { writeLayout(fewFields()); }
+
+    void startAtStep(int step) {
+        writeOptions("Zoom=" + std::to_string(step) + "\r\n");
+        start();
+    }
+    /// Chooses fit to width on a screen on which it comes to about this scale.
+    void fitTo(float scale) {
+        toolkit::overrideScreen(
+            {.width = scale * 2396 * pixel + form.FrameWidth, .height = 30000, .hasTaskBar = true});
+        ASSERT_TRUE(toolkit::test::chooseMenu("View>Fit to screen width                Ctrl  0"));
+        ASSERT_NEAR(form.ZoomTable[0], scale, 0.0005F);
+    }
+    static void zoomIn() { typeKey(key::add, shift::ctrl); }
+    static void zoomOut() { typeKey(key::subtract, shift::ctrl); }
+    void expectStep(std::int16_t step) const {
+        EXPECT_EQ(form.ZoomLevel, step);
+        EXPECT_EQ(form.ZoomTable[0], 0);
+        EXPECT_FALSE(form.MFitScreenWidth.Checked);
+        EXPECT_FALSE(form.MFitScreenHeight.Checked);
+        EXPECT_FALSE(form.Zooming);
+    }
+    [[nodiscard]] bool rebuilt() const { return traced("RebuildScreenImage"); }
+};
+
+TEST_F(Zoom, InGoesUpTheWholeLadderAndBeepsAtItsEnd) {
+    startAtStep(1);
+    for (std::size_t step = 1; step < steps.size(); ++step) {
+        zoomIn();
+        EXPECT_EQ(form.LastImageScale, steps[step]);
+        expectStep(static_cast<std::int16_t>(step + 1));
+    }
+    EXPECT_EQ(beeps, 0);
+    form.Trace.clear();
+    zoomIn();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_FALSE(rebuilt());
+    EXPECT_EQ(form.LastImageScale, 1);
+    expectStep(11);
+}
+
+TEST_F(Zoom, OutGoesDownTheWholeLadderAndBeepsAtItsEnd) {
+    startAtStep(11);
+    for (std::size_t step = steps.size() - 1; step > 0; --step) {
+        zoomOut();
+        EXPECT_EQ(form.LastImageScale, steps[step - 1]);
+        expectStep(static_cast<std::int16_t>(step));
+    }
+    EXPECT_EQ(beeps, 0);
+    form.Trace.clear();
+    zoomOut();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_FALSE(rebuilt());
+    expectStep(1);
+}
+
+TEST_F(Zoom, InFromAFitGoesToTheStepAboveIt) {
+    startAtStep(9);
+    fitTo(0.47F);
+    zoomIn();
+    expectStep(5);
+    EXPECT_EQ(form.LastImageScale, 0.5F);
+}
+
+TEST_F(Zoom, OutFromAFitGoesToTheStepBelowIt) {
+    startAtStep(9);
+    fitTo(0.47F);
+    zoomOut();
+    expectStep(4);
+    EXPECT_EQ(form.LastImageScale, 0.425F);
+}
+
+TEST_F(Zoom, InFromAFitOnAStepStaysThereAndLeavesTheFit) {
+    startAtStep(9);
+    fitTo(0.5F);
+    ASSERT_EQ(form.ZoomTable[0], 0.5F);
+    zoomIn();
+    expectStep(5);
+    EXPECT_EQ(form.LastImageScale, 0.5F);
+}
+
+TEST_F(Zoom, OutFromAFitOnAStepStaysThereAndLeavesTheFit) {
+    startAtStep(9);
+    fitTo(0.5F);
+    ASSERT_EQ(form.ZoomTable[0], 0.5F);
+    zoomOut();
+    expectStep(5);
+}
+
+TEST_F(Zoom, InFromAFitAboveTheLadderGoesToItsTopAndBeeps) {
+    startAtStep(6);
+    fitTo(1.3F);
+    EXPECT_EQ(form.LastImageScale, 0.5F);
+    form.Trace.clear();
+    zoomIn();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_FALSE(rebuilt());
+    expectStep(11);
+}
+
+TEST_F(Zoom, OutFromAFitAboveTheLadderGoesOnFromTheKeptStep) {
+    startAtStep(6);
+    fitTo(1.3F);
+    zoomOut();
+    expectStep(5);
+}
+
+TEST_F(Zoom, AFitBelowTheLadderIsShownAtHalfSizeAndInGoesOnFromTheKeptStep) {
+    startAtStep(6);
+    fitTo(0.1F);
+    EXPECT_EQ(form.LastImageScale, 0.5F);
+    zoomIn();
+    expectStep(7);
+}
+
+TEST_F(Zoom, OutFromAFitBelowTheLadderGoesToItsFootAndBeeps) {
+    startAtStep(6);
+    fitTo(0.1F);
+    form.Trace.clear();
+    zoomOut();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_FALSE(rebuilt());
+    expectStep(1);
+}
+
+TEST_F(Zoom, FromAFitToHeightUnchecksIt) {
+    toolkit::overrideScreen({.width = 30000, .height = 0.55F * 2473 * pixel, .hasTaskBar = true});
+    startAtStep(3);
+    ASSERT_TRUE(toolkit::test::chooseMenu("View>Fit to screen height"));
+    ASSERT_TRUE(form.MFitScreenHeight.Checked);
+    zoomIn();
+    EXPECT_FALSE(form.MFitScreenHeight.Checked);
+    EXPECT_EQ(form.ZoomTable[0], 0);
+}
+
+TEST_F(Zoom, PlusAndMinusOfBothKeyboardsZoomWithCtrlAlone) {
+    startAtStep(5);
+    for (const int plus : {key::add, key::plus}) {
+        typeKey(plus, shift::ctrl);
+        EXPECT_EQ(form.ZoomLevel, 6);
+        for (const int held : {0, shift::shift, shift::alt, shift::ctrl + shift::shift})
+            typeKey(plus, held);
+        EXPECT_EQ(form.ZoomLevel, 6);
+        typeKey(plus == key::add ? key::subtract : key::minus, shift::ctrl);
+        EXPECT_EQ(form.ZoomLevel, 5);
+    }
+}
+
+TEST_F(Zoom, AHeldKeyGoesOnAlongTheLadder) {
+    startAtStep(5);
+    toolkit::test::pressKey(key::add, shift::ctrl);
+    toolkit::test::repeatKey(key::add, shift::ctrl);
+    toolkit::test::repeatKey(key::add, shift::ctrl);
+    EXPECT_EQ(form.ZoomLevel, 8);
+}
+
+TEST_F(Zoom, ZeroTurnsFitToWidthOnAndASecondTimeChangesNothing) {
+    startAtStep(5);
+    typeKey(key::digit0, shift::ctrl);
+    EXPECT_TRUE(form.MFitScreenWidth.Checked);
+    const float scale = form.ZoomTable[0];
+    EXPECT_NE(scale, 0);
+    form.Trace.clear();
+    typeKey(key::digit0, shift::ctrl);
+    EXPECT_TRUE(form.MFitScreenWidth.Checked);
+    EXPECT_EQ(form.ZoomTable[0], scale);
+    EXPECT_FALSE(rebuilt());
+    typeKey(96, shift::ctrl);
+    EXPECT_FALSE(traced("RebuildScreenImage")) << "the keypad's zero is another key";
+}
+
+TEST_F(Zoom, ZeroTurnsAFitToHeightIntoOneToWidth) {
+    startAtStep(5);
+    ASSERT_TRUE(toolkit::test::chooseMenu("View>Fit to screen height"));
+    typeKey(key::digit0, shift::ctrl);
+    EXPECT_TRUE(form.MFitScreenWidth.Checked);
+    EXPECT_FALSE(form.MFitScreenHeight.Checked);
+}
+
+TEST_F(Zoom, KeysBelongToAnOpenFieldWhileOneIsOpen) {
+    startAtStep(5);
+    clickText(1);
+    zoomIn();
+    typeKey(key::digit0, shift::ctrl);
+    EXPECT_EQ(form.ZoomLevel, 5);
+    EXPECT_TRUE(form.CText.Visible);
+}
+
+TEST_F(Zoom, TheCommandCommitsAnOpenFieldAndTheCardHasTheKeysAgain) {
+    startAtStep(5);
+    clickText(1);
+    toolkit::test::typeText("abc");
+    ASSERT_TRUE(toolkit::test::chooseMenu("View>Zoom In (Bigger)                   Ctrl +"));
+    EXPECT_EQ(form.AText[1].Caption, "abc");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.P1));
+    zoomIn();
+    zoomIn();
+    EXPECT_EQ(form.ZoomLevel, 8);
+}
+
+TEST_F(Zoom, ThePlayersNamelessCardKeepsItsEmptyNamesLine) {
+    startAtStep(5);
+    const int names = form.FirstBigText;
+    ASSERT_GT(names, 0);
+    zoomIn();
+    EXPECT_EQ(form.AText[names].Caption, "");
+    EXPECT_EQ(form.AText[names].Tag, "");
+    EXPECT_EQ(form.CardName, "");
+}
+
+TEST_F(Zoom, UnsavedChangesNameAndFlagComeThroughAndNoFileIsLeft) {
+    writeCard("Jones", "'Program version: 2.0.0\r\n\"\",\"\"\r\n1\r\n1,0,0\r\n1\r\n1,\"\",0\r\n");
+    writeOptions("Zoom=5\r\n");
+    start("Jones");
+    const std::string saved = dataFileContent("Jones.zev");
+    clickMark(1);
+    zoomOut();
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_EQ(form.CardName, "Jones");
+    EXPECT_EQ(form.Caption, "Zevlin  ( Jones ) *");
+    EXPECT_EQ(dataFileContent("Jones.zev"), saved);
+    EXPECT_FALSE(fs::exists(dataFile("$$Tempcard.zev")));
+}
+
+TEST_F(Zoom, TheStampKeepsItsText) {
+    startAtStep(5);
+    form.Timestamp.Caption = "as it was";
+    zoomIn();
+    EXPECT_EQ(form.Timestamp.Caption, "as it was");
+}
+
+TEST_F(Zoom, ItsStepsAreTraced) {
+    startAtStep(5);
+    form.Trace.clear();
+    MZoomIn_Click(form);
+    const auto lines = traceLines();
+    EXPECT_EQ(lines.at(0), "MZoomIn_Click");
+    EXPECT_EQ(lines.at(1), "PositionSave");
+    EXPECT_TRUE(traced("PositionRestore"));
+    form.Trace.clear();
+    MZoomOut_Click(form);
+    EXPECT_EQ(traceLines().at(0), "MZoomOut_Click");
+}
+
+TEST_F(Zoom, AFailureIsTracedAndShownToNobody) {
+    startAtStep(5);
+    form.ZoomLevels = 12; // beyond the table
+    form.ZoomTable[0] = 0.1F;
+    announceError("Error in MZoomIn_Click: #");
+    MZoomIn_Click(form);
+    EXPECT_NE(traceFile().find("Error in MZoomIn_Click: #"), std::string::npos);
+    form.ZoomTable[0] = 3;
+    announceError("Error in MZoomOut_Click: #");
+    MZoomOut_Click(form);
+    EXPECT_NE(traceFile().find("Error in MZoomOut_Click: #"), std::string::npos);
+    EXPECT_TRUE(boxes.empty());
+}
+
+TEST_F(Zoom, AnOptionsFileWithAStepOutsideTheLadderStartsAtTheFourth) {
+    for (const int step : {0, 12}) {
+        writeOptions("Zoom=" + std::to_string(step) + "\r\n");
+        start();
+        EXPECT_EQ(form.ZoomLevel, 4) << step;
+        EXPECT_EQ(form.LastImageScale, 0.425F) << step;
+        window.reset();
+    }
+}
+
+TEST_F(Zoom, OnAScreenSmallerThanTheSmallestCardTheWindowTakesTheScreen) {
+    toolkit::overrideScreen({.width = 300 * pixel, .height = 200 * pixel, .hasTaskBar = true});
+    startAtStep(2);
+    zoomOut();
+    EXPECT_EQ(form.P1.Width, 479 * pixel);
+    EXPECT_EQ(form.Width, 300 * pixel);
+    EXPECT_EQ(form.Height, 200 * pixel);
+    // The rest of the card is still within reach.
+    typeKey(key::pageDown);
+    EXPECT_EQ(form.P1.Left, form.ScaleWidth() - form.P1.Width);
+    zoomIn();
+    expectStep(2);
+}
+
+TEST_F(Zoom, OnAVeryLargeScreenEveryStepIsShownAndBothFitsAreRefused) {
+    toolkit::overrideScreen({.width = 7680 * pixel, .height = 4320 * pixel, .hasTaskBar = true});
+    startAtStep(10);
+    zoomIn();
+    EXPECT_EQ(form.P1.Width, 2396 * pixel);
+    EXPECT_EQ(form.P1.Height, (2473 + 15) * pixel);
+    EXPECT_EQ(form.Width, form.P1.Width + form.FrameWidth);
+    typeKey(key::digit0, shift::ctrl);
+    EXPECT_GT(form.ZoomTable[0], 3);
+    EXPECT_EQ(form.P1.Width, 1198 * pixel);
+    ASSERT_TRUE(toolkit::test::chooseMenu("View>Fit to screen height"));
+    EXPECT_GT(form.ZoomTable[0], 1);
+    EXPECT_EQ(form.P1.Width, 1198 * pixel);
+}
+
+} // namespace
+} // namespace zev::test
