@@ -93,8 +93,8 @@ TEST(Composition, OuterMarginIsEven) {
     EXPECT_EQ(all.top, all.left);
     // The time stamp's rows, and no more paper than keeps it off the frames.
     const int foot = fullPicture().height - 1 - all.bottom;
-    EXPECT_GE(foot, card::footRows + 10);
-    EXPECT_LE(foot, card::footRows + 16);
+    EXPECT_GE(foot, card::footRows + 8);
+    EXPECT_LE(foot, card::footRows + 12);
 }
 
 TEST(Composition, PanelsBalanceAboutTheFold) {

@@ -97,7 +97,7 @@ double RowSetter::gap(const Item& before, const Item& item, const RowStyle& styl
         return item.blankBefore ? m_faces.printRegular.advance(U' ') * style.em : 0;
     if (before.kind == Box && !item.blankBefore) return 5;
     if (before.kind == Box) return item.kind == Box ? 22 : item.kind == Area ? 14 : 16;
-    if (item.kind == Box) return before.kind == Area ? 14 : 8;
+    if (item.kind == Box) return before.kind == Area ? 14 : 10;
     return 7;
 }
 
