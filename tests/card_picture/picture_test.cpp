@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <set>
 
 namespace card_picture {
@@ -42,6 +43,32 @@ TEST(Picture, HasTheThreeInksAtFullStrengthAndLittleElse) {
         EXPECT_TRUE(colours.contains(printedColour(number))) << number;
     EXPECT_TRUE(colours.contains(paper));
     EXPECT_LE(colours.size(), 46U);
+}
+
+/// Whether a colour lies on the line from paper to an ink, to a rounding.
+bool isShadeOf(const Colour& colour, const Colour& ink) {
+    const auto depth = [](auto full, auto value) {
+        return full == 255 ? 0.0 : (255.0 - value) / (255.0 - full);
+    };
+    const auto near = [](double share, auto full, auto value) {
+        return std::abs(255 - share * (255 - full) - value) <= 1;
+    };
+    const double share = std::max({depth(std::get<0>(ink), std::get<0>(colour)),
+                                   depth(std::get<1>(ink), std::get<1>(colour)),
+                                   depth(std::get<2>(ink), std::get<2>(colour))});
+    return near(share, std::get<0>(ink), std::get<0>(colour)) &&
+           near(share, std::get<1>(ink), std::get<1>(colour)) &&
+           near(share, std::get<2>(ink), std::get<2>(colour));
+}
+
+TEST(Picture, EachColourIsAShadeOfOneInk) {
+    const Picture& picture = fullPicture();
+    for (const Colour& colour : std::set<Colour>(picture.pixels.begin(), picture.pixels.end())) {
+        int inks = 0;
+        for (const int number : {1, 2, 3}) inks += isShadeOf(colour, printedColour(number)) ? 1 : 0;
+        EXPECT_GT(inks, 0) << int{std::get<0>(colour)} << "," << int{std::get<1>(colour)} << ","
+                           << int{std::get<2>(colour)};
+    }
 }
 
 TEST(Picture, IsMostlyPaper) {
