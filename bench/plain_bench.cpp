@@ -9,6 +9,7 @@
 #include "layout/skip_comment.h"
 #include "text/escapes.h"
 #include "text/fit.h"
+#include "view/halve_picture.h"
 #include "view/scale_picture.h"
 
 namespace {
@@ -148,17 +149,19 @@ toolkit::IndexedPicture indexedNoise(int width, int height) {
     return picture;
 }
 
-void halve(benchmark::State& state) {
+void scaleIndexed(benchmark::State& state) {
     const toolkit::IndexedPicture picture = indexedNoise(2396, 2473);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(
+            zev::scaled(picture, {.factor = 0.75F, .width = 1797, .height = 1866}));
+}
+BENCHMARK(scaleIndexed)->Unit(benchmark::kMillisecond);
+
+void halve(benchmark::State& state) {
+    const toolkit::Bitmap picture = noise(2396, 2473);
     for (auto _ : state) benchmark::DoNotOptimize(zev::halved(picture));
 }
 BENCHMARK(halve)->Unit(benchmark::kMillisecond);
-
-void expand(benchmark::State& state) {
-    const toolkit::IndexedPicture picture = indexedNoise(2396, 2473);
-    for (auto _ : state) benchmark::DoNotOptimize(zev::expanded(picture));
-}
-BENCHMARK(expand)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "toolkit/indexed_picture.h"
+#include "view/halve_picture.h"
 #include "view/scale_picture.h"
 
 namespace zev {

@@ -3,52 +3,63 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <span>
+#include <cstring>
+#include <optional>
+#include <thread>
+#include <vector>
 
 namespace zev {
 namespace {
 
 using Pixel = std::uint32_t;
 
-// Two channels of a pixel in one word, each with room for its sum and weights.
+// A pixel's channels or their weighted sum, side by side so that one instruction takes all four.
+// Single precision holds them to a ten-thousandth of a shade.
 struct Channels {
-    std::uint64_t redAndBlue = 0; ///< lanes of 32 bits
-    std::uint64_t green = 0;
+    alignas(16) std::array<float, 4> shares{};
+
+    void add(const Channels& other, float weight) {
+        for (std::size_t i = 0; i < shares.size(); ++i) shares[i] += other.shares[i] * weight;
+    }
 };
 
 constexpr Channels split(Pixel pixel) {
-    return {std::uint64_t{pixel & 0xFF0000U} << 16U | (pixel & 0xFFU), pixel >> 8U & 0xFFU};
+    return {{static_cast<float>(pixel & 0xFFU), static_cast<float>(pixel >> 8U & 0xFFU),
+             static_cast<float>(pixel >> 16U & 0xFFU), 255}};
 }
 
-// The pixels of one direction that an output pixel covers. Their weights sum to `whole`.
+constexpr Pixel joined(const Channels& channels) {
+    std::array<std::int32_t, 4> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<std::int32_t>(channels.shares[i] + 0.5F);
+    return static_cast<Pixel>(bytes[3]) << 24U | static_cast<Pixel>(bytes[2]) << 16U |
+           static_cast<Pixel>(bytes[1]) << 8U | static_cast<Pixel>(bytes[0]);
+}
+
+// The pixels of one direction that an output pixel covers. Their weights sum to 1.
 struct Span {
     int first = 0;
     int count = 0;
     std::size_t weights = 0; ///< place of the first one in the list of weights
 };
 
-constexpr std::uint32_t whole = 65536;
-
 struct Coverage {
     std::vector<Span> spans;
-    std::vector<std::uint32_t> weights;
+    std::vector<float> weights;
 };
 
-// A weight is the difference of two rounded boundaries, so that each sum is exactly whole and an
-// even area keeps its colour.
 void addSpan(Coverage& coverage, double from, double to, int last) {
     const int first = std::min(static_cast<int>(from), last);
     const int count = std::clamp(static_cast<int>(std::ceil(to)), first + 1, last + 1) - first;
     const double end = std::min(to, last + 1.0);
     coverage.spans.push_back({first, count, coverage.weights.size()});
-    std::uint32_t given = 0;
+    double given = 0;
     for (int i = 1; i < count; ++i) {
-        const double share = (first + i - from) / (end - from);
-        const auto boundary = static_cast<std::uint32_t>(std::lround(share * whole));
-        coverage.weights.push_back(boundary - given);
+        const double boundary = (first + i - from) / (end - from);
+        coverage.weights.push_back(static_cast<float>(boundary - given));
         given = boundary;
     }
-    coverage.weights.push_back(whole - given);
+    coverage.weights.push_back(static_cast<float>(1 - given));
 }
 
 // For each output pixel that `length` pixels reach when shrunk, the input pixels below it.
@@ -60,70 +71,10 @@ Coverage coverageOf(int length, double factor, int outputLength) {
     return coverage;
 }
 
-// The rows below an output row, averaged to 8 bits and as many behind the point. All rows of a
-// column at once, so that no sum is stored before it is whole.
-template <typename Element, typename ChannelsOf>
-void averageRows(const Element* first, const Span& rows, const std::uint32_t* weights,
-                 std::span<Channels> averages, ChannelsOf channelsOf) {
-    const std::size_t width = averages.size();
-    for (std::size_t x = 0; x < width; ++x) {
-        Channels sum{0x0000008000000080U, 0x80U};
-        const Element* element = first + x;
-        for (int i = 0; i < rows.count; ++i, element += width) {
-            const Channels& channels = channelsOf(*element);
-            sum.redAndBlue += channels.redAndBlue * weights[i];
-            sum.green += channels.green * weights[i];
-        }
-        averages[x] = {sum.redAndBlue >> 8U & 0x0000FFFF0000FFFFU, sum.green >> 8U};
-    }
-}
-
-Pixel averageColumns(const Channels* columns, const std::uint32_t* weights, int count) {
-    Channels sum{0x0080000000800000U, 0x800000U};
-    for (int i = 0; i < count; ++i) {
-        sum.redAndBlue += columns[i].redAndBlue * weights[i];
-        sum.green += columns[i].green * weights[i];
-    }
-    const auto red = static_cast<Pixel>(sum.redAndBlue >> 56U);
-    const auto green = static_cast<Pixel>(sum.green >> 24U);
-    const auto blue = static_cast<Pixel>(sum.redAndBlue >> 24U) & 0xFFU;
-    return 0xFF000000U | red << 16U | green << 8U | blue;
-}
-
-constexpr Pixel lowChannels = 0x00FF00FFU;
-
-// The rounded average of two by two pixels, two channels at a time.
-constexpr Pixel averageOfFour(Pixel a, Pixel b, Pixel c, Pixel d) {
-    const auto average = [](Pixel sum) { return (sum + 0x00020002U) >> 2U & lowChannels; };
-    const Pixel redAndBlue =
-        average((a & lowChannels) + (b & lowChannels) + (c & lowChannels) + (d & lowChannels));
-    const Pixel green = average((a >> 8U & lowChannels) + (b >> 8U & lowChannels) +
-                                (c >> 8U & lowChannels) + (d >> 8U & lowChannels));
-    return 0xFF000000U | (green & 0xFFU) << 8U | redAndBlue;
-}
-
-// Averages the pixels that `pixelOf` finds for the elements of two rows; a single last column
-// counts twice.
-template <typename Element, typename PixelOf>
-void halveRows(const Element* upper, const Element* lower, int width, Pixel* output,
-               PixelOf pixelOf) {
-    for (int x = 0; x + 1 < width; x += 2)
-        *output++ = averageOfFour(pixelOf(upper[x]), pixelOf(upper[x + 1]), pixelOf(lower[x]),
-                                  pixelOf(lower[x + 1]));
-    if (width % 2 == 0) return;
-    const Pixel above = pixelOf(upper[width - 1]);
-    const Pixel below = pixelOf(lower[width - 1]);
-    *output = averageOfFour(above, above, below, below);
-}
-
-template <typename Row, typename PixelOf>
-toolkit::Bitmap halvedRows(int width, int height, Row row, PixelOf pixelOf) {
-    toolkit::Bitmap half((width + 1) / 2, (height + 1) / 2);
-    for (int y = 0; y < half.height(); ++y) {
-        const int lower = std::min(2 * y + 1, height - 1);
-        halveRows(row(2 * y), row(lower), width, half.row(y), pixelOf);
-    }
-    return half;
+Pixel averageColumns(const Channels* columns, const float* weights, int count) {
+    Channels sum;
+    for (int i = 0; i < count; ++i) sum.add(columns[i], weights[i]);
+    return joined(sum);
 }
 
 using Palette = std::array<Pixel, 256>;
@@ -137,68 +88,198 @@ Palette fullPalette(const toolkit::IndexedPicture& picture) {
     return palette;
 }
 
+// The element that is white, if there is one.
+std::optional<std::uint8_t> paperOf(const Palette& palette) {
+    const auto found = std::ranges::find(palette, toolkit::pixelOf(toolkit::white));
+    if (found == palette.end()) return std::nullopt;
+    return static_cast<std::uint8_t>(found - palette.begin());
+}
+
 const std::uint8_t* indexRow(const toolkit::IndexedPicture& picture, int y) {
     return picture.indices.data() +
            static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width);
 }
 
-template <typename Row, typename ChannelsOf>
-toolkit::Bitmap scaledRows(int sourceWidth, int sourceHeight, const ScaleRequest& request, Row row,
-                           ChannelsOf channelsOf) {
-    toolkit::Bitmap result(request.width, request.height);
-    const double factor = request.factor;
-    const Coverage columns = coverageOf(sourceWidth, factor, result.width());
-    const Coverage rows = coverageOf(sourceHeight, factor, result.height());
-    std::vector<Channels> sums(static_cast<std::size_t>(sourceWidth));
-    Pixel* output = result.row(0);
-    for (const Span& span : rows.spans) {
-        averageRows(row(span.first), span, &rows.weights[span.weights], sums, channelsOf);
-        Pixel* pixel = output;
-        for (const Span& column : columns.spans)
-            *pixel++ = averageColumns(&sums[static_cast<std::size_t>(column.first)],
-                                      &columns.weights[column.weights], column.count);
-        output += result.width();
-    }
-    return result;
+// Most of a card is paper. Columns go in blocks, and a block without ink costs only the look at it.
+constexpr int blockWidth = 8;
+
+// Fewer output rows aren't worth a thread.
+constexpr int fewestRows = 64;
+constexpr int mostProcessors = 4;
+
+int processors() {
+    return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, mostProcessors);
 }
+
+// The output pixels that a block of columns has part in: from `first` up to `end`.
+struct Reach {
+    int first = 0;
+    int end = 0;
+};
+
+std::vector<Reach> reachOf(const Coverage& columns, int width) {
+    const auto blocks = static_cast<std::size_t>((width + blockWidth - 1) / blockWidth);
+    std::vector<Reach> reach(blocks, {static_cast<int>(columns.spans.size()), 0});
+    for (int x = 0; x < static_cast<int>(columns.spans.size()); ++x) {
+        const Span& span = columns.spans[static_cast<std::size_t>(x)];
+        for (int i = span.first / blockWidth; i <= (span.first + span.count - 1) / blockWidth;
+             ++i) {
+            Reach& block = reach[static_cast<std::size_t>(i)];
+            block = {std::min(block.first, x), std::max(block.end, x + 1)};
+        }
+    }
+    return reach;
+}
+
+// A source whose element `first`[x] of a row stands for the channels `channelsOf(first[x])`.
+template <typename Row, typename ChannelsOf, typename Element>
+class Scaler {
+  public:
+    Scaler(int width, int height, double factor, Row row, ChannelsOf channelsOf,
+           std::optional<Element> paper, toolkit::Bitmap& result)
+        : width_(width), factor_(factor), row_(row), channelsOf_(channelsOf),
+          hasPaper_(paper.has_value()), result_(result),
+          columns_(coverageOf(width, factor, result.width())),
+          rows_(coverageOf(height, factor, result.height())), reach_(reachOf(columns_, width)) {
+        paper_.fill(paper.value_or(Element{}));
+    }
+
+    // The output rows in as many parts as there are processors for.
+    void run() {
+        const int height = static_cast<int>(rows_.spans.size());
+        const int parts = std::clamp(height / fewestRows, 1, processors());
+        std::vector<Line> lines(static_cast<std::size_t>(parts), emptyLine());
+        std::vector<std::jthread> others;
+        for (int part = 1; part < parts; ++part)
+            others.emplace_back([&, part] {
+                runRows(height * part / parts, height * (part + 1) / parts,
+                        lines[static_cast<std::size_t>(part)]);
+            });
+        runRows(0, height / parts, lines.front());
+    }
+
+  private:
+    static constexpr Channels paperChannels{{255, 255, 255, 255}};
+
+    // One row of averages; a block that isn't inked holds paper.
+    struct Line {
+        std::vector<Channels> averages;
+        std::vector<char> inked;
+    };
+
+    [[nodiscard]] Line emptyLine() const {
+        return {std::vector<Channels>(reach_.size() * blockWidth, paperChannels),
+                std::vector<char>(reach_.size())};
+    }
+
+    // Full size has nothing to average.
+    void runRows(int from, int to, Line& line) {
+        for (int y = from; y < to; ++y) {
+            const Span& rows = rows_.spans[static_cast<std::size_t>(y)];
+            Pixel* output = result_.row(y);
+            if (factor_ == 1) {
+                copyInk(row_(rows.first), output);
+            } else {
+                averageRows(rows, line);
+                averageInk(line, output);
+            }
+        }
+    }
+
+    void copyInk(const Element* first, Pixel* output) const {
+        const int width = static_cast<int>(columns_.spans.size());
+        for (int column = 0; column < width; column += blockWidth) {
+            const int count = std::min(blockWidth, width - column);
+            if (!isInked(first + column, 1, count)) continue;
+            for (int x = column; x < column + count; ++x) output[x] = joined(channelsOf_(first[x]));
+        }
+    }
+
+    [[nodiscard]] bool isInked(const Element* first, int rows, int count) const {
+        if (!hasPaper_) return true;
+        const auto size = static_cast<std::size_t>(count) * sizeof(Element);
+        for (int i = 0; i < rows; ++i, first += width_)
+            if (count == blockWidth ? std::memcmp(first, paper_.data(), sizeof(paper_)) != 0
+                                    : std::memcmp(first, paper_.data(), size) != 0)
+                return true;
+        return false;
+    }
+
+    void averageRows(const Span& rows, Line& line) {
+        const Element* first = row_(rows.first);
+        for (std::size_t block = 0; block < reach_.size(); ++block) {
+            const int column = static_cast<int>(block) * blockWidth;
+            const int count = std::min(blockWidth, width_ - column);
+            Channels* averages = &line.averages[block * blockWidth];
+            const bool was = line.inked[block] != 0;
+            const bool is = isInked(first + column, rows.count, count);
+            line.inked[block] = is ? 1 : 0;
+            if (is)
+                averageBlock(first + column, rows, averages, count);
+            else if (was)
+                std::fill_n(averages, count, paperChannels);
+        }
+    }
+
+    // All rows of a column at once, so that no sum is stored before it is whole.
+    void averageBlock(const Element* first, const Span& rows, Channels* averages, int count) {
+        const float* weights = &rows_.weights[rows.weights];
+        for (int x = 0; x < count; ++x) {
+            Channels sum;
+            const Element* element = first + x;
+            for (int i = 0; i < rows.count; ++i, element += width_)
+                sum.add(channelsOf_(*element), weights[i]);
+            averages[x] = sum;
+        }
+    }
+
+    // Output pixels without ink below them are white already.
+    void averageInk(const Line& line, Pixel* output) const {
+        int done = 0;
+        for (std::size_t block = 0; block < reach_.size(); ++block) {
+            if (line.inked[block] == 0) continue;
+            for (int x = std::max(done, reach_[block].first); x < reach_[block].end; ++x) {
+                const Span& span = columns_.spans[static_cast<std::size_t>(x)];
+                output[x] = averageColumns(&line.averages[static_cast<std::size_t>(span.first)],
+                                           &columns_.weights[span.weights], span.count);
+            }
+            done = std::max(done, reach_[block].end);
+        }
+    }
+
+    int width_;
+    double factor_;
+    Row row_;
+    ChannelsOf channelsOf_;
+    bool hasPaper_;
+    std::array<Element, blockWidth> paper_{}; ///< a block without ink
+    toolkit::Bitmap& result_;
+    Coverage columns_;
+    Coverage rows_;
+    std::vector<Reach> reach_;
+};
 
 } // namespace
 
-toolkit::Bitmap halved(const toolkit::IndexedPicture& picture) {
-    const Palette palette = fullPalette(picture);
-    return halvedRows(
-        picture.width, picture.height, [&](int y) { return indexRow(picture, y); },
-        [&](std::uint8_t index) { return palette[index]; });
-}
-
-toolkit::Bitmap halved(const toolkit::Bitmap& picture) {
-    return halvedRows(
-        picture.width(), picture.height(), [&](int y) { return picture.row(y); },
-        [](Pixel pixel) { return pixel; });
-}
-
-toolkit::Bitmap expanded(const toolkit::IndexedPicture& picture) {
-    const Palette palette = fullPalette(picture);
-    toolkit::Bitmap bitmap(picture.width, picture.height);
-    for (int y = 0; y < picture.height; ++y) {
-        const std::uint8_t* indices = indexRow(picture, y);
-        std::transform(indices, indices + picture.width, bitmap.row(y),
-                       [&](std::uint8_t index) { return palette[index]; });
-    }
-    return bitmap;
-}
-
 toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& request) {
-    return scaledRows(
-        source.width(), source.height(), request, [&](int y) { return source.row(y); }, split);
+    toolkit::Bitmap result(request.width, request.height);
+    const auto row = [&](int y) { return source.row(y); };
+    Scaler(source.width(), source.height(), request.factor, row, split,
+           std::optional(toolkit::pixelOf(toolkit::white)), result)
+        .run();
+    return result;
 }
 
 toolkit::Bitmap scaled(const toolkit::IndexedPicture& source, const ScaleRequest& request) {
-    std::array<Channels, 256> palette;
-    std::ranges::transform(fullPalette(source), palette.begin(), split);
-    return scaledRows(
-        source.width, source.height, request, [&](int y) { return indexRow(source, y); },
-        [&](std::uint8_t index) -> const Channels& { return palette[index]; });
+    toolkit::Bitmap result(request.width, request.height);
+    const Palette palette = fullPalette(source);
+    std::array<Channels, 256> channels;
+    std::ranges::transform(palette, channels.begin(), split);
+    const auto row = [&](int y) { return indexRow(source, y); };
+    const auto channelsOf = [&](std::uint8_t index) -> const Channels& { return channels[index]; };
+    Scaler(source.width, source.height, request.factor, row, channelsOf, paperOf(palette), result)
+        .run();
+    return result;
 }
 
 } // namespace zev

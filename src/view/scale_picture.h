@@ -6,12 +6,6 @@
 
 namespace zev {
 
-/// The next smaller step of the pyramid: each pixel the rounded average of two by two; a single
-/// last row or column averages what is there.
-[[nodiscard]] toolkit::Bitmap halved(const toolkit::IndexedPicture& picture);
-[[nodiscard]] toolkit::Bitmap halved(const toolkit::Bitmap& picture);
-[[nodiscard]] toolkit::Bitmap expanded(const toolkit::IndexedPicture& picture);
-
 /// The content of `source` shrunk by `factor` (0 < factor <= 1) into a picture of the given size in
 /// pixels: each pixel the rounded average of the area that it covers. Content begins at (0, 0) and
 /// takes its scaled size rounded to whole pixels; what it doesn't reach is white.

@@ -9,6 +9,7 @@
 
 #include "support/form_test.h"
 #include "toolkit/indexed_picture.h"
+#include "view/halve_picture.h"
 #include "view/rebuild.h"
 #include "view/scale_picture.h"
 
@@ -21,7 +22,8 @@ constexpr auto ladder = std::to_array<float>(
     {0.2F, 0.25F, 1.0F / 3, 0.425F, 0.5F, 0.6F, 2.0F / 3, 0.75F, 0.8F, 0.9F, 1.0F});
 
 toolkit::Bitmap embedded(const char* name) {
-    return expanded(toolkit::decodePicture(toolkit::embeddedFile(name)));
+    const auto picture = toolkit::decodePicture(toolkit::embeddedFile(name));
+    return scaled(picture, {.factor = 1, .width = picture.width, .height = picture.height});
 }
 const toolkit::Bitmap& full() {
     static const toolkit::Bitmap picture = embedded("card/full.bin");

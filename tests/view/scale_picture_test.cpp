@@ -7,6 +7,8 @@
 #include <cmath>
 #include <random>
 
+#include "view/halve_picture.h"
+
 namespace zev {
 namespace {
 
@@ -148,61 +150,58 @@ toolkit::IndexedPicture indexed(int width, int height) {
     return picture;
 }
 
-TEST(Expanded, LooksColoursUpInThePalette) {
-    const toolkit::IndexedPicture picture = indexed(7, 5);
-    const Bitmap bitmap = expanded(picture);
-    ASSERT_EQ(bitmap.width(), 7);
-    ASSERT_EQ(bitmap.height(), 5);
-    for (int y = 0; y < 5; ++y)
-        for (int x = 0; x < 7; ++x)
-            ASSERT_EQ(bitmap.row(y)[x],
-                      picture.palette[picture.indices[static_cast<std::size_t>(y * 7 + x)]]);
+Bitmap expanded(const toolkit::IndexedPicture& picture) {
+    Bitmap bitmap(picture.width, picture.height);
+    for (int y = 0; y < picture.height; ++y)
+        for (int x = 0; x < picture.width; ++x)
+            bitmap.row(y)[x] =
+                picture.palette[picture.indices[static_cast<std::size_t>(y * picture.width + x)]];
+    return bitmap;
 }
 
-TEST(Expanded, IsWhiteWhereThePaletteEnds) {
+void expectSame(const Bitmap& one, const Bitmap& other) {
+    ASSERT_EQ(one.width(), other.width());
+    ASSERT_EQ(one.height(), other.height());
+    for (int y = 0; y < one.height(); ++y)
+        for (int x = 0; x < one.width(); ++x)
+            ASSERT_EQ(one.pixel(x, y), other.pixel(x, y)) << x << ", " << y;
+}
+
+TEST(Scaled, IsTheSameFromIndicesAndFromPixels) {
+    const toolkit::IndexedPicture picture = indexed(61, 47);
+    for (const float factor : {1.0F, 0.85F, 0.5F, 0.21F}) {
+        const ScaleRequest request{.factor = factor, .width = 40, .height = 40};
+        expectSame(scaled(picture, request), scaled(expanded(picture), request));
+    }
+}
+
+TEST(Scaled, IsWhiteWhereThePaletteEnds) {
     const toolkit::IndexedPicture picture{
         .width = 2, .height = 1, .palette = {0xFF000000U}, .indices = {0, 255}};
-    EXPECT_EQ(expanded(picture).pixel(0, 0), toolkit::black);
-    EXPECT_EQ(expanded(picture).pixel(1, 0), toolkit::white);
+    const Bitmap result = scaled(picture, {.factor = 1, .width = 2, .height = 1});
+    EXPECT_EQ(result.pixel(0, 0), toolkit::black);
+    EXPECT_EQ(result.pixel(1, 0), toolkit::white);
 }
 
-TEST(Halved, IsTheRoundedAverageOfTwoByTwo) {
-    Bitmap picture(4, 2, toolkit::black);
-    picture.setPixel(0, 0, rgb(1, 255, 0));
-    picture.setPixel(1, 0, rgb(0, 255, 3));
-    picture.setPixel(0, 1, rgb(0, 255, 3));
-    picture.setPixel(1, 1, rgb(1, 254, 1));
-    picture.setPixel(2, 0, toolkit::white);
-    const Bitmap half = halved(picture);
-    ASSERT_EQ(half.width(), 2);
-    ASSERT_EQ(half.height(), 1);
-    EXPECT_EQ(half.pixel(0, 0), rgb(1, 255, 2));
-    EXPECT_EQ(half.pixel(1, 0), rgb(64, 64, 64));
+TEST(Scaled, NeedsNoWhiteInThePalette) {
+    toolkit::IndexedPicture picture = indexed(40, 30);
+    picture.palette.assign(256, 0xFF102030U);
+    const Bitmap result = scaled(picture, {.factor = 0.5F, .width = 20, .height = 15});
+    for (int x = 0; x < 20; ++x) ASSERT_EQ(result.pixel(x, 7), rgb(0x10, 0x20, 0x30));
 }
 
-TEST(Halved, AveragesWhatASingleLastRowAndColumnHold) {
-    Bitmap picture(3, 3, toolkit::white);
-    picture.setPixel(2, 0, toolkit::black);
-    picture.setPixel(0, 2, toolkit::black);
-    picture.setPixel(2, 2, rgb(9, 8, 7));
-    const Bitmap half = halved(picture);
-    ASSERT_EQ(half.width(), 2);
-    ASSERT_EQ(half.height(), 2);
-    EXPECT_EQ(half.pixel(0, 0), toolkit::white);
-    EXPECT_EQ(half.pixel(1, 0), rgb(128, 128, 128));
-    EXPECT_EQ(half.pixel(0, 1), rgb(128, 128, 128));
-    EXPECT_EQ(half.pixel(1, 1), rgb(9, 8, 7));
-}
-
-TEST(Halved, IsTheSameFromTheIndexedFormAndThePixels) {
-    for (const auto& [width, height] : {std::pair{8, 6}, std::pair{9, 7}, std::pair{1, 1}}) {
-        const toolkit::IndexedPicture picture = indexed(width, height);
-        const Bitmap direct = halved(picture);
-        const Bitmap viaPixels = halved(expanded(picture));
-        for (int y = 0; y < direct.height(); ++y)
-            for (int x = 0; x < direct.width(); ++x)
-                ASSERT_EQ(direct.pixel(x, y), viaPixels.pixel(x, y));
-    }
+/// Strokes as thin and as far apart as those of a card, at every place in a block of eight columns.
+TEST(Scaled, IsTheAreaAverageOfSparseInk) {
+    std::mt19937 random(11);
+    Bitmap card(131, 97);
+    for (int i = 0; i < 60; ++i)
+        card.setPixel(static_cast<int>(random() % 131), static_cast<int>(random() % 97),
+                      rgb(static_cast<int>(random() % 256), 17, 25));
+    card.fill(40, 0, 1, 97, toolkit::black);
+    card.fill(130, 0, 1, 97, toolkit::black);
+    card.fill(0, 96, 131, 1, toolkit::black);
+    for (const float factor : {1.0F, 0.9F, 2.0F / 3.0F, 0.6F, 0.5F, 0.4F, 0.2F, 0.07F})
+        expectAreaAverages(card, factor);
 }
 
 } // namespace
