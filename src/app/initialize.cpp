@@ -1,5 +1,6 @@
 #include "app/initialize.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "app/build_fields.h"
@@ -15,6 +16,7 @@
 #include "layout/calibration.h"
 #include "layout/read_comment.h"
 #include "layout/save_layout.h"
+#include "output/printer_facts.h"
 #include "toolkit/ansi.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
@@ -40,6 +42,8 @@ void begin(Zevlin& form) {
 }
 
 void readOptionsFile(Zevlin& form, InitializeRun& run) {
+    // An older state than the one in memory must not come back.
+    if (form.OptionsUnwritten) return;
     run.step = 200;
     const auto file = toolkit::findFile(form.DataFolder, optionsFileName);
     const auto folder = toolkit::displayText(form.DataFolder);
@@ -65,13 +69,16 @@ void readOptionsFile(Zevlin& form, InitializeRun& run) {
 void choosePrinter(Zevlin& form) {
     if (!form.mPrintAlt.Checked || form.Myprinter.Devicename.empty()) return;
     ignoringFailures([&] {
-        for (const auto& printer : toolkit::installedPrinters()) {
-            if (printer.DeviceName != form.Myprinter.Devicename) continue;
-            if (form.CurrentPrinter.DeviceName != printer.DeviceName) form.CurrentPrinter = printer;
-            if (form.Myprinter.PaperBin > 0) form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
-            form.Myprinter.BitsPerPixel = form.CurrentPrinter.ColorMode == 2 ? 24 : 1;
-            return;
+        takePendingPrinter(form);
+        const std::string& name = form.Myprinter.Devicename;
+        // The one that is chosen keeps its paper and direction.
+        if (form.CurrentPrinter.DeviceName != name) {
+            const auto names = toolkit::printerNames();
+            if (std::ranges::find(names, name) == names.end()) return;
+            form.CurrentPrinter = toolkit::printerNamed(name);
         }
+        if (form.Myprinter.PaperBin > 0) form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
+        form.Myprinter.BitsPerPixel = form.CurrentPrinter.ColorMode == 2 ? 24 : 1;
     });
 }
 

@@ -10,6 +10,11 @@
 #include "help/help_page.h"
 #include "layout/save_layout.h"
 #include "marks/record_tabs.h"
+#include "output/export_card.h"
+#include "output/print_card.h"
+#include "output/print_options.h"
+#include "output/print_partner.h"
+#include "output/printer_setup.h"
 #include "view/fit.h"
 #include "view/zoom.h"
 
@@ -26,6 +31,24 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MSave,       "&Save",              "Ctrl+S", MSave_Click},
     {1, &Zevlin::MSaveAs,     "Save &As...",        "",       MSaveAs_Click},
     separator,
+    {1, &Zevlin::MPrint,      "&Print card",        "Ctrl+P", MPrint_Click},
+    {1, &Zevlin::MPrintPartner, "Print Partner's card", "",   MPrintPartner_Click},
+    {1, &Zevlin::MPrintBoth,  "Print two cards",    "",       MPrintBoth_Click},
+    {1, &Zevlin::MPrintSetup, "Printer Setup...",   "",       MPrintSetup_Click},
+    separator,
+    // Each PNG item stands under the other's header: players have known it so for years.
+    {1, &Zevlin::mExport,     "Export Image to file as...", "", nullptr},
+    {2, &Zevlin::mPrintToDiskGIF, "GIF",            "",       mPrintToDiskGIF_Click},
+    {2, &Zevlin::mPrintToDiskPartnerPNG, "PNG",     "",       mPrintToDiskPartnerPNG_Click},
+    {2, &Zevlin::mPrintToDiskJPG, "JPG",            "",       mPrintToDiskJPG_Click},
+    {2, &Zevlin::mPrintToDisk, "BMP",               "",       mPrintToDisk_Click},
+    {1, &Zevlin::mExportPartner, "Export Partner Image to file as..", "", nullptr},
+    {2, &Zevlin::mPrintToDiskPartnerGIF, "GIF",     "",       mPrintToDiskPartnerGIF_Click},
+    {2, &Zevlin::mPrintToDiskPNG, "PNG",            "",       mPrintToDiskPNG_Click},
+    {2, &Zevlin::mPrintToDiskPartnerJPG, "JPG",     "",       mPrintToDiskPartnerJPG_Click},
+    {2, &Zevlin::mPrintToDiskPartner, "BMP",        "",       mPrintToDiskPartner_Click},
+    {1, &Zevlin::mPrintToClipboard, "Copy to Clipboard", "",  mPrintToClipboard_Click},
+    separator,
     {1, &Zevlin::MExit,       "E&xit",              "",       MExit_Click},
     {0, &Zevlin::MView,       "&View",              "",       nullptr},
     {1, &Zevlin::MZoomIn,     "Zoom In (Bigger)                   Ctrl +", "", MZoomIn_Click},
@@ -37,6 +60,9 @@ constexpr auto table = std::to_array<MenuEntry>({
     {0, &Zevlin::MOptions,    "&Options",           "",       nullptr},
     {1, &Zevlin::MMyID,       "My Name",            "",       MMyID_Click},
     {1, &Zevlin::MPartnerID,  "Partner's Name",     "",       MPartnerID_Click},
+    {1, &Zevlin::mPrintAlt,   "Use alternate print method", "", mPrintAlt_Click},
+    {1, &Zevlin::MColor,      "Force color printing", "",     MColor_Click},
+    {1, &Zevlin::MMono,       "Force black printing", "",     MMono_Click},
     {0, &Zevlin::MShapes,     "&Design",            "",       nullptr},
     {1, &Zevlin::MSmall,      "Small",              "",       MSmall_Click},
     {1, &Zevlin::MMedium,     "Medium",             "",       MMedium_Click},

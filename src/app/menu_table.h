@@ -12,7 +12,7 @@ namespace zev {
 enum class AtStart { Enabled, Disabled };
 
 struct MenuEntry {
-    int level = 0;                             ///< 0 on the bar, 1 in its menu
+    int level = 0;                             ///< 0 on the bar, 1 in its menu, 2 in a submenu
     toolkit::MenuItem Zevlin::*item = nullptr; ///< none: a separator
     std::string_view caption{};
     std::string_view shortcut{};          ///< acts while the item is shown and enabled

@@ -10,6 +10,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "layout/read_comment.h"
+#include "output/printer_facts.h"
 #include "toolkit/ansi.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
@@ -190,7 +191,9 @@ void readOptions(Zevlin& form, std::string content) {
 
 void IniWrite(Zevlin& form) {
     Traceit(form, "IniWrite");
-    trapped(form, "Error in IniWrite ", [&] {
+    takePendingPrinter(form);
+    // A file that couldn't be written tells an old view.
+    form.OptionsUnwritten = !trapped(form, "Error in IniWrite ", [&] {
         toolkit::writeFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
                            writeOptions(documentOf(form)));
     });

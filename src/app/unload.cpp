@@ -5,6 +5,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "output/printer_facts.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
 
@@ -12,8 +13,13 @@ namespace zev {
 
 bool Form_Unload(Zevlin& form, int unloadMode) {
     Traceit(form, "Form_Unload " + toolkit::numberText(unloadMode));
+    // While a job runs the card is between two rebuilds.
+    if (form.Printing) return true;
     bool cancel = false;
-    trapped(form, "Error in Form_Unload: #", [&] { cancel = CheckMod(form); });
+    trapped(form, "Error in Form_Unload: #", [&] {
+        cancel = CheckMod(form);
+        if (!cancel) releasePrinter(form);
+    });
     return cancel;
 }
 

@@ -120,11 +120,13 @@ toolkit::WindowParts wire(Zevlin& form) {
     toolkit::WindowParts parts;
     parts.form = &form;
     parts.card = &form.P1;
+    parts.frozenCard = &form.P2;
     parts.cardGroups = cardGroups(form);
     parts.cardLabels = {&form.Timestamp, &form.CreditLabel};
     parts.cardTextBoxes = {&form.CText, &form.LText};
     parts.lists = {&form.THelp};
     parts.panels = {&form.P3};
+    parts.notices = {&form.PleaseWait};
     parts.menu = menuRows(form);
     return parts;
 }

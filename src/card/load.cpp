@@ -92,11 +92,12 @@ void loadCard(Zevlin& form) {
     ResetMod(form);
     form.OrigText.clear();
     form.OrigIndex = 0;
-    if (!std::filesystem::exists(path)) {
+    if (!form.CardInMemory && !std::filesystem::exists(path)) {
         form.CardName.clear();
         return;
     }
-    CardReader card(toolkit::readFile(path), form.VersionSeen,
+    CardReader card(form.CardInMemory ? *form.CardInMemory : toolkit::readFile(path),
+                    form.VersionSeen,
                     [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
     if (readRecords(form, card, path) == Loaded::Bad) return;
     ShowNames(form, NamesUpdate::FillEmpty);

@@ -68,7 +68,10 @@ void saveCard(Zevlin& form) {
 
 void MSave_Click(Zevlin& form) {
     Traceit(form, "MSave_Click");
-    if (!trapped(form, "Error in MSave_Click ", [&] { saveCard(form); })) toolkit::endProgram();
+    if (trapped(form, "Error in MSave_Click ", [&] { saveCard(form); })) return;
+    if (!form.Printing) toolkit::endProgram();
+    // A job must not cost the card because its temporary file found no room.
+    form.CardInMemory = writeCard(documentOf(form));
 }
 
 std::filesystem::path cardPath(const Zevlin& form) {

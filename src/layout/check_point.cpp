@@ -22,7 +22,9 @@ void CheckPointShapes(Zevlin& form) {
         }
         toolkit::renameFile(toolkit::resolveFile(form.DataFolder, layoutFileName),
                             form.DataFolder / setAsideName);
+        form.LayoutUnwritten = false;
         MSaveShapes_Click(form);
+        if (form.LayoutUnwritten) RestoreShapes(form);
     });
 }
 

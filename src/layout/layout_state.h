@@ -31,6 +31,8 @@ struct LayoutState {
     std::vector<std::int16_t> TextSizes;
     zev::TabTable TabTable;
 
+    bool LayoutUnwritten = false; ///< its last writing failed in a job
+
     float SavedLeft = 0; ///< the card's place before a zoom, twips
     float SavedTop = 0;
     float SavedWidth = 0;

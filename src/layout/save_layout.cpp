@@ -117,7 +117,10 @@ void MSaveShapes_Click(Zevlin& form) {
     Traceit(form, "MSaveShapes_Click");
     // A layout is never written before the controls exist.
     if (form.AMark.UBound() == 0 && form.AText.UBound() == 0) return;
-    if (!trapped(form, "Error in MSaveShapes ", [&] { saveLayout(form); })) toolkit::endProgram();
+    if (trapped(form, "Error in MSaveShapes ", [&] { saveLayout(form); })) return;
+    // A job puts back the layout that it has set aside.
+    if (!form.Printing) toolkit::endProgram();
+    form.LayoutUnwritten = true;
 }
 
 } // namespace zev

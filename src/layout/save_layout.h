@@ -5,7 +5,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// Writes Definitions.Ini. Without fields nothing is written; a failure ends the program.
+/// Writes Definitions.Ini. Without fields nothing is written; a failure ends the program,
+/// but never in the middle of a job, which then sets LayoutUnwritten.
 void MSaveShapes_Click(Zevlin& form);
 
 /// The layout's file name in the data folder.

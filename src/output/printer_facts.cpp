@@ -1,5 +1,7 @@
 #include "output/printer_facts.h"
 
+#include <utility>
+
 #include "app/zevlin.h"
 #include "toolkit/printer.h"
 
@@ -14,11 +16,28 @@ float inches(int physical, int offset, int pixelsPerInch) {
 } // namespace
 
 void takeDefaultPrinter(Zevlin& form, int& step) {
+    if (toolkit::isAskingSlow()) {
+        // There is always one.
+        form.PrinterPending = true;
+        form.Myprinter.hdc = 1;
+        step = 2010;
+        return;
+    }
     form.CurrentPrinter = toolkit::defaultPrinter();
     if (form.CurrentPrinter.hdc == 0) return;
     step = 2010;
     form.Myprinter.hdc = form.CurrentPrinter.hdc;
     form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
+    readPrinterFacts(form);
+}
+
+void takePendingPrinter(Zevlin& form) {
+    if (!std::exchange(form.PrinterPending, false)) return;
+    form.CurrentPrinter = toolkit::defaultPrinter();
+    form.Myprinter.hdc = form.CurrentPrinter.hdc;
+    // The options may have named another one meanwhile.
+    if (form.Myprinter.Devicename.empty())
+        form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
     readPrinterFacts(form);
 }
 
@@ -34,6 +53,23 @@ void readPrinterFacts(Zevlin& form) {
     facts.PageHeightInches =
         inches(printer.PhysicalHeight, printer.PhysicalOffsetY, printer.PixelsPerInchY);
     facts.BitsPerPixel = printer.ColorMode == 2 ? 24 : printer.BitsPerPixel;
+}
+
+PageFacts pageFactsOf(const Zevlin& form) {
+    const PrinterFacts& facts = form.Myprinter;
+    const toolkit::Printer& printer = form.CurrentPrinter;
+    return {.widthInches = facts.PageWidthInches,
+            .heightInches = facts.PageHeightInches,
+            .pixelsPerInchX = facts.PixPerInchx,
+            .pixelsPerInchY = facts.PixPerInchY,
+            .twipsPerPixelX = printer.TwipsPerPixelX,
+            .twipsPerPixelY = printer.TwipsPerPixelY,
+            .scaleWidth = printer.ScaleWidth};
+}
+
+void releasePrinter(Zevlin& form) {
+    form.PrinterDC.abandon();
+    if (form.PrintMethod == primaryPrintMethod) form.Myprinter.hdc = 0;
 }
 
 } // namespace zev

@@ -1,15 +1,26 @@
 // What the program knows of the printer.
 #pragma once
 
+#include "output/printed_size.h"
+
 namespace zev {
 
 struct Zevlin;
 
 /// Takes the default printer's handle, name and facts; without a device context nothing is taken.
-/// `step` is the start-up's step counter.
+/// `step` is the start-up's step counter. Where asking the system may take long, the facts are put
+/// off until something needs them.
 void takeDefaultPrinter(Zevlin& form, int& step);
+
+/// Takes the facts that were put off, if any.
+void takePendingPrinter(Zevlin& form);
 
 /// Computes the facts of the printer object.
 void readPrinterFacts(Zevlin& form);
+
+[[nodiscard]] PageFacts pageFactsOf(const Zevlin& form);
+
+/// At the program's end: no document stays open, and the primary method's printer is let go.
+void releasePrinter(Zevlin& form);
 
 } // namespace zev

@@ -5,17 +5,9 @@
 
 #include "toolkit/qt_geometry.h"
 #include "toolkit/qt_input.h"
+#include "toolkit/qt_picture.h"
 
 namespace toolkit {
-namespace {
-
-/// The picture's own pixels, not a copy.
-QImage imageOf(const Bitmap& picture) {
-    return {reinterpret_cast<const uchar*>(picture.row(0)), picture.width(), picture.height(),
-            picture.width() * 4, QImage::Format_RGB32};
-}
-
-} // namespace
 
 CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery,
                        Wheel& wheel)
@@ -28,6 +20,7 @@ CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& d
 }
 
 void CardWidget::push() {
+    if (isFrozen()) return pushWaitPointer();
     pushPlace();
     pushPointer();
     if (picture_ != parts_.card->Picture) {
@@ -38,6 +31,17 @@ void CardWidget::push() {
     const QRegion changes = scene_.takeOver(parts_);
     if (!changes.isEmpty()) update(changes);
     if (isHidden() == parts_.card->Visible) setVisible(parts_.card->Visible);
+}
+
+bool CardWidget::isFrozen() const {
+    return parts_.frozenCard != nullptr && parts_.frozenCard->Visible;
+}
+
+/// The card's own pointer would say that it can be worked upon.
+void CardWidget::pushWaitPointer() {
+    if (pointer_ == parts_.form->MousePointer) return;
+    pointer_ = parts_.form->MousePointer;
+    setPointer(*this, pointer_, grip_);
 }
 
 /// The size doesn't depend on where the card lies, or a drag would make it flicker by a pixel.
@@ -59,6 +63,7 @@ void CardWidget::pushPointer() {
 
 /// Whether this screen gets a picture of its own, made when it is first painted there.
 bool CardWidget::findSharpPicture(double ratio) {
+    if (isFrozen()) return sharp_ && !sharp_->empty();
     const SharpPicture& sharp = parts_.card->Sharp;
     if (ratio <= 1 || !picture_ || sharp.of != picture_ || !sharp.drawn) return false;
     if (!sharp_ || sharpRatio_ != ratio) {
@@ -70,7 +75,7 @@ bool CardWidget::findSharpPicture(double ratio) {
 
 /// Pixel by pixel where it has the screen's own, else stretched.
 void CardWidget::paintSharpPicture(QPainter& painter, const QRect& area) const {
-    const QImage image = imageOf(*sharp_);
+    const QImage image = imageOver(std::as_const(*sharp_));
     const QSizeF size(picture_->width(), picture_->height());
     painter.save();
     painter.setClipRect(area);
@@ -90,7 +95,7 @@ void CardWidget::paintPicture(QPainter& painter, const QRect& area) const {
     QRect pictureArea;
     if (picture_ && !picture_->empty()) {
         pictureArea = area & QRect(0, 0, picture_->width(), picture_->height());
-        painter.drawImage(pictureArea.topLeft(), imageOf(*picture_), pictureArea);
+        painter.drawImage(pictureArea.topLeft(), imageOver(*picture_), pictureArea);
     }
     if (pictureArea == area) return;
     for (const QRect& rest : QRegion(area) - pictureArea)

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
@@ -85,6 +86,19 @@ std::string askOnScreen(const InputBox& box) {
     return shown.exec() == QDialog::Accepted ? ansiText(shown.textValue()) : std::string();
 }
 
+std::filesystem::path askForFileOnScreen(const FileQuestion& question) {
+    QFileDialog shown(boxParent());
+    shown.setWindowTitle(titleOf(question.title));
+    shown.setAcceptMode(QFileDialog::AcceptSave);
+    shown.setNameFilter(qString(question.pattern));
+    shown.setDefaultSuffix(qString(question.pattern).section(u'.', -1));
+    const QString preset = QString::fromStdU16String(question.preset.u16string());
+    shown.setDirectory(QFileInfo(preset).path());
+    shown.selectFile(QFileInfo(preset).fileName());
+    if (shown.exec() != QDialog::Accepted) return {};
+    return shown.selectedFiles().constFirst().toStdU16String();
+}
+
 std::string withoutControlCharacters(std::string text) {
     std::erase_if(text, [](char character) { return code(character) < ' ' || character == 0x7F; });
     return text;
@@ -122,6 +136,14 @@ std::string ask(const InputBox& box) {
     std::string answer = dialogAnswers().input ? dialogAnswers().input(box) : askOnScreen(box);
     rethrowKept();
     return withoutControlCharacters(std::move(answer));
+}
+
+std::filesystem::path askForFile(const FileQuestion& question) {
+    updateWindow();
+    const auto path =
+        dialogAnswers().file ? dialogAnswers().file(question) : askForFileOnScreen(question);
+    rethrowKept();
+    return path;
 }
 
 } // namespace toolkit

@@ -1,6 +1,7 @@
 // Message boxes, input boxes and pop-up menus: modal, answered by the player or by a test.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <span>
@@ -37,6 +38,15 @@ struct InputBox {
 /// The player's answer, control characters dropped; empty on cancel.
 [[nodiscard]] std::string ask(const InputBox& box);
 
+struct FileQuestion {
+    std::string title{};
+    std::filesystem::path preset{}; ///< folder and name that are offered
+    std::string pattern{};          ///< "*.pdf": its extension is added to a name without one
+};
+
+/// The file that the player wants written, asked about if it exists; empty on cancel.
+[[nodiscard]] std::filesystem::path askForFile(const FileQuestion& question);
+
 /// One row of a pop-up menu; without an item it is a separator.
 struct PopupRow {
     MenuItem* item = nullptr;
@@ -52,6 +62,7 @@ struct DialogAnswers {
     std::function<Answer(const MessageBox&)> message{};
     std::function<std::string(const InputBox&)> input{};
     std::function<void(std::span<const PopupRow>)> popup{};
+    std::function<std::filesystem::path(const FileQuestion&)> file{};
 };
 void answerDialogsWith(DialogAnswers answers);
 

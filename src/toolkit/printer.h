@@ -3,9 +3,29 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace toolkit {
+
+/// A paper that a printer takes. Sizes in inches of the sheet held upright.
+struct Paper {
+    int code = 0;
+    std::string name;    ///< as the player reads it
+    std::string keyword; ///< as the system knows it
+    float width = 0;
+    float height = 0;
+    float sideMargin = 0; ///< on each side the printer can't reach
+    float endMargin = 0;  ///< likewise above and below
+};
+
+struct PaperTray {
+    int code = 0;
+    std::string name;
+    std::string keyword;
+};
+
+enum class Orientation : int { Portrait = 1, Landscape = 2 };
 
 /// Facts of a printer as the system reports them. Sizes in twips.
 struct Printer {
@@ -15,12 +35,13 @@ struct Printer {
     int Copies = 1;
     float Height = 0;
     float Width = 0;
-    float ScaleHeight = 0;
+    float ScaleHeight = 0; ///< of the printable part
     float ScaleWidth = 0;
     int Orientation = 1; ///< 1 portrait, 2 landscape
     int PaperBin = 0;
     int PaperSize = 1;
     float TwipsPerPixelX = 0;
+    float TwipsPerPixelY = 0;
     int PixelsPerInchX = 0;
     int PixelsPerInchY = 0;
     int PhysicalOffsetX = 0; ///< printer pixels
@@ -28,13 +49,28 @@ struct Printer {
     int PhysicalWidth = 0; ///< printer pixels
     int PhysicalHeight = 0;
     int BitsPerPixel = 24;
+    bool CanTurn = true; ///< whether the orientation can be chosen
+    std::vector<Paper> Papers;
+    std::vector<PaperTray> Trays;
 };
 
-/// The installed printers, never empty.
-[[nodiscard]] std::vector<Printer> installedPrinters();
+/// Computes all that follows from resolution, paper and orientation. A paper that the printer
+/// doesn't have leaves the facts as they are.
+void layOutPage(Printer& printer, int paperSize, Orientation orientation);
+
+constexpr std::string_view printToPdfName = "Print to PDF";
+
+/// Names of the installed printers, asked for anew: the default first, "Print to PDF" last.
+[[nodiscard]] std::vector<std::string> printerNames();
+
+/// The facts of a printer, asked for anew. One that isn't there has a hdc of 0.
+[[nodiscard]] Printer printerNamed(std::string_view name);
 
 /// The system's default printer, or "Print to PDF".
 [[nodiscard]] Printer defaultPrinter();
+
+/// Whether asking for the default printer may take long, so that it is better put off.
+[[nodiscard]] bool isAskingSlow();
 
 /// For tests: the printers that the system has; an empty list gives back the real ones.
 void overridePrinters(std::vector<Printer> printers);

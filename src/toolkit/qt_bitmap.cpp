@@ -9,26 +9,12 @@
 #include "toolkit/bitmap.h"
 #include "toolkit/error.h"
 #include "toolkit/files.h"
+#include "toolkit/qt_picture.h"
 #include "toolkit/screen.h"
 #include "toolkit/text_painter.h"
 
 namespace toolkit {
 namespace {
-
-qsizetype bytesPerRow(const Bitmap& bitmap) {
-    return static_cast<qsizetype>(bitmap.width()) * static_cast<qsizetype>(sizeof(std::uint32_t));
-}
-
-// An image over the bitmap's own pixels.
-QImage imageOver(Bitmap& bitmap) {
-    return {reinterpret_cast<uchar*>(bitmap.row(0)), bitmap.width(), bitmap.height(),
-            bytesPerRow(bitmap), QImage::Format_RGB32};
-}
-
-QImage imageOver(const Bitmap& bitmap) {
-    return {reinterpret_cast<const uchar*>(bitmap.row(0)), bitmap.width(), bitmap.height(),
-            bytesPerRow(bitmap), QImage::Format_RGB32};
-}
 
 bool isKnownFormat(const QByteArray& format) {
     return format == "gif" || format == "png" || format == "jpeg" || format == "bmp";

@@ -34,7 +34,9 @@ class CardWidget : public QWidget {
 
   private:
     [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
+    [[nodiscard]] bool isFrozen() const;
     void pushPlace();
+    void pushWaitPointer();
     void pushPointer();
     void paintPicture(QPainter& painter, const QRect& area) const;
     void paintSharpPicture(QPainter& painter, const QRect& area) const;

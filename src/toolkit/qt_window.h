@@ -9,6 +9,7 @@
 #include "toolkit/qt_form_widget.h"
 #include "toolkit/qt_key_delivery.h"
 #include "toolkit/qt_list_view.h"
+#include "toolkit/qt_notice.h"
 #include "toolkit/qt_panel_widget.h"
 #include "toolkit/window.h"
 
@@ -44,6 +45,7 @@ class Window::Implementation {
     std::vector<std::unique_ptr<EditBox>> boxes_;
     std::vector<std::unique_ptr<PanelWidget>> panels_;
     std::vector<std::unique_ptr<ListView>> lists_;
+    std::vector<std::unique_ptr<Notice>> notices_;
     KeyDelivery keys_;
     std::vector<const Control*> stacked_; ///< card, panels and lists, the hindmost first
     bool pushing_ = false;

@@ -1,9 +1,11 @@
 // Driving the real window from tests: events go to its widgets as the platform would send them.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "toolkit/bitmap.h"
 #include "toolkit/control.h"
@@ -92,5 +94,33 @@ void endNextBox(std::optional<Answer> answer, ShownBox& seen);
 void fillNextInputBox(std::string_view utf8, ShownBox& seen);
 /// The row of the next pop-up menu is chosen.
 void chooseInNextPopup(int row);
+
+/// A dialog of the platform that came up.
+struct ShownDialog {
+    std::string title;
+    std::vector<std::string> buttons;
+};
+/// The next dialog that is no box is noted and cancelled.
+void endNextDialog(ShownDialog& seen);
+
+/// Works the lists, options and buttons of a form that is open. Lists are counted from the top.
+class DialogDriver {
+  public:
+    [[nodiscard]] std::string title() const;
+    [[nodiscard]] std::vector<std::string> labels() const;
+    [[nodiscard]] std::vector<std::string> listRows(int list) const;
+    [[nodiscard]] std::string chosen(int list) const;
+    void choose(int list, int row);
+    void typeInto(int list, int keyCode, std::string_view text);
+    void turnOn(std::string_view option);
+    [[nodiscard]] bool isOn(std::string_view option) const;
+    [[nodiscard]] bool isEnabled(std::string_view option) const;
+    void press(std::string_view button);
+};
+/// Runs once the next form is there, which must close in it.
+void driveNextDialog(std::function<void(DialogDriver&)> act);
+
+/// The picture on the clipboard, empty if there is none.
+[[nodiscard]] Bitmap clipboardPicture();
 
 } // namespace toolkit::test

@@ -42,6 +42,8 @@ Window::Implementation::Implementation(WindowParts shown)
         panels_.push_back(std::make_unique<PanelWidget>(form_.area(), *parts_.form, *panel));
     for (ListBox* list : parts_.lists)
         lists_.push_back(std::make_unique<ListView>(form_.area(), parts_, *list, delivery_));
+    for (TextBox* notice : parts_.notices)
+        notices_.push_back(std::make_unique<Notice>(form_.area(), *notice));
     watchKeys();
     current() = this;
     // The bar's height belongs to the frame, by which the program sizes the form before its first
@@ -81,6 +83,7 @@ void Window::Implementation::push() {
     for (const auto& panel : panels_) panel->push();
     for (const auto& list : lists_) list->push();
     pushStacking();
+    for (const auto& notice : notices_) notice->push();
     pushFocus();
     form_.pushVisible();
     pushing_ = false;

@@ -36,11 +36,15 @@ struct MenuRow {
 struct WindowParts {
     Form* form = nullptr;
     PictureBox* card = nullptr;
+    /// While it is visible the card's widget goes on showing what it showed when this one came up,
+    /// whatever becomes of the card's values. May be missing.
+    PictureBox* frozenCard = nullptr;
     std::vector<LabelGroup> cardGroups{};
     std::vector<Label*> cardLabels{};      ///< single labels on the card; they swallow presses
     std::vector<TextBox*> cardTextBoxes{}; ///< over the labels of the card
     std::vector<ListBox*> lists{};         ///< on the form, over the card
     std::vector<Panel*> panels{};          ///< on the form, over the card
+    std::vector<TextBox*> notices{};       ///< on the form, over all else; only to be read
     std::vector<MenuRow> menu{};
 };
 
@@ -63,6 +67,10 @@ class Window {
   private:
     std::unique_ptr<Implementation> implementation_;
 };
+
+/// The card of the open window with its labels as their values stand now, at one pixel a pixel;
+/// also the parts that no screen shows. Without a window it is the card's picture alone.
+[[nodiscard]] Bitmap flattenedCard(const PictureBox& card);
 
 /// The platform's application object: made first in main, gone last.
 class Application {

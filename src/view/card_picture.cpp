@@ -28,28 +28,28 @@ const toolkit::IndexedPicture& builtInHalf() {
 } // namespace
 
 struct CardPicture::Replacement {
-    toolkit::Bitmap full;
+    std::shared_ptr<const toolkit::Bitmap> full;
     toolkit::Bitmap half;
 };
 
+CardPicture::CardPicture(const std::shared_ptr<const toolkit::Bitmap>& picture)
+    : replacement_(std::make_shared<const Replacement>(Replacement{picture, halved(*picture)})) {}
+
 void CardPicture::load(const std::filesystem::path& path) {
-    toolkit::Bitmap full = toolkit::loadBitmap(path);
-    toolkit::Bitmap half = halved(full);
-    replacement_ =
-        std::make_shared<const Replacement>(Replacement{std::move(full), std::move(half)});
+    *this = CardPicture(std::make_shared<const toolkit::Bitmap>(toolkit::loadBitmap(path)));
 }
 
-int CardPicture::width() const { return replacement_ ? replacement_->full.width() : builtInWidth; }
+int CardPicture::width() const { return replacement_ ? replacement_->full->width() : builtInWidth; }
 
 int CardPicture::height() const {
-    return replacement_ ? replacement_->full.height() : builtInHeight;
+    return replacement_ ? replacement_->full->height() : builtInHeight;
 }
 
 toolkit::Bitmap CardPicture::scaledTo(float scale, int width, int height) const {
     const bool fromFull = scale > half;
     const ScaleRequest request{
         .factor = fromFull ? scale : scale / half, .width = width, .height = height};
-    if (replacement_) return scaled(fromFull ? replacement_->full : replacement_->half, request);
+    if (replacement_) return scaled(fromFull ? *replacement_->full : replacement_->half, request);
     return scaled(fromFull ? builtInFull() : builtInHalf(), request);
 }
 

@@ -11,6 +11,10 @@ namespace zev {
 /// The built-in picture or one that the player put in its place. Copies share the pixels.
 class CardPicture {
   public:
+    CardPicture() = default;
+    /// Any other picture that is to be scaled.
+    explicit CardPicture(const std::shared_ptr<const toolkit::Bitmap>& picture);
+
     /// Takes a picture file instead of the built-in card. Failure 481 if it is none.
     void load(const std::filesystem::path& path);
 

@@ -64,14 +64,16 @@ void carryThrough(Zevlin& form) {
     KeptCard kept(form);
     deleteTemporaryCard(form);
     form.CardName = temporaryCardName;
+    form.CardInMemory.reset();
     MSave_Click(form);
-    const std::string content = toolkit::readFile(cardPath(form));
+    const std::string content =
+        form.CardInMemory ? *form.CardInMemory : toolkit::readFile(cardPath(form));
     ResetMod(form);
     MNew_Click(form);
     form.P1.Visible = false;
     Initialize(form);
     form.CardName = temporaryCardName;
-    writeIfGone(cardPath(form), content);
+    if (!form.CardInMemory) writeIfGone(cardPath(form), content);
     GetCardFile(form);
     kept.putBack();
     SetCaption(form);

@@ -24,6 +24,23 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {1, "&Save", "Ctrl+S"},
                                       {1, "Save &As...", ""},
                                       {1, "", ""},
+                                      {1, "&Print card", "Ctrl+P"},
+                                      {1, "Print Partner's card", ""},
+                                      {1, "Print two cards", ""},
+                                      {1, "Printer Setup...", ""},
+                                      {1, "", ""},
+                                      {1, "Export Image to file as...", ""},
+                                      {2, "GIF", ""},
+                                      {2, "PNG", ""},
+                                      {2, "JPG", ""},
+                                      {2, "BMP", ""},
+                                      {1, "Export Partner Image to file as..", ""},
+                                      {2, "GIF", ""},
+                                      {2, "PNG", ""},
+                                      {2, "JPG", ""},
+                                      {2, "BMP", ""},
+                                      {1, "Copy to Clipboard", ""},
+                                      {1, "", ""},
                                       {1, "E&xit", ""},
                                       {0, "&View", ""},
                                       {1, "Zoom In (Bigger)                   Ctrl +", ""},
@@ -34,6 +51,9 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {0, "&Options", ""},
                                       {1, "My Name", ""},
                                       {1, "Partner's Name", ""},
+                                      {1, "Use alternate print method", ""},
+                                      {1, "Force color printing", ""},
+                                      {1, "Force black printing", ""},
                                       {0, "&Design", ""},
                                       {1, "Small", ""},
                                       {1, "Medium", ""},
@@ -77,11 +97,15 @@ TEST_F(MenuTable, EveryItemHasAProcedureAndEveryMenuHasItems) {
 }
 
 TEST_F(MenuTable, NoItemStandsTwiceAndNoShortcutIsTakenTwice) {
-    std::set<std::string_view> captions;
+    std::set<std::string> captions;
     std::set<std::string_view> shortcuts;
+    std::string menu;
     for (const auto& row : menuTable()) {
         if (row.item == nullptr) continue;
-        EXPECT_TRUE(captions.insert(row.caption).second) << row.caption;
+        if (row.level < 2) menu = row.caption;
+        // The two lists of image formats have the same rows.
+        const std::string path = (row.level < 2 ? "" : menu) + std::string(row.caption);
+        EXPECT_TRUE(captions.insert(path).second) << path;
         if (!row.shortcut.empty()) {
             EXPECT_TRUE(shortcuts.insert(row.shortcut).second) << row.shortcut;
         }
@@ -95,7 +119,7 @@ TEST_F(MenuTable, NoMenuBeginsOrEndsWithASeparator) {
         ASSERT_GT(i, 0U);
         ASSERT_LT(i + 1, rows.size());
         EXPECT_NE(rows[i - 1].item, nullptr);
-        EXPECT_EQ(rows[i - 1].level, rows[i].level);
+        EXPECT_GE(rows[i - 1].level, rows[i].level);
         EXPECT_NE(rows[i + 1].item, nullptr);
         EXPECT_EQ(rows[i + 1].level, rows[i].level);
     }
@@ -125,6 +149,8 @@ TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
         {"File>Save As...", "MSaveAs_Click"},
         {"Options>My Name", "MMyID_Click"},
         {"Options>Partner's Name", "MPartnerID_Click"},
+        {"Options>Use alternate print method", "mPrintAlt_Click"},
+        {"Options>Use alternate print method", "mPrintAlt_Click"},
         {"Help", "MHelp_Click"}};
     for (int i = 0; i < 5; ++i) answerInput("");
     for (const auto& [path, line] : traces) {
@@ -147,6 +173,43 @@ TEST_F(MenuTable, ViewItemsRunTheirOwnProcedures) {
         EXPECT_TRUE(toolkit::test::chooseMenu(path)) << path;
         EXPECT_EQ(traceLines().at(0), line);
     }
+}
+
+/// Each image item runs its own pipeline with its own flag; the PNG items stand exchanged.
+TEST_F(MenuTable, ImageItemsRunTheirPipelines) {
+    writeLayout(fewFields());
+    start();
+    struct Expected {
+        std::string path;
+        toolkit::MenuItem Zevlin::*flag;
+        bool isPartners;
+    };
+    const std::string own = "File>Export Image to file as...>";
+    const std::string partners = "File>Export Partner Image to file as..>";
+    const std::vector<Expected> items = {{own + "GIF", &Zevlin::mPrintToDiskGIF, false},
+                                         {own + "PNG", &Zevlin::mPrintToDiskPNG, true},
+                                         {own + "BMP", &Zevlin::mPrintToDisk, false},
+                                         {partners + "GIF", &Zevlin::mPrintToDiskGIF, true},
+                                         {partners + "PNG", &Zevlin::mPrintToDiskPNG, false},
+                                         {partners + "BMP", &Zevlin::mPrintToDisk, true}};
+    for (const auto& item : items) {
+        bool wasChecked = false;
+        whileAsking = [&] { wasChecked = (form.*item.flag).Checked; };
+        answerInput("");
+        form.Trace.clear();
+        EXPECT_TRUE(toolkit::test::chooseMenu(item.path)) << item.path;
+        EXPECT_TRUE(wasChecked) << item.path;
+        EXPECT_FALSE((form.*item.flag).Checked) << item.path;
+        EXPECT_EQ(traced("MPrintPartner_Click"), item.isPartners) << item.path;
+    }
+    EXPECT_FALSE(toolkit::test::chooseMenu(own + "JPG"));
+    EXPECT_FALSE(toolkit::test::chooseMenu(partners + "JPG"));
+}
+
+TEST_F(MenuTable, ForcedColourAndBlackAreHidden) {
+    start();
+    EXPECT_FALSE(toolkit::test::chooseMenu("Options>Force color printing"));
+    EXPECT_FALSE(toolkit::test::chooseMenu("Options>Force black printing"));
 }
 
 TEST_F(MenuTable, ExitEndsTheProgram) {

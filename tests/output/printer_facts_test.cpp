@@ -66,6 +66,25 @@ TEST_F(PrinterFactsOfTheForm, WithoutADeviceContextNothingIsTaken) {
     EXPECT_EQ(step, 2000);
 }
 
+TEST_F(PrinterFactsOfTheForm, AskingTheSystemIsPutOffUntilSomethingNeedsThem) {
+    toolkit::overridePrinters({});
+    start();
+    EXPECT_TRUE(form.PrinterPending);
+    EXPECT_NE(form.Myprinter.hdc, 0);
+    EXPECT_EQ(form.Myprinter.PixPerInchx, 0);
+    takePendingPrinter(form);
+    EXPECT_FALSE(form.PrinterPending);
+    EXPECT_GT(form.Myprinter.PixPerInchx, 0);
+    EXPECT_FALSE(form.Myprinter.Devicename.empty());
+}
+
+TEST_F(PrinterFactsOfTheForm, TheEndLetsThePrinterGo) {
+    start();
+    EXPECT_NE(form.Myprinter.hdc, 0);
+    EXPECT_FALSE(form.QueryClose());
+    EXPECT_EQ(form.Myprinter.hdc, 0);
+}
+
 TEST_F(PrinterFactsOfTheForm, APrinterWithoutAResolutionIsNoDivisionByZero) {
     toolkit::Printer printer = office();
     printer.PixelsPerInchX = printer.PixelsPerInchY = 0;

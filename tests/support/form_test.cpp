@@ -68,6 +68,8 @@ FormTest::FormTest() : home(newFolder()) {
              [this](int milliseconds) {
                  if (duringWait) duringWait(milliseconds);
              }});
+    // Whatever printers this machine has.
+    toolkit::overridePrinters({toolkit::printerNamed(toolkit::printToPdfName)});
     // A screen on which the whole card can be clicked.
     toolkit::overrideScreen({.width = 24000, .height = 24000});
     fs::copy_file(programFolder / "Definitions.Ini.15", dataFolder / "Definitions.Ini");
@@ -100,6 +102,7 @@ void FormTest::answerBoxes() {
          .input =
              [this](const toolkit::InputBox& box) {
                  inputs.push_back(box);
+                 if (whileAsking) whileAsking();
                  EXPECT_FALSE(inputAnswers_.empty()) << "no answer waits for: " << box.prompt;
                  return inputAnswers_.empty() ? std::string() : takeFirst(inputAnswers_);
              },
@@ -107,12 +110,20 @@ void FormTest::answerBoxes() {
              [this](std::span<const toolkit::PopupRow> rows) {
                  ++popups;
                  if (!popupChoices_.empty()) takeFirst(popupChoices_)(rows);
+             },
+         .file =
+             [this](const toolkit::FileQuestion& question) {
+                 fileQuestions.push_back(question);
+                 if (whileAsking) whileAsking();
+                 EXPECT_FALSE(fileAnswers_.empty()) << "no answer waits for: " << question.preset;
+                 return fileAnswers_.empty() ? fs::path() : takeFirst(fileAnswers_);
              }});
 }
 
 void FormTest::TearDown() {
     EXPECT_TRUE(answers_.empty()) << "an answer waited for a box that never came";
     EXPECT_TRUE(inputAnswers_.empty()) << "an answer waited for an input box that never came";
+    EXPECT_TRUE(fileAnswers_.empty()) << "an answer waited for a question that never came";
     checkForErrors();
 }
 
@@ -166,6 +177,8 @@ void FormTest::writeCard(std::string_view name, std::string_view content) {
 void FormTest::answer(toolkit::Answer answer) { answers_.push_back(answer); }
 
 void FormTest::answerInput(std::string text) { inputAnswers_.push_back(std::move(text)); }
+
+void FormTest::answerFile(fs::path file) { fileAnswers_.push_back(std::move(file)); }
 
 void FormTest::answerPopup(std::function<void(std::span<const toolkit::PopupRow>)> choice) {
     popupChoices_.push_back(std::move(choice));

@@ -57,6 +57,8 @@ class FormTest : public testing::Test {
     // What the player answers, in the order of the boxes.
     void answer(toolkit::Answer answer);
     void answerInput(std::string text);
+    /// The file chosen to be written; an empty path cancels.
+    void answerFile(std::filesystem::path file);
     /// What the next pop-up menu does; without one a pop-up is closed again.
     void answerPopup(std::function<void(std::span<const toolkit::PopupRow>)> choice);
 
@@ -86,11 +88,14 @@ class FormTest : public testing::Test {
     std::filesystem::path home;
     std::filesystem::path dataFolder;
     std::filesystem::path programFolder;
-    std::vector<ShownBox> boxes;           ///< every message box so far
-    std::vector<toolkit::InputBox> inputs; ///< every input box so far
-    int popups = 0;                        ///< pop-up menus so far
+    std::vector<ShownBox> boxes;                      ///< every message box so far
+    std::vector<toolkit::InputBox> inputs;            ///< every input box so far
+    std::vector<toolkit::FileQuestion> fileQuestions; ///< every question for a file so far
+    int popups = 0;                                   ///< pop-up menus so far
     int beeps = 0;
     std::vector<std::string> launched; ///< what was opened outside the program
+    /// Runs while the program waits for the name of a file or of an image.
+    std::function<void()> whileAsking;
     /// Runs in the middle of each wait of the program.
     std::function<void(int milliseconds)> duringWait;
     Zevlin form;
@@ -103,6 +108,7 @@ class FormTest : public testing::Test {
 
     std::vector<toolkit::Answer> answers_;
     std::vector<std::string> inputAnswers_;
+    std::vector<std::filesystem::path> fileAnswers_;
     std::vector<std::function<void(std::span<const toolkit::PopupRow>)>> popupChoices_;
     std::vector<std::string> announced_;
 };

@@ -140,7 +140,7 @@ class WindowTest : public testing::Test {
     }
 
     void open() {
-        toolkit::WindowParts parts{.form = &form, .card = &card};
+        toolkit::WindowParts parts{.form = &form, .card = &card, .frozenCard = &frozen};
         toolkit::LabelGroup markGroup = group(marks, "mark");
         markGroup.TakesFocus = true;
         parts.cardGroups = {markGroup, group(texts, "text")};
@@ -148,6 +148,7 @@ class WindowTest : public testing::Test {
         parts.cardTextBoxes = {&box, &otherBox};
         parts.lists = {&list};
         parts.panels = {&panel};
+        parts.notices = {&notice};
         parts.menu = menu;
         window = std::make_unique<toolkit::Window>(std::move(parts));
         window->update();
@@ -157,6 +158,7 @@ class WindowTest : public testing::Test {
     Log log;
     toolkit::Form form;
     toolkit::PictureBox card;
+    toolkit::PictureBox frozen; ///< stands for the card while it is visible
     toolkit::ControlArray<toolkit::Label> marks;
     toolkit::ControlArray<toolkit::Label> texts;
     toolkit::Label stamp;
@@ -164,6 +166,7 @@ class WindowTest : public testing::Test {
     toolkit::TextBox otherBox;
     toolkit::ListBox list;
     toolkit::Panel panel;
+    toolkit::TextBox notice;
     std::vector<toolkit::MenuRow> menu;
     std::unique_ptr<toolkit::Window> window;
 };

@@ -1,0 +1,40 @@
+#include "output/blank_page.h"
+
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "toolkit/number_text.h"
+#include "toolkit/screen.h"
+#include "toolkit/system.h"
+
+namespace zev {
+namespace {
+
+constexpr int columnsTested = 200; ///< pixels
+constexpr int columnStep = 5;
+
+/// The rows are bounded by the width: deliberately, a card is about as wide as high.
+std::string_view verdict(const toolkit::PictureBox& picture) {
+    const int rows = toolkit::pixelsFromTwips(picture.Width);
+    for (int x = 0; x <= columnsTested; x += columnStep) {
+        for (int y = 0; y < rows; ++y) {
+            const auto color = picture.Picture ? picture.Picture->pixel(x, y) : std::nullopt;
+            if (!color) return "untestable";
+            if (*color != toolkit::white) return "not blank";
+        }
+    }
+    return "blank";
+}
+
+} // namespace
+
+void TestBlankPage(Zevlin& form, std::string_view label, const toolkit::PictureBox& picture) {
+    if (!form.TraceOn) return;
+    Traceit(form, "TestBlankPage");
+    Traceit(form, std::string(label) + " TestBlankPage: page is " + std::string(verdict(picture)) +
+                      "; MemoryLoad=" + toolkit::numberText(toolkit::memoryFacts().loadPercent) +
+                      "%");
+}
+
+} // namespace zev

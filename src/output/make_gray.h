@@ -1,0 +1,15 @@
+// Turning a picture box grey.
+#pragma once
+
+namespace toolkit {
+struct PictureBox;
+}
+
+namespace zev {
+
+struct Zevlin;
+
+/// Recolours the box's picture; the labels over it keep their colours.
+void MakeGray(Zevlin& form, toolkit::PictureBox& picture);
+
+} // namespace zev

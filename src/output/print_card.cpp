@@ -1,0 +1,190 @@
+#include "output/print_card.h"
+
+#include <utility>
+
+#include "app/options.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "layout/check_point.h"
+#include "layout/position.h"
+#include "output/blank_page.h"
+#include "output/gray.h"
+#include "output/make_gray.h"
+#include "output/print_picture.h"
+#include "output/printed_size.h"
+#include "output/printer_facts.h"
+#include "text/edit_field.h"
+#include "toolkit/dialog.h"
+#include "toolkit/program.h"
+#include "toolkit/window.h"
+#include "view/image_size.h"
+#include "view/rebuild.h"
+#include "view/time_stamp.h"
+
+namespace zev {
+namespace {
+
+constexpr std::string_view trapHead = "Error in mPrint: ";
+constexpr int monochromeDepth = 8;
+
+/// What the player sees and gets back.
+struct View {
+    float fitScale = 0;
+    std::int16_t zoomLevel = 0;
+    bool fitsWidth = false;
+    bool fitsHeight = false;
+    bool menusEnabled = true;
+};
+
+View viewOf(const Zevlin& form) {
+    return {.fitScale = form.ZoomTable[0],
+            .zoomLevel = form.ZoomLevel,
+            .fitsWidth = form.MFitScreenWidth.Checked,
+            .fitsHeight = form.MFitScreenHeight.Checked,
+            .menusEnabled = form.MenusEnabled};
+}
+
+bool refusesNarrowPage(Zevlin& form) {
+    if (form.Myprinter.PageWidthInches >= narrowPageInches || form.PrintAlertShown) return false;
+    form.PrintAlertShown = true;
+    return toolkit::show({.text = "Printer's page width is less than 8 inches.\r\n"
+                                  "For best results, please use 'Printer Setup...' to change "
+                                  "paper and/or tray.\r\n"
+                                  "Do you want to print this card anyway?",
+                          .buttons = toolkit::Buttons::YesNo,
+                          .icon = toolkit::Icon::Information,
+                          .title = "Zevlin Print Alert",
+                          .preset = toolkit::Answer::No}) == toolkit::Answer::No;
+}
+
+void commitEdits(Zevlin& form) {
+    if (form.CText.Visible) CText_LostFocus(form);
+    if (form.LText.Visible) LText_LostFocus(form);
+    IniWrite(form);
+}
+
+void beginJob(Zevlin& form) {
+    form.Printing = true;
+    form.MenusEnabled = false;
+    form.MousePointer = toolkit::MousePointer::Hourglass;
+    PositionSave(form);
+    form.P1.Visible = true;
+    form.SetFocus(form.P1);
+    TestBlankPage(form, "mPrint_Click before flatten for P1", form.P1);
+}
+
+/// The player goes on seeing the card as it is now.
+void freezeScreen(Zevlin& form) {
+    toolkit::doEvents();
+    form.P1.Picture = std::make_shared<const toolkit::Bitmap>(toolkit::flattenedCard(form.P1));
+    form.P2.Visible = false;
+    form.P2.Move(form.P1.Left, form.P1.Top, form.P1.Width, form.P1.Height);
+    form.P2.Picture = form.P1.Picture;
+    TestBlankPage(form, "mPrint_Click after flatten for P1", form.P1);
+    TestBlankPage(form, "mPrint_Click after flatten for P2", form.P2);
+    form.P2.Visible = true;
+}
+
+void rebuildAtWorkingScale(Zevlin& form) {
+    form.ZoomLevel = form.mPrintAlt.Checked ? form.DesignZoomLevel
+                                            : static_cast<std::int16_t>(form.ZoomTable.size() - 1);
+    const float scale = form.ZoomTable.at(static_cast<std::size_t>(form.ZoomLevel));
+    form.ZoomTable[0] = scale;
+    form.MFitScreenWidth.Checked = false;
+    form.MFitScreenHeight.Checked = false;
+    IniWrite(form);
+    CheckPointShapes(form);
+    SetImageSize(form, form.P1, form.PBase, scale, Rescale::Always);
+    TestBlankPage(form, "mPrint_Click after SetImageSize for P1", form.P1);
+    RebuildScreenImage(form);
+    TestBlankPage(form, "mPrint_Click after RebuildScreenImage for P1", form.P1);
+    form.P1.Visible = false;
+    form.P1.Move(form.P2.Left, form.P2.Top);
+}
+
+bool makesBlack(const Zevlin& form) {
+    const bool isWanted = form.MMono.Checked || form.Myprinter.BitsPerPixel == monochromeDepth;
+    if (!isWanted || form.MColor.Checked) return false;
+    return form.MMono.Checked || !isExporting(form);
+}
+
+void blacken(Zevlin& form) {
+    MakeGray(form, form.P1);
+    form.Timestamp.ForeColor = toolkit::black;
+    for (auto* labels : {&form.AMark, &form.AText, &form.SText})
+        for (int i = 1; i <= labels->UBound(); ++i) (*labels)[i].ForeColor = toolkit::black;
+    TestBlankPage(form, "mPrint_Click after MakeGray for P1", form.P1);
+}
+
+void deliver(Zevlin& form) {
+    const float height = printedHeight(pageFactsOf(form), form.P1.Height / form.P1.Width);
+    PrintPictureBox(form, form.P1, {.x = 0, .y = 0, .height = height});
+    TestBlankPage(form, "mPrint_Click after PrintPictureBox for P1", form.P1);
+}
+
+void runJob(Zevlin& form) {
+    commitEdits(form);
+    beginJob(form);
+    freezeScreen(form);
+    rebuildAtWorkingScale(form);
+    if (makesBlack(form)) blacken(form);
+    MakeTimeStamp(form);
+    deliver(form);
+}
+
+void putViewBack(Zevlin& form, const View& view) {
+    form.ZoomTable[0] = view.fitScale;
+    form.ZoomLevel = view.zoomLevel;
+    form.MFitScreenWidth.Checked = view.fitsWidth;
+    form.MFitScreenHeight.Checked = view.fitsHeight;
+}
+
+/// A fit that came out otherwise has given the card and its fields another size.
+void putCardBack(Zevlin& form) { form.P1.Move(form.P2.Left, form.P2.Top); }
+
+/// Whatever happened, the card comes back: no step hinders the next.
+void restore(Zevlin& form, const View& view) {
+    const auto step = [&form](auto body) { trapped(form, trapHead, body); };
+    const bool wasFrozen = form.P2.Visible;
+    step([&] { RestoreBackgroundPicture(form, Rescale::Always); });
+    step([&] {
+        putViewBack(form, view);
+        IniWrite(form);
+        if (wasFrozen) RebuildScreenImage(form);
+    });
+    step([&] {
+        if (wasFrozen) putCardBack(form);
+        RestoreShapes(form);
+    });
+    form.P1.Visible = true;
+    form.P2.Visible = false;
+    form.P2.Picture.reset();
+    form.MousePointer = toolkit::MousePointer::Default;
+    form.MenusEnabled = view.menusEnabled;
+    form.CardInMemory.reset();
+    form.Printing = false;
+}
+
+} // namespace
+
+bool isExporting(const Zevlin& form) {
+    return form.mPrintToDisk.Checked || form.mPrintToDiskGIF.Checked ||
+           form.mPrintToDiskPNG.Checked || form.mPrintToDiskJPG.Checked ||
+           form.mPrintToClipboard.Checked;
+}
+
+void MPrint_Click(Zevlin& form) {
+    if (form.Printing) return;
+    Traceit(form, "MPrint_Click");
+    takePendingPrinter(form);
+    if (refusesNarrowPage(form)) return;
+    const View view = viewOf(form);
+    trapped(form, trapHead, [&] { runJob(form); });
+    restore(form, view);
+}
+
+void Flatten(Zevlin& /*form*/) {}
+
+void Flatten2(Zevlin& /*form*/) {}
+
+} // namespace zev

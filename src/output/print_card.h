@@ -1,0 +1,20 @@
+// The one pipeline of all output: print, export, copy.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+
+/// Makes the card anew at full size behind a frozen screen, hands it to the printer, the image file
+/// or the clipboard (the output items' checks tell which), and puts everything back, also after a
+/// failure. While it runs, every output command returns at once.
+void MPrint_Click(Zevlin& form);
+
+/// Whether an export or a copy runs the pipeline.
+[[nodiscard]] bool isExporting(const Zevlin& form);
+
+/// Kept for the list of operations; flattening is done in place by the pipeline.
+void Flatten(Zevlin& form);
+void Flatten2(Zevlin& form);
+
+} // namespace zev

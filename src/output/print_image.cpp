@@ -1,0 +1,38 @@
+#include "output/print_image.h"
+
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+std::string figuresOf(const DevicePlace& place) {
+    std::string text = toolkit::numberText(place.x);
+    for (const float figure : {place.y, place.width, place.height})
+        text += ", " + toolkit::numberText(figure);
+    return text;
+}
+
+std::string_view resultText(bool success) { return success ? "1" : "0"; }
+
+} // namespace
+
+void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::Bitmap>& picture,
+                const DevicePlace& place) {
+    const std::string figures = figuresOf(place);
+    Traceit(form, figures + " PrintImage ");
+    trapped(form, "Error in PrintImage: " + figures + " -- ", [&] {
+        const bool isDrawn =
+            form.PrinterDC.stretch(picture, {.left = toolkit::roundToInteger(place.x),
+                                             .top = toolkit::roundToInteger(place.y),
+                                             .width = toolkit::roundToInteger(place.width),
+                                             .height = toolkit::roundToInteger(place.height)});
+        Traceit(form, "  PrintImage results: Set=1, Stretch=" + std::string(resultText(isDrawn)) +
+                          ", SelObj=1");
+    });
+}
+
+} // namespace zev

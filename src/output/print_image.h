@@ -1,0 +1,24 @@
+// One picture on the open document.
+#pragma once
+
+#include <memory>
+
+#include "toolkit/bitmap.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// Printer pixels from the corner of the page's printable part.
+struct DevicePlace {
+    float x = 0;
+    float y = 0;
+    float width = 0;
+    float height = 0;
+};
+
+/// Stretches the picture into the document, smoothly; each figure is rounded to whole pixels.
+void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::Bitmap>& picture,
+                const DevicePlace& place);
+
+} // namespace zev

@@ -1,0 +1,38 @@
+#include "output/print_options.h"
+
+#include "app/options.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+
+namespace zev {
+namespace {
+
+void toggle(Zevlin& form, toolkit::MenuItem& chosen, toolkit::MenuItem& other) {
+    chosen.Checked = !chosen.Checked;
+    if (chosen.Checked) other.Checked = false;
+    if (!form.Initializing) IniWrite(form);
+}
+
+} // namespace
+
+void mPrintAlt_Click(Zevlin& form) {
+    if (form.Initializing) return;
+    Traceit(form, "mPrintAlt_Click");
+    trapped(form, "Error in mPrintAlt_Click: #", [&] {
+        form.mPrintAlt.Checked = !form.mPrintAlt.Checked;
+        IniWrite(form);
+        form.PrintMethod = form.mPrintAlt.Checked ? alternatePrintMethod : primaryPrintMethod;
+    });
+}
+
+void MColor_Click(Zevlin& form) {
+    Traceit(form, "MColor_Click");
+    trapped(form, "Error in MColor_Click: #", [&] { toggle(form, form.MColor, form.MMono); });
+}
+
+void MMono_Click(Zevlin& form) {
+    Traceit(form, "MMono_Click");
+    trapped(form, "Error in MMono_Click: #", [&] { toggle(form, form.MMono, form.MColor); });
+}
+
+} // namespace zev

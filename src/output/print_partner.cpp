@@ -1,0 +1,63 @@
+#include "output/print_partner.h"
+
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "output/partner_line.h"
+#include "output/print_card.h"
+#include "text/edit_field.h"
+#include "text/fit_text.h"
+#include "text/set_sym.h"
+
+namespace zev {
+namespace {
+
+/// From the raw text: fitted, with its symbols.
+void setNamesLine(Zevlin& form, const std::string& text) {
+    form.AText[form.NamesField].Caption = text;
+    FitText(form, form.CText, form.NamesField);
+    SetSym(form, form.NamesField);
+}
+
+std::string lineForPartner(const Zevlin& form, const std::string& caption) {
+    return partnerCaption({.partnerName = form.PartnerName,
+                           .partnerNumber = form.PartnerNumber,
+                           .myName = form.MyName,
+                           .cardName = form.CardName,
+                           .caption = caption});
+}
+
+void printPartner(Zevlin& form) {
+    // An edit of the names line is part of the card and would cover what is printed.
+    commitOpenField(form);
+    if (form.NamesField == 0) return MPrint_Click(form);
+    const toolkit::Label kept = form.AText[form.NamesField];
+    toolkit::Label& line = form.AText[form.NamesField];
+    line.Caption = lineForPartner(form, kept.Caption);
+    // A rebuild carries the tag, which holds the escapes, not the caption.
+    line.Tag = line.Caption == kept.Caption ? kept.Tag : line.Caption;
+    trapped(form, "Error in MPrintPartner_Click: #", [&] { MPrint_Click(form); });
+    setNamesLine(form, kept.Tag);
+    form.AText[form.NamesField].Caption = kept.Caption;
+    form.AText[form.NamesField].Tag = kept.Tag;
+}
+
+} // namespace
+
+void MPrintPartner_Click(Zevlin& form) {
+    if (form.Printing) return;
+    Traceit(form, "MPrintPartner_Click");
+    trapped(form, "Error in MPrintPartner_Click: #", [&] { printPartner(form); });
+}
+
+void MPrintBoth_Click(Zevlin& form) {
+    if (form.Printing) return;
+    Traceit(form, "MPrintBoth_Click");
+    trapped(form, "Error in MPrintBoth_Click: #", [&] {
+        MPrint_Click(form);
+        MPrintPartner_Click(form);
+    });
+}
+
+} // namespace zev

@@ -1,0 +1,191 @@
+#include "output/print_picture.h"
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "output/blank_page.h"
+#include "output/print_card.h"
+#include "output/print_image.h"
+#include "output/printed_size.h"
+#include "output/printer_facts.h"
+#include "output/save_image.h"
+#include "toolkit/ansi.h"
+#include "toolkit/clipboard.h"
+#include "toolkit/dialog.h"
+#include "toolkit/number_text.h"
+#include "toolkit/window.h"
+#include "view/image_size.h"
+
+namespace zev {
+namespace {
+
+constexpr float resting = 500; ///< twips, size of the export's box while nothing is exported
+
+void tellFailure(Zevlin& form, int step) {
+    const auto failure = toolkit::currentFailure();
+    traceFailure(form, "Error in PrintPictureBox at step " + toolkit::numberText(step) + ": ",
+                 failure);
+    if (failure.description().empty()) return;
+    toolkit::tell(failure.description() + " Printer Error #" +
+                      toolkit::numberText(failure.number()),
+                  toolkit::Icon::Exclamation);
+}
+
+/// One run; its steps are numbered for the trace of a failure.
+class PictureDelivery {
+  public:
+    PictureDelivery(Zevlin& form, toolkit::PictureBox& picture, const PagePlace& place)
+        : form_(form), picture_(picture), place_(place) {}
+
+    void run() {
+        const bool wasVisible = picture_.Visible;
+        flatten();
+        bool isRefused = false;
+        if (isExporting(form_))
+            runStep(1000, [this] { exportPicture(); });
+        else
+            isRefused = !printPicture();
+        if (isRefused) return;
+        runStep(2700, [this] { wipe(); });
+        picture_.Visible = wasVisible;
+    }
+
+  private:
+    /// A failure is told, and the run goes on behind the step.
+    template <typename Body>
+    void runStep(int step, Body body) {
+        try {
+            body();
+        } catch (const std::exception&) {
+            tellFailure(form_, step);
+        }
+    }
+
+    void flatten() {
+        picture_.Visible = true;
+        form_.SetFocus(picture_);
+        TestBlankPage(form_, "PrintPictureBox before first SendMessage", picture_);
+        TestBlankPage(form_, "PrintPictureBox before second SendMessage", picture_);
+        runStep(600, [this] {
+            picture_.Picture =
+                std::make_shared<const toolkit::Bitmap>(toolkit::flattenedCard(picture_));
+            picture_.Sharp = {};
+        });
+        TestBlankPage(form_, "PrintPictureBox after second SendMessage", picture_);
+        TestBlankPage(form_, "PrintPictureBox after picture=image", picture_);
+    }
+
+    /// False if the document was refused.
+    bool printPicture() {
+        return form_.PrintMethod == alternatePrintMethod ? printAlternate() : printPrimary();
+    }
+
+    [[nodiscard]] toolkit::DocumentInfo documentInfo() const {
+        const std::string name = form_.CardName.empty() ? "Card" : form_.CardName;
+        return {.title = name,
+                .filePreset = form_.DataFolder / toolkit::pathFromText(name + ".pdf")};
+    }
+
+    bool printPrimary() {
+        auto start = toolkit::DocumentStart::Dropped;
+        runStep(1200, [&] { start = form_.PrinterDC.start(form_.CurrentPrinter, documentInfo()); });
+        if (start == toolkit::DocumentStart::Refused) {
+            toolkit::tell("Printer error 'PPB1', could not print the card. Please use 'Printer "
+                          "Setup' to re-select your printer, then try again.",
+                          toolkit::Icon::Exclamation);
+            return false;
+        }
+        if (start == toolkit::DocumentStart::Dropped) return true;
+        TestBlankPage(form_, "PrintPictureBox before PrintImage", picture_);
+        runStep(1700, [this] { stretchToDevice(); });
+        TestBlankPage(form_, "PrintPictureBox after PrintImage", picture_);
+        runStep(1900, [this] { form_.PrinterDC.finish(); });
+        return true;
+    }
+
+    void stretchToDevice() {
+        const DeviceSize size = deviceSize(pageFactsOf(form_), picture_.Height / picture_.Width);
+        PrintImage(form_, picture_.Picture,
+                   {.x = place_.x, .y = place_.y, .width = size.width, .height = size.height});
+    }
+
+    bool printAlternate() {
+        runStep(2300, [this] { openThroughPrinter(); });
+        if (!form_.PrinterDC.isOpen()) return true;
+        TestBlankPage(form_, "PrintPictureBox before Printer.PaintPicture", picture_);
+        runStep(2400, [this] { paintThroughPrinter(); });
+        runStep(2500, [this] {
+            form_.PrinterDC.finish();
+            if (form_.Myprinter.PaperBin > 0)
+                form_.CurrentPrinter.PaperBin = form_.Myprinter.PaperBin;
+        });
+        return true;
+    }
+
+    void openThroughPrinter() {
+        if (form_.PrinterDC.start(form_.CurrentPrinter, documentInfo()) ==
+            toolkit::DocumentStart::Refused)
+            throw toolkit::RunTimeError(toolkit::Failure::PrinterError);
+    }
+
+    /// Places in twips, as the printer object takes them.
+    void paintThroughPrinter() {
+        const toolkit::Printer& printer = form_.CurrentPrinter;
+        const auto across = [&](float twips) {
+            return toolkit::roundToInteger(twips / printer.TwipsPerPixelX);
+        };
+        const auto down = [&](float twips) {
+            return toolkit::roundToInteger(twips / printer.TwipsPerPixelY);
+        };
+        form_.PrinterDC.stretch(picture_.Picture, {.left = across(place_.x),
+                                                   .top = down(place_.y),
+                                                   .width = across(printer.ScaleWidth),
+                                                   .height = down(place_.height)});
+    }
+
+    void exportPicture() {
+        forget(form_.PDisk);
+        constexpr float half = 0.5F;
+        const float view = form_.ZoomTable.at(static_cast<std::size_t>(form_.ZoomLevel));
+        SetImageSize(form_, form_.PDisk, CardPicture(picture_.Picture), view == 1 ? half : 1,
+                     Rescale::Always);
+        if (form_.PDisk.Picture == nullptr)
+            throw toolkit::RunTimeError(toolkit::Failure::InvalidPicture);
+        if (form_.mPrintToClipboard.Checked)
+            toolkit::setClipboardPicture(*form_.PDisk.Picture);
+        else
+            SaveImageToDisk(form_, form_.PDisk);
+        forget(form_.PDisk);
+        form_.PDisk.Move(form_.PDisk.Left, form_.PDisk.Top, resting, resting);
+    }
+
+    /// The picture and what it was drawn from.
+    static void forget(toolkit::PictureBox& box) {
+        box.Picture.reset();
+        box.Sharp = {};
+    }
+
+    void wipe() {
+        const int width = picture_.Picture ? picture_.Picture->width() : 0;
+        const int height = picture_.Picture ? picture_.Picture->height() : 0;
+        forget(picture_);
+        picture_.Picture =
+            std::make_shared<const toolkit::Bitmap>(width, height, picture_.BackColor);
+    }
+
+    Zevlin& form_;
+    toolkit::PictureBox& picture_;
+    PagePlace place_;
+};
+
+} // namespace
+
+void PrintPictureBox(Zevlin& form, toolkit::PictureBox& picture, const PagePlace& place) {
+    Traceit(form, "PrintPictureBox");
+    PictureDelivery(form, picture, place).run();
+}
+
+} // namespace zev

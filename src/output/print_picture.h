@@ -1,0 +1,23 @@
+// A picture box on its way to the page, the image file or the clipboard.
+#pragma once
+
+namespace toolkit {
+struct PictureBox;
+}
+
+namespace zev {
+
+struct Zevlin;
+
+/// Place on the page: for the primary method printer pixels, for the other twips.
+struct PagePlace {
+    float x = 0;
+    float y = 0;
+    float height = 0; ///< for the alternate method
+};
+
+/// Flattens the box with its labels and delivers it. Each step has a trap of its own: a failure is
+/// traced and told, and the next step runs.
+void PrintPictureBox(Zevlin& form, toolkit::PictureBox& picture, const PagePlace& place);
+
+} // namespace zev

@@ -1,0 +1,72 @@
+#include "output/printer_setup.h"
+
+#include "app/options.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "output/printer_facts.h"
+#include "output/printer_form.h"
+#include "toolkit/number_text.h"
+#include "toolkit/print_dialog.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+void takeFacts(Zevlin& form) {
+    form.Myprinter.hdc = form.CurrentPrinter.hdc;
+    readPrinterFacts(form);
+    form.Myprinter.Devicename = "User selected";
+    if (!form.Initializing) IniWrite(form);
+    form.PrinterSetUp = true;
+}
+
+void showWaitText(Zevlin& form) {
+    toolkit::TextBox& text = form.PleaseWait;
+    text.Text = "Finding Printers...";
+    text.Width = toolkit::textWidth(text.Font, text.Text) * 2;
+    text.Height = toolkit::textHeight(text.Font) * 2;
+    text.Move((form.ScaleWidth() - text.Width) / 2, (form.ScaleHeight() - text.Height) / 2);
+    text.Visible = true;
+    toolkit::doEvents();
+}
+
+void hideWaitText(Zevlin& form) {
+    form.PleaseWait.Visible = false;
+    toolkit::doEvents();
+}
+
+void setUpPrimary(Zevlin& form) {
+    form.MousePointer = toolkit::MousePointer::Hourglass;
+    showWaitText(form);
+    takePendingPrinter(form);
+    form.MousePointer = toolkit::MousePointer::Default;
+    const auto chosen = toolkit::setUpOnScreen(form.CurrentPrinter);
+    hideWaitText(form);
+    if (!chosen) return;
+    form.CurrentPrinter = *chosen;
+    takeFacts(form);
+}
+
+void setUpAlternate(Zevlin& form) {
+    takePendingPrinter(form);
+    showPrinterForm(form);
+    form.Myprinter.PaperBin = form.CurrentPrinter.PaperBin;
+    takeFacts(form);
+}
+
+} // namespace
+
+void MPrintSetup_Click(Zevlin& form) {
+    if (form.Printing) return;
+    Traceit(form, "MPrintSetup_Click, Method=" + toolkit::numberText(form.PrintMethod));
+    trapped(form, "Error in MPrintSetup_Click: #", [&] {
+        if (form.PrintMethod == alternatePrintMethod)
+            setUpAlternate(form);
+        else
+            setUpPrimary(form);
+    });
+    form.MousePointer = toolkit::MousePointer::Default;
+    form.PleaseWait.Visible = false;
+}
+
+} // namespace zev

@@ -1,0 +1,62 @@
+#include "output/save_image.h"
+
+#include <filesystem>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "output/gdi_plus.h"
+#include "output/image_name.h"
+#include "toolkit/ansi.h"
+#include "toolkit/dialog.h"
+#include "toolkit/image_codecs.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+constexpr int jpegQuality = 80;
+constexpr std::string_view bmpExtension = ".bmp";
+
+std::string_view chosenExtension(const Zevlin& form) {
+    if (form.mPrintToDiskGIF.Checked) return ".gif";
+    if (form.mPrintToDiskPNG.Checked) return ".png";
+    if (form.mPrintToDiskJPG.Checked) return ".jpg";
+    return bmpExtension;
+}
+
+std::string askForName(const Zevlin& form, std::string_view extension) {
+    return toolkit::ask({.prompt = "Enter name to use for image file",
+                         .title = "Print card image to disk",
+                         .preset = offeredImageName(form.CardName, extension)});
+}
+
+void saveCompressed(Zevlin& form, const toolkit::Bitmap& picture,
+                    const std::filesystem::path& file) {
+    const cGdiPlus codecs([&form](std::string_view text, int status) {
+        Traceit(form, "cGdiPlus: " + toolkit::numberText(status) + ", " + std::string(text));
+    });
+    if (codecs.PictureBoxToFile(picture, file, jpegQuality)) return;
+    toolkit::tell("Could not save card image. Your computer may be missing the required "
+                  "Microsoft component GDIPLUS.DLL",
+                  toolkit::Icon::Exclamation);
+}
+
+void saveImage(Zevlin& form, const toolkit::PictureBox& picture) {
+    const std::string_view extension = chosenExtension(form);
+    const std::string answer = askForName(form, extension);
+    const auto name = imageFileName(answer, extension);
+    if (answer.empty() || !name) return;
+    const std::filesystem::path file = form.DataFolder / toolkit::pathFromText(*name);
+    if (extension == bmpExtension) return toolkit::savePicture(*picture.Picture, file);
+    saveCompressed(form, *picture.Picture, file);
+}
+
+} // namespace
+
+void SaveImageToDisk(Zevlin& form, const toolkit::PictureBox& picture) {
+    Traceit(form, "SaveImageToDisk");
+    trapped(form, "Error in SaveImageToDisk: #", [&] { saveImage(form, picture); });
+}
+
+} // namespace zev

@@ -1,0 +1,21 @@
+// The colours of a picture as a palette of at most 256.
+#pragma once
+
+#include <optional>
+
+#include "toolkit/bitmap.h"
+#include "toolkit/indexed_picture.h"
+
+namespace toolkit {
+
+/// The picture with exactly its own colours; none where they are more than 256.
+[[nodiscard]] std::optional<IndexedPicture> exactlyIndexed(const Bitmap& picture);
+
+/// The picture in at most 256 of its own colours: the frequent ones stay exactly as they are, the
+/// others take one that is near.
+[[nodiscard]] IndexedPicture nearlyIndexed(const Bitmap& picture);
+
+/// How far a channel of a pixel is at most from the picture's.
+[[nodiscard]] int largestShift(const Bitmap& picture, const IndexedPicture& indexed);
+
+} // namespace toolkit

@@ -1,0 +1,88 @@
+// A page on its way to the print service.
+#include <algorithm>
+
+#include "toolkit/ansi.h"
+#include "toolkit/cups_library.h"
+#include "toolkit/error.h"
+#include "toolkit/system_printers.h"
+
+namespace toolkit {
+namespace {
+
+[[noreturn]] void failPrinting() {
+    const CupsLibrary* cups = cupsLibrary();
+    const char* reason = cups == nullptr ? nullptr : cups->lastErrorString();
+    const std::string text(describe(Failure::PrinterError));
+    if (reason == nullptr || *reason == '\0') throw RunTimeError(Failure::PrinterError, text);
+    throw RunTimeError(Failure::PrinterError, text + " (" + ansiFromUtf8(reason) + ")");
+}
+
+/// What the job asks of the printer: what the player has chosen, nothing else.
+class Options {
+  public:
+    explicit Options(const CupsLibrary& cups) : cups_(cups) {}
+    ~Options() { cups_.freeOptions(count, list); }
+    Options(const Options&) = delete;
+    Options& operator=(const Options&) = delete;
+
+    void add(const char* name, const std::string& value) {
+        count = cups_.addOption(name, value.c_str(), count, &list);
+    }
+
+    int count = 0;
+    cups_option_t* list = nullptr;
+
+  private:
+    const CupsLibrary& cups_;
+};
+
+template <typename Item>
+const Item* itemWithCode(const std::vector<Item>& items, int code) {
+    const auto found = std::ranges::find(items, code, &Item::code);
+    return found == items.end() ? nullptr : &*found;
+}
+
+/// The page comes at its own size and direction, so the service must neither scale nor turn it.
+void addChoices(Options& options, const Printer& printer) {
+    options.add("print-scaling", "none");
+    if (const Paper* paper = itemWithCode(printer.Papers, printer.PaperSize))
+        options.add(CUPS_MEDIA, paper->keyword);
+    if (const PaperTray* tray = itemWithCode(printer.Trays, printer.PaperBin))
+        options.add(CUPS_MEDIA_SOURCE, tray->keyword);
+    if (printer.Copies > 1) options.add(CUPS_COPIES, std::to_string(printer.Copies));
+}
+
+} // namespace
+
+SystemPrintJob::SystemPrintJob(const Printer& printer, std::string_view title)
+    : printer_(utf8FromAnsi(printer.DeviceName)) {
+    const CupsLibrary* cups = cupsLibrary();
+    if (cups == nullptr) failPrinting();
+    Options options(*cups);
+    addChoices(options, printer);
+    const std::string name = utf8FromAnsi(title);
+    job_ = cups->createJob(CUPS_HTTP_DEFAULT, printer_.c_str(), name.c_str(), options.count,
+                           options.list);
+    if (job_ == 0) failPrinting();
+}
+
+SystemPrintJob::~SystemPrintJob() {
+    if (job_ != 0) cupsLibrary()->cancelJob(printer_.c_str(), job_);
+}
+
+void SystemPrintJob::send(std::string_view pdf) {
+    const CupsLibrary& cups = *cupsLibrary();
+    if (cups.startDocument(CUPS_HTTP_DEFAULT, printer_.c_str(), job_, "card.pdf", "application/pdf",
+                           1) != HTTP_STATUS_CONTINUE ||
+        cups.writeRequestData(CUPS_HTTP_DEFAULT, pdf.data(), pdf.size()) != HTTP_STATUS_CONTINUE)
+        failPrinting();
+}
+
+void SystemPrintJob::close() {
+    if (cupsLibrary()->finishDocument(CUPS_HTTP_DEFAULT, printer_.c_str()) >
+        IPP_STATUS_OK_EVENTS_COMPLETE)
+        failPrinting();
+    job_ = 0;
+}
+
+} // namespace toolkit

@@ -1,0 +1,40 @@
+// The print service's client library, loaded when it is first needed: a machine without it just has
+// no printers, and a start of the program doesn't wait for it. Internal to the toolkit's sources.
+#pragma once
+
+#include <cups/cups.h>
+
+namespace toolkit {
+
+/// The functions that the program uses, by their own names.
+struct CupsLibrary {
+    decltype(&::cupsGetDests) getDests = nullptr;
+    decltype(&::cupsGetNamedDest) getNamedDest = nullptr;
+    decltype(&::cupsFreeDests) freeDests = nullptr;
+    decltype(&::cupsCopyDestInfo) copyDestInfo = nullptr;
+    decltype(&::cupsFreeDestInfo) freeDestInfo = nullptr;
+    decltype(&::cupsGetDestMediaCount) getDestMediaCount = nullptr;
+    decltype(&::cupsGetDestMediaByIndex) getDestMediaByIndex = nullptr;
+    decltype(&::cupsGetDestMediaDefault) getDestMediaDefault = nullptr;
+    decltype(&::cupsLocalizeDestMedia) localizeDestMedia = nullptr;
+    decltype(&::cupsFindDestSupported) findDestSupported = nullptr;
+    decltype(&::cupsFindDestDefault) findDestDefault = nullptr;
+    decltype(&::cupsLocalizeDestValue) localizeDestValue = nullptr;
+    decltype(&::cupsGetOption) getOption = nullptr;
+    decltype(&::cupsAddOption) addOption = nullptr;
+    decltype(&::cupsFreeOptions) freeOptions = nullptr;
+    decltype(&::cupsCreateJob) createJob = nullptr;
+    decltype(&::cupsStartDocument) startDocument = nullptr;
+    decltype(&::cupsWriteRequestData) writeRequestData = nullptr;
+    decltype(&::cupsFinishDocument) finishDocument = nullptr;
+    decltype(&::cupsCancelJob) cancelJob = nullptr;
+    decltype(&::cupsLastErrorString) lastErrorString = nullptr;
+    decltype(&::ippGetCount) getCount = nullptr;
+    decltype(&::ippGetString) getString = nullptr;
+    decltype(&::ippGetResolution) getResolution = nullptr;
+};
+
+/// nullptr where the library isn't installed.
+[[nodiscard]] const CupsLibrary* cupsLibrary();
+
+} // namespace toolkit

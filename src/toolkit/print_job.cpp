@@ -1,0 +1,109 @@
+#include "toolkit/print_job.h"
+
+#include <optional>
+#include <utility>
+
+#include "toolkit/dialog.h"
+#include "toolkit/error.h"
+#include "toolkit/file_handle.h"
+#include "toolkit/pdf_page.h"
+#include "toolkit/system_printers.h"
+
+namespace toolkit {
+namespace {
+
+constexpr double pointsPerInch = 72;
+
+std::filesystem::path askForTarget(const DocumentInfo& info) {
+    return askForFile(
+        {.title = std::string(printToPdfName), .preset = info.filePreset, .pattern = "*.pdf"});
+}
+
+} // namespace
+
+struct PrintJob::Document {
+    Printer printer;
+    std::string title;
+    std::filesystem::path target;          ///< of "Print to PDF"
+    std::optional<FileHandle> file;        ///< likewise
+    std::optional<SystemPrintJob> service; ///< of the system's printers
+    std::shared_ptr<const Bitmap> picture{};
+    Place place{};
+    bool isDone = false;
+
+    Document() = default;
+    Document(const Document&) = delete;
+    Document& operator=(const Document&) = delete;
+    ~Document() {
+        std::error_code ignored;
+        // Half a file would look like a page; what is no file stays, as a device.
+        if (file && !isDone && std::filesystem::is_regular_file(target, ignored))
+            std::filesystem::remove(target, ignored);
+    }
+    [[nodiscard]] std::string content() const;
+};
+
+std::string PrintJob::Document::content() const {
+    const double x = pointsPerInch / printer.PixelsPerInchX;
+    const double y = pointsPerInch / printer.PixelsPerInchY;
+    const PdfPage page{.width = printer.PhysicalWidth * x,
+                       .height = printer.PhysicalHeight * y,
+                       .pictureLeft = (printer.PhysicalOffsetX + place.left) * x,
+                       .pictureTop = (printer.PhysicalOffsetY + place.top) * y,
+                       .pictureWidth = place.width * x,
+                       .pictureHeight = place.height * y,
+                       .title = title};
+    return pdfFile(page, picture ? *picture : Bitmap(1, 1));
+}
+
+PrintJob::PrintJob() = default;
+PrintJob::~PrintJob() = default;
+PrintJob::PrintJob(PrintJob&&) noexcept = default;
+PrintJob& PrintJob::operator=(PrintJob&&) noexcept = default;
+
+DocumentStart PrintJob::start(const Printer& printer, const DocumentInfo& info) {
+    abandon();
+    if (printer.hdc == 0 || printer.PixelsPerInchX <= 0 || printer.PixelsPerInchY <= 0)
+        return DocumentStart::Refused;
+    auto document = std::make_unique<Document>();
+    document->printer = printer;
+    document->title = info.title;
+    try {
+        if (printer.DeviceName == printToPdfName) {
+            document->target = askForTarget(info);
+            if (document->target.empty()) return DocumentStart::Dropped;
+            document->file.emplace(document->target, FileMode::Replace);
+        } else {
+            document->service.emplace(printer, info.title);
+        }
+    } catch (const RunTimeError&) {
+        return DocumentStart::Refused;
+    }
+    document_ = std::move(document);
+    return DocumentStart::Open;
+}
+
+bool PrintJob::stretch(std::shared_ptr<const Bitmap> picture, const Place& place) {
+    if (!document_ || !picture || picture->empty()) return false;
+    document_->picture = std::move(picture);
+    document_->place = place;
+    return true;
+}
+
+void PrintJob::finish() {
+    if (!document_) return;
+    const auto document = std::exchange(document_, nullptr);
+    const std::string content = document->content();
+    if (document->file) {
+        document->file->write(content);
+        document->file->close();
+    } else {
+        document->service->send(content);
+        document->service->close();
+    }
+    document->isDone = true;
+}
+
+void PrintJob::abandon() { document_.reset(); }
+
+} // namespace toolkit

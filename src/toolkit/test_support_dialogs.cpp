@@ -1,0 +1,113 @@
+// Working the dialogs of the platform and the program's own small forms.
+#include <algorithm>
+
+#include <QtCore/QTimer>
+#include <QtGui/QClipboard>
+#include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QDialog>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QRadioButton>
+
+#include "toolkit/qt_input.h"
+#include "toolkit/qt_picture.h"
+#include "toolkit/qt_text.h"
+#include "toolkit/test_support.h"
+
+namespace toolkit::test {
+namespace {
+
+QDialog* openDialog() {
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    return qobject_cast<QMessageBox*>(dialog) == nullptr ? dialog : nullptr;
+}
+
+/// A dialog runs an event loop of its own, so what works it must wait in the queue from before.
+void onceOpen(std::function<void(QDialog&)> act) {
+    QTimer::singleShot(0, qApp, [act = std::move(act)] {
+        if (QDialog* dialog = openDialog())
+            act(*dialog);
+        else
+            onceOpen(act);
+    });
+}
+
+std::string plain(const QString& text) { return paintedText(ansiText(text)); }
+
+QComboBox& listAt(int list) { return *openDialog()->findChildren<QComboBox*>().at(list); }
+
+template <typename Button>
+Button& buttonWith(std::string_view caption) {
+    const auto buttons = openDialog()->findChildren<Button*>();
+    return **std::ranges::find(buttons, caption,
+                               [](const Button* button) { return plain(button->text()); });
+}
+
+} // namespace
+
+void endNextDialog(ShownDialog& seen) {
+    onceOpen([&seen](QDialog& dialog) {
+        seen.title = ansiText(dialog.windowTitle());
+        for (const auto* button : dialog.findChildren<QPushButton*>())
+            seen.buttons.push_back(plain(button->text()));
+        dialog.reject();
+    });
+}
+
+void driveNextDialog(std::function<void(DialogDriver&)> act) {
+    onceOpen([act = std::move(act)](QDialog&) {
+        DialogDriver driver;
+        act(driver);
+    });
+}
+
+std::string DialogDriver::title() const { return ansiText(openDialog()->windowTitle()); }
+
+std::vector<std::string> DialogDriver::labels() const {
+    std::vector<std::string> texts;
+    for (const auto* label : openDialog()->findChildren<QLabel*>())
+        texts.push_back(plain(label->text()));
+    return texts;
+}
+
+std::vector<std::string> DialogDriver::listRows(int list) const {
+    std::vector<std::string> rows;
+    for (int row = 0; row < listAt(list).count(); ++row)
+        rows.push_back(ansiText(listAt(list).itemText(row)));
+    return rows;
+}
+
+std::string DialogDriver::chosen(int list) const { return ansiText(listAt(list).currentText()); }
+
+void DialogDriver::choose(int list, int row) { listAt(list).setCurrentIndex(row); }
+
+void DialogDriver::typeInto(int list, int keyCode, std::string_view text) {
+    const KeyStroke stroke = keyStrokeOf(keyCode, 0);
+    QKeyEvent event(QEvent::KeyPress, stroke.key, stroke.modifiers, qString(text));
+    QCoreApplication::sendEvent(&listAt(list), &event);
+}
+
+void DialogDriver::turnOn(std::string_view option) { buttonWith<QRadioButton>(option).click(); }
+
+bool DialogDriver::isOn(std::string_view option) const {
+    return buttonWith<QRadioButton>(option).isChecked();
+}
+
+bool DialogDriver::isEnabled(std::string_view option) const {
+    return buttonWith<QRadioButton>(option).isEnabled();
+}
+
+void DialogDriver::press(std::string_view button) { buttonWith<QPushButton>(button).click(); }
+
+Bitmap clipboardPicture() {
+    const QImage image = QGuiApplication::clipboard()->image();
+    Bitmap bitmap(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) bitmap.row(y)[x] = image.pixel(x, y);
+    return bitmap;
+}
+
+} // namespace toolkit::test

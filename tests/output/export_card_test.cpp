@@ -1,0 +1,152 @@
+#include "output/export_card.h"
+
+#include "output/print_test.h"
+#include "toolkit/bitmap.h"
+
+namespace zev::test {
+namespace {
+
+class ExportCard : public PrintTest {
+  protected:
+    static constexpr const char* png = "File>Export Partner Image to file as..>PNG";
+    static constexpr const char* gif = "File>Export Image to file as...>GIF";
+    static constexpr const char* bmp = "File>Export Image to file as...>BMP";
+
+    toolkit::Bitmap exported(std::string_view item, const std::string& name) {
+        answerInput(name);
+        EXPECT_TRUE(toolkit::test::chooseMenu(item));
+        EXPECT_TRUE(std::filesystem::exists(dataFile(name))) << name;
+        return toolkit::loadBitmap(dataFile(name));
+    }
+    /// The middle of a text field on the exported image is its ink somewhere.
+    [[nodiscard]] bool hasInk(const toolkit::Bitmap& image, const toolkit::Label& label,
+                              toolkit::Color color) const {
+        const auto px = [this](float twips) {
+            return static_cast<int>(twips / static_cast<float>(form.TwipsPerPixel) /
+                                    form.CardScale);
+        };
+        for (int y = px(label.Top); y < px(label.Top + label.Height); ++y)
+            for (int x = px(label.Left); x < px(label.Left + label.Width); ++x)
+                if (image.pixel(x, y) == color) return true;
+        return false;
+    }
+};
+
+TEST_F(ExportCard, TheImageIs1198PixelsWideByBothMethods) {
+    startWithContent();
+    const auto primary = exported(bmp, "primary.bmp");
+    EXPECT_EQ(primary.width(), 1198);
+    EXPECT_EQ(primary.height(), 1252);
+    form.mPrintAlt.Checked = true;
+    form.PrintMethod = alternatePrintMethod;
+    const auto alternate = exported(bmp, "alternate.bmp");
+    EXPECT_EQ(alternate.width(), 1198);
+    EXPECT_EQ(alternate.height(), 1259);
+}
+
+TEST_F(ExportCard, AllFormatsShowTheMarkAndTheText) {
+    startWithContent();
+    for (const auto& [item, name] :
+         {std::pair(bmp, "a.bmp"), std::pair(png, "a.png"), std::pair(gif, "a.gif")}) {
+        const auto image = exported(item, name);
+        EXPECT_TRUE(hasInk(image, form.AMark[1], toolkit::black)) << name;
+        EXPECT_FALSE(hasInk(image, form.AMark[2], form.ColorRed)) << name;
+    }
+}
+
+TEST_F(ExportCard, PaletteFormatsShiftNoColourVisibly) {
+    startWithContent();
+    clickMark(3);
+    const auto exact = exported(bmp, "a.bmp");
+    for (const auto& [item, name] : {std::pair(png, "a.png"), std::pair(gif, "a.gif")}) {
+        const auto image = exported(item, name);
+        ASSERT_EQ(image.width(), exact.width());
+        int largest = 0;
+        for (int y = 0; y < exact.height(); ++y)
+            for (int x = 0; x < exact.width(); ++x) {
+                const auto left = exact.pixel(x, y).value();
+                const auto right = image.pixel(x, y).value();
+                largest = std::max({largest, std::abs(toolkit::redOf(left) - toolkit::redOf(right)),
+                                    std::abs(toolkit::greenOf(left) - toolkit::greenOf(right)),
+                                    std::abs(toolkit::blueOf(left) - toolkit::blueOf(right))});
+            }
+        EXPECT_LE(largest, 8) << name;
+    }
+}
+
+TEST_F(ExportCard, ForcedBlackMakesTheImageBlackAndAPrintersDepthDoesNot) {
+    toolkit::Printer printer = pdfWithPage(8.1F);
+    printer.ColorMode = 1;
+    printer.BitsPerPixel = 8;
+    toolkit::overridePrinters({printer});
+    startWithContent();
+    clickMark(3);
+    EXPECT_TRUE(hasInk(exported(bmp, "colour.bmp"), form.AMark[3], form.ColorBlue));
+    form.MMono.Checked = true;
+    const auto black = exported(bmp, "black.bmp");
+    EXPECT_FALSE(hasInk(black, form.AMark[3], form.ColorBlue));
+    EXPECT_TRUE(hasInk(black, form.AMark[3], toolkit::black));
+}
+
+TEST_F(ExportCard, ThePartnersImageCarriesThePartnersLineAndTheScreenDoesNot) {
+    startWithContent();
+    form.PartnerName = "Pat";
+    std::string line;
+    whileAsking = [&] { line = form.AText[2].Caption; };
+    answerInput("partner.png");
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Export Image to file as...>PNG"));
+    EXPECT_EQ(line, "Pat");
+    EXPECT_EQ(form.AText[2].Caption, "");
+}
+
+TEST_F(ExportCard, ACancelledNameStillRunsTheWholePipelineAndTheScreenReturns) {
+    startWithContent();
+    const auto before = toolkit::test::grabCard();
+    form.Trace.clear();
+    answerInput("");
+    EXPECT_TRUE(toolkit::test::chooseMenu(png));
+    EXPECT_EQ(count("RebuildScreenImage"), 2);
+    const auto after = toolkit::test::grabCard();
+    ASSERT_EQ(after.width(), before.width());
+    for (int y = 0; y < before.height(); ++y)
+        for (int x = 0; x < before.width(); ++x)
+            ASSERT_EQ(before.pixel(x, y), after.pixel(x, y)) << x << ", " << y;
+    EXPECT_FALSE(form.mPrintToDiskPNG.Checked);
+    EXPECT_TRUE(form.CardModified);
+}
+
+TEST_F(ExportCard, TheHiddenJpegPathIsComplete) {
+    startWithContent();
+    answerInput("a");
+    mPrintToDiskJPG_Click(form);
+    EXPECT_EQ(toolkit::loadBitmap(dataFile("a.jpg")).width(), 1198);
+    answerInput("b");
+    mPrintToDiskPartnerJPG_Click(form);
+    EXPECT_TRUE(std::filesystem::exists(dataFile("b.jpg")));
+    EXPECT_TRUE(traced("MPrintPartner_Click"));
+}
+
+TEST_F(ExportCard, ACopyAsksNothingAndFillsTheClipboard) {
+    startWithContent();
+    const auto exact = exported(bmp, "a.bmp");
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Copy to Clipboard"));
+    EXPECT_TRUE(traced("mPrintToClipboard_Click"));
+    const auto copy = toolkit::test::clipboardPicture();
+    ASSERT_EQ(copy.width(), 1198);
+    ASSERT_EQ(copy.height(), exact.height());
+    for (int y = 0; y < exact.height(); ++y)
+        for (int x = 0; x < exact.width(); ++x) ASSERT_EQ(copy.pixel(x, y), exact.pixel(x, y));
+    EXPECT_FALSE(form.mPrintToClipboard.Checked);
+}
+
+TEST_F(ExportCard, AnExportLeavesThePrinterAlone) {
+    startWithContent();
+    exported(bmp, "a.bmp");
+    EXPECT_TRUE(fileQuestions.empty());
+    EXPECT_EQ(form.PDisk.Picture, nullptr);
+    EXPECT_EQ(form.PDisk.Width, 500);
+    EXPECT_EQ(form.PDisk.Height, 500);
+}
+
+} // namespace
+} // namespace zev::test

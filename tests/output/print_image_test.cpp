@@ -1,0 +1,25 @@
+#include "output/print_image.h"
+
+#include "output/print_test.h"
+
+namespace zev::test {
+namespace {
+
+class PrintImageOnThePage : public PrintTest {};
+
+TEST_F(PrintImageOnThePage, TracesItsFiguresAndItsResults) {
+    start();
+    print();
+    EXPECT_TRUE(traced("0, 0, 4860, 5046.611 PrintImage "));
+    EXPECT_TRUE(traced("  PrintImage results: Set=1, Stretch=1, SelObj=1"));
+}
+
+TEST_F(PrintImageOnThePage, WithoutADocumentItDrawsNothing) {
+    start();
+    PrintImage(form, std::make_shared<const toolkit::Bitmap>(2, 2), {0, 0, 10.5F, 11.5F});
+    EXPECT_TRUE(traced("0, 0, 10.5, 11.5 PrintImage "));
+    EXPECT_TRUE(traced("  PrintImage results: Set=1, Stretch=0, SelObj=1"));
+}
+
+} // namespace
+} // namespace zev::test

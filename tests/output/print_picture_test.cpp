@@ -1,0 +1,142 @@
+#include "output/print_picture.h"
+
+#include "output/print_test.h"
+
+namespace zev::test {
+namespace {
+
+class PrintPicture : public PrintTest {
+  protected:
+    static constexpr std::string_view refused =
+        "Printer error 'PPB1', could not print the card. Please use 'Printer Setup' to re-select "
+        "your printer, then try again.";
+    void expectUnharmed() const {
+        EXPECT_FALSE(form.Printing);
+        EXPECT_TRUE(form.P1.Visible);
+        EXPECT_FALSE(form.P2.Visible);
+        EXPECT_TRUE(form.AMark[1].Visible);
+        EXPECT_EQ(form.AText[1].Tag, "a ^h && more");
+        EXPECT_TRUE(form.CardModified);
+        EXPECT_EQ(form.P1.Width, 1198 * 15);
+        EXPECT_FALSE(std::filesystem::exists(dataFile("$$TempDef.Ini")));
+    }
+};
+
+TEST_F(PrintPicture, AnUnknownPageIsPrintedAtEightAndATenthInches) {
+    toolkit::Printer printer = pdfWithPage(8.1F);
+    printer.PhysicalWidth = 1000;
+    printer.PhysicalOffsetX = 0;
+    toolkit::overridePrinters({printer});
+    startWithContent();
+    ASSERT_LT(form.Myprinter.PageWidthInches, 2);
+    answer(toolkit::Answer::Yes);
+    EXPECT_FLOAT_EQ(print().width, 8.1F * points);
+}
+
+TEST_F(PrintPicture, ACardHigherThanThePageIsSqueezedInItsHeightOnly) {
+    toolkit::overridePrinters({pdfWithPage(8.5F, 6)});
+    startWithContent();
+    const PrintedPage page = print();
+    EXPECT_FLOAT_EQ(page.width, 8.1F * points);
+    EXPECT_NEAR(page.height, 6 * points, 0.01F);
+}
+
+TEST_F(PrintPicture, ADocumentThatIsRefusedIsToldOnceAndTheCardComesBack) {
+    toolkit::Printer printer = pdfWithPage(8.1F);
+    printer.DeviceName = "No such printer of the service";
+    toolkit::overridePrinters({printer});
+    startWithContent();
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, refused);
+    EXPECT_EQ(boxes[0].icon, toolkit::Icon::Exclamation);
+    expectUnharmed();
+}
+
+TEST_F(PrintPicture, WithoutAPrinterTheDocumentIsRefused) {
+    toolkit::overrideNoPrinter(true);
+    startWithContent();
+    answer(toolkit::Answer::Yes);
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(boxes[1].text, refused);
+    expectUnharmed();
+}
+
+TEST_F(PrintPicture, AFileThatCantBeOpenedIsARefusedDocumentAndTheNextPrintWorks) {
+    startWithContent();
+    answerFile(home / "no folder" / "page.pdf");
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, refused);
+    expectUnharmed();
+    EXPECT_EQ(print().pixelsAcross, 2396);
+    EXPECT_EQ(boxes.size(), 1U);
+}
+
+TEST_F(PrintPicture, AFullDiskIsToldAndTheNextPrintWorks) {
+    startWithContent();
+    announceError("Error in PrintPictureBox at step 1900: 61, Disk full");
+    answerFile("/dev/full");
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Disk full Printer Error #61");
+    EXPECT_EQ(boxes[0].icon, toolkit::Icon::Exclamation);
+    EXPECT_TRUE(std::filesystem::exists("/dev/full"));
+    expectUnharmed();
+    EXPECT_EQ(print().pixelsAcross, 2396);
+}
+
+TEST_F(PrintPicture, ACancelledQuestionForTheFileDropsTheJobSilently) {
+    startWithContent();
+    answerFile({});
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    EXPECT_TRUE(boxes.empty());
+    ASSERT_EQ(fileQuestions.size(), 1U);
+    EXPECT_EQ(fileQuestions[0].preset, dataFolder / "Card.pdf");
+    expectUnharmed();
+}
+
+TEST_F(PrintPicture, TheAlternateMethodWithoutAChosenTrayLeavesThePrintersTrayAlone) {
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\n");
+    toolkit::overridePrinters({pdfWithPage(8.1F)});
+    startWithContent();
+    form.CurrentPrinter.PaperBin = 4;
+    form.Myprinter.PaperBin = 0;
+    print();
+    EXPECT_EQ(form.CurrentPrinter.PaperBin, 4);
+}
+
+TEST_F(PrintPicture, TheAlternateMethodTellsARefusalAsAPrinterError) {
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\n");
+    startWithContent();
+    announceError("Error in PrintPictureBox at step 2300: 482, ");
+    answerFile(home / "no folder" / "page.pdf");
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Printer error Printer Error #482");
+    expectUnharmed();
+}
+
+TEST_F(PrintPicture, TracesItsStepsWhenTracingIsOn) {
+    startWithContent();
+    form.TraceOn = true;
+    print();
+    for (const char* label :
+         {"mPrint_Click before flatten for P1", "mPrint_Click after flatten for P1",
+          "mPrint_Click after flatten for P2", "mPrint_Click after SetImageSize for P1",
+          "mPrint_Click after RebuildScreenImage for P1",
+          "PrintPictureBox before first SendMessage", "PrintPictureBox before second SendMessage",
+          "PrintPictureBox after second SendMessage", "PrintPictureBox after picture=image",
+          "PrintPictureBox before PrintImage", "PrintPictureBox after PrintImage",
+          "mPrint_Click after PrintPictureBox for P1"}) {
+        EXPECT_NE(traceFile().find(std::string(label) + " TestBlankPage: page is "),
+                  std::string::npos)
+            << label;
+    }
+    EXPECT_NE(traceFile().find("after PrintPictureBox for P1 TestBlankPage: page is blank"),
+              std::string::npos);
+}
+
+} // namespace
+} // namespace zev::test

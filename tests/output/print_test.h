@@ -1,0 +1,117 @@
+// The real form with jobs: a page file for "Print to PDF", and what it holds.
+#pragma once
+
+#include <filesystem>
+#include <regex>
+#include <string>
+
+#include "app/layouts.h"
+#include "support/form_test.h"
+#include "toolkit/clock.h"
+#include "toolkit/files.h"
+#include "toolkit/printer.h"
+
+namespace zev::test {
+
+/// What a page file says of its page and its picture, in points.
+struct PrintedPage {
+    float pageWidth = 0;
+    float pageHeight = 0;
+    float width = 0;
+    float height = 0;
+    float left = 0;
+    float foot = 0; ///< from the page's foot to the picture's
+    int pictures = 0;
+    int pixelsAcross = 0;
+    int pixelsDown = 0;
+};
+
+inline PrintedPage pageIn(const std::filesystem::path& file) {
+    const std::string content = toolkit::readFile(file);
+    PrintedPage page;
+    std::smatch found;
+    const std::string number = R"(\s+([0-9.]+))";
+    if (std::regex_search(content, found,
+                          std::regex(R"(MediaBox \[0 0)" + number + number + R"(\])"))) {
+        page.pageWidth = std::stof(found[1]);
+        page.pageHeight = std::stof(found[2]);
+    }
+    if (std::regex_search(content, found,
+                          std::regex("q" + number + " 0 0" + number + number + number + " cm"))) {
+        page.width = std::stof(found[1]);
+        page.height = std::stof(found[2]);
+        page.left = std::stof(found[3]);
+        page.foot = std::stof(found[4]);
+    }
+    if (std::regex_search(content, found, std::regex("/Width" + number + " /Height" + number))) {
+        page.pixelsAcross = std::stoi(found[1]);
+        page.pixelsDown = std::stoi(found[2]);
+    }
+    for (auto at = content.find("/Subtype /Image"); at != std::string::npos;
+         at = content.find("/Subtype /Image", at + 1))
+        ++page.pictures;
+    return page;
+}
+
+constexpr float points = 72; ///< in an inch
+
+class PrintTest : public FormTest {
+  protected:
+    PrintTest() {
+        writeLayout(fewFields());
+        // Or the time stamp would go on between two looks at the card.
+        toolkit::overrideClock(1795000000);
+    }
+
+    /// A card with a mark and a text, changed and unsaved.
+    void startWithContent() {
+        start();
+        clickMark(1);
+        clickText(1);
+        toolkit::test::typeText("a ^h & more");
+        toolkit::test::typeKey(27);
+    }
+    /// A laser printer whose printable page is `width` inches wide.
+    static toolkit::Printer laser(float width, float height = 10.5F) {
+        toolkit::Printer printer;
+        printer.DeviceName = "Laser";
+        printer.hdc = 7;
+        printer.PixelsPerInchX = printer.PixelsPerInchY = 600;
+        constexpr float margin = 0.25F;
+        printer.Papers = {{.code = 1,
+                           .name = "Test",
+                           .keyword = "test",
+                           .width = width + 2 * margin,
+                           .height = height + 2 * margin,
+                           .sideMargin = margin,
+                           .endMargin = margin}};
+        toolkit::layOutPage(printer, 1, toolkit::Orientation::Portrait);
+        return printer;
+    }
+    /// As "Print to PDF", but with this printable page.
+    static toolkit::Printer pdfWithPage(float width, float height = 10.5F) {
+        toolkit::Printer printer = laser(width, height);
+        printer.DeviceName = std::string(toolkit::printToPdfName);
+        return printer;
+    }
+    /// Prints by the menu into a file and says what is in it.
+    PrintedPage print(std::string_view item = "File>Print card") {
+        const auto file = home / "page.pdf";
+        answerFile(file);
+        EXPECT_TRUE(toolkit::test::chooseMenu(item));
+        EXPECT_TRUE(std::filesystem::exists(file));
+        return std::filesystem::exists(file) ? pageIn(file) : PrintedPage{};
+    }
+    [[nodiscard]] int count(std::string_view line) const {
+        int found = 0;
+        for (const auto& text : traceLines()) found += text == line ? 1 : 0;
+        return found;
+    }
+    /// The part of the options file that a player sets.
+    [[nodiscard]] std::string settings() const {
+        const std::string content = dataFileContent("ZEV.Ini");
+        return content.substr(0, content.find("' Environment"));
+    }
+};
+
+} // namespace zev::test

@@ -1,0 +1,71 @@
+#include "output/printer_setup.h"
+
+#include "output/print_test.h"
+#include "toolkit/print_dialog.h"
+
+namespace zev::test {
+namespace {
+
+class PrinterSetup : public PrintTest {
+  protected:
+    ~PrinterSetup() override { toolkit::answerPrinterSetupWith({}); }
+};
+
+TEST_F(PrinterSetup, TheChosenPrintersFactsAreTaken) {
+    start();
+    toolkit::answerPrinterSetupWith([&](const toolkit::Printer& present) {
+        EXPECT_EQ(present.DeviceName, "Print to PDF");
+        EXPECT_TRUE(form.PleaseWait.Visible);
+        EXPECT_EQ(form.PleaseWait.Text, "Finding Printers...");
+        return laser(8);
+    });
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Printer Setup..."));
+    EXPECT_EQ(form.CurrentPrinter.DeviceName, "Laser");
+    EXPECT_EQ(form.Myprinter.Devicename, "User selected");
+    EXPECT_EQ(form.Myprinter.hdc, 7);
+    EXPECT_FLOAT_EQ(form.Myprinter.PageWidthInches, 8);
+    EXPECT_TRUE(form.PrinterSetUp);
+    EXPECT_FALSE(form.PleaseWait.Visible);
+    EXPECT_EQ(form.MousePointer, toolkit::MousePointer::Default);
+    EXPECT_TRUE(traced("MPrintSetup_Click, Method=3"));
+    EXPECT_NE(dataFileContent("ZEV.Ini").find("'     Devicename:        User selected"),
+              std::string::npos);
+    EXPECT_NE(settings().find("Printer=Laser"), std::string::npos);
+}
+
+TEST_F(PrinterSetup, ACancelledDialogLeavesTheFormerPageInForce) {
+    toolkit::overridePrinters({pdfWithPage(7.5F)});
+    start();
+    toolkit::answerPrinterSetupWith([](const toolkit::Printer&) { return std::nullopt; });
+    form.Trace.clear();
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Printer Setup..."));
+    EXPECT_FLOAT_EQ(form.Myprinter.PageWidthInches, 7.5F);
+    EXPECT_EQ(form.Myprinter.Devicename, "Print to PDF");
+    EXPECT_FALSE(form.PrinterSetUp);
+    EXPECT_FALSE(traced("IniWrite"));
+}
+
+TEST_F(PrinterSetup, AColourPrinterThatReportsOneBitCountsAsTwentyFour) {
+    start();
+    toolkit::answerPrinterSetupWith([&](const toolkit::Printer&) {
+        toolkit::Printer printer = laser(8);
+        printer.BitsPerPixel = 1;
+        printer.ColorMode = 2;
+        return printer;
+    });
+    MPrintSetup_Click(form);
+    EXPECT_EQ(form.Myprinter.BitsPerPixel, 24);
+}
+
+TEST_F(PrinterSetup, TheSystemsDialogIsTitledAndItsCancelChangesNothing) {
+    start();
+    toolkit::test::ShownDialog seen;
+    toolkit::test::endNextDialog(seen);
+    MPrintSetup_Click(form);
+    EXPECT_EQ(seen.title, "Printer Setup");
+    EXPECT_EQ(std::ranges::count(seen.buttons, "Print"), 0);
+    EXPECT_EQ(form.Myprinter.Devicename, "Print to PDF");
+}
+
+} // namespace
+} // namespace zev::test

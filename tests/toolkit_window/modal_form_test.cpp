@@ -1,0 +1,90 @@
+// A small form that waits for the player.
+#include "toolkit/modal_form.h"
+
+#include "fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class ModalFormOnScreen : public WindowTest {
+  protected:
+    ModalFormOnScreen() {
+        list.Label = "List";
+        list.List = {"one", "two"};
+        list.ListIndex = 0;
+        list.Click = [this] { note("click " + std::to_string(list.ListIndex)); };
+        ok.Caption = "&OK";
+        ok.Default = true;
+        ok.Click = [this] {
+            note("ok");
+            shown.Unloaded = true;
+        };
+        cancel.Caption = "&Cancel";
+        cancel.Cancel = true;
+        cancel.Click = [this] {
+            note("cancel");
+            shown.Unloaded = true;
+        };
+        option.Caption = "Option";
+        shown.Caption = "Title";
+        shown.combos = {&list};
+        shown.options = {&option};
+        shown.buttons = {&ok, &cancel};
+    }
+    ModalForm shown;
+    ComboBox list;
+    OptionButton option;
+    CommandButton ok;
+    CommandButton cancel;
+};
+
+TEST_F(ModalFormOnScreen, RunsTheHandlersWithTheNewValues) {
+    test::driveNextDialog([this](test::DialogDriver& dialog) {
+        EXPECT_EQ(dialog.title(), "Title");
+        dialog.choose(0, 1);
+        dialog.turnOn("Option");
+        dialog.press("OK");
+    });
+    showModal(shown);
+    EXPECT_EQ(log, (Log{"click 1", "ok"}));
+    EXPECT_TRUE(option.Value);
+}
+
+TEST_F(ModalFormOnScreen, AHandlersChangesAreShown) {
+    list.Click = [this] {
+        list.List = {"three"};
+        list.ListIndex = 0;
+        option.Enabled = false;
+    };
+    test::driveNextDialog([](test::DialogDriver& dialog) {
+        dialog.choose(0, 1);
+        EXPECT_EQ(dialog.listRows(0), Log{"three"});
+        EXPECT_FALSE(dialog.isEnabled("Option"));
+        dialog.press("OK");
+    });
+    showModal(shown);
+}
+
+TEST_F(ModalFormOnScreen, ClosingItPressesCancel) {
+    test::ShownDialog seen;
+    test::endNextDialog(seen);
+    showModal(shown);
+    EXPECT_EQ(log, Log{"cancel"});
+}
+
+TEST_F(ModalFormOnScreen, SwallowedKeysDontReachTheList) {
+    list.KeyDown = [](KeyArguments& arguments) { arguments.KeyCode = 0; };
+    list.KeyPress = [](int& key) { key = 0; };
+    test::driveNextDialog([](test::DialogDriver& dialog) {
+        dialog.typeInto(0, key::down, "");
+        EXPECT_EQ(dialog.chosen(0), "one");
+        dialog.typeInto(0, 13, "");
+    });
+    showModal(shown);
+    EXPECT_EQ(log, Log{"ok"});
+}
+
+} // namespace
+} // namespace window_test
