@@ -73,6 +73,7 @@ class Home:
         self.installed = self.program / "zevlin-files"
         # The first start moves files out of the program's folder, so each home needs its own copy.
         shutil.copytree(STAGE, self.program)
+        self.environment = {}  # what the program gets beside the usual
         self.runtime = self.folder / "run"
         self.runtime.mkdir(mode=0o700)
 
@@ -129,6 +130,8 @@ class Program:
         if dots_per_inch != 96:
             # Else a finer screen would be magnified and still count as one of 96.
             environment |= {"QT_FONT_DPI": str(dots_per_inch), "QT_ENABLE_HIGHDPI_SCALING": "0"}
+        # No print service but one that a test starts.
+        environment |= {"CUPS_SERVER": "127.0.0.1:1"} | home.environment
         self.process = subprocess.Popen([home.program / "zevlin", *arguments], env=environment,
                                         cwd=home.folder)
         if is_first:
@@ -178,6 +181,10 @@ class Program:
         box = self.wait_for_box()
         xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15, name)
         self.answer(box, "Return")
+
+    def choose_in_file_menu(self, row, *keys):
+        """The row is counted from 0 and without separators; the keys go on from there."""
+        self.press("alt+f", *["Down"] * row, *keys, "Return")
 
     def is_running(self):
         return self.process.poll() is None

@@ -1,0 +1,75 @@
+// What an export and a print cost from the command to the file with the screen restored, beside the
+// bare work: painting the card at full scale, halving it and encoding a 32-bit PNG.
+#include <benchmark/benchmark.h>
+
+#include "bench_program.h"
+#include "output/export_card.h"
+#include "output/print_card.h"
+#include "toolkit/printer.h"
+#include "toolkit/system.h"
+#include "view/rebuild.h"
+#include "view/halve_picture.h"
+
+namespace {
+
+using bench::Program;
+
+const std::filesystem::path folder = std::filesystem::temp_directory_path();
+
+void answerWith(const std::string& image, const std::filesystem::path& page) {
+    toolkit::answerDialogsWith(
+        {.message = [](const toolkit::MessageBox&) { return toolkit::Answer::No; },
+         .input = [image](const toolkit::InputBox&) { return image; },
+         .popup = {},
+         .file = [page](const toolkit::FileQuestion&) { return page; }});
+}
+
+/// The run and how far the memory rose above what it was before.
+template <typename Job>
+void runJob(benchmark::State& state, const std::filesystem::path& file, Job job) {
+    toolkit::overridePrinters({toolkit::printerNamed(toolkit::printToPdfName)});
+    Program program;
+    program.openFullCard();
+    answerWith(file.string(), file);
+    const auto idle = toolkit::memoryUsage().current;
+    for (auto _ : state) {
+        job(program.form);
+        toolkit::test::settle();
+    }
+    const auto peak = toolkit::memoryUsage().peak;
+    state.counters["MiB_above_idle"] = static_cast<double>(peak - idle) / (1 << 20);
+    state.counters["KiB_of_file"] =
+        static_cast<double>(std::filesystem::file_size(file)) / (1 << 10);
+    std::filesystem::remove(file);
+}
+
+void exportToPng(benchmark::State& state) {
+    runJob(state, folder / "zevlin-bench.png", zev::mPrintToDiskPNG_Click);
+}
+BENCHMARK(exportToPng)->Unit(benchmark::kMillisecond);
+
+void printToPdf(benchmark::State& state) {
+    runJob(state, folder / "zevlin-bench.pdf", zev::MPrint_Click);
+}
+BENCHMARK(printToPdf)->Unit(benchmark::kMillisecond);
+
+void bareWork(benchmark::State& state) {
+    Program program;
+    program.openFullCard();
+    program.form.ZoomLevel = 11;
+    zev::RebuildScreenImage(program.form);
+    const auto file = folder / "zevlin-bench-bare.png";
+    for (auto _ : state)
+        toolkit::savePng(zev::halved(toolkit::flattenedCard(program.form.P1)), file);
+    std::filesystem::remove(file);
+}
+BENCHMARK(bareWork)->Unit(benchmark::kMillisecond);
+
+} // namespace
+
+int main(int argumentCount, char** arguments) {
+    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    benchmark::Initialize(&argumentCount, arguments);
+    const toolkit::Application application(argumentCount, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+}

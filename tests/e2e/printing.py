@@ -1,0 +1,263 @@
+"""Prints, exports and copies a filled-in card with the whole program, and looks at what others get:
+a real print service, the page drawn by a PDF viewer, image files, another program's paste."""
+
+import subprocess
+
+import print_service
+import whole_program
+from whole_program import desktop
+
+CARD = "Two Over One"
+PRINT_BOTH, SETUP, EXPORT, COPY = 6, 7, 8, 10  # rows of the File menu
+DOTS = 300  # per inch, at which pages are looked at
+INCHES = 8.1
+MARGIN = 0.125  # inches that the printers of the service can't reach
+
+
+def page_picture(pdf):
+    return desktop.Picture(desktop.output_of("pdftoppm", "-r", str(DOTS), "-singlefile", str(pdf)))
+
+
+def image_picture(path):
+    return desktop.Picture(desktop.output_of("convert", str(path), "-depth", "8", "ppm:-"))
+
+
+def is_dark(pixel):
+    return max(pixel) < 110
+
+
+def is_colored(pixel):
+    return max(pixel) - min(pixel) > 60
+
+
+class Page:
+    """A printed page, its places told in design pixels of the card."""
+
+    def __init__(self, pdf, margin):
+        self.picture = page_picture(pdf)
+        self.margin = margin * DOTS
+        self.scale = INCHES * DOTS / desktop.DESIGN_WIDTH
+
+    def pixels(self, place):
+        left, top, width, height = (value * self.scale for value in place)
+        rows = range(round(self.margin + top), round(self.margin + top + height))
+        columns = range(round(self.margin + left), round(self.margin + left + width))
+        return [self.picture.pixel(x, y) for y in rows for x in columns]
+
+    def ink_columns(self):
+        """The first and the last column of the page that holds ink."""
+        middle = range(self.picture.height // 4, self.picture.height // 2, 3)
+        inked = [x for x in range(self.picture.width)
+                 if any(is_dark(self.picture.pixel(x, y)) for y in middle)]
+        return inked[0], inked[-1]
+
+
+class PrintingTest(whole_program.WholeProgramTest):
+    def start_with_card(self):
+        """The sample card with a mark that isn't set in it, on the screen."""
+        self.leave(self.start_for_the_first_time())
+        return self.start_again()
+
+    def start_again(self):
+        program = self.start(CARD)
+        program.wait_for_title(rf"\( {CARD} \)$")
+        desktop.wait_for("the card on the screen", lambda: desktop.Card(program).scale > 0)
+        return program
+
+    def check_page(self, pdf, margin):
+        """Width, place, marks and texts of a page."""
+        page = Page(pdf, margin)
+        marks, texts = self.home.records(CARD)
+        mark_places, text_places = desktop.layout_fields(self.home)
+        image = image_picture(self.home.data / "card.bmp")
+        middle = range(image.height // 4, image.height // 2, 3)
+        inked = [x for x in range(image.width)
+                 if any(is_dark(image.pixel(x, y)) for y in middle)]
+        left, right = page.ink_columns()
+        self.assertAlmostEqual(left, margin * DOTS + inked[0] * page.scale, delta=page.scale + 1)
+        self.assertAlmostEqual(right - left, (inked[-1] - inked[0]) * page.scale,
+                               delta=page.scale + 1)
+        for number, place in mark_places.items():
+            dark = sum(max(pixel) < 200 for pixel in page.pixels(place))
+            if number in marks:
+                self.assertGreater(dark, 25, f"mark {number} isn't printed")
+        for number, text in texts.items():
+            if text:
+                self.assertTrue(any(min(pixel) < 150 for pixel in page.pixels(text_places[number])),
+                                f"text {number} isn't printed")
+        return page
+
+    def export_bmp(self, program):
+        """To compare pages with."""
+        program.choose_in_file_menu(EXPORT, "Right", "Down", "Down")
+        program.answer_name("card.bmp")
+        desktop.wait_for("the image", (self.home.data / "card.bmp").exists)
+        program.wait_for_title(rf"\( {CARD} \)$")
+
+
+class PrintServiceTest(PrintingTest):
+    def setUp(self):
+        self.service = print_service.PrintService(self.home.folder.parent / "service")
+        self.addCleanup(self.service.stop)
+        self.home.environment["CUPS_SERVER"] = self.service.address
+
+    def wait_for_pages(self, count):
+        return desktop.wait_for(f"{count} printed pages",
+                                lambda: len(self.service.pages()) >= count and self.service.pages())
+
+    def test_prints_the_card_and_both_cards_in_colour(self):
+        self.service.add("Office", default=True)
+        program = self.start_with_card()
+        self.export_bmp(program)
+        program.press("ctrl+p")
+        page = self.check_page(self.wait_for_pages(1)[0], MARGIN)
+        self.assertTrue(any(is_colored(page.picture.pixel(x, y))
+                            for y in range(0, page.picture.height, 4)
+                            for x in range(0, page.picture.width, 4)))
+        self.assertEqual((page.picture.width, page.picture.height), (2550, 3300))
+        program.choose_in_file_menu(PRINT_BOTH)
+        pages = self.wait_for_pages(3)
+        self.assertEqual(len(pages), 3)
+        # Above the time stamp.
+        own, first, second = (page_picture(page).part(0, 0, 2550, 2400) for page in pages)
+        self.assertEqual(own, first)
+        self.assertNotEqual(first, second)
+        self.leave(program)
+
+    def test_prints_grey_and_black_on_a_printer_without_colour(self):
+        self.service.add("Laser", color=False, default=True)
+        program = self.start_with_card()
+        self.export_bmp(program)
+        program.press("ctrl+p")
+        page = self.check_page(self.wait_for_pages(1)[0], MARGIN)
+        self.assertFalse(any(is_colored(page.picture.pixel(x, y))
+                             for y in range(0, page.picture.height, 2)
+                             for x in range(0, page.picture.width, 2)))
+        self.leave(program)
+
+    def test_tells_that_a_queue_rejects_jobs_and_prints_afterwards(self):
+        self.service.add("Office", default=True)
+        program = self.start_with_card()
+        self.service.reject("Office")
+        before = desktop.screenshot()
+        program.press("ctrl+p")
+        program.answer(program.wait_for_box("^Zevlin$"), "Return")
+        self.assertEqual(self.service.pages(), [])
+        self.service.accept("Office")
+        desktop.wait_for("the card as it was", lambda: desktop.screenshot().bytes == before.bytes)
+        program.press("ctrl+p")
+        self.wait_for_pages(1)
+        self.leave(program)
+
+    def test_tells_that_the_printer_is_gone_and_prints_when_it_is_back(self):
+        self.service.add("Office", default=True)
+        program = self.start_with_card()
+        program.press("ctrl+p")
+        self.wait_for_pages(1)
+        self.service.remove("Office")
+        program.press("ctrl+p")
+        program.answer(program.wait_for_box("^Zevlin$"), "Return")
+        self.service.add("Office", default=True)
+        program.press("ctrl+p")
+        self.wait_for_pages(2)
+        self.leave(program)
+
+    def test_the_set_up_shows_the_printers_of_the_service(self):
+        self.service.add("Office", default=True)
+        self.service.add("Laser", color=False)
+        program = self.start_with_card()
+        program.choose_in_file_menu(SETUP)
+        box = program.wait_for_box("^Printer Setup$")
+        program.answer(box, "Escape")
+        self.assertNotIn("User selected", (self.home.data / "ZEV.Ini").read_text("cp1252"))
+        program.choose_in_file_menu(SETUP)
+        program.answer(program.wait_for_box("^Printer Setup$"), "Return")
+        desktop.wait_for("the facts", lambda: "User selected" in
+                         (self.home.data / "ZEV.Ini").read_text("cp1252"))
+        self.assertIn("Printer=Office", (self.home.data / "ZEV.Ini").read_text("cp1252"))
+        program.press("ctrl+p")
+        self.wait_for_pages(1)
+        self.leave(program)
+
+
+class FilesTest(PrintingTest):
+    def answer_file(self, program, path):
+        box = program.wait_for_box("^Print to PDF$")
+        desktop.xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15,
+                        str(path))
+        program.answer(box, "Return")
+
+    def test_prints_to_a_file_without_a_service_and_without_flicker(self):
+        program = self.start_with_card()
+        self.export_bmp(program)
+        pdf = self.home.folder / "page.pdf"
+        program.press("ctrl+p")
+        program.wait_for_box("^Print to PDF$")
+        self.answer_file(program, pdf)
+        desktop.wait_for("the page", lambda: pdf.exists() and pdf.read_bytes()[-6:] == b"%%EOF\n")
+        self.check_page(pdf, 0)
+        self.assertLess(pdf.stat().st_size, 1500000)
+        listing = desktop.output_of("pdfimages", "-list", str(pdf)).decode().splitlines()[2:]
+        self.assertEqual(len(listing), 1)
+        columns = listing[0].split()
+        self.assertEqual(columns[3:5], ["2396", "2488"])
+        self.assertEqual(columns[8], "image")  # neither JPEG nor any other lossy coding
+        self.leave(program)
+
+    def test_the_screen_never_flickers_in_a_job(self):
+        program = self.start_with_card()
+        card = desktop.Card(program)
+        part = (round(card.left), round(card.top), 700, 500)
+        before = desktop.screenshot().part(*part)
+        options = self.home.data / "ZEV.Ini"
+        written = options.stat().st_mtime_ns
+        program.press("alt+f", *["Down"] * COPY)
+        desktop.wait_for("the menu", lambda: desktop.screenshot().part(*part) != before)
+        program.press("Return")
+        looks = [desktop.screenshot().part(*part) for _ in range(25)]
+        self.assertNotEqual(options.stat().st_mtime_ns, written)
+        # The menu may still be on the first ones.
+        shown = looks.index(before)
+        self.assertLess(shown, 10)
+        self.assertEqual(looks[shown:], [before] * (25 - shown))
+        self.leave(program)
+
+    def test_another_program_pastes_the_picture(self):
+        program = self.start_with_card()
+        self.export_bmp(program)
+        program.choose_in_file_menu(COPY)
+        pasted = self.home.folder / "pasted.png"
+
+        def paste():
+            found = subprocess.run(["xclip", "-selection", "clipboard", "-t", "image/png", "-o"],
+                                   capture_output=True, timeout=20)
+            return found.returncode == 0 and found.stdout
+        pasted.write_bytes(desktop.wait_for("the picture on the clipboard", paste))
+        left, right = image_picture(pasted), image_picture(self.home.data / "card.bmp")
+        self.assertEqual((left.width, left.height), (right.width, right.height))
+        above_stamp = left.height - 40
+        self.assertEqual(left.part(0, 0, left.width, above_stamp),
+                         right.part(0, 0, right.width, above_stamp))
+        self.leave(program)
+
+    def test_image_files_are_read_by_others(self):
+        program = self.start_with_card()
+        self.export_bmp(program)
+        for downs, name in ((0, "card.gif"), (1, "card.png")):
+            program.choose_in_file_menu(EXPORT, "Right", *["Down"] * downs)
+            program.answer_name(name)
+            desktop.wait_for(name, (self.home.data / name).exists)
+        formats = {"card.gif": "GIF", "card.bmp": "BMP", "card.png": "PNG"}
+        for name, kind in formats.items():
+            told = desktop.output_of("identify", "-format", "%m %w", str(self.home.data / name))
+            self.assertRegex(told.decode(), f"^{kind}3? 1198$")
+        gif = image_picture(self.home.data / "card.gif")
+        bmp = image_picture(self.home.data / "card.bmp")
+        length = 3 * gif.width * (gif.height - 40)
+        self.assertLessEqual(max(abs(a - b) for a, b in zip(gif.bytes[:length],
+                                                            bmp.bytes[:length])), 8)
+        self.leave(program)
+
+
+if __name__ == "__main__":
+    whole_program.main()
