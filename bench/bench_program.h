@@ -25,7 +25,9 @@ namespace fs = std::filesystem;
 /// Started on the installed layout or another one, on a screen that shows the whole card at 1.0.
 class Program {
   public:
-    explicit Program(const std::string& layout = {}) : home_(newFolder()) {
+    explicit Program(const std::string& layout = {},
+                     const toolkit::ScreenOverrides& screen = {.width = 48000, .height = 48000})
+        : home_(newFolder()) {
         const fs::path data = home_ / "ZEV";
         fs::create_directories(data);
         if (layout.empty())
@@ -34,7 +36,7 @@ class Program {
         else
             toolkit::writeFile(data / "Definitions.Ini", layout);
         toolkit::writeFile(data / "ZEV.Ini", "Zoom=5\r\n");
-        toolkit::overrideScreen({.width = 48000, .height = 48000});
+        toolkit::overrideScreen(screen);
         toolkit::overrideProgram(
             {.programFolder = ZEVLIN_CARD_FOLDER, .documentsFolder = home_, .beep = [] {}});
         toolkit::answerDialogsWith(
