@@ -71,11 +71,27 @@ class Home:
         self.data = self.folder / "Documents" / "ZEV"
         self.program = self.folder / "program"
         self.installed = self.program / "zevlin-files"
+        self.environment = {}  # what the program gets beside the usual
+        self.install()
+
+    def install(self):
         # The first start moves files out of the program's folder, so each home needs its own copy.
         shutil.copytree(STAGE, self.program)
-        self.environment = {}  # what the program gets beside the usual
         self.runtime = self.folder / "run"
         self.runtime.mkdir(mode=0o700)
+
+    def command(self):
+        """What starts the program, without its arguments."""
+        return [self.program / "zevlin"]
+
+    def named(self, path):
+        """A file as the program would name it."""
+        return str(path)
+
+    def usual_environment(self):
+        return {"HOME": str(self.folder), "PATH": "/usr/bin:/bin", "LANG": "C.UTF-8",
+                "DISPLAY": os.environ["DISPLAY"], "QT_QPA_PLATFORM": "xcb",
+                "XDG_RUNTIME_DIR": str(self.runtime)}
 
     def card(self, name):
         return self.data / f"{name}.zev"
@@ -124,15 +140,13 @@ class Program:
         self.twips = round(TWIPS_PER_INCH / dots_per_inch) / magnified  # in a pixel of the screen
         self.window = None
         is_first = not home.data.exists()
-        environment = {"HOME": str(home.folder), "PATH": "/usr/bin:/bin", "LANG": "C.UTF-8",
-                       "DISPLAY": os.environ["DISPLAY"], "QT_QPA_PLATFORM": "xcb",
-                       "XDG_RUNTIME_DIR": str(home.runtime), "QT_SCALE_FACTOR": str(magnified)}
+        environment = home.usual_environment() | {"QT_SCALE_FACTOR": str(magnified)}
         if dots_per_inch != 96:
             # Else a finer screen would be magnified and still count as one of 96.
             environment |= {"QT_FONT_DPI": str(dots_per_inch), "QT_ENABLE_HIGHDPI_SCALING": "0"}
         # No print service but one that a test starts.
         environment |= {"CUPS_SERVER": "127.0.0.1:1"} | home.environment
-        self.process = subprocess.Popen([home.program / "zevlin", *arguments], env=environment,
+        self.process = subprocess.Popen([*home.command(), *arguments], env=environment,
                                         cwd=home.folder)
         if is_first:
             # Says that the player's files were moved to the data folder.

@@ -17,6 +17,8 @@ Application::Application(int& argumentCount, char** arguments) {
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QCoreApplication::setAttribute(Qt::AA_DontShowIconsInMenus);
     QCoreApplication::setApplicationName(QStringLiteral("zevlin"));
+    // By this name a desktop finds the installed entry, and so the icon in its task bar.
+    QGuiApplication::setDesktopFileName(QStringLiteral("zevlin"));
     implementation_ = std::make_unique<Implementation>(argumentCount, arguments);
     QGuiApplication::setWindowIcon(programIcon());
     // Boxes come and go before the main window is there.
