@@ -31,7 +31,7 @@ constexpr Channels split(Pixel pixel) {
 constexpr Pixel joined(const Channels& channels) {
     std::array<std::int32_t, 4> bytes{};
     for (std::size_t i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<std::int32_t>(channels.shares[i] + 0.5F);
+        bytes[i] = static_cast<std::int32_t>(channels.shares[i]);
     return static_cast<Pixel>(bytes[3]) << 24U | static_cast<Pixel>(bytes[2]) << 16U |
            static_cast<Pixel>(bytes[1]) << 8U | static_cast<Pixel>(bytes[0]);
 }
@@ -72,7 +72,8 @@ Coverage coverageOf(int length, double factor, int outputLength) {
 }
 
 Pixel averageColumns(const Channels* columns, const float* weights, int count) {
-    Channels sum;
+    // What is joined loses its fraction: a half more, and it is rounded.
+    Channels sum{{0.5F, 0.5F, 0.5F, 0.5F}};
     for (int i = 0; i < count; ++i) sum.add(columns[i], weights[i]);
     return joined(sum);
 }
