@@ -7,8 +7,8 @@
 #include "output/print_card.h"
 #include "toolkit/printer.h"
 #include "toolkit/system.h"
-#include "view/rebuild.h"
 #include "view/halve_picture.h"
+#include "view/rebuild.h"
 
 namespace {
 

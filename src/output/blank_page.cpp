@@ -1,5 +1,6 @@
 #include "output/blank_page.h"
 
+#include <optional>
 #include <string>
 
 #include "app/trace.h"
@@ -14,12 +15,20 @@ namespace {
 constexpr int columnsTested = 200; ///< pixels
 constexpr int columnStep = 5;
 
+/// None outside; without a picture the box shows its back colour.
+std::optional<toolkit::Color> colorAt(const toolkit::PictureBox& picture, int x, int y) {
+    if (picture.Picture) return picture.Picture->pixel(x, y);
+    const bool isInside =
+        x < toolkit::pixelsFromTwips(picture.Width) && y < toolkit::pixelsFromTwips(picture.Height);
+    return isInside ? std::optional(picture.BackColor) : std::nullopt;
+}
+
 /// The rows are bounded by the width: deliberately, a card is about as wide as high.
 std::string_view verdict(const toolkit::PictureBox& picture) {
     const int rows = toolkit::pixelsFromTwips(picture.Width);
     for (int x = 0; x <= columnsTested; x += columnStep) {
         for (int y = 0; y < rows; ++y) {
-            const auto color = picture.Picture ? picture.Picture->pixel(x, y) : std::nullopt;
+            const auto color = colorAt(picture, x, y);
             if (!color) return "untestable";
             if (*color != toolkit::white) return "not blank";
         }

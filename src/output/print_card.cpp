@@ -146,9 +146,12 @@ void putCardBack(Zevlin& form) { form.P1.Move(form.P2.Left, form.P2.Top); }
 void restore(Zevlin& form, const View& view) {
     const auto step = [&form](auto body) { trapped(form, trapHead, body); };
     const bool wasFrozen = form.P2.Visible;
-    step([&] { RestoreBackgroundPicture(form, Rescale::Always); });
     step([&] {
+        // The picture has the fields burnt in, so it is drawn anew even if the scale is the same.
         putViewBack(form, view);
+        RestoreBackgroundPicture(form, Rescale::Always);
+    });
+    step([&] {
         IniWrite(form);
         if (wasFrozen) RebuildScreenImage(form);
     });

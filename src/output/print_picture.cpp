@@ -49,7 +49,7 @@ class PictureDelivery {
         else
             isRefused = !printPicture();
         if (isRefused) return;
-        runStep(2700, [this] { wipe(); });
+        forget(picture_); // a box without a picture shows its back colour
         picture_.Visible = wasVisible;
     }
 
@@ -166,14 +166,6 @@ class PictureDelivery {
     static void forget(toolkit::PictureBox& box) {
         box.Picture.reset();
         box.Sharp = {};
-    }
-
-    void wipe() {
-        const int width = picture_.Picture ? picture_.Picture->width() : 0;
-        const int height = picture_.Picture ? picture_.Picture->height() : 0;
-        forget(picture_);
-        picture_.Picture =
-            std::make_shared<const toolkit::Bitmap>(width, height, picture_.BackColor);
     }
 
     Zevlin& form_;

@@ -3,8 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <span>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace toolkit {
 namespace {
@@ -66,39 +69,50 @@ Counts countColors(const Bitmap& picture) {
     return counts;
 }
 
-/// The colour without the lowest bits of each channel.
-constexpr std::uint32_t coarse(std::uint32_t pixel, unsigned bits) {
-    const std::uint32_t channel = 0xFFU << bits & 0xFFU;
-    return pixel & (channel << 16U | channel << 8U | channel);
-}
-
-/// The most frequent colour of each coarse one.
-Counts frequentOfCoarse(const Counts& counts, unsigned bits) {
-    Counts frequent;
-    for (const auto& [pixel, count] : counts) {
-        const auto [place, isNew] = frequent.try_emplace(coarse(pixel, bits), pixel);
-        if (isNew) continue;
-        const std::uint32_t rival = counts.at(place->second);
-        // The same for every order in which the colours come.
-        if (count > rival || (count == rival && pixel < place->second)) place->second = pixel;
-    }
-    return frequent;
-}
-
-Counts replacementsOf(const Counts& counts) {
-    for (unsigned bits = 0;; ++bits) {
-        const Counts frequent = frequentOfCoarse(counts, bits);
-        if (frequent.size() > mostColors) continue;
-        Counts replacements;
-        for (const auto& [pixel, count] : counts)
-            replacements[pixel] = frequent.at(coarse(pixel, bits));
-        return replacements;
-    }
-}
-
 int channelShift(std::uint32_t left, std::uint32_t right, unsigned shift) {
     return std::abs(static_cast<int>(left >> shift & 0xFFU) -
                     static_cast<int>(right >> shift & 0xFFU));
+}
+
+int distance(std::uint32_t left, std::uint32_t right) {
+    return std::max({channelShift(left, right, 0), channelShift(left, right, 8),
+                     channelShift(left, right, 16)});
+}
+
+/// The most frequent first, in an order that is the same on every machine.
+std::vector<std::uint32_t> byFrequency(const Counts& counts) {
+    std::vector<std::pair<std::uint32_t, std::uint32_t>> sorted;
+    sorted.reserve(counts.size());
+    for (const auto& [pixel, count] : counts) sorted.emplace_back(count, pixel);
+    std::ranges::sort(sorted, std::greater{});
+    std::vector<std::uint32_t> pixels;
+    pixels.reserve(sorted.size());
+    for (const auto& entry : sorted) pixels.push_back(entry.second);
+    return pixels;
+}
+
+/// Each colour with the first of the palette that is within the reach; those that have none join
+/// the palette. None if it gets too large.
+std::optional<Counts> replacementsWithin(const std::vector<std::uint32_t>& pixels, int reach) {
+    std::vector<std::uint32_t> palette;
+    Counts replacements;
+    for (const std::uint32_t pixel : pixels) {
+        const auto near = std::ranges::find_if(
+            palette, [&](std::uint32_t chosen) { return distance(chosen, pixel) <= reach; });
+        replacements[pixel] = near == palette.end() ? pixel : *near;
+        if (near != palette.end()) continue;
+        if (palette.size() == mostColors) return std::nullopt;
+        palette.push_back(pixel);
+    }
+    return replacements;
+}
+
+Counts replacementsOf(const Counts& counts) {
+    const std::vector<std::uint32_t> pixels = byFrequency(counts);
+    constexpr std::array reaches{0, 2, 3, 4, 5, 6, 7, 8, 12, 16, 24, 32, 64, 128};
+    for (const int reach : reaches)
+        if (auto replacements = replacementsWithin(pixels, reach)) return *std::move(replacements);
+    return *replacementsWithin(pixels, 255);
 }
 
 } // namespace

@@ -1,26 +1,64 @@
 #include "toolkit/pdf_page.h"
 
-#include <array>
-#include <vector>
+#include <zlib.h>
 
-#include <QtCore/QByteArray>
+#include <array>
+#include <span>
+#include <utility>
+#include <vector>
 
 #include "toolkit/ansi.h"
 #include "toolkit/color_table.h"
+#include "toolkit/error.h"
 #include "toolkit/number_text.h"
 
 namespace toolkit {
 namespace {
 
-/// The compressor's own head, which tells the length of the content, isn't part of the format.
-constexpr int lengthHead = 4;
-/// Beyond this level the file gets little smaller and takes several times as long.
-constexpr int compression = 3;
+/// The next levels save a tenth of the file and take half as long again.
+constexpr int compression = 1;
 
-std::string compressed(const void* data, std::size_t size) {
-    const QByteArray bytes =
-        qCompress(static_cast<const uchar*>(data), static_cast<qsizetype>(size), compression);
-    return bytes.mid(lengthHead).toStdString();
+/// A stream in the making, so that a large picture is never in memory twice.
+class Deflater {
+  public:
+    explicit Deflater(std::size_t expected) {
+        if (deflateInit(&stream_, compression) != Z_OK) throw RunTimeError(Failure::OutOfMemory);
+        bytes_.reserve(expected);
+    }
+    ~Deflater() { deflateEnd(&stream_); }
+    Deflater(const Deflater&) = delete;
+    Deflater& operator=(const Deflater&) = delete;
+
+    void add(std::span<const std::uint8_t> content) { run(content, Z_NO_FLUSH); }
+    [[nodiscard]] std::string finished() {
+        run({}, Z_FINISH);
+        return std::move(bytes_);
+    }
+
+  private:
+    void run(std::span<const std::uint8_t> content, int flush) {
+        stream_.next_in = const_cast<std::uint8_t*>(content.data()); // it only reads
+        stream_.avail_in = static_cast<uInt>(content.size());
+        do {
+            stream_.next_out = reinterpret_cast<Bytef*>(chunk_.data());
+            stream_.avail_out = static_cast<uInt>(chunk_.size());
+            deflate(&stream_, flush);
+            bytes_.append(chunk_.data(), chunk_.size() - stream_.avail_out);
+        } while (stream_.avail_out == 0);
+    }
+
+    z_stream stream_{};
+    std::array<char, 32768> chunk_{};
+    std::string bytes_;
+};
+
+/// What a card needs, roughly.
+constexpr std::size_t expectedBytes = 1 << 20;
+
+std::string compressed(std::span<const std::uint8_t> content) {
+    Deflater deflater(expectedBytes);
+    deflater.add(content);
+    return deflater.finished();
 }
 
 std::string hexText(std::uint32_t pixel) {
@@ -41,18 +79,21 @@ ImageData indexedData(const IndexedPicture& picture) {
     for (const std::uint32_t color : picture.palette) table += hexText(color);
     return {"[/Indexed /DeviceRGB " + numberText(static_cast<int>(picture.palette.size()) - 1) +
                 " <" + table + ">]",
-            compressed(picture.indices.data(), picture.indices.size())};
+            compressed(picture.indices)};
 }
 
 ImageData trueColorData(const Bitmap& picture) {
-    std::vector<std::uint8_t> channels;
-    channels.reserve(3U * static_cast<std::size_t>(picture.width()) *
-                     static_cast<std::size_t>(picture.height()));
-    for (int y = 0; y < picture.height(); ++y)
+    Deflater deflater(expectedBytes);
+    std::vector<std::uint8_t> channels(3U * static_cast<std::size_t>(picture.width()));
+    for (int y = 0; y < picture.height(); ++y) {
+        const std::uint32_t* row = picture.row(y);
+        std::uint8_t* next = channels.data();
         for (int x = 0; x < picture.width(); ++x)
             for (const unsigned shift : {16U, 8U, 0U})
-                channels.push_back(static_cast<std::uint8_t>(picture.row(y)[x] >> shift & 0xFFU));
-    return {"/DeviceRGB", compressed(channels.data(), channels.size())};
+                *next++ = static_cast<std::uint8_t>(row[x] >> shift & 0xFFU);
+        deflater.add(channels);
+    }
+    return {"/DeviceRGB", deflater.finished()};
 }
 
 ImageData imageData(const Bitmap& picture) {
