@@ -107,12 +107,18 @@ std::optional<Counts> replacementsWithin(const std::vector<std::uint32_t>& pixel
     return replacements;
 }
 
-Counts replacementsOf(const Counts& counts) {
+struct Replacements {
+    Counts colors;
+    int reach = 0;
+};
+
+Replacements replacementsOf(const Counts& counts) {
     const std::vector<std::uint32_t> pixels = byFrequency(counts);
     constexpr std::array reaches{0, 2, 3, 4, 5, 6, 7, 8, 12, 16, 24, 32, 64, 128};
     for (const int reach : reaches)
-        if (auto replacements = replacementsWithin(pixels, reach)) return *std::move(replacements);
-    return *replacementsWithin(pixels, 255);
+        if (auto colors = replacementsWithin(pixels, reach)) return {*std::move(colors), reach};
+    constexpr int everything = 255;
+    return {*replacementsWithin(pixels, everything), everything};
 }
 
 } // namespace
@@ -133,32 +139,21 @@ std::optional<IndexedPicture> exactlyIndexed(const Bitmap& picture) {
     return indexed;
 }
 
-IndexedPicture nearlyIndexed(const Bitmap& picture) {
-    const Counts replacements = replacementsOf(countColors(picture));
+NearPicture nearlyIndexed(const Bitmap& picture) {
+    const Replacements replacements = replacementsOf(countColors(picture));
     IndexedPicture indexed = emptyCopy(picture);
     ColorIndex colors;
     std::uint32_t last = 0;
     std::uint8_t index = 0;
     for (const std::uint32_t pixel : pixelsOf(picture)) {
         if (pixel != last || indexed.palette.empty()) {
-            index =
-                static_cast<std::uint8_t>(colors.indexOf(replacements.at(pixel), indexed.palette));
+            index = static_cast<std::uint8_t>(
+                colors.indexOf(replacements.colors.at(pixel), indexed.palette));
             last = pixel;
         }
         indexed.indices.push_back(index);
     }
-    return indexed;
-}
-
-int largestShift(const Bitmap& picture, const IndexedPicture& indexed) {
-    int largest = 0;
-    const auto pixels = pixelsOf(picture);
-    for (std::size_t i = 0; i < pixels.size(); ++i) {
-        const std::uint32_t shown = indexed.palette.at(indexed.indices.at(i));
-        for (const unsigned shift : {0U, 8U, 16U})
-            largest = std::max(largest, channelShift(pixels[i], shown, shift));
-    }
-    return largest;
+    return {std::move(indexed), replacements.reach};
 }
 
 } // namespace toolkit

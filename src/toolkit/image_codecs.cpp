@@ -46,17 +46,16 @@ QImage imageOver(const IndexedPicture& picture) {
 }
 
 std::string pngContent(const Bitmap& picture) {
-    const IndexedPicture indexed = nearlyIndexed(picture);
-    if (largestShift(picture, indexed) > largestPaletteShift)
-        return contentOf(imageOver(picture), "png", -1, -1);
-    return contentOf(imageOver(indexed), "png", -1, pngCompression);
+    const NearPicture indexed = nearlyIndexed(picture);
+    if (indexed.shift > largestPaletteShift) return contentOf(imageOver(picture), "png", -1, -1);
+    return contentOf(imageOver(indexed.picture), "png", -1, pngCompression);
 }
 
 std::string encoded(const Bitmap& picture, const CodecId& encoder, std::optional<int> quality) {
     if (encoder == idOf(Format::Bmp)) return contentOf(imageOver(picture), "bmp", -1, -1);
     if (encoder == idOf(Format::Jpeg))
         return contentOf(imageOver(picture), "jpeg", quality.value_or(-1), -1);
-    if (encoder == idOf(Format::Gif)) return gifFile(nearlyIndexed(picture));
+    if (encoder == idOf(Format::Gif)) return gifFile(nearlyIndexed(picture).picture);
     if (encoder == idOf(Format::Png)) return pngContent(picture);
     throw RunTimeError(Failure::InvalidProcedureCall);
 }

@@ -1,65 +1,17 @@
 #include "toolkit/pdf_page.h"
 
-#include <zlib.h>
-
-#include <array>
+#include <algorithm>
 #include <span>
 #include <utility>
 #include <vector>
 
 #include "toolkit/ansi.h"
 #include "toolkit/color_table.h"
-#include "toolkit/error.h"
+#include "toolkit/deflate.h"
 #include "toolkit/number_text.h"
 
 namespace toolkit {
 namespace {
-
-/// The next levels save a tenth of the file and take half as long again.
-constexpr int compression = 1;
-
-/// A stream in the making, so that a large picture is never in memory twice.
-class Deflater {
-  public:
-    explicit Deflater(std::size_t expected) {
-        if (deflateInit(&stream_, compression) != Z_OK) throw RunTimeError(Failure::OutOfMemory);
-        bytes_.reserve(expected);
-    }
-    ~Deflater() { deflateEnd(&stream_); }
-    Deflater(const Deflater&) = delete;
-    Deflater& operator=(const Deflater&) = delete;
-
-    void add(std::span<const std::uint8_t> content) { run(content, Z_NO_FLUSH); }
-    [[nodiscard]] std::string finished() {
-        run({}, Z_FINISH);
-        return std::move(bytes_);
-    }
-
-  private:
-    void run(std::span<const std::uint8_t> content, int flush) {
-        stream_.next_in = const_cast<std::uint8_t*>(content.data()); // it only reads
-        stream_.avail_in = static_cast<uInt>(content.size());
-        do {
-            stream_.next_out = reinterpret_cast<Bytef*>(chunk_.data());
-            stream_.avail_out = static_cast<uInt>(chunk_.size());
-            deflate(&stream_, flush);
-            bytes_.append(chunk_.data(), chunk_.size() - stream_.avail_out);
-        } while (stream_.avail_out == 0);
-    }
-
-    z_stream stream_{};
-    std::array<char, 32768> chunk_{};
-    std::string bytes_;
-};
-
-/// What a card needs, roughly.
-constexpr std::size_t expectedBytes = 1 << 20;
-
-std::string compressed(std::span<const std::uint8_t> content) {
-    Deflater deflater(expectedBytes);
-    deflater.add(content);
-    return deflater.finished();
-}
 
 std::string hexText(std::uint32_t pixel) {
     constexpr std::string_view digits = "0123456789ABCDEF";
@@ -75,25 +27,28 @@ struct ImageData {
 };
 
 ImageData indexedData(const IndexedPicture& picture) {
+    const auto width = static_cast<std::size_t>(picture.width);
     std::string table;
     for (const std::uint32_t color : picture.palette) table += hexText(color);
     return {"[/Indexed /DeviceRGB " + numberText(static_cast<int>(picture.palette.size()) - 1) +
                 " <" + table + ">]",
-            compressed(picture.indices)};
+            zlibStream({picture.height, width, [&](int row, std::span<std::uint8_t> bytes) {
+                            const auto start =
+                                picture.indices.begin() + row * static_cast<std::ptrdiff_t>(width);
+                            std::copy_n(start, width, bytes.begin());
+                        }})};
 }
 
 ImageData trueColorData(const Bitmap& picture) {
-    Deflater deflater(expectedBytes);
-    std::vector<std::uint8_t> channels(3U * static_cast<std::size_t>(picture.width()));
-    for (int y = 0; y < picture.height(); ++y) {
+    const auto write = [&](int y, std::span<std::uint8_t> channels) {
         const std::uint32_t* row = picture.row(y);
         std::uint8_t* next = channels.data();
         for (int x = 0; x < picture.width(); ++x)
             for (const unsigned shift : {16U, 8U, 0U})
                 *next++ = static_cast<std::uint8_t>(row[x] >> shift & 0xFFU);
-        deflater.add(channels);
-    }
-    return {"/DeviceRGB", deflater.finished()};
+    };
+    return {"/DeviceRGB",
+            zlibStream({picture.height(), 3U * static_cast<std::size_t>(picture.width()), write})};
 }
 
 ImageData imageData(const Bitmap& picture) {

@@ -2,6 +2,7 @@
 
 #include "output/print_test.h"
 #include "toolkit/bitmap.h"
+#include "view/halve_picture.h"
 
 namespace zev::test {
 namespace {
@@ -52,6 +53,20 @@ TEST_F(ExportCard, AllFormatsShowTheMarkAndTheText) {
         EXPECT_TRUE(hasInk(image, form.AMark[1], toolkit::black)) << name;
         EXPECT_FALSE(hasInk(image, form.AMark[2], form.ColorRed)) << name;
     }
+}
+
+TEST_F(ExportCard, TheImageIsTheScreenAtFullSizeHalved) {
+    writeOptions("Zoom=11\r\n");
+    toolkit::overrideScreen({.width = 48000, .height = 48000});
+    startWithContent();
+    clickMark(3);
+    const auto screen = halved(toolkit::test::grabCard());
+    const auto image = exported(bmp, "a.bmp");
+    ASSERT_EQ(image.width(), screen.width());
+    ASSERT_GE(image.height(), screen.height());
+    for (int y = 0; y < screen.height(); ++y)
+        for (int x = 0; x < screen.width(); ++x)
+            ASSERT_EQ(image.pixel(x, y), screen.pixel(x, y)) << x << ", " << y;
 }
 
 TEST_F(ExportCard, PaletteFormatsShiftNoColourVisibly) {

@@ -1,0 +1,114 @@
+// Jobs on a disk that takes nothing more, at each of their stages.
+#include <csignal>
+#include <sys/resource.h>
+
+#include "output/print_card.h"
+#include "output/print_test.h"
+
+namespace zev::test {
+namespace {
+
+/// While it lives no file can grow.
+class FullDisk {
+  public:
+    FullDisk() {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        rlimit none = before_;
+        none.rlim_cur = 0;
+        setrlimit(RLIMIT_FSIZE, &none);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before_); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+class NoRoom : public PrintTest {
+  protected:
+    void SetUp() override {
+        for (const char* error : {"Error in IniWrite ", "Error in MSave_Click ",
+                                  "Error in MSaveShapes ", "Error in PrintPictureBox at step "})
+            announceError(error);
+    }
+    void expectUnharmed() const {
+        EXPECT_FALSE(form.Printing);
+        EXPECT_TRUE(form.P1.Visible);
+        EXPECT_FALSE(form.P2.Visible);
+        EXPECT_TRUE(form.MenusEnabled);
+        EXPECT_TRUE(form.AMark[1].Visible);
+        EXPECT_FALSE(form.AMark[2].Visible);
+        EXPECT_EQ(form.AText[1].Tag, "a ^h && more");
+        EXPECT_TRUE(form.CardModified);
+        EXPECT_EQ(form.CardName, "");
+        EXPECT_EQ(form.P1.Width, 1198 * 15);
+        EXPECT_EQ(form.ZoomLevel, 5);
+    }
+    void expectNextPrintWorks() {
+        boxes.clear();
+        EXPECT_EQ(print().pixelsAcross, 2396);
+        EXPECT_TRUE(boxes.empty());
+        expectUnharmed();
+    }
+};
+
+TEST_F(NoRoom, FromTheStartThePageIsRefusedOrToldAndTheCardStays) {
+    startWithContent();
+    const std::string layout = dataFileContent("Definitions.Ini");
+    answerFile(home / "page.pdf");
+    {
+        const FullDisk full;
+        EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    }
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Device I/O error Printer Error #57");
+    EXPECT_FALSE(std::filesystem::exists(home / "page.pdf"));
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), layout);
+    expectUnharmed();
+    expectNextPrintWorks();
+}
+
+TEST_F(NoRoom, FromTheQuestionOnThePageIsToldAndTheCardStays) {
+    startWithContent();
+    const std::string layout = dataFileContent("Definitions.Ini");
+    std::optional<FullDisk> full;
+    answerFile(home / "page.pdf");
+    whileAsking = [&] { full.emplace(); };
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    full.reset();
+    whileAsking = {};
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Device I/O error Printer Error #57");
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), layout);
+    expectUnharmed();
+    expectNextPrintWorks();
+}
+
+TEST_F(NoRoom, AnExportIsToldAndTheCardStays) {
+    startWithContent();
+    answerInput("a.png");
+    {
+        const FullDisk full;
+        EXPECT_TRUE(toolkit::test::chooseMenu("File>Export Partner Image to file as..>PNG"));
+    }
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_TRUE(boxes[0].text.starts_with("Could not save card image."));
+    expectUnharmed();
+    expectNextPrintWorks();
+}
+
+TEST_F(NoRoom, ACopyNeedsNoRoom) {
+    startWithContent();
+    {
+        const FullDisk full;
+        EXPECT_TRUE(toolkit::test::chooseMenu("File>Copy to Clipboard"));
+    }
+    EXPECT_EQ(toolkit::test::clipboardPicture().width(), 1198);
+    expectUnharmed();
+    expectNextPrintWorks();
+}
+
+} // namespace
+} // namespace zev::test
