@@ -22,6 +22,7 @@ set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
     "fonts-liberation, fonts-liberation (<< 1:2) | fonts-liberation-sans-narrow")
-# Without a desktop's font the menus would be set in whatever face there is.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-wayland")
+# Without a desktop's font the menus would be set in whatever face there is. The library of the print
+# service is loaded when it is needed, so the program isn't linked with it.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "fonts-dejavu-core, libcups2, qt6-wayland")
 include(CPack)

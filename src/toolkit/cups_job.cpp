@@ -54,35 +54,44 @@ void addChoices(Options& options, const Printer& printer) {
 
 } // namespace
 
+struct SystemPrintJob::Implementation {
+    std::string printer;
+    int job = 0;
+};
+
 SystemPrintJob::SystemPrintJob(const Printer& printer, std::string_view title)
-    : printer_(utf8FromAnsi(printer.DeviceName)) {
+    : implementation_(std::make_unique<Implementation>()) {
     const CupsLibrary* cups = cupsLibrary();
     if (cups == nullptr) failPrinting();
+    implementation_->printer = utf8FromAnsi(printer.DeviceName);
     Options options(*cups);
     addChoices(options, printer);
     const std::string name = utf8FromAnsi(title);
-    job_ = cups->createJob(CUPS_HTTP_DEFAULT, printer_.c_str(), name.c_str(), options.count,
-                           options.list);
-    if (job_ == 0) failPrinting();
+    implementation_->job = cups->createJob(CUPS_HTTP_DEFAULT, implementation_->printer.c_str(),
+                                           name.c_str(), options.count, options.list);
+    if (implementation_->job == 0) failPrinting();
 }
 
 SystemPrintJob::~SystemPrintJob() {
-    if (job_ != 0) cupsLibrary()->cancelJob(printer_.c_str(), job_);
+    if (implementation_->job != 0)
+        cupsLibrary()->cancelJob(implementation_->printer.c_str(), implementation_->job);
 }
 
-void SystemPrintJob::send(std::string_view pdf) {
+void SystemPrintJob::send(const PdfPage& page, const Bitmap& picture) {
     const CupsLibrary& cups = *cupsLibrary();
-    if (cups.startDocument(CUPS_HTTP_DEFAULT, printer_.c_str(), job_, "card.pdf", "application/pdf",
+    const std::string pdf = pdfFile(page, picture);
+    if (cups.startDocument(CUPS_HTTP_DEFAULT, implementation_->printer.c_str(),
+                           implementation_->job, "card.pdf", "application/pdf",
                            1) != HTTP_STATUS_CONTINUE ||
         cups.writeRequestData(CUPS_HTTP_DEFAULT, pdf.data(), pdf.size()) != HTTP_STATUS_CONTINUE)
         failPrinting();
 }
 
 void SystemPrintJob::close() {
-    if (cupsLibrary()->finishDocument(CUPS_HTTP_DEFAULT, printer_.c_str()) >
+    if (cupsLibrary()->finishDocument(CUPS_HTTP_DEFAULT, implementation_->printer.c_str()) >
         IPP_STATUS_OK_EVENTS_COMPLETE)
         failPrinting();
-    job_ = 0;
+    implementation_->job = 0;
 }
 
 } // namespace toolkit

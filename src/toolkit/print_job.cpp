@@ -40,20 +40,19 @@ struct PrintJob::Document {
         if (file && !isDone && std::filesystem::is_regular_file(target, ignored))
             std::filesystem::remove(target, ignored);
     }
-    [[nodiscard]] std::string content() const;
+    [[nodiscard]] PdfPage page() const;
 };
 
-std::string PrintJob::Document::content() const {
+PdfPage PrintJob::Document::page() const {
     const double x = pointsPerInch / printer.PixelsPerInchX;
     const double y = pointsPerInch / printer.PixelsPerInchY;
-    const PdfPage page{.width = printer.PhysicalWidth * x,
-                       .height = printer.PhysicalHeight * y,
-                       .pictureLeft = (printer.PhysicalOffsetX + place.left) * x,
-                       .pictureTop = (printer.PhysicalOffsetY + place.top) * y,
-                       .pictureWidth = place.width * x,
-                       .pictureHeight = place.height * y,
-                       .title = title};
-    return pdfFile(page, picture ? *picture : Bitmap(1, 1));
+    return {.width = printer.PhysicalWidth * x,
+            .height = printer.PhysicalHeight * y,
+            .pictureLeft = (printer.PhysicalOffsetX + place.left) * x,
+            .pictureTop = (printer.PhysicalOffsetY + place.top) * y,
+            .pictureWidth = place.width * x,
+            .pictureHeight = place.height * y,
+            .title = title};
 }
 
 PrintJob::PrintJob() = default;
@@ -93,12 +92,13 @@ bool PrintJob::stretch(std::shared_ptr<const Bitmap> picture, const Place& place
 void PrintJob::finish() {
     if (!document_) return;
     const auto document = std::exchange(document_, nullptr);
-    const std::string content = document->content();
+    const auto picture =
+        document->picture ? document->picture : std::make_shared<const Bitmap>(1, 1);
     if (document->file) {
-        document->file->write(content);
+        document->file->write(pdfFile(document->page(), *picture));
         document->file->close();
     } else {
-        document->service->send(content);
+        document->service->send(document->page(), *picture);
         document->service->close();
     }
     document->isDone = true;

@@ -1,10 +1,12 @@
 // The printers of the system's print service. Internal to the toolkit's sources.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "toolkit/pdf_page.h"
 #include "toolkit/printer.h"
 
 namespace toolkit {
@@ -15,8 +17,8 @@ namespace toolkit {
 /// The facts of a printer of the print service; a hdc of 0 where it isn't there.
 [[nodiscard]] Printer systemPrinter(std::string_view name);
 
-/// Hands a page to a printer. Open it, send the page, close it: each fails with 482 and the print
-/// service's own words when the service refuses.
+/// Hands a page to a printer. Open it, send the page, close it: each fails with 482, with the
+/// system's own words where it has any.
 class SystemPrintJob {
   public:
     SystemPrintJob(const Printer& printer, std::string_view title);
@@ -25,12 +27,12 @@ class SystemPrintJob {
     SystemPrintJob(const SystemPrintJob&) = delete;
     SystemPrintJob& operator=(const SystemPrintJob&) = delete;
 
-    void send(std::string_view pdf);
+    void send(const PdfPage& page, const Bitmap& picture);
     void close();
 
   private:
-    std::string printer_;
-    int job_ = 0;
+    struct Implementation;
+    std::unique_ptr<Implementation> implementation_;
 };
 
 } // namespace toolkit
