@@ -15,6 +15,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 STAGE = pathlib.Path(os.environ.get("ZEVLIN_BUILD", ROOT / "build" / "release")) / "stage"
 DESIGN_WIDTH = 1198  # pixels of the card for which a layout gives the places
 TWIPS_PER_INCH = 1440
+CHOOSER_TITLE = r" - (Open an existing card file|Save this card)$"
 
 
 def wait_for(what, condition, seconds=30):
@@ -190,11 +191,30 @@ class Program:
         xdotool("windowfocus", "--sync", box, "key", "--clearmodifiers", *keys)
         wait_for("the box to close", lambda: not self.is_running() or box not in self.windows())
 
+    def wait_for_chooser(self):
+        """Waits for the panel on which a card's name is chosen; its box has the keys."""
+        self.wait_for_title(CHOOSER_TITLE)
+
     def answer_name(self, name):
-        """Types a name into the prompt that a command has opened."""
+        """Types a name into the chooser that a command has opened, and takes it."""
+        self.wait_for_chooser()
+        self.press("ctrl+a")
+        self.type(name)
+        self.press("Return")
+        wait_for("the chooser to close", lambda: not self.shows_chooser())
+
+    def answer_prompt(self, text):
+        """Types a text into the box that a command has opened to ask for one."""
         box = self.wait_for_box()
-        xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15, name)
+        xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15, text)
         self.answer(box, "Return")
+
+    def shows_chooser(self):
+        """Not where the program has ended, or ends in the middle of the question."""
+        try:
+            return self.is_running() and re.search(CHOOSER_TITLE, self.title()) is not None
+        except subprocess.CalledProcessError:
+            return self.is_running()
 
     def choose_in_file_menu(self, row, *keys):
         """The row is counted from 0 and without separators; the keys go on from there."""

@@ -69,7 +69,7 @@ def export(program, home, row, name):
     """The row is counted in the list of formats; the files lie beside the card."""
     say(f'Exporting the card as "{name}".')
     program.choose_in_file_menu(EXPORT_ROW, "Right", *["Down"] * row)
-    program.answer_name(name)
+    program.answer_prompt(name)
     desktop.wait_for(name, lambda: holds(home.data / name, b""))
     program.wait_for_title(r"\)$")
     return home.data / name

@@ -45,6 +45,8 @@ struct AppState {
     toolkit::MenuItem MOptions;
     toolkit::MenuItem MExit;
     toolkit::MenuItem mDocsFolder{.Visible = false};
+    toolkit::MenuItem mpopMoveCards;
+    toolkit::MenuItem mpopLeaveCards{.Caption = "Leave cards where they are"};
 };
 
 } // namespace zev

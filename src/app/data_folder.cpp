@@ -20,7 +20,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* dataFolderName = "ZEV";
 /// A program folder that holds it is a developer's and keeps its files.
 constexpr const char* developmentFile = "zevlin.frm";
 
@@ -78,6 +77,13 @@ void hideMenuItem(Zevlin& form) {
     form.mDocsFolder.Checked = true;
 }
 
+/// There is nothing left to click for.
+void showNewFolder(Zevlin& form) {
+    form.LPath.Caption = toolkit::captionFor(toolkit::displayText(currentFolder(form)));
+    form.LPath.ForeColor = toolkit::black;
+    form.LPath.ToolTip.clear();
+}
+
 void tellMoved(Zevlin& form) {
     if (!form.mDocsFolder.Checked) return;
     toolkit::tell("Your ZEV files have been moved to " + toolkit::displayText(form.DataFolder) +
@@ -116,6 +122,7 @@ void mDocsFolder_Click(Zevlin& form) {
                       toolkit::displayText(form.DataFolder));
     try {
         moveFiles(source, form.DataFolder);
+        showNewFolder(form);
         tellMoved(form);
         Traceit(form, "mDocFolder_Click success");
         IniWrite(form);

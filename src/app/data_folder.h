@@ -7,6 +7,9 @@ namespace zev {
 
 struct Zevlin;
 
+/// Of the data folder in the documents folder.
+constexpr const char* dataFolderName = "ZEV";
+
 /// The shell folder with this identifier (5 is Documents), empty on a failure.
 [[nodiscard]] std::filesystem::path GetSpecialFolder(Zevlin& form, int identifier);
 

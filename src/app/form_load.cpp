@@ -139,7 +139,7 @@ void openNamedCard(Zevlin& form, std::string_view commandLine) {
         form.CardName.clear();
         return;
     }
-    form.TSaveAs = form.CardName;
+    form.TSaveAs.Text = form.CardName;
     form.ChooserTaken = true;
     GetCardFile(form);
     if (!form.Printing && !form.Zooming) SetCaption(form);

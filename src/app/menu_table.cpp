@@ -15,13 +15,20 @@
 #include "output/print_options.h"
 #include "output/print_partner.h"
 #include "output/printer_setup.h"
+#include "view/colors.h"
 #include "view/fit.h"
+#include "view/text_options.h"
 #include "view/zoom.h"
 
 namespace zev {
 namespace {
 
 constexpr MenuEntry separator{.level = 1};
+
+template <int Index>
+void chooseScheme(Zevlin& form) {
+    mColorScheme_Click(form, Index);
+}
 
 // clang-format off
 constexpr auto table = std::to_array<MenuEntry>({
@@ -60,6 +67,20 @@ constexpr auto table = std::to_array<MenuEntry>({
     {0, &Zevlin::MOptions,    "&Options",           "",       nullptr},
     {1, &Zevlin::MMyID,       "My Name",            "",       MMyID_Click},
     {1, &Zevlin::MPartnerID,  "Partner's Name",     "",       MPartnerID_Click},
+    separator,
+    {1, &Zevlin::mFontSize,        "Font size", "", nullptr},
+    {2, &Zevlin::mSmallerTextFont, "Smaller",   "", mSmallerTextFont_Click},
+    {2, &Zevlin::mNormalTextFont,  "Normal",    "", mNormalTextFont_Click},
+    {2, &Zevlin::mLargerTextFont,  "Larger",    "", mLargerTextFont_Click},
+    {2, &Zevlin::mBigTextFont,     "Big",       "", mBigTextFont_Click},
+    {1, &Zevlin::mBold,            "Boldface",  "", mBold_Click},
+    {1, &Zevlin::mLeftJustify, "Left-Justify all text", "", mLeftJustify_Click},
+    {1, &Zevlin::mFillIn,      "Fill-in Checkmarks",    "", mFillIn_Click},
+    separator,
+    {1, &Zevlin::mColorManagement, "Color Management", "", nullptr},
+    {2, nullptr, "ACBL Compliant", "", chooseScheme<0>, AtStart::Enabled, 0},
+    {2, nullptr, "Custom...",      "", chooseScheme<1>, AtStart::Enabled, 1},
+    separator,
     {1, &Zevlin::mPrintAlt,   "Use alternate print method", "", mPrintAlt_Click},
     {1, &Zevlin::MColor,      "Force color printing", "",     MColor_Click},
     {1, &Zevlin::MMono,       "Force black printing", "",     MMono_Click},
@@ -85,5 +106,10 @@ constexpr auto table = std::to_array<MenuEntry>({
 } // namespace
 
 std::span<const MenuEntry> menuTable() { return table; }
+
+toolkit::MenuItem* itemOf(Zevlin& form, const MenuEntry& entry) {
+    if (entry.scheme >= 0) return &form.mcolorscheme.at(static_cast<std::size_t>(entry.scheme));
+    return entry.item == nullptr ? nullptr : &(form.*entry.item);
+}
 
 } // namespace zev

@@ -18,7 +18,13 @@ struct MenuEntry {
     std::string_view shortcut{};          ///< acts while the item is shown and enabled
     void (*procedure)(Zevlin&) = nullptr; ///< none: a menu
     AtStart atStart = AtStart::Enabled;
+    int scheme = -1; ///< the element of mcolorscheme that is the item, where `item` is none
+
+    [[nodiscard]] constexpr bool isSeparator() const { return item == nullptr && scheme < 0; }
 };
+
+/// The item of a row, nullptr for a separator.
+[[nodiscard]] toolkit::MenuItem* itemOf(Zevlin& form, const MenuEntry& entry);
 
 [[nodiscard]] std::span<const MenuEntry> menuTable();
 

@@ -4,6 +4,7 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "card/chooser_events.h"
 #include "card/modified.h"
 #include "output/printer_facts.h"
 #include "toolkit/number_text.h"
@@ -17,6 +18,10 @@ bool Form_Unload(Zevlin& form, int unloadMode) {
     if (form.Printing) return true;
     bool cancel = false;
     trapped(form, "Error in Form_Unload: #", [&] {
+        if (form.BCancel.Visible) {
+            cancel = true;
+            return BCancel_Click(form);
+        }
         cancel = CheckMod(form);
         if (!cancel) releasePrinter(form);
     });

@@ -9,7 +9,8 @@ struct Zevlin;
 constexpr int unloadByPlayer = 0;
 constexpr int unloadFromCode = 1;
 
-/// Asks about unsaved changes; true refuses, and the form stays.
+/// Closes the chooser if it is open, else asks about unsaved changes; true refuses, and the form
+/// stays.
 [[nodiscard]] bool Form_Unload(Zevlin& form, int unloadMode);
 
 /// Asks about unsaved changes and ends the program.

@@ -3,8 +3,10 @@
 #include <vector>
 
 #include "app/menu_table.h"
+#include "app/run_procedure.h"
 #include "app/trace.h"
 #include "app/unload.h"
+#include "app/wire_panels.h"
 #include "app/zevlin.h"
 #include "help/help_page.h"
 #include "marks/card_mouse.h"
@@ -16,14 +18,6 @@
 
 namespace zev {
 namespace {
-
-/// A slot that runs the procedure over this form with whatever the event brings.
-template <typename... Arguments>
-auto run(Zevlin& form, void (*procedure)(Zevlin&, Arguments...)) {
-    return [&form, procedure](Arguments... arguments) {
-        procedure(form, static_cast<Arguments>(arguments)...);
-    };
-}
 
 void wireForm(Zevlin& form) {
     form.KeyDown = run(form, Form_KeyDown);
@@ -99,8 +93,8 @@ std::vector<toolkit::MenuRow> menuRows(Zevlin& form) {
         toolkit::MenuRow row;
         row.level = entry.level;
         row.shortcut = entry.shortcut;
-        if (entry.item != nullptr) {
-            row.item = &(form.*entry.item);
+        if (toolkit::MenuItem* item = itemOf(form, entry)) {
+            row.item = item;
             row.item->Caption = entry.caption;
             row.item->Enabled = entry.atStart == AtStart::Enabled;
         }
@@ -125,7 +119,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.cardLabels = {&form.Timestamp, &form.CreditLabel};
     parts.cardTextBoxes = {&form.CText, &form.LText};
     parts.lists = {&form.THelp};
-    parts.panels = {&form.P3};
+    parts.panels = wirePanels(form);
     parts.notices = {&form.PleaseWait};
     parts.menu = menuRows(form);
     return parts;

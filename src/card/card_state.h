@@ -5,6 +5,7 @@
 #include <string>
 
 #include "toolkit/control.h"
+#include "toolkit/panel.h"
 
 namespace zev {
 
@@ -21,8 +22,16 @@ struct CardState {
 
     bool ChooserCancelled = false;
     bool ChooserTaken = false;
-    std::string TSaveAs; ///< the name as the chooser left it
+    toolkit::TextBox TSaveAs;    ///< the name as it will be used; the chooser leaves it
+    toolkit::ListBox FileList;   ///< the cards of the data folder, without extension
+    toolkit::PanelLabel LSaveAs; ///< the prompt
+    toolkit::PanelLabel LPath;   ///< the data folder
+    toolkit::CommandButton BOK;
+    toolkit::CommandButton BCancel;
 
+    toolkit::MenuItem mpopOpen;
+    toolkit::MenuItem mpopDelete;
+    toolkit::MenuItem mpopRename;
     toolkit::MenuItem MNew;
     toolkit::MenuItem MOpen;
     toolkit::MenuItem MSave;

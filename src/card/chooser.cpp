@@ -1,67 +1,117 @@
 #include "card/chooser.h"
 
+#include "app/panel_look.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/card_file.h"
 #include "card/card_names.h"
+#include "card/chooser_events.h"
+#include "card/chooser_layout.h"
 #include "card/modified.h"
+#include "help/help_page.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/file_names.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
+#include "view/panels.h"
 
 namespace zev {
 namespace {
 
-constexpr std::size_t longestListInPrompt = 30;
+constexpr const char* openFolderTip = "Click to open the folder in Windows Explorer";
+constexpr const char* changeFolderTip = "  Right-click to change";
 
-std::string promptFor(const std::vector<std::string>& names) {
-    if (names.empty()) return "Enter a name for a new card";
-    std::string prompt = "Select from list or enter a name for a new card\n";
-    for (std::size_t i = 0; i < names.size() && i < longestListInPrompt; ++i) {
-        prompt += "\n  " + names[i];
+void setTexts(Zevlin& form) {
+    form.FileList.Visible = !form.FileList.List.empty();
+    form.LSaveAs.Caption = form.FileList.Visible ? "Select from list or enter a name for a new card"
+                                                 : "Enter a name for a new card";
+    form.LPath.Caption = toolkit::captionFor("Folder:  " + toolkit::displayText(form.DataFolder));
+    form.LPath.ForeColor = linkBlue;
+    form.LPath.ToolTip = openFolderTip;
+    if (!form.mDocsFolder.Checked) form.LPath.ToolTip += changeFolderTip;
+}
+
+/// The panel in place of the card and the menus, for as long as this lives.
+class ShownChooser {
+  public:
+    explicit ShownChooser(Zevlin& form) : form_(form), background_(form.Background) {
+        if (form.THelp.Visible) hideHelp(form);
+        GradientFill(form, IncludePanel::Yes);
+        form.P1.Visible = false;
+        form.MenusEnabled = false;
+        show(true);
     }
-    if (names.size() > longestListInPrompt) prompt += "\n  ...";
-    return prompt;
-}
+    ShownChooser(const ShownChooser&) = delete;
+    ShownChooser& operator=(const ShownChooser&) = delete;
+    ~ShownChooser() {
+        show(false);
+        form_.Background = background_;
+        // The colour panel covers the card by itself.
+        form_.P1.Visible = form_.MenusEnabled = !form_.ColorPic.Visible;
+        form_.ActiveControl = &form_.P1;
+    }
 
-bool canBeCardName(const std::string& name) {
-    return !hasForbiddenCharacter(name) &&
-           toolkit::isPossibleFileName(name + std::string(cardExtension));
-}
+  private:
+    void show(bool visible) {
+        form_.P3.Visible = form_.TSaveAs.Visible = visible;
+        form_.LSaveAs.Visible = form_.LPath.Visible = visible;
+        form_.BOK.Visible = form_.BCancel.Visible = visible;
+    }
 
-std::string askForName(Zevlin& form) {
+    Zevlin& form_;
+    toolkit::FormBackground background_;
+};
+
+void letPlayerChoose(Zevlin& form) {
+    PopulateFileList(form);
+    setTexts(form);
+    layOutChooser(form);
+    const ShownChooser shown(form);
     form.ChooserCancelled = form.ChooserTaken = false;
-    form.TSaveAs = toolkit::ask(
-        {.prompt = promptFor(cardNames(form)), .title = form.Caption, .preset = form.TSaveAs});
-    std::string name(toolkit::trim(form.TSaveAs));
-    if (name.empty()) {
-        form.ChooserCancelled = true;
-        form.TSaveAs.clear();
+    enableOk(form);
+    toolkit::doEvents();
+    form.SetFocus(form.TSaveAs);
+    toolkit::waitForPlayer([&form] { return form.ChooserCancelled || form.ChooserTaken; });
+}
+
+std::string chosenName(Zevlin& form) {
+    if (form.ChooserCancelled) {
+        form.TSaveAs.Text.clear();
         SetCaption(form);
         return {};
     }
-    form.ChooserTaken = true;
-    if (canBeCardName(name)) return name;
-    toolkit::tell("'" + name +
-                      "' is an invalid file name.  Names cannot contain any of these characters:  "
-                      "/  :  *  \\  ?  \"  <  >",
-                  toolkit::Icon::None);
-    return {};
+    std::string name(toolkit::trim(form.TSaveAs.Text));
+    return checkCardName(name) ? name : std::string();
 }
 
 } // namespace
 
-std::vector<std::string> cardNames(const Zevlin& form) {
-    auto names = toolkit::listFiles(form.DataFolder, cardExtension);
-    for (std::string& name : names) name.resize(name.size() - cardExtension.size());
-    return names;
+bool checkCardName(const std::string& name) {
+    if (!hasForbiddenCharacter(name) &&
+        toolkit::isPossibleFileName(name + std::string(cardExtension)))
+        return true;
+    toolkit::tell("'" + name +
+                      "' is an invalid file name.  Names cannot contain any of these characters:  "
+                      "/  :  *  \\  ?  \"  <  >",
+                  toolkit::Icon::None);
+    return false;
+}
+
+void PopulateFileList(Zevlin& form) {
+    Traceit(form, "PopulateFileList");
+    form.FileList.List = toolkit::listFiles(form.DataFolder, cardExtension);
+    for (std::string& name : form.FileList.List) name.resize(name.size() - cardExtension.size());
+    form.FileList.ListIndex = -1;
 }
 
 std::string GetFileNames(Zevlin& form) {
     Traceit(form, "GetFileNames");
     std::string name;
-    trapped(form, "Error in GetFileNames: #", [&] { name = askForName(form); });
+    trapped(form, "Error in GetFileNames: #", [&] {
+        letPlayerChoose(form);
+        name = chosenName(form);
+    });
     return name;
 }
 

@@ -1,17 +1,20 @@
-// Asking for a card's name.
+// Asking for a card's name, on a panel over the form.
 #pragma once
 
 #include <string>
-#include <vector>
 
 namespace zev {
 
 struct Zevlin;
 
-/// Names of the cards in the data folder, without the extension.
-[[nodiscard]] std::vector<std::string> cardNames(const Zevlin& form);
-
-/// The name that the player chose, trimmed; empty for cancel or a name that no file can have.
+/// Shows the panel and waits for the player. The name that they chose, trimmed; empty for cancel or
+/// a name that no file can have.
 [[nodiscard]] std::string GetFileNames(Zevlin& form);
+
+/// Lists the cards of the data folder by name, none of them selected.
+void PopulateFileList(Zevlin& form);
+
+/// Whether a card can have the name; tells the player if not.
+[[nodiscard]] bool checkCardName(const std::string& name);
 
 } // namespace zev

@@ -98,15 +98,19 @@ std::string chosenNameToSave(Zevlin& form) {
     const std::string title = form.Caption;
     const bool shown = showsTitle(form);
     if (shown) form.Caption = title + " - Save this card";
+    const std::string cardName = form.CardName;
     std::string name = GetFileNames(form);
-    if (shown) form.Caption = title;
+    // Unless the chooser has deleted the card: then its name is gone from the title too.
+    if (shown && form.CardName == cardName) form.Caption = title;
     return name;
 }
 
-/// The name as typed among the listed cards, or any file that the save would replace.
+/// A selected card, the name as typed among the listed ones, or any file that the save would
+/// replace.
 bool isTaken(const Zevlin& form, const std::string& name) {
-    const auto names = cardNames(form);
-    return std::ranges::find(names, form.TSaveAs) != names.end() || cardExists(form, name);
+    const auto& names = form.FileList.List;
+    return form.FileList.ListIndex >= 0 ||
+           std::ranges::find(names, form.TSaveAs.Text) != names.end() || cardExists(form, name);
 }
 
 bool mayReplace() {

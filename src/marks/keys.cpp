@@ -53,7 +53,8 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
     form.CursorPos = toolkit::cursorPosition();
     traceKeys(form, key);
     if (key.KeyCode == 0 && key.Shift == 0) return;
-    if (form.THelp.Visible) return;
+    // What lies over the card has keys of its own.
+    if (form.BOK.Visible || form.THelp.Visible || form.ColorPic.Visible) return;
     if (key.KeyCode == toolkit::key::f1) {
         consume(key);
         MHelp_Click(form);

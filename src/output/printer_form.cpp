@@ -67,8 +67,10 @@ frmPrint::frmPrint(toolkit::Printer& printerObject) : printer(printerObject) {
     cbSource.Label = "Paper Tray";
     rbOrientation[0].Caption = "Landscape";
     rbOrientation[1].Caption = "Portrait";
-    cmdOK = {.Caption = "&OK", .Default = true, .Cancel = false, .Click = {}};
-    cmdCancel = {.Caption = "&Cancel", .Default = false, .Cancel = true, .Click = {}};
+    cmdOK.Caption = "&OK";
+    cmdOK.Default = true;
+    cmdCancel.Caption = "&Cancel";
+    cmdCancel.Cancel = true;
     for (auto* box : {&cbPrinter, &cbSize, &cbSource}) makeListOnly(*box);
     cbPrinter.Click = [this] { cbPrinter_Click(*this); };
     cmdOK.Click = [this] { cmdOK_Click(*this); };

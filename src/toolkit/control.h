@@ -92,6 +92,7 @@ enum class PanelFill {
 struct Panel : Control {
     PanelFill Fill = PanelFill::Plain;
     int CornerRadius = 0; ///< pixels
+    bool Framed = false;  ///< a fine line runs along its edge
 };
 
 /// A picture as screens show it that have more than one pixel to a logical one.
@@ -124,6 +125,7 @@ struct ListBox : Control {
     int ListIndex = -1;    ///< the current row; -1 for none
     int PointedIndex = -1; ///< the row under the last press; -1 below the last row
     std::string ToolTip;
+    int RowGap = 0; ///< pixels by which a row is higher than its line
 };
 
 /// An item of the menu bar or of a pop-up menu; "&" marks its access key.

@@ -3,7 +3,10 @@
 #include <exception>
 #include <utility>
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
+
+#include "toolkit/qt_program.h"
 
 namespace toolkit {
 namespace {
@@ -12,6 +15,19 @@ std::exception_ptr& kept() {
     static std::exception_ptr exception;
     return exception;
 }
+
+/// What runs meanwhile runs as if no handler were running.
+class Outermost {
+  public:
+    explicit Outermost(int& depth) : depth_(depth), outer_(std::exchange(depth, 0)) {}
+    Outermost(const Outermost&) = delete;
+    Outermost& operator=(const Outermost&) = delete;
+    ~Outermost() { depth_ = outer_; }
+
+  private:
+    int& depth_;
+    int outer_;
+};
 
 } // namespace
 
@@ -42,6 +58,18 @@ void Delivery::run(const std::function<void()>& handler) {
 
 void Delivery::askToClose() {
     if (!std::exchange(closeAsked_, true)) scheduleClose();
+}
+
+void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
+    const Outermost outermost(depth_);
+    if (closeAsked_) scheduleClose();
+    while (!isOver() && !kept()) {
+        if (programOverrides().player)
+            programOverrides().player();
+        else
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    rethrowKept();
 }
 
 /// Queued: the close procedure may end the program, which must not happen below the platform's own

@@ -26,26 +26,34 @@ bool isTypeable(QChar character) {
 
 std::string typedText(const QString& text) { return ansiFromTyped(text.toStdString()); }
 
+/// Pixels by which the widget is wider than its control, on each side.
+int wideningOf(EditBox::Place place) { return place == EditBox::Place::Card ? ownMargin : 0; }
+
 Qt::Alignment qAlignment(Alignment alignment) {
     switch (alignment) {
     case Alignment::Left:
-        return Qt::AlignLeft | Qt::AlignTop;
+        return Qt::AlignLeft;
     case Alignment::Right:
-        return Qt::AlignRight | Qt::AlignTop;
+        return Qt::AlignRight;
     case Alignment::Center:
-        return Qt::AlignHCenter | Qt::AlignTop;
+        return Qt::AlignHCenter;
     }
     return Qt::AlignLeft;
 }
 
 } // namespace
 
-EditBox::EditBox(QWidget& card, const WindowParts& parts, TextBox& box, Delivery& delivery)
-    : QLineEdit(&card), box_(box), delivery_(delivery),
-      mouse_(*parts.form, delivery, box, parts.card, ownMargin) {
+EditBox::EditBox(QWidget& parent, Form& form, TextBox& box, const Control& container,
+                 Delivery& delivery, Place place)
+    : QLineEdit(&parent), box_(box), delivery_(delivery), place_(place),
+      mouse_(form, delivery, box, &container, wideningOf(place)) {
     hide();
-    setFrame(false);
-    setTextMargins(0, -ownTopMargin, 0, -ownTopMargin);
+    if (place == Place::Card) {
+        setFrame(false);
+        setTextMargins(0, -ownTopMargin, 0, -ownTopMargin);
+    } else {
+        setTextMargins(ownMargin, 0, ownMargin, 0);
+    }
     setMinimumSize(0, 0);
     setFocusPolicy(Qt::NoFocus);
     setContextMenuPolicy(Qt::NoContextMenu);
@@ -75,9 +83,10 @@ void EditBox::push() {
         pushText();
         pushSelection();
     }
-    if (const Qt::Alignment wanted = qAlignment(box_.Alignment); wanted != alignment())
-        setAlignment(wanted);
-    looks_.push(*this, box_, ownMargin);
+    const Qt::Alignment wanted =
+        qAlignment(box_.Alignment) | (place_ == Place::Card ? Qt::AlignTop : Qt::AlignVCenter);
+    if (wanted != alignment()) setAlignment(wanted);
+    looks_.push(*this, box_, wideningOf(place_));
 }
 
 void EditBox::pushText() {

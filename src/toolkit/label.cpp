@@ -12,4 +12,10 @@ std::string paintedText(std::string_view caption) {
     return painted;
 }
 
+std::string captionFor(std::string_view text) {
+    std::string caption;
+    for (const char character : text) caption.append(character == '&' ? 2 : 1, character);
+    return caption;
+}
+
 } // namespace toolkit

@@ -49,4 +49,7 @@ struct Label {
 /// The text that a caption paints: "&&" gives "&", a single "&" is dropped.
 [[nodiscard]] std::string paintedText(std::string_view caption);
 
+/// The caption that paints just this text, each "&" of it included.
+[[nodiscard]] std::string captionFor(std::string_view text);
+
 } // namespace toolkit

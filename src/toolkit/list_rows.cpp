@@ -41,15 +41,16 @@ void ListRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option
     const QColor highlighted = option.palette.color(QPalette::HighlightedText);
     const Color color = selected ? rgb(highlighted.red(), highlighted.green(), highlighted.blue())
                                  : list_.ForeColor;
-    const QPointF origin(option.rect.left() + leftMargin,
-                         option.rect.top() + pixelsFromTwips(textAscent(list_.Font)));
+    const int gap = list_.RowGap / 2;
+    const QPointF origin(option.rect.left() + leftMargin + gap,
+                         option.rect.top() + gap + pixelsFromTwips(textAscent(list_.Font)));
     drawRun(*painter, origin, list_.Font, 1.0 / twipsPerPixel(), color, rows_.row(index.row()));
 }
 
 QSize ListRowPainter::sizeHint(const QStyleOptionViewItem& /*option*/,
                                const QModelIndex& /*index*/) const {
     const float height = textHeight(list_.Font) / static_cast<float>(twipsPerPixel());
-    return {1, std::max(1, static_cast<int>(std::floor(height)))};
+    return {1, std::max(1, static_cast<int>(std::floor(height))) + list_.RowGap};
 }
 
 } // namespace toolkit

@@ -7,11 +7,14 @@
 
 namespace toolkit {
 
-ListView::ListView(QWidget& form, const WindowParts& parts, ListBox& list, Delivery& delivery)
-    : QListView(&form), list_(list), mouse_(*parts.form, delivery, list, nullptr, 0),
+ListView::ListView(QWidget& parent, Form& form, ListBox& list, Delivery& delivery)
+    : QListView(&parent), list_(list), mouse_(form, delivery, list, nullptr, 0),
       painter_(rows_, list) {
     hide();
     setFrameStyle(QFrame::Box | QFrame::Plain);
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, Qt::gray);
+    setPalette(colors);
     setUniformItemSizes(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

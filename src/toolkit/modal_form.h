@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "toolkit/command_button.h"
 #include "toolkit/control.h"
 
 namespace toolkit {
@@ -24,13 +25,6 @@ struct OptionButton {
     std::string Caption;
     bool Value = false;
     bool Enabled = true;
-};
-
-struct CommandButton {
-    std::string Caption;
-    bool Default = false; ///< Enter presses it
-    bool Cancel = false;  ///< Esc presses it
-    std::function<void()> Click;
 };
 
 /// From top to bottom: lists, options side by side, buttons.

@@ -38,6 +38,11 @@ void wait(int milliseconds) {
     rethrowKept();
 }
 
+void waitForPlayer(const std::function<bool()>& isOver) {
+    updateWindow();
+    if (currentWindow() != nullptr) currentWindow()->delivery().letPlayerAct(isOver);
+}
+
 void beep() {
     if (programOverrides().beep) return programOverrides().beep();
     QApplication::beep();

@@ -14,6 +14,10 @@ void doEvents();
 /// Pauses for the time given while the window keeps painting.
 void wait(int milliseconds);
 
+/// Lets the player act, over and over, until `isOver`: in the middle of a procedure, everything
+/// that is shown and enabled can be reached, and a close of the window is an event like any other.
+void waitForPlayer(const std::function<bool()>& isOver);
+
 /// A system beep.
 void beep();
 
@@ -52,6 +56,8 @@ struct ProgramOverrides {
     std::function<void()> beep{};              ///< instead of the sound
     /// Sees each short wait, with the time that was asked for, once the events have run.
     std::function<void(int milliseconds)> duringWait{};
+    /// Acts in the player's place while the program waits for them.
+    std::function<void()> player{};
 };
 void overrideProgram(ProgramOverrides overrides);
 

@@ -32,6 +32,9 @@ class Delivery {
     /// Runs the close once no handler is running, from the event loop.
     void askToClose();
 
+    /// Runs the player's events until `isOver`, in the middle of a handler. A close comes at once.
+    void letPlayerAct(const std::function<bool()>& isOver);
+
   private:
     void guarded(const std::function<void()>& handler);
     void scheduleClose();

@@ -1,4 +1,4 @@
-// An edit box over the card. Internal to the toolkit's sources.
+// An edit box over the card or on a panel. Internal to the toolkit's sources.
 #pragma once
 
 #include <QtWidgets/QLineEdit>
@@ -11,7 +11,12 @@ namespace toolkit {
 /// Holds characters of the code page only, one of Qt's a byte, so that places in the text agree.
 class EditBox : public QLineEdit {
   public:
-    EditBox(QWidget& card, const WindowParts& parts, TextBox& box, Delivery& delivery);
+    /// Over the card it has no frame and its text stands where the label's below does.
+    enum class Place { Card, Panel };
+
+    /// `container` is the control that the box lies on, shown by the widget `parent`.
+    EditBox(QWidget& parent, Form& form, TextBox& box, const Control& container, Delivery& delivery,
+            Place place);
 
     /// What the player changed since the last call goes into the values.
     void pull();
@@ -46,6 +51,7 @@ class EditBox : public QLineEdit {
 
     TextBox& box_;
     Delivery& delivery_;
+    Place place_;
     ControlMouse mouse_;
     ControlLooks looks_;
     std::string knownText_;

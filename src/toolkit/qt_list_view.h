@@ -1,4 +1,4 @@
-// A list box on the form. Internal to the toolkit's sources.
+// A list box on the form or on a panel. Internal to the toolkit's sources.
 #pragma once
 
 #include <QtCore/QAbstractListModel>
@@ -41,7 +41,7 @@ class ListRowPainter : public QAbstractItemDelegate {
 
 class ListView : public QListView {
   public:
-    ListView(QWidget& form, const WindowParts& parts, ListBox& list, Delivery& delivery);
+    ListView(QWidget& parent, Form& form, ListBox& list, Delivery& delivery);
     ~ListView() override;
 
     void pull();

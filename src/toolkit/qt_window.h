@@ -28,11 +28,13 @@ class Window::Implementation {
 
     [[nodiscard]] FormWidget& form() { return form_; }
     [[nodiscard]] CardWidget& card() { return card_; }
+    [[nodiscard]] Delivery& delivery() { return delivery_; }
     [[nodiscard]] const WindowParts& parts() const { return parts_; }
     /// The widget that shows the control, nullptr where none does.
     [[nodiscard]] QWidget* widgetOf(const Control* control);
 
   private:
+    [[nodiscard]] bool isShown(const Control& control);
     void pushFocus();
     void pushStacking();
     void watchKeys();
@@ -43,9 +45,9 @@ class Window::Implementation {
     FormWidget form_;
     CardWidget card_;
     std::vector<std::unique_ptr<EditBox>> boxes_;
-    std::vector<std::unique_ptr<PanelWidget>> panels_;
     std::vector<std::unique_ptr<ListView>> lists_;
     std::vector<std::unique_ptr<Notice>> notices_;
+    std::vector<std::unique_ptr<PanelWidget>> panels_;
     KeyDelivery keys_;
     std::vector<const Control*> stacked_; ///< card, panels and lists, the hindmost first
     bool pushing_ = false;

@@ -26,6 +26,19 @@ void click(float x, float y, int button = button::left, int shift = 0);
 void doubleClick(float x, float y);
 /// At the middle of the card, over whatever lies there; 120 is one notch away from the player.
 void turnWheel(int rotation);
+/// The same over another control that is shown.
+void turnWheelOver(const Control& control, int rotation);
+
+/// A place for the mouse helpers above, wherever it lies.
+struct PointOnCard {
+    float x = 0;
+    float y = 0;
+};
+/// A point in a control that is shown, the middle of one, of a label of a panel, of a list's row.
+[[nodiscard]] PointOnCard pointIn(const Control& control, float x, float y);
+[[nodiscard]] PointOnCard pointOn(const Control& control);
+[[nodiscard]] PointOnCard pointOn(const Panel& panel, const Label& label);
+[[nodiscard]] PointOnCard pointOnRow(const ListBox& list, int row);
 
 /// A key by virtual code, pressed or released on the widget that has the focus.
 void pressKey(int keyCode, int shift = 0, std::string_view text = {});
@@ -69,6 +82,10 @@ void settle();
 [[nodiscard]] Bitmap shownIcon(int size);
 [[nodiscard]] bool isShown(const Control& control);
 [[nodiscard]] std::string shownText(const TextBox& box);
+/// The tool tip that comes up when the pointer rests there, over the control; empty for none.
+[[nodiscard]] std::string toolTipAt(const Control& control, PointOnCard point);
+/// Whether the control looks as if it can't be used.
+[[nodiscard]] bool isGreyed(const Control& control);
 /// Whether the platform sends its keys to the control.
 [[nodiscard]] bool hasPlatformFocus(const Control& control);
 

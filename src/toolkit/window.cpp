@@ -37,11 +37,13 @@ Window::Implementation::Implementation(WindowParts shown)
       keys_(parts_, delivery_,
             [this](const QKeyEvent& event) { return form_.menuBar().runShortcut(event); }) {
     for (TextBox* box : parts_.cardTextBoxes)
-        boxes_.push_back(std::make_unique<EditBox>(card_, parts_, *box, delivery_));
-    for (const Panel* panel : parts_.panels)
-        panels_.push_back(std::make_unique<PanelWidget>(form_.area(), *parts_.form, *panel));
+        boxes_.push_back(std::make_unique<EditBox>(card_, *parts_.form, *box, *parts_.card,
+                                                   delivery_, EditBox::Place::Card));
     for (ListBox* list : parts_.lists)
-        lists_.push_back(std::make_unique<ListView>(form_.area(), parts_, *list, delivery_));
+        lists_.push_back(std::make_unique<ListView>(form_.area(), *parts_.form, *list, delivery_));
+    for (const PanelContents& panel : parts_.panels)
+        panels_.push_back(
+            std::make_unique<PanelWidget>(form_.area(), *parts_.form, panel, delivery_));
     for (TextBox* notice : parts_.notices)
         notices_.push_back(std::make_unique<Notice>(form_.area(), *notice));
     watchKeys();
@@ -66,6 +68,7 @@ void Window::Implementation::watchKeys() {
         ListView& list = *lists_[index];
         keys_.watch(list, *parts_.lists[index], [&list](QKeyEvent& event) { list.takeKey(event); });
     }
+    for (const auto& panel : panels_) panel->watch(keys_);
 }
 
 void Window::Implementation::pull() {
@@ -73,6 +76,7 @@ void Window::Implementation::pull() {
     form_.pull();
     for (const auto& box : boxes_) box->pull();
     for (const auto& list : lists_) list->pull();
+    for (const auto& panel : panels_) panel->pull();
 }
 
 void Window::Implementation::push() {
@@ -80,8 +84,8 @@ void Window::Implementation::push() {
     form_.push();
     card_.push();
     for (const auto& box : boxes_) box->push();
-    for (const auto& panel : panels_) panel->push();
     for (const auto& list : lists_) list->push();
+    for (const auto& panel : panels_) panel->push();
     pushStacking();
     for (const auto& notice : notices_) notice->push();
     pushFocus();
@@ -93,11 +97,18 @@ QWidget* Window::Implementation::widgetOf(const Control* control) {
     if (control == parts_.card) return &card_;
     for (std::size_t index = 0; index < boxes_.size(); ++index)
         if (parts_.cardTextBoxes[index] == control) return boxes_[index].get();
-    for (std::size_t index = 0; index < panels_.size(); ++index)
-        if (parts_.panels[index] == control) return panels_[index].get();
     for (std::size_t index = 0; index < lists_.size(); ++index)
         if (parts_.lists[index] == control) return lists_[index].get();
+    for (const auto& panel : panels_)
+        if (QWidget* widget = panel->widgetOf(control)) return widget;
     return nullptr;
+}
+
+bool Window::Implementation::isShown(const Control& control) {
+    if (!control.Visible) return false;
+    return std::ranges::all_of(panels_, [&control](const auto& panel) {
+        return panel->widgetOf(&control) == nullptr || panel->box().Visible;
+    });
 }
 
 /// Where the keys go is the form's to say; the platform's focus follows it, so nothing that the
@@ -105,7 +116,7 @@ QWidget* Window::Implementation::widgetOf(const Control* control) {
 void Window::Implementation::pushFocus() {
     Control*& active = parts_.form->ActiveControl;
     QWidget* widget = widgetOf(active);
-    if (widget != nullptr && !active->Visible) {
+    if (widget != nullptr && !isShown(*active)) {
         active = parts_.card;
         widget = &card_;
     }
@@ -116,8 +127,8 @@ void Window::Implementation::pushFocus() {
 
 void Window::Implementation::pushStacking() {
     std::vector<const Control*> order{parts_.card};
-    order.insert(order.end(), parts_.panels.begin(), parts_.panels.end());
     order.insert(order.end(), parts_.lists.begin(), parts_.lists.end());
+    for (const PanelContents& panel : parts_.panels) order.push_back(panel.box);
     std::ranges::stable_sort(order, {}, &Control::Stack);
     if (order == stacked_) return;
     for (const Control* control : order) widgetOf(control)->raise();

@@ -8,21 +8,12 @@
 #include <vector>
 
 #include "toolkit/control.h"
-#include "toolkit/control_array.h"
 #include "toolkit/form.h"
 #include "toolkit/label.h"
+#include "toolkit/label_group.h"
+#include "toolkit/panel.h"
 
 namespace toolkit {
-
-/// A control array of labels on the card with its event slots. X and Y are relative to the label.
-struct LabelGroup {
-    ControlArray<Label>* labels = nullptr;
-    bool TakesFocus = false; ///< a press gives the focus to the card before MouseDown runs
-    std::function<void(int index, MouseArguments&)> MouseDown{};
-    std::function<void(int index, MouseArguments&)> MouseMove{};
-    std::function<void(int index, MouseArguments&)> MouseUp{};
-    std::function<void(int index)> Click{};
-};
 
 /// One row of the menu bar's table.
 struct MenuRow {
@@ -43,7 +34,7 @@ struct WindowParts {
     std::vector<Label*> cardLabels{};      ///< single labels on the card; they swallow presses
     std::vector<TextBox*> cardTextBoxes{}; ///< over the labels of the card
     std::vector<ListBox*> lists{};         ///< on the form, over the card
-    std::vector<Panel*> panels{};          ///< on the form, over the card
+    std::vector<PanelContents> panels{};   ///< the same
     std::vector<TextBox*> notices{};       ///< on the form, over all else; only to be read
     std::vector<MenuRow> menu{};
 };

@@ -8,6 +8,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "toolkit/number_text.h"
+#include "view/color_panel.h"
 
 namespace zev {
 namespace {
@@ -44,10 +45,24 @@ void paintScheme(Zevlin& form) {
     paintAll(form.SText, color);
 }
 
-void chooseScheme(Zevlin& form, int index) {
-    for (auto& item : form.mcolorscheme) item.Checked = false;
+void checkScheme(Zevlin& form, int index) {
+    form.PreviousScheme = static_cast<std::int16_t>(index);
+    for (int i = 0; auto& item : form.mcolorscheme) {
+        if (item.Checked && i != index) form.PreviousScheme = static_cast<std::int16_t>(i);
+        item.Checked = false;
+        ++i;
+    }
     form.mcolorscheme.at(static_cast<std::size_t>(index)).Checked = true;
-    if (index < form.LastSchemeIndex) form.ColorScheme = index;
+}
+
+void chooseScheme(Zevlin& form, int index) {
+    checkScheme(form, index);
+    if (index < form.LastSchemeIndex) {
+        form.ColorScheme = index;
+    } else if (!form.Initializing) {
+        // Its buttons do the rest.
+        return showColorPanel(form);
+    }
     if (form.AMark.UBound() > 0) SetGlobalColors(form);
     if (!form.Initializing) IniWrite(form);
 }

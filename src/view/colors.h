@@ -5,7 +5,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// Chooses the scheme with this index of the menu; index 0 is the ACBL's.
+/// Chooses the scheme with this index of the menu: index 0 is the ACBL's, the last one opens the
+/// panel for a colour. While the program initializes, the stored colour stands and no panel opens.
 void mColorScheme_Click(Zevlin& form, int index);
 
 /// Paints all fields in the present scheme; the fields' own colours stay remembered.

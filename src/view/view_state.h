@@ -10,6 +10,7 @@
 #include "toolkit/control_array.h"
 #include "toolkit/form.h"
 #include "toolkit/label.h"
+#include "toolkit/panel.h"
 #include "view/card_picture.h"
 #include "view/zoom_ladder.h"
 
@@ -35,6 +36,7 @@ struct ViewState {
 
     std::int32_t ColorScheme = 0; ///< 0 ACBL, else a colour
     std::int16_t LastSchemeIndex = 1;
+    std::int16_t PreviousScheme = 0; ///< checked before the last click; what Cancel returns to
     std::array<toolkit::MenuItem, 2> mcolorscheme{
         toolkit::MenuItem{.Caption = "ACBL Compliant", .Checked = true},
         toolkit::MenuItem{.Caption = "Custom..."}};
@@ -42,13 +44,26 @@ struct ViewState {
     toolkit::MenuItem MView;
     toolkit::MenuItem MZoomIn;
     toolkit::MenuItem MZoomOut;
+    toolkit::MenuItem mColorManagement; ///< the menu of the schemes
+
+    toolkit::Panel ColorPic;                           ///< the colour panel
+    toolkit::PanelLabel Lpresetcolors;                 ///< what to do
+    toolkit::ControlArray<toolkit::Label> ColorSample; ///< the presets, from 0
+    toolkit::PanelLabel ColorLabel;                    ///< its BackColor is the chosen colour
+    toolkit::PanelLabel ColorText;                     ///< a sample in that colour
+    std::array<toolkit::PanelLabel, 3> ColorID;        ///< red, green and blue as numbers
+    std::array<toolkit::ScrollBar, 3> ColorScroll;     ///< and as sliders
+    std::array<toolkit::CommandButton, 2> ColorBut;    ///< OK and Cancel
+
     toolkit::MenuItem MFitScreenWidth;
     toolkit::MenuItem MFitScreenHeight;
+    toolkit::MenuItem mFontSize; ///< the menu of the four sizes
     toolkit::MenuItem mSmallerTextFont;
     toolkit::MenuItem mNormalTextFont{.Checked = true};
     toolkit::MenuItem mLargerTextFont;
     toolkit::MenuItem mBigTextFont;
     toolkit::MenuItem mBold;
+    toolkit::MenuItem mLeftJustify;
     toolkit::MenuItem mFillIn;
 };
 

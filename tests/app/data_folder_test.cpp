@@ -65,7 +65,7 @@ TEST_F(DataFolder, AFirstRunWritesItsOptionsAndFitsTheCard) {
 TEST_F(DataFolder, TheMoveIsTraced) {
     fs::create_directories(dataFolder);
     writeLayout(fewFields());
-    answerInput("");
+    answerName("");
     start();
     EXPECT_TRUE(
         traced("mDocsFolder_Click " + programFolder.string() + " -> " + dataFolder.string()));
@@ -109,11 +109,11 @@ TEST_F(DataFolder, OptionsOfCommentsOnlyAreNoFirstRun) {
 TEST_F(DataFolder, MissingOptionsAloneBringTheMoveAndHelpAndTheChooserButNoFit) {
     fs::create_directories(dataFolder);
     writeLayout(fewFields());
-    answerInput("");
+    answerName("");
     start();
     expectMovedBox();
     EXPECT_TRUE(form.THelp.Visible);
-    EXPECT_EQ(inputs.size(), 1U);
+    EXPECT_EQ(choosers.size(), 1U);
     EXPECT_FALSE(form.MFitScreenWidth.Checked);
     EXPECT_EQ(dataFileContent("Definitions.Ini"), fewFields());
 }

@@ -126,7 +126,7 @@ TEST_F(FormLoad, ACommandLineInAnyFolderOpensTheCardOfThatNameInTheDataFolder) {
     EXPECT_TRUE(form.AMark[1].Visible);
     EXPECT_EQ(form.PartnerName, "Pat");
     EXPECT_EQ(form.Caption, "Zevlin  ( Jones )");
-    EXPECT_EQ(form.TSaveAs, "Jones");
+    EXPECT_EQ(form.TSaveAs.Text, "Jones");
     EXPECT_TRUE(form.ChooserTaken);
     EXPECT_FALSE(form.CardModified);
     EXPECT_EQ(form.P1.Left, 0);
@@ -166,9 +166,9 @@ TEST_F(FormLoad, QuotesOnTheCommandLineArePartOfTheName) {
 
 TEST_F(FormLoad, WithCardsAndNoCommandLineTheChooserOpens) {
     writeCard("Jones", cardWithMark);
-    answerInput("Jones");
+    answerName("Jones");
     start();
-    EXPECT_EQ(inputs.size(), 1U);
+    EXPECT_EQ(choosers.size(), 1U);
     EXPECT_EQ(form.CardName, "Jones");
     EXPECT_TRUE(form.AMark[1].Visible);
     EXPECT_TRUE(traced("MOpen_Click"));
@@ -176,7 +176,7 @@ TEST_F(FormLoad, WithCardsAndNoCommandLineTheChooserOpens) {
 
 TEST_F(FormLoad, WithoutCardsTheBlankCardStandsAtOnce) {
     start();
-    EXPECT_TRUE(inputs.empty());
+    EXPECT_TRUE(choosers.empty());
     expectBlankCard();
 }
 

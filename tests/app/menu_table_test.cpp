@@ -4,7 +4,6 @@
 #include <set>
 
 #include "app/layouts.h"
-#include "support/form_test.h"
 #include "toolkit/key.h"
 
 namespace zev::test {
@@ -51,6 +50,20 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {0, "&Options", ""},
                                       {1, "My Name", ""},
                                       {1, "Partner's Name", ""},
+                                      {1, "", ""},
+                                      {1, "Font size", ""},
+                                      {2, "Smaller", ""},
+                                      {2, "Normal", ""},
+                                      {2, "Larger", ""},
+                                      {2, "Big", ""},
+                                      {1, "Boldface", ""},
+                                      {1, "Left-Justify all text", ""},
+                                      {1, "Fill-in Checkmarks", ""},
+                                      {1, "", ""},
+                                      {1, "Color Management", ""},
+                                      {2, "ACBL Compliant", ""},
+                                      {2, "Custom...", ""},
+                                      {1, "", ""},
                                       {1, "Use alternate print method", ""},
                                       {1, "Force color printing", ""},
                                       {1, "Force black printing", ""},
@@ -71,7 +84,10 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {1, "Save Design", ""},
                                       {0, "&Help", ""}};
 
-class MenuTable : public FormTest {};
+class MenuTable : public FormTest {
+  protected:
+    MenuTable() { writeLayout(fewFields()); }
+};
 
 TEST_F(MenuTable, CaptionsShortcutsAndOrderAreAsWritten) {
     std::vector<Written> rows;
@@ -86,7 +102,7 @@ TEST_F(MenuTable, EveryItemHasAProcedureAndEveryMenuHasItems) {
     const auto rows = menuTable();
     for (std::size_t i = 0; i < rows.size(); ++i) {
         const auto& row = rows[i];
-        if (row.item == nullptr) {
+        if (row.isSeparator()) {
             EXPECT_EQ(row.procedure, nullptr) << "a separator that does something";
             continue;
         }
@@ -101,7 +117,7 @@ TEST_F(MenuTable, NoItemStandsTwiceAndNoShortcutIsTakenTwice) {
     std::set<std::string_view> shortcuts;
     std::string menu;
     for (const auto& row : menuTable()) {
-        if (row.item == nullptr) continue;
+        if (row.isSeparator()) continue;
         if (row.level < 2) menu = row.caption;
         // The two lists of image formats have the same rows.
         const std::string path = (row.level < 2 ? "" : menu) + std::string(row.caption);
@@ -115,12 +131,12 @@ TEST_F(MenuTable, NoItemStandsTwiceAndNoShortcutIsTakenTwice) {
 TEST_F(MenuTable, NoMenuBeginsOrEndsWithASeparator) {
     const auto rows = menuTable();
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].item != nullptr) continue;
+        if (!rows[i].isSeparator()) continue;
         ASSERT_GT(i, 0U);
         ASSERT_LT(i + 1, rows.size());
-        EXPECT_NE(rows[i - 1].item, nullptr);
+        EXPECT_FALSE(rows[i - 1].isSeparator());
         EXPECT_GE(rows[i - 1].level, rows[i].level);
-        EXPECT_NE(rows[i + 1].item, nullptr);
+        EXPECT_FALSE(rows[i + 1].isSeparator());
         EXPECT_EQ(rows[i + 1].level, rows[i].level);
     }
 }
@@ -130,7 +146,6 @@ TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
     start();
     form.MShapes.Visible = true;
     form.MSetTabs.Enabled = form.MSaveShapes.Enabled = true;
-    answer(toolkit::Answer::Cancel);
     const std::vector<std::pair<std::string, std::string>> traces = {
         {"File>New", "MNew_Click"},
         {"File>Save", "MSave_Click"},
@@ -151,8 +166,16 @@ TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
         {"Options>Partner's Name", "MPartnerID_Click"},
         {"Options>Use alternate print method", "mPrintAlt_Click"},
         {"Options>Use alternate print method", "mPrintAlt_Click"},
+        {"Options>Font size>Smaller", "False MSmallerTextFont_Click "},
+        {"Options>Font size>Normal", "False mNormalTextFont_Click "},
+        {"Options>Font size>Larger", "False mLargerTextFont_Click "},
+        {"Options>Font size>Big", "False mBigTextFont_Click "},
+        {"Options>Boldface", "False mBold_Click "},
+        {"Options>Left-Justify all text", "False mLeftJustify_Click "},
+        {"Options>Color Management>ACBL Compliant", "0 mColorScheme_Click "},
         {"Help", "MHelp_Click"}};
-    for (int i = 0; i < 5; ++i) answerInput("");
+    for (int i = 0; i < 3; ++i) answerName("");
+    for (int i = 0; i < 2; ++i) answerInput("");
     for (const auto& [path, line] : traces) {
         form.Trace.clear();
         EXPECT_TRUE(toolkit::test::chooseMenu(path)) << path;
@@ -228,10 +251,10 @@ TEST_F(MenuTable, WhatDesigningNeedsIsGreyAtTheStart) {
 
 TEST_F(MenuTable, ShortcutsReachTheirItems) {
     start();
-    answerInput("");
+    answerName("");
     toolkit::test::typeKey('S', toolkit::shift::ctrl);
     EXPECT_TRUE(traced("MSave_Click"));
-    answerInput("");
+    answerName("");
     toolkit::test::typeKey('O', toolkit::shift::ctrl);
     EXPECT_TRUE(traced("MOpen_Click"));
 }

@@ -28,6 +28,11 @@ class Monkey : public FormTest {
         announceError("Error in xText_LostFocus: #9");
     }
 
+    void actInChooser() override {
+        if (pick(6) == 0) return toolkit::test::typeKey(toolkit::key::escape);
+        act();
+    }
+
     std::size_t pick(std::size_t count) {
         return std::uniform_int_distribution<std::size_t>(0, count - 1)(random_);
     }
@@ -51,9 +56,10 @@ class Monkey : public FormTest {
     }
 
     void chooseSomeMenu() {
-        static constexpr auto items =
-            std::to_array<std::string_view>({"File>New", "File>Open...", "File>Save As...",
-                                             "Options>My Name", "Options>Partner's Name", "Help"});
+        static constexpr auto items = std::to_array<std::string_view>(
+            {"File>New", "File>Open...", "File>Save As...", "Options>My Name",
+             "Options>Partner's Name", "Options>Boldface", "Options>Left-Justify all text",
+             "Options>Font size>Larger", "Options>Color Management>Custom...", "Help"});
         static_cast<void>(toolkit::test::chooseMenu(items[pick(items.size())]));
     }
 

@@ -65,7 +65,7 @@ TEST_F(Unload, ExitWithoutSavingAsksOnceAndWritesNothing) {
 TEST_F(Unload, ExitCanSaveTheCardFirst) {
     startChanged();
     answer(toolkit::Answer::Yes);
-    answerInput("Saved");
+    answerName("Saved");
     EXPECT_TRUE(endsProgram([] { static_cast<void>(toolkit::test::chooseMenu("File>Exit")); }));
     EXPECT_TRUE(fs::exists(dataFile("Saved.zev")));
 }

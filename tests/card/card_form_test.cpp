@@ -42,7 +42,7 @@ void CardFormTest::openCard(const std::string& name, const CardLines& lines) {
 }
 
 void CardFormTest::openNamed(const std::string& name) {
-    answerInput(name);
+    answerName(name);
     choose("File>Open...");
 }
 

@@ -1,31 +1,47 @@
+// Showing the chooser and taking its name.
 #include "card/chooser.h"
 
-#include "card_form_test.h"
+#include <filesystem>
+
+#include "chooser_form_test.h"
 
 namespace zev::test {
 namespace {
 
-class Chooser : public CardFormTest {
-  protected:
-    std::string choose(const std::string& answer) {
-        answerInput(answer);
-        return GetFileNames(form);
-    }
-};
+namespace fs = std::filesystem;
+using toolkit::test::typeKey;
+using toolkit::test::typeText;
 
-TEST_F(Chooser, AsksForANewNameInAnEmptyFolder) {
+using Chooser = ChooserTest;
+
+constexpr const char* invalidTail =
+    "' is an invalid file name.  Names cannot contain any of these characters:  "
+    "/  :  *  \\  ?  \"  <  >";
+
+TEST_F(Chooser, HidesTheListOfAnEmptyFolderAndAsksForANewName) {
     start();
-    EXPECT_EQ(choose("Jones"), "Jones");
-    EXPECT_EQ(inputs.at(0).prompt, "Enter a name for a new card");
-    EXPECT_TRUE(traced("GetFileNames"));
+    inChooser([&] {
+        EXPECT_FALSE(toolkit::test::isShown(form.FileList));
+        EXPECT_EQ(form.LSaveAs.Caption, "Enter a name for a new card");
+        typeText("Jones");
+        typeKey(toolkit::key::enter);
+    });
+    EXPECT_EQ(chosen, "Jones");
+    EXPECT_TRUE(tracedInOrder({"GetFileNames", "PopulateFileList"}));
 }
 
-TEST_F(Chooser, ListsTheCardsOfTheFolder) {
+TEST_F(Chooser, ListsTheCardsWithoutExtensionAndWithoutRegardToCase) {
     start();
     writeCard("b", "");
     writeCard("A", "");
-    EXPECT_EQ(choose("A"), "A");
-    EXPECT_EQ(inputs.at(0).prompt, "Select from list or enter a name for a new card\n\n  A\n  b");
+    std::ofstream(dataFile("C.ZEV")).flush();
+    inChooser([&] {
+        EXPECT_TRUE(toolkit::test::isShown(form.FileList));
+        EXPECT_EQ(form.LSaveAs.Caption, "Select from list or enter a name for a new card");
+        EXPECT_EQ(form.FileList.List, (std::vector<std::string>{"A", "b", "C"}));
+        EXPECT_EQ(form.FileList.ListIndex, -1);
+        leave();
+    });
 }
 
 TEST_F(Chooser, ListsOnlyRepresentableCardFiles) {
@@ -33,68 +49,273 @@ TEST_F(Chooser, ListsOnlyRepresentableCardFiles) {
     writeCard("Ku\xC4\x8D"
               "era",
               "");
-    std::filesystem::create_directory(dataFile("Folder.zev"));
+    fs::create_directory(dataFile("Folder.zev"));
     writeCard("Jones", "");
-    EXPECT_EQ(cardNames(form), std::vector<std::string>{"Jones"});
+    inChooser([&] {
+        EXPECT_EQ(form.FileList.List, std::vector<std::string>{"Jones"});
+        leave();
+    });
+}
+
+TEST_F(Chooser, StandsInPlaceOfTheCardAndTheMenus) {
+    start();
+    inChooser([&] {
+        EXPECT_FALSE(toolkit::test::isShown(form.P1));
+        EXPECT_TRUE(toolkit::test::isShown(form.P3));
+        EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.TSaveAs));
+        for (const char* path : {"File>New", "File>Open...", "File>Save", "Options>My Name"})
+            EXPECT_FALSE(toolkit::test::chooseMenu(path)) << path;
+        typeKey('S', toolkit::shift::ctrl);
+        typeKey('O', toolkit::shift::ctrl);
+        typeKey(toolkit::key::f1);
+        EXPECT_FALSE(traced("MSave_Click"));
+        EXPECT_FALSE(traced("MOpen_Click"));
+        EXPECT_FALSE(form.THelp.Visible);
+        leave();
+    });
+    EXPECT_TRUE(toolkit::test::isShown(form.P1));
+    EXPECT_FALSE(toolkit::test::isShown(form.P3));
+    EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.P1));
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>New"));
+}
+
+TEST_F(Chooser, HidesTheHelpThatWouldLieBesideIt) {
+    start();
+    typeKey(toolkit::key::f1);
+    ASSERT_TRUE(form.THelp.Visible);
+    inChooser([&] {
+        EXPECT_FALSE(toolkit::test::isShown(form.THelp));
+        leave();
+    });
+    EXPECT_TRUE(form.P1.Enabled);
+}
+
+TEST_F(Chooser, NeitherKeysNorWheelMoveTheHiddenCard) {
+    start();
+    form.P1.Move(-300, -300);
+    form.WheelHooked = true;
+    inChooser([&] {
+        for (const int key : {toolkit::key::home, toolkit::key::end, toolkit::key::pageUp,
+                              toolkit::key::down, toolkit::key::left})
+            typeKey(key);
+        toolkit::test::turnWheel(120);
+        leave();
+    });
+    EXPECT_EQ(form.P1.Left, -300);
+    EXPECT_EQ(form.P1.Top, -300);
+}
+
+TEST_F(Chooser, ClosingTheWindowOnlyClosesTheChooser) {
+    start();
+    clickMark(1);
+    inChooser([&] { toolkit::test::closeWindow(); });
+    EXPECT_EQ(chosen, "");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_TRUE(tracedInOrder({"Form_Unload 0", "BCancel_Click"}));
+    EXPECT_FALSE(toolkit::test::isShown(form.P3));
+}
+
+TEST_F(Chooser, ClosingTheWindowAgainClosesTheChooserThatItsQuestionHasOpened) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::Yes);
+    answerChooser([] { toolkit::test::closeWindow(); });
+    toolkit::test::closeWindow();
+    EXPECT_EQ(choosers.size(), 1U);
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_FALSE(form.P3.Visible);
+}
+
+TEST_F(Chooser, TellsTheFolderAndHowToOpenIt) {
+    start();
+    form.mDocsFolder.Checked = true;
+    inChooser([&] {
+        EXPECT_EQ(form.LPath.Caption, "Folder:  " + dataFolder.string());
+        EXPECT_EQ(tipOfFolder(), "Click to open the folder in Windows Explorer");
+        clickOn(form.LPath);
+        leave();
+    });
+    EXPECT_EQ(launched.size(), 1U);
+}
+
+TEST_F(Chooser, TellsThatTheFolderCanBeChangedAsLongAsItCan) {
+    start();
+    form.mDocsFolder.Checked = false;
+    inChooser([&] {
+        EXPECT_EQ(tipOfFolder(),
+                  "Click to open the folder in Windows Explorer  Right-click to change");
+        leave();
+    });
+}
+
+TEST_F(Chooser, ShowsAnAmpersandOfTheFolder) {
+    start();
+    form.DataFolder = home / "a&b";
+    inChooser([&] {
+        EXPECT_EQ(toolkit::paintedText(form.LPath.Caption), "Folder:  " + form.DataFolder.string());
+        leave();
+    });
 }
 
 TEST_F(Chooser, TrimsTheName) {
     start();
-    EXPECT_EQ(choose("  Jones "), "Jones");
+    inChooser([&] {
+        typeText("  Jones ");
+        typeKey(toolkit::key::enter);
+    });
+    EXPECT_EQ(chosen, "Jones");
     EXPECT_TRUE(form.ChooserTaken);
     EXPECT_FALSE(form.ChooserCancelled);
-    EXPECT_EQ(form.TSaveAs, "  Jones ");
+    EXPECT_EQ(form.TSaveAs.Text, "  Jones ");
+}
+
+TEST_F(Chooser, OffersTheNameThatWasTakenLastReadyToBeReplaced) {
+    start();
+    take("Jones");
+    inChooser([&] {
+        EXPECT_EQ(toolkit::test::shownText(form.TSaveAs), "Jones");
+        EXPECT_FALSE(toolkit::test::isGreyed(form.BOK));
+        typeText("Sm");
+        EXPECT_EQ(form.TSaveAs.Text, "Sm");
+        leave();
+    });
 }
 
 TEST_F(Chooser, CancelEmptiesTheNameAndRenewsTheTitle) {
     start();
-    form.TSaveAs = "Jones";
+    form.TSaveAs.Text = "Jones";
     form.Caption = "other";
-    EXPECT_EQ(choose(""), "");
-    EXPECT_EQ(inputs.at(0).preset, "Jones");
-    EXPECT_EQ(form.TSaveAs, "");
+    inChooser([&] { clickOn(form.BCancel); });
+    EXPECT_EQ(chosen, "");
+    EXPECT_EQ(form.TSaveAs.Text, "");
     EXPECT_TRUE(form.ChooserCancelled);
     EXPECT_FALSE(form.ChooserTaken);
     EXPECT_EQ(form.Caption, "Zevlin  (unnamed)");
+    EXPECT_TRUE(tracedInOrder({"BCancel_Click", "SetCaption"}));
 }
 
-TEST_F(Chooser, TakesANameOfBlanksForACancel) {
+TEST_F(Chooser, ANameOfBlanksLeavesOkDisabled) {
     start();
-    EXPECT_EQ(choose("   "), "");
-    EXPECT_EQ(form.TSaveAs, "");
-    EXPECT_TRUE(form.ChooserCancelled);
-    EXPECT_TRUE(boxes.empty());
+    inChooser([&] {
+        EXPECT_TRUE(toolkit::test::isGreyed(form.BOK));
+        typeText("   ");
+        EXPECT_TRUE(toolkit::test::isGreyed(form.BOK));
+        EXPECT_TRUE(traced("TsaveAs_Change"));
+        typeKey(toolkit::key::enter);
+        clickOn(form.BOK);
+        EXPECT_FALSE(form.ChooserTaken);
+        typeText("x");
+        EXPECT_FALSE(toolkit::test::isGreyed(form.BOK));
+        clickOn(form.BOK);
+    });
+    EXPECT_EQ(chosen, "x");
 }
 
 TEST_F(Chooser, RefusesEachForbiddenCharacter) {
     start();
     for (const char character : std::string_view("/\\:*?<>\"")) {
         const std::string name = std::string("a") + character + "b";
-        EXPECT_EQ(choose(name), "");
-        EXPECT_EQ(boxes.back().text,
-                  "'" + name +
-                      "' is an invalid file name.  Names cannot contain any of these "
-                      "characters:  /  :  *  \\  ?  \"  <  >");
+        EXPECT_EQ(take(name), "");
+        EXPECT_EQ(boxes.back().text, "'" + name + invalidTail);
     }
     EXPECT_EQ(boxes.size(), 8U);
     EXPECT_EQ(boxes[0].buttons, toolkit::Buttons::Ok);
     EXPECT_EQ(boxes[0].title, "");
 }
 
-TEST_F(Chooser, RefusesWhatThePlatformCannotName) {
-    start();
-    const std::string name(300, 'x');
-    EXPECT_EQ(choose(name), "");
-    EXPECT_TRUE(boxes.at(0).text.starts_with("'" + name + "' is an invalid file name."));
-}
-
 TEST_F(Chooser, ARefusedNameEndsTheCommandLikeACancel) {
     start();
-    answerInput("a/b");
-    CardFormTest::choose("File>Save As...");
+    answerName("a/b");
+    choose("File>Save As...");
     EXPECT_EQ(boxes.size(), 1U);
     EXPECT_EQ(form.CardName, "");
     EXPECT_FALSE(traced("MSave_Click"));
+    EXPECT_FALSE(form.P3.Visible);
+}
+
+TEST_F(Chooser, RefusesWhatThePlatformCannotName) {
+    start();
+    const std::string name(300, 'x');
+    EXPECT_EQ(take(name), "");
+    EXPECT_EQ(boxes.at(0).text, "'" + name + invalidTail);
+}
+
+TEST_F(Chooser, TakesALongNameWithDotsAndOneLikeADevice) {
+    start();
+    const std::string name = std::string(196, 'x') + ".a.b";
+    EXPECT_EQ(take(name), name);
+    EXPECT_EQ(take("..."), "...");
+    EXPECT_TRUE(boxes.empty());
+#ifndef _WIN32
+    EXPECT_EQ(take("CON"), "CON");
+#endif
+}
+
+TEST_F(Chooser, CharactersOutsideTheCodePageBecomeQuestionMarksAndAreRefused) {
+    start();
+    EXPECT_EQ(take("Ku\xC4\x8D"
+                   "era"),
+              "");
+    EXPECT_EQ(boxes.at(0).text, std::string("'Ku?era") + invalidTail);
+}
+
+TEST_F(Chooser, AFolderThatHasVanishedIsLikeAnEmptyOne) {
+    start();
+    writeCard("Jones", "");
+    fs::remove_all(dataFolder);
+    inChooser([&] {
+        EXPECT_FALSE(form.FileList.Visible);
+        EXPECT_EQ(form.LSaveAs.Caption, "Enter a name for a new card");
+        typeText("Jones");
+        typeKey(toolkit::key::enter);
+    });
+    EXPECT_EQ(chosen, "Jones");
+}
+
+TEST_F(Chooser, AFailureIsTracedAndEverythingComesBack) {
+    start();
+    announceError("Error in GetFileNames: #");
+    inChooser([&] {
+        form.SetFocus(form.BOK);
+        throw toolkit::RunTimeError(toolkit::Failure::OutOfMemory);
+    });
+    EXPECT_TRUE(traced("Error in GetFileNames: #7, Out of memory"));
+    EXPECT_TRUE(form.P1.Visible);
+    EXPECT_FALSE(form.P3.Visible);
+    EXPECT_TRUE(form.MenusEnabled);
+}
+
+TEST_F(Chooser, TheGradientRunsThroughThePanelWithoutASeam) {
+    start();
+    inChooser([&] {
+        const toolkit::Bitmap shown = toolkit::test::grabWindow();
+        const auto pixels = [this](float twips) {
+            return static_cast<int>(twips) / form.TwipsPerPixel;
+        };
+        const int menu = pixels(form.FrameHeight);
+        const int left = pixels(form.P3.Left);
+        const int middle = pixels(form.P3.Top + form.P3.Height / 2);
+        EXPECT_EQ(shown.pixel(left - 3, menu + middle), shown.pixel(left + 3, menu + middle));
+        const int top = pixels(form.P3.Top) + 3;
+        EXPECT_EQ(shown.pixel(left - 3, menu + top), shown.pixel(left + 8, menu + top));
+        EXPECT_NE(shown.pixel(left + 8, menu + top), shown.pixel(left + 3, menu + middle));
+        leave();
+    });
+    EXPECT_EQ(form.Background.backdrop, toolkit::Backdrop::Tiles);
+}
+
+TEST_F(Chooser, FitsIntoASmallForm) {
+    writeOptions("Zoom=1\r\n");
+    start();
+    for (int i = 0; i < 40; ++i) writeCard("Card " + std::to_string(i), "");
+    inChooser([&] {
+        EXPECT_GE(form.P3.Left, 0);
+        EXPECT_GE(form.P3.Top, 0);
+        EXPECT_LE(form.P3.Left + form.P3.Width, form.ScaleWidth());
+        EXPECT_LE(form.P3.Top + form.P3.Height, form.ScaleHeight());
+        leave();
+    });
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "card/modified.h"
 #include "card_form_test.h"
 #include "toolkit/files.h"
+#include "toolkit/key.h"
 #include "view/background.h"
 
 namespace zev::test {
@@ -91,9 +92,9 @@ TEST_F(NewCard, YesOnAnUnnamedCardOpensTheNamingAndCancellingKeepsTheCard) {
     fillCard();
     answer(toolkit::Answer::Yes);
     answer(toolkit::Answer::Yes); // the same partner
-    answerInput("");
+    answerName("");
     choose("File>New");
-    EXPECT_EQ(inputs.size(), 1U);
+    EXPECT_EQ(choosers.size(), 1U);
     expectFilled();
     EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
 }
@@ -102,7 +103,7 @@ TEST_F(NewCard, YesSavesUnderTheGivenNameAndClears) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Yes);
-    answerInput("Jones");
+    answerName("Jones");
     choose("File>New");
     EXPECT_NE(dataFileContent("Jones.zev").find("\r\n1,1,0\r\n"), std::string::npos);
     EXPECT_FALSE(form.AMark[1].Visible);
@@ -148,16 +149,12 @@ class OpenCard : public CardFormTest {
         std::string cardName;
         bool markSet = false;
     };
-    Asked openLookingOn(const std::string& answer) {
+    Asked openLookingOn() {
         Asked asked;
-        toolkit::answerDialogsWith(
-            {.message = {},
-             .input =
-                 [&](const toolkit::InputBox&) {
-                     asked = {form.Caption, form.CardName, form.AMark[1].Visible};
-                     return answer;
-                 },
-             .popup = {}});
+        answerChooser([&] {
+            asked = {form.Caption, form.CardName, form.AMark[1].Visible};
+            toolkit::test::typeKey(toolkit::key::escape);
+        });
         choose("File>Open...");
         return asked;
     }
@@ -167,7 +164,7 @@ TEST_F(OpenCard, BlanksTheCardButKeepsItsNameWhileAsking) {
     start();
     openCard("Jones", {.marks = {"1,1,0"}});
     ASSERT_TRUE(form.AMark[1].Visible);
-    const Asked asked = openLookingOn("");
+    const Asked asked = openLookingOn();
     EXPECT_EQ(asked.title, "Zevlin  - Open an existing card file");
     EXPECT_EQ(asked.cardName, "Jones");
     EXPECT_FALSE(asked.markSet);
@@ -186,7 +183,7 @@ TEST_F(OpenCard, CancelLeavesABlankUnnamedCard) {
 TEST_F(OpenCard, LeavesTheTitleAloneWhileZooming) {
     start();
     form.Zooming = true;
-    EXPECT_EQ(openLookingOn("").title, "Zevlin  (unnamed)");
+    EXPECT_EQ(openLookingOn().title, "Zevlin  (unnamed)");
 }
 
 TEST_F(OpenCard, CancelOfTheQuestionKeepsTheChangedCard) {
@@ -195,7 +192,7 @@ TEST_F(OpenCard, CancelOfTheQuestionKeepsTheChangedCard) {
     answer(toolkit::Answer::Cancel);
     choose("File>Open...");
     EXPECT_TRUE(form.AMark[1].Visible);
-    EXPECT_TRUE(inputs.empty());
+    EXPECT_TRUE(choosers.empty());
 }
 
 TEST_F(OpenCard, SavesFirstAndAsksOnlyOnce) {
@@ -233,14 +230,14 @@ TEST_F(OpenCard, StandsStillWhilePrinting) {
     start();
     form.Printing = true;
     choose("File>Open...");
-    EXPECT_TRUE(inputs.empty());
+    EXPECT_TRUE(choosers.empty());
     EXPECT_TRUE(tracedInOrder({"MOpen_Click", "CheckMod False, True, False"}));
 }
 
 TEST_F(OpenCard, OfTheLastOneIsTheSame) {
     start();
     writeCard("Jones", cardFile({.marks = {"1,1,0"}}));
-    answerInput("Jones");
+    answerName("Jones");
     MOpenLast_Click(form);
     EXPECT_TRUE(form.AMark[1].Visible);
     EXPECT_TRUE(tracedInOrder({"MOpenLast_Click", "MOpen_Click"}));
@@ -250,8 +247,8 @@ TEST_F(OpenCard, TellsItsStepsInTheTrace) {
     start();
     openNamed("Gone");
     EXPECT_TRUE(tracedInOrder({"MOpen_Click", "CheckMod False, False, False", "MNew_Click"}));
-    EXPECT_TRUE(
-        tracedInOrder({"PositionTimeStamp", "GetFileNames", "SetCaption", "MakeTimeStamp"}));
+    EXPECT_TRUE(tracedInOrder({"PositionTimeStamp", "GetFileNames", "PopulateFileList"}));
+    EXPECT_TRUE(tracedInOrder({"BOK_Click", "SetCaption", "MakeTimeStamp"}));
 }
 
 } // namespace

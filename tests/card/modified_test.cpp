@@ -103,7 +103,7 @@ TEST_F(Modified, YesRefusesWhenTheNamingIsCancelled) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Yes);
-    answerInput("");
+    answerName("");
     EXPECT_TRUE(CheckMod(form));
     EXPECT_TRUE(form.CardModified);
 }

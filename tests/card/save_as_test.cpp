@@ -8,7 +8,7 @@ namespace {
 class SaveAs : public CardFormTest {
   protected:
     void saveAs(const std::string& name) {
-        answerInput(name);
+        answerName(name);
         choose("File>Save As...");
     }
 };
@@ -27,8 +27,8 @@ TEST_F(SaveAs, SaysSoInTheTitleAndPutsItBack) {
     start();
     clickMark(1);
     saveAs("");
-    ASSERT_EQ(inputs.size(), 1U);
-    EXPECT_EQ(inputs[0].title, "Zevlin  (unnamed) * - Save this card");
+    ASSERT_EQ(choosers.size(), 1U);
+    EXPECT_EQ(choosers[0], "Zevlin  (unnamed) * - Save this card");
     EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
 }
 
@@ -36,7 +36,7 @@ TEST_F(SaveAs, LeavesTheTitleAloneWhileZooming) {
     start();
     form.Zooming = true;
     saveAs("");
-    EXPECT_EQ(inputs.at(0).title, "Zevlin  (unnamed)");
+    EXPECT_EQ(choosers.at(0), "Zevlin  (unnamed)");
 }
 
 TEST_F(SaveAs, CancelKeepsTheOldName) {
@@ -58,7 +58,7 @@ TEST_F(SaveAs, AsksWhetherThePartnerStays) {
     EXPECT_EQ(boxes[0].buttons, toolkit::Buttons::YesNoCancel);
     EXPECT_EQ(boxes[0].icon, toolkit::Icon::Question);
     EXPECT_EQ(boxes[0].preset, toolkit::Answer::No);
-    EXPECT_EQ(inputs.size(), 1U); // the one that opened the card
+    EXPECT_EQ(choosers.size(), 1U); // the one that opened the card
     EXPECT_EQ(form.PartnerNumber, "12345");
 }
 
@@ -135,7 +135,8 @@ TEST_F(SaveAs, TakesATypedExtensionForPartOfTheName) {
 TEST_F(SaveAs, TellsItsStepsInTheTrace) {
     start();
     saveAs("Jones");
-    EXPECT_TRUE(tracedInOrder({"MSaveAs_Click", "GetFileNames", "MSave_Click", "ResetMod 0"}));
+    EXPECT_TRUE(tracedInOrder({"MSaveAs_Click", "GetFileNames", "PopulateFileList"}));
+    EXPECT_TRUE(tracedInOrder({"BOK_Click", "MSave_Click", "ResetMod 0"}));
     EXPECT_TRUE(tracedInOrder({"SetCaption", "MakeTimeStamp", "PositionTimeStamp", "SetCaption",
                                "MakeTimeStamp", "PositionTimeStamp"}));
 }

@@ -48,7 +48,7 @@ TEST_F(SaveFailure, AMissingDataFolderEndsTheProgram) {
 TEST_F(SaveFailure, UnderANewNameEndsTheProgramToo) {
     start();
     fs::create_directory(dataFile("Jones.zev"));
-    answerInput("Jones");
+    answerName("Jones");
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
     EXPECT_TRUE(endsProgram([&] { choose("File>Save As..."); }));

@@ -53,7 +53,7 @@ TEST_F(SaveCard, WritesTheCardByteForByte) {
     typeInto(1, "5^H, 3-4 & \"weak\"");
     answerInput("Jane Doe 12345");
     choose("Options>Partner's Name");
-    answerInput("Jones");
+    answerName("Jones");
     answer(toolkit::Answer::Yes);
     choose("File>Save");
     EXPECT_EQ(dataFileContent("Jones.zev"), wholeCard);
@@ -171,7 +171,7 @@ TEST_F(SaveCard, LeavesTheTitleAloneWhileZooming) {
 TEST_F(SaveCard, WithoutANameWritesNothingWhenTheNamingIsCancelled) {
     start();
     clickMark(1);
-    answerInput("");
+    answerName("");
     choose("File>Save");
     EXPECT_EQ(form.CardName, "");
     EXPECT_TRUE(form.CardModified);

@@ -90,7 +90,7 @@ class PrintingTest(whole_program.WholeProgramTest):
     def export_bmp(self, program):
         """To compare pages with."""
         program.choose_in_file_menu(EXPORT, "Right", "Down", "Down")
-        program.answer_name("card.bmp")
+        program.answer_prompt("card.bmp")
         desktop.wait_for("the image", (self.home.data / "card.bmp").exists)
         program.wait_for_title(rf"\( {CARD} \)$")
 
@@ -245,7 +245,7 @@ class FilesTest(PrintingTest):
         self.export_bmp(program)
         for downs, name in ((0, "card.gif"), (1, "card.png")):
             program.choose_in_file_menu(EXPORT, "Right", *["Down"] * downs)
-            program.answer_name(name)
+            program.answer_prompt(name)
             desktop.wait_for(name, (self.home.data / name).exists)
         formats = {"card.gif": "GIF", "card.bmp": "BMP", "card.png": "PNG"}
         for name, kind in formats.items():

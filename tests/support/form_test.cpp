@@ -8,6 +8,7 @@
 #include "app/wiring.h"
 #include "toolkit/clock.h"
 #include "toolkit/files.h"
+#include "toolkit/key.h"
 #include "toolkit/printer.h"
 #include "toolkit/screen.h"
 
@@ -67,7 +68,8 @@ FormTest::FormTest() : home(newFolder()) {
          .duringWait =
              [this](int milliseconds) {
                  if (duringWait) duringWait(milliseconds);
-             }});
+             },
+         .player = [this] { actInChooser(); }});
     // Whatever printers this machine has.
     toolkit::overridePrinters({toolkit::printerNamed(toolkit::printToPdfName)});
     // A screen on which the whole card can be clicked.
@@ -120,7 +122,18 @@ void FormTest::answerBoxes() {
              }});
 }
 
+void FormTest::actInChooser() {
+    choosers.push_back(form.Caption);
+    EXPECT_FALSE(chooserActs_.empty()) << "nobody answers the chooser";
+    if (chooserActs_.empty()) {
+        form.ChooserCancelled = true;
+    } else {
+        takeFirst(chooserActs_)();
+    }
+}
+
 void FormTest::TearDown() {
+    EXPECT_TRUE(chooserActs_.empty()) << "an answer waited for a chooser that never came";
     EXPECT_TRUE(answers_.empty()) << "an answer waited for a box that never came";
     EXPECT_TRUE(inputAnswers_.empty()) << "an answer waited for an input box that never came";
     EXPECT_TRUE(fileAnswers_.empty()) << "an answer waited for a question that never came";
@@ -179,6 +192,17 @@ void FormTest::answer(toolkit::Answer answer) { answers_.push_back(answer); }
 void FormTest::answerInput(std::string text) { inputAnswers_.push_back(std::move(text)); }
 
 void FormTest::answerFile(fs::path file) { fileAnswers_.push_back(std::move(file)); }
+void FormTest::answerChooser(std::function<void()> acts) {
+    chooserActs_.push_back(std::move(acts));
+}
+
+void FormTest::answerName(std::string utf8) {
+    answerChooser([name = std::move(utf8)] {
+        if (name.empty()) return toolkit::test::typeKey(toolkit::key::escape);
+        toolkit::test::typeText(name);
+        toolkit::test::typeKey(toolkit::key::enter);
+    });
+}
 
 void FormTest::answerPopup(std::function<void(std::span<const toolkit::PopupRow>)> choice) {
     popupChoices_.push_back(std::move(choice));

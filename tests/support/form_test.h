@@ -59,6 +59,10 @@ class FormTest : public testing::Test {
     void answerInput(std::string text);
     /// The file chosen to be written; an empty path cancels.
     void answerFile(std::filesystem::path file);
+    /// In the chooser the player types the name and presses Enter; without a name they press Esc.
+    void answerName(std::string utf8);
+    /// What the player does in the chooser, until it closes.
+    void answerChooser(std::function<void()> acts);
     /// What the next pop-up menu does; without one a pop-up is closed again.
     void answerPopup(std::function<void(std::span<const toolkit::PopupRow>)> choice);
 
@@ -73,6 +77,9 @@ class FormTest : public testing::Test {
 
     [[nodiscard]] std::filesystem::path dataFile(std::string_view name) const;
     [[nodiscard]] std::string dataFileContent(std::string_view name) const;
+
+    /// What the player does while the chooser is open, once.
+    virtual void actInChooser();
 
     // Places on the card in twips.
     /// A point inside a mark's inner target.
@@ -91,6 +98,7 @@ class FormTest : public testing::Test {
     std::vector<ShownBox> boxes;                      ///< every message box so far
     std::vector<toolkit::InputBox> inputs;            ///< every input box so far
     std::vector<toolkit::FileQuestion> fileQuestions; ///< every question for a file so far
+    std::vector<std::string> choosers;                ///< the form's title in each chooser so far
     int popups = 0;                                   ///< pop-up menus so far
     int beeps = 0;
     std::vector<std::string> launched; ///< what was opened outside the program
@@ -109,6 +117,7 @@ class FormTest : public testing::Test {
     std::vector<toolkit::Answer> answers_;
     std::vector<std::string> inputAnswers_;
     std::vector<std::filesystem::path> fileAnswers_;
+    std::vector<std::function<void()>> chooserActs_;
     std::vector<std::function<void(std::span<const toolkit::PopupRow>)>> popupChoices_;
     std::vector<std::string> announced_;
 };

@@ -147,7 +147,7 @@ class WindowTest : public testing::Test {
         parts.cardLabels = {&stamp};
         parts.cardTextBoxes = {&box, &otherBox};
         parts.lists = {&list};
-        parts.panels = {&panel};
+        parts.panels.push_back(contents);
         parts.notices = {&notice};
         parts.menu = menu;
         window = std::make_unique<toolkit::Window>(std::move(parts));
@@ -167,6 +167,7 @@ class WindowTest : public testing::Test {
     toolkit::ListBox list;
     toolkit::Panel panel;
     toolkit::TextBox notice;
+    toolkit::PanelContents contents{.box = &panel};
     std::vector<toolkit::MenuRow> menu;
     std::unique_ptr<toolkit::Window> window;
 };

@@ -13,14 +13,20 @@ class Colors : public FormTest {
         writeLayout(fewFields());
         start();
     }
+    /// As the options do.
+    void useViolet() {
+        form.ColorScheme = static_cast<std::int32_t>(violet);
+        form.Initializing = true;
+        mColorScheme_Click(form, 1);
+        form.Initializing = false;
+    }
 };
 
 TEST_F(Colors, OneSchemeColourPaintsMarksTextsAndSymbols) {
     startWithFields();
     form.SText.Load(1);
     form.SuitColors = {0, toolkit::rgb(255, 0, 0)};
-    form.ColorScheme = static_cast<std::int32_t>(violet);
-    mColorScheme_Click(form, 1);
+    useViolet();
     for (int i = 1; i <= 4; ++i) EXPECT_EQ(form.AMark[i].ForeColor, violet) << i;
     for (int i = 1; i <= 2; ++i) EXPECT_EQ(form.AText[i].ForeColor, violet) << i;
     EXPECT_EQ(form.SText[1].ForeColor, violet);
@@ -29,8 +35,7 @@ TEST_F(Colors, OneSchemeColourPaintsMarksTextsAndSymbols) {
 
 TEST_F(Colors, TheFirstSchemeGivesEachFieldItsOwnColourBack) {
     startWithFields();
-    form.ColorScheme = static_cast<std::int32_t>(violet);
-    mColorScheme_Click(form, 1);
+    useViolet();
     mColorScheme_Click(form, 0);
     EXPECT_EQ(form.AMark[1].ForeColor, toolkit::black);
     EXPECT_EQ(form.AMark[2].ForeColor, form.ColorRed);
@@ -43,11 +48,10 @@ TEST_F(Colors, TheFirstSchemeGivesEachFieldItsOwnColourBack) {
 
 TEST_F(Colors, AChosenSchemeIsWrittenToTheOptions) {
     startWithFields();
-    form.ColorScheme = static_cast<std::int32_t>(violet);
-    mColorScheme_Click(form, 1);
-    EXPECT_NE(dataFileContent("ZEV.Ini").find("ColorScheme=" + std::to_string(violet) + " "),
-              std::string::npos);
-    EXPECT_TRUE(traced("1 mColorScheme_Click "));
+    useViolet();
+    mColorScheme_Click(form, 0);
+    EXPECT_NE(dataFileContent("ZEV.Ini").find("ColorScheme=0 "), std::string::npos);
+    EXPECT_TRUE(traced("0 mColorScheme_Click "));
     EXPECT_TRUE(traced("SetGlobalColors"));
 }
 
@@ -60,8 +64,7 @@ TEST_F(Colors, WhileTheProgramInitializesNothingIsWritten) {
 
 TEST_F(Colors, TheFieldsOwnColoursStayRememberedUnderAScheme) {
     startWithFields();
-    form.ColorScheme = static_cast<std::int32_t>(violet);
-    mColorScheme_Click(form, 1);
+    useViolet();
     EXPECT_EQ(form.MarkColors[2], form.ColorRed);
     EXPECT_EQ(form.TextColors[2], form.ColorRed);
 }

@@ -1,0 +1,47 @@
+#include "app/folder_line.h"
+
+#include <array>
+
+#include "app/data_folder.h"
+#include "app/options.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "toolkit/ansi.h"
+#include "toolkit/dialog.h"
+#include "toolkit/files.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+void openFolderMenu(Zevlin& form) {
+    mpopFolderMenu_Click(form);
+    const std::array rows{toolkit::PopupRow{.item = &form.mpopMoveCards,
+                                            .Click = [&form] { mpopMoveCards_Click(form); }},
+                          toolkit::PopupRow{.item = &form.mpopLeaveCards,
+                                            .Click = [&form] { mpopLeaveCards_Click(form); }}};
+    toolkit::popupMenu(rows);
+}
+
+} // namespace
+
+void LPath_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    trapped(form, "Error in LPath_MouseDown: #", [&] {
+        if (mouse.Button == toolkit::button::left) {
+            toolkit::showInFileManager(toolkit::resolveFile(form.DataFolder, optionsFileName));
+        } else if (mouse.Button == toolkit::button::right && !form.mDocsFolder.Checked) {
+            openFolderMenu(form);
+        }
+    });
+}
+
+void mpopFolderMenu_Click(Zevlin& form) {
+    form.mpopMoveCards.Caption = toolkit::captionFor(
+        "Store cards in " + toolkit::displayText(form.DocumentsFolder / dataFolderName));
+}
+
+void mpopMoveCards_Click(Zevlin& form) { mDocsFolder_Click(form); }
+
+void mpopLeaveCards_Click(Zevlin& /*form*/) {}
+
+} // namespace zev

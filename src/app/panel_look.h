@@ -1,0 +1,50 @@
+// How the panels over the form look: alike, and measured by the text font.
+#pragma once
+
+#include "toolkit/color.h"
+#include "toolkit/control.h"
+#include "toolkit/font.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// What the player writes into, or reads, outside the card.
+constexpr toolkit::Color paleYellow = toolkit::rgb(255, 255, 225);
+
+/// A text that can be clicked.
+constexpr toolkit::Color linkBlue = toolkit::rgb(0, 0, 128);
+
+constexpr int panelCornerRadius = 4; ///< pixels
+
+// Distances in lines of the text font.
+constexpr float panelMargin = 1.2F;
+constexpr float panelGap = 0.6F;
+constexpr float buttonHeight = 1.7F;
+constexpr float buttonWidth = 5.5F;
+
+[[nodiscard]] toolkit::FontSpec panelFont(const Zevlin& form);
+
+/// The measures that a panel is laid out by, twips.
+struct PanelMeasures {
+    float pixel = 0;
+    float line = 0;   ///< height of a line, whole pixels
+    float letter = 0; ///< width of an "n"
+
+    /// So many lines, in whole pixels.
+    [[nodiscard]] float lines(float count) const { return whole(count * line); }
+    /// The nearest whole pixel.
+    [[nodiscard]] float whole(float twips) const;
+};
+/// Takes them with Testtext, which keeps the panel's font.
+[[nodiscard]] PanelMeasures measurePanel(Zevlin& form);
+
+/// Puts OK and Cancel side by side with their right edge at `right`, no wider than `room` together.
+/// Returns their bottom.
+float placeButtons(const PanelMeasures& measures, toolkit::Control& ok, toolkit::Control& cancel,
+                   float right, float top, float room);
+
+/// Sizes the panel and puts it into the middle of the form.
+void centrePanel(const Zevlin& form, toolkit::Panel& panel, float width, float height);
+
+} // namespace zev

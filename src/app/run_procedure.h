@@ -1,0 +1,16 @@
+// Slots that run procedures.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+
+/// A slot that runs the procedure over this form with whatever the event brings.
+template <typename... Arguments>
+auto run(Zevlin& form, void (*procedure)(Zevlin&, Arguments...)) {
+    return [&form, procedure](Arguments... arguments) {
+        procedure(form, static_cast<Arguments>(arguments)...);
+    };
+}
+
+} // namespace zev

@@ -1,0 +1,75 @@
+#include "app/wire_panels.h"
+
+#include "app/folder_line.h"
+#include "app/run_procedure.h"
+#include "app/zevlin.h"
+#include "card/chooser_events.h"
+#include "view/color_panel.h"
+
+namespace zev {
+namespace {
+
+void wireChooser(Zevlin& form) {
+    form.LSaveAs.MouseDown = run(form, LSaveAs_MouseDown);
+    form.TSaveAs.Change = run(form, TSaveAs_Change);
+    form.TSaveAs.GotFocus = run(form, TSaveAs_GotFocus);
+    form.TSaveAs.KeyDown = run(form, TSaveAs_KeyDown);
+    form.TSaveAs.KeyPress = run(form, TSaveAs_KeyPress);
+    form.FileList.Click = run(form, FileList_Click);
+    form.FileList.DblClick = run(form, FileList_DblClick);
+    form.FileList.KeyDown = run(form, FileList_KeyDown);
+    form.FileList.KeyPress = run(form, FileList_KeyPress);
+    form.FileList.MouseDown = run(form, FileList_MouseDown);
+    form.LPath.MouseDown = run(form, LPath_MouseDown);
+    form.BOK.Caption = "&OK";
+    form.BOK.Default = true;
+    form.BOK.Click = run(form, BOK_Click);
+    form.BCancel.Caption = "&Cancel";
+    form.BCancel.Cancel = true;
+    form.BCancel.Click = run(form, BCancel_Click);
+}
+
+toolkit::PanelContents chooser(Zevlin& form) {
+    wireChooser(form);
+    toolkit::PanelContents panel;
+    panel.box = &form.P3;
+    panel.labels = {&form.LSaveAs, &form.LPath};
+    panel.controls = {&form.TSaveAs, &form.FileList, &form.BOK, &form.BCancel};
+    return panel;
+}
+
+void wireColorPanel(Zevlin& form) {
+    for (int i = 0; auto& number : form.ColorID)
+        number.Click = [&form, index = i++] { ColorID_Click(form, index); };
+    for (int i = 0; auto& bar : form.ColorScroll)
+        bar.Scroll = [&form, index = i++] { ColorScroll_Scroll(form, index); };
+    for (int i = 0; auto& button : form.ColorBut)
+        button.Click = [&form, index = i++] { ColorBut_Click(form, index); };
+    form.ColorBut[0].Caption = "&OK";
+    form.ColorBut[0].Default = true;
+    form.ColorBut[1].Caption = "&Cancel";
+    form.ColorBut[1].Cancel = true;
+}
+
+toolkit::PanelContents colorPanel(Zevlin& form) {
+    wireColorPanel(form);
+    toolkit::LabelGroup samples;
+    samples.labels = &form.ColorSample;
+    samples.Click = run(form, ColorSample_Click);
+    toolkit::PanelContents panel;
+    panel.box = &form.ColorPic;
+    panel.labels = {&form.Lpresetcolors, &form.ColorLabel, &form.ColorText};
+    for (auto& number : form.ColorID) panel.labels.push_back(&number);
+    panel.groups = {samples};
+    for (auto& bar : form.ColorScroll) panel.controls.emplace_back(&bar);
+    for (auto& button : form.ColorBut) panel.controls.emplace_back(&button);
+    return panel;
+}
+
+} // namespace
+
+std::vector<toolkit::PanelContents> wirePanels(Zevlin& form) {
+    return {chooser(form), colorPanel(form)};
+}
+
+} // namespace zev

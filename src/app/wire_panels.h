@@ -1,0 +1,14 @@
+// The panels over the form, their events wired to the procedures.
+#pragma once
+
+#include <vector>
+
+#include "toolkit/panel.h"
+
+namespace zev {
+
+struct Zevlin;
+
+[[nodiscard]] std::vector<toolkit::PanelContents> wirePanels(Zevlin& form);
+
+} // namespace zev

@@ -1,0 +1,30 @@
+// What mouse and keys do on the chooser's panel.
+#pragma once
+
+#include "toolkit/control.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// OK can be pressed while the name has more than blanks.
+void enableOk(Zevlin& form);
+
+void BOK_Click(Zevlin& form);
+void BCancel_Click(Zevlin& form);
+
+void TSaveAs_Change(Zevlin& form);
+void TSaveAs_GotFocus(Zevlin& form);
+/// The keys up and down walk the list without leaving the name.
+void TSaveAs_KeyDown(Zevlin& form, toolkit::KeyArguments& key);
+void TSaveAs_KeyPress(Zevlin& form, int& KeyAscii);
+void LSaveAs_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
+
+void FileList_Click(Zevlin& form);
+void FileList_DblClick(Zevlin& form);
+void FileList_KeyDown(Zevlin& form, toolkit::KeyArguments& key);
+void FileList_KeyPress(Zevlin& form, int& KeyAscii);
+/// The right button opens the pop-up of the card below the pointer.
+void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
+
+} // namespace zev

@@ -1,0 +1,117 @@
+#include "card/chooser_menu.h"
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/card_file.h"
+#include "card/chooser.h"
+#include "card/chooser_events.h"
+#include "card/modified.h"
+#include "card/save.h"
+#include "toolkit/ansi.h"
+#include "toolkit/dialog.h"
+#include "toolkit/files.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+std::string selectedName(const Zevlin& form) {
+    return form.FileList.List.at(static_cast<std::size_t>(form.FileList.ListIndex));
+}
+
+std::filesystem::path pathOf(const Zevlin& form, const std::string& name) {
+    return toolkit::resolveFile(form.DataFolder, name + std::string(cardExtension));
+}
+
+void removeEntry(toolkit::ListBox& list) {
+    list.List.erase(list.List.begin() + list.ListIndex);
+    list.ListIndex = -1;
+}
+
+void deleteSelected(Zevlin& form) {
+    const auto path = pathOf(form, selectedName(form));
+    // A card of that name may be written in another case.
+    const bool isCurrent = !form.CardName.empty() && path == cardPath(form);
+    if (std::filesystem::exists(path)) toolkit::deleteFile(path);
+    removeEntry(form.FileList);
+    if (isCurrent) {
+        form.CardName.clear();
+        SetCaption(form);
+    }
+    form.TSaveAs.Text.clear();
+    TSaveAs_Change(form);
+}
+
+void tellNotRenamed(const toolkit::RunTimeError& failure) {
+    if (failure.number() == static_cast<int>(toolkit::Failure::FileAlreadyExists))
+        return toolkit::tell("Another file already has that name", toolkit::Icon::Exclamation);
+    const std::string number = toolkit::numberText(failure.number());
+    toolkit::tell("Error " + number + ", " + failure.description() + " in mpopRename",
+                  toolkit::Icon::Exclamation);
+    toolkit::tell("Program error " + number + ".  File has not been changed",
+                  toolkit::Icon::Exclamation);
+}
+
+/// The same file in another case is itself no other card.
+void renameCard(Zevlin& form, const std::string& name, const std::string& newName) {
+    const auto path = pathOf(form, name);
+    const auto target = pathOf(form, newName);
+    const bool changesCase = target == path && newName != name;
+    const auto newPath =
+        form.DataFolder / toolkit::pathFromText(newName + std::string(cardExtension));
+    toolkit::renameFile(path, changesCase ? newPath : target);
+    PopulateFileList(form);
+    if (form.TSaveAs.Text != name) return;
+    form.TSaveAs.Text = newName;
+    TSaveAs_Change(form);
+}
+
+void renameSelected(Zevlin& form) {
+    const std::string name = selectedName(form);
+    const std::string answer = toolkit::ask(
+        {.prompt = "Enter new name for this card", .title = "Rename card", .preset = name});
+    if (answer.empty()) return;
+    const std::string newName(toolkit::trim(answer));
+    if (checkCardName(newName)) renameCard(form, name, newName);
+}
+
+} // namespace
+
+void openFileMenu(Zevlin& form) {
+    const std::string name = toolkit::captionFor(selectedName(form));
+    form.mpopOpen.Caption = "&Open " + name;
+    form.mpopDelete.Caption = "&Delete " + name;
+    form.mpopRename.Caption = "&Rename " + name;
+    const std::array rows{
+        toolkit::PopupRow{.item = &form.mpopOpen, .Click = [&form] { mpopOpen_Click(form); }},
+        toolkit::PopupRow{.item = &form.mpopDelete, .Click = [&form] { mpopDelete_Click(form); }},
+        toolkit::PopupRow{.item = &form.mpopRename, .Click = [&form] { mpopRename_Click(form); }}};
+    toolkit::popupMenu(rows);
+}
+
+void mpopOpen_Click(Zevlin& form) {
+    Traceit(form, "mpopOpen_Click");
+    FileList_DblClick(form);
+}
+
+void mpopDelete_Click(Zevlin& form) {
+    Traceit(form, "mpopDelete_Click");
+    trapped(form, "Error in mpopDelete_Click: #", [&] { deleteSelected(form); });
+}
+
+void mpopRename_Click(Zevlin& form) {
+    Traceit(form, "mpopRename_Click");
+    try {
+        renameSelected(form);
+    } catch (const std::exception&) {
+        const toolkit::RunTimeError failure = toolkit::currentFailure();
+        traceFailure(form, "Error in mpopRename_Click: #", failure);
+        tellNotRenamed(failure);
+    }
+}
+
+} // namespace zev

@@ -1,0 +1,17 @@
+// The pop-up menu of a card in the chooser's list.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+
+/// Opens the pop-up of the selected card.
+void openFileMenu(Zevlin& form);
+
+void mpopOpen_Click(Zevlin& form);
+/// Deletes the selected card's file, with no question asked.
+void mpopDelete_Click(Zevlin& form);
+/// Asks for a new name for the selected card.
+void mpopRename_Click(Zevlin& form);
+
+} // namespace zev

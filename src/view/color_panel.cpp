@@ -1,0 +1,141 @@
+#include "view/color_panel.h"
+
+#include <algorithm>
+#include <array>
+
+#include "app/options.h"
+#include "app/panel_look.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "help/help_page.h"
+#include "toolkit/number_text.h"
+#include "view/color_panel_layout.h"
+#include "view/colors.h"
+#include "view/panels.h"
+
+namespace zev {
+namespace {
+
+constexpr std::array presets{toolkit::rgb(0, 0, 0),   toolkit::rgb(0, 0, 128),
+                             toolkit::rgb(0, 128, 0), toolkit::rgb(128, 64, 255),
+                             toolkit::rgb(160, 0, 0), toolkit::rgb(128, 64, 0)};
+
+/// Black as the options keep it: 0 is the ACBL's scheme.
+constexpr toolkit::Color storedBlack = 1;
+
+constexpr int okButton = 0;
+
+void showNumbers(Zevlin& form) {
+    for (std::size_t i = 0; i < form.ColorID.size(); ++i)
+        form.ColorID[i].Caption = toolkit::numberText(form.ColorScroll[i].Value);
+}
+
+void showSample(Zevlin& form, toolkit::Color color) {
+    form.ColorLabel.BackColor = color;
+    form.ColorText.ForeColor = color;
+}
+
+void chooseColor(Zevlin& form, toolkit::Color color) {
+    form.ColorScroll[0].Value = toolkit::redOf(color);
+    form.ColorScroll[1].Value = toolkit::greenOf(color);
+    form.ColorScroll[2].Value = toolkit::blueOf(color);
+    showSample(form, color);
+    showNumbers(form);
+}
+
+void loadSamples(Zevlin& form) {
+    if (form.ColorSample.UBound() > 0) return;
+    MakeObjRounded(form, form.ColorPic, panelCornerRadius);
+    form.ColorSample[0].BackColor = presets[0];
+    for (int i = 1; i < static_cast<int>(presets.size()); ++i) {
+        toolkit::Label& sample = form.ColorSample.Load(i);
+        const toolkit::Label& before = form.ColorSample[i - 1];
+        sample.Left = before.Left + before.Width + sampleGap;
+        sample.Visible = true;
+        sample.BackColor = presets[static_cast<std::size_t>(i)];
+    }
+}
+
+void openPanel(Zevlin& form) {
+    if (form.THelp.Visible) hideHelp(form);
+    layOutColorPanel(form);
+    chooseColor(form, form.AText[1].ForeColor);
+    form.ColorText.Font.Size = form.TextFontSize[1];
+    loadSamples(form);
+    ColorSampleMark(form);
+    form.P1.Visible = false;
+    // Another command would work with a scheme that isn't chosen yet.
+    form.MenusEnabled = false;
+    form.ColorPic.Visible = true;
+    form.ColorPic.Stack = std::max(form.P1.Stack, form.THelp.Stack) + 1;
+    form.SetFocus(form.ColorScroll[0]);
+}
+
+void closePanel(Zevlin& form) {
+    form.P1.Visible = true;
+    form.ColorPic.Visible = false;
+    form.MenusEnabled = true;
+    form.SetFocus(form.P1);
+}
+
+void takeColor(Zevlin& form) {
+    const auto last = static_cast<toolkit::Color>(form.mcolorscheme.size() - 1);
+    form.ColorScheme = static_cast<std::int32_t>(std::max(form.ColorLabel.BackColor, last));
+    SetGlobalColors(form);
+    IniWrite(form);
+}
+
+void goBack(Zevlin& form) {
+    form.mcolorscheme.at(static_cast<std::size_t>(form.LastSchemeIndex)).Checked = false;
+    form.mcolorscheme.at(static_cast<std::size_t>(form.PreviousScheme)).Checked = true;
+    mColorScheme_Click(form, form.PreviousScheme);
+}
+
+} // namespace
+
+void showColorPanel(Zevlin& form) { openPanel(form); }
+
+void ColorSample_Click(Zevlin& form, int index) {
+    Traceit(form, "ColorSample_Click");
+    trapped(form, "Error in ColorSample_Click: #", [&] {
+        chooseColor(form, form.ColorSample[index].BackColor);
+        ColorSampleMark(form);
+    });
+}
+
+void ColorID_Click(Zevlin& form, int index) {
+    Traceit(form, "ColorID_Click");
+    trapped(form, "Error in ColorID_Click: #", [&] {
+        chooseColor(form, form.ColorID.at(static_cast<std::size_t>(index)).BackColor);
+        ColorSampleMark(form);
+    });
+}
+
+void ColorScroll_Scroll(Zevlin& form, int /*index*/) {
+    trapped(form, "Error in ColorScroll_Scroll: #", [&] {
+        showSample(form, toolkit::rgb(form.ColorScroll[0].Value, form.ColorScroll[1].Value,
+                                      form.ColorScroll[2].Value));
+        showNumbers(form);
+        ColorSampleMark(form);
+    });
+}
+
+void ColorBut_Click(Zevlin& form, int index) {
+    Traceit(form, "ColorBut_Click");
+    trapped(form, "Error in ColorBut_Click: #", [&] {
+        index == okButton ? takeColor(form) : goBack(form);
+        closePanel(form);
+    });
+}
+
+void ColorSampleMark(Zevlin& form) {
+    Traceit(form, "ColorSampleMark");
+    trapped(form, "Error in ColorSampleMark: #", [&] {
+        const toolkit::Color chosen = form.ColorLabel.BackColor;
+        for (toolkit::Label& sample : form.ColorSample)
+            sample.Caption = sample.BackColor == chosen ? "X" : "";
+        if (chosen == storedBlack) form.ColorSample[0].Caption = "X";
+    });
+}
+
+} // namespace zev

@@ -1,0 +1,23 @@
+// The panel on which the player chooses one colour for all marks and texts.
+#pragma once
+
+namespace zev {
+
+struct Zevlin;
+
+/// Opens the panel with the colour of the first text field, in place of the card.
+void showColorPanel(Zevlin& form);
+
+/// A preset was clicked.
+void ColorSample_Click(Zevlin& form, int index);
+/// The number of a primary colour was clicked: that primary is chosen.
+void ColorID_Click(Zevlin& form, int index);
+/// A slider was moved.
+void ColorScroll_Scroll(Zevlin& form, int index);
+/// OK (0) takes the colour, Cancel (1) goes back to the scheme before; both close the panel.
+void ColorBut_Click(Zevlin& form, int index);
+
+/// Marks the preset that is the chosen colour.
+void ColorSampleMark(Zevlin& form);
+
+} // namespace zev

@@ -1,0 +1,116 @@
+#include "view/text_options.h"
+
+#include <array>
+#include <string>
+
+#include "app/options.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/modified.h"
+#include "text/set_sym.h"
+#include "view/rebuild.h"
+
+namespace zev {
+namespace {
+
+using Item = toolkit::MenuItem Zevlin::*;
+
+constexpr std::array<Item, 3> specialSizes{&Zevlin::mSmallerTextFont, &Zevlin::mLargerTextFont,
+                                           &Zevlin::mBigTextFont};
+
+void traceState(Zevlin& form, const char* name) {
+    Traceit(form, std::string(truthText(form.MShowShapes.Checked)) + " " + name + " ");
+}
+
+/// Clicking a checked size goes back to Normal; Normal itself doesn't toggle.
+void checkSize(Zevlin& form, Item chosen) {
+    const bool normal = chosen == &Zevlin::mNormalTextFont || (form.*chosen).Checked;
+    for (const Item size : specialSizes) (form.*size).Checked = !normal && size == chosen;
+    form.mNormalTextFont.Checked = normal;
+}
+
+/// The sizes are worked out anew with everything that depends on them.
+void rebuildKeepingChanges(Zevlin& form) {
+    const bool changed = form.CardModified;
+    form.P1.Visible = false;
+    RebuildScreenImage(form);
+    form.P1.Visible = true;
+    if (changed) SetMod(form);
+}
+
+void chooseSize(Zevlin& form, const char* name, Item chosen) {
+    traceState(form, name);
+    trapped(form, "Error in " + std::string(name) + ": #", [&] {
+        if (form.Initializing) return;
+        checkSize(form, chosen);
+        IniWrite(form);
+        rebuildKeepingChanges(form);
+    });
+}
+
+/// The symbols lie where the text's width puts them.
+void layOutAnew(Zevlin& form, int index) {
+    form.AText[index].Caption = form.AText[index].Tag;
+    SetSym(form, index);
+}
+
+void toggleBold(Zevlin& form) {
+    form.mBold.Checked = !form.mBold.Checked;
+    IniWrite(form);
+    form.mpopBold.Enabled = !form.mBold.Checked;
+    for (int i = 1; i <= form.AText.UBound(); ++i) {
+        form.AText[i].Font.Bold = form.mBold.Checked;
+        layOutAnew(form, i);
+    }
+    form.CText.Font.Bold = form.LText.Font.Bold = form.mBold.Checked;
+}
+
+void toggleLeftJustify(Zevlin& form) {
+    form.mLeftJustify.Checked = !form.mLeftJustify.Checked;
+    const auto alignment =
+        form.mLeftJustify.Checked ? toolkit::Alignment::Left : toolkit::Alignment::Center;
+    for (int i = 1; i <= form.AText.UBound(); ++i) {
+        form.AText[i].Alignment = alignment;
+        layOutAnew(form, i);
+    }
+}
+
+} // namespace
+
+void mSmallerTextFont_Click(Zevlin& form) {
+    chooseSize(form, "MSmallerTextFont_Click", &Zevlin::mSmallerTextFont);
+}
+void mNormalTextFont_Click(Zevlin& form) {
+    chooseSize(form, "mNormalTextFont_Click", &Zevlin::mNormalTextFont);
+}
+void mLargerTextFont_Click(Zevlin& form) {
+    chooseSize(form, "mLargerTextFont_Click", &Zevlin::mLargerTextFont);
+}
+void mBigTextFont_Click(Zevlin& form) {
+    chooseSize(form, "mBigTextFont_Click", &Zevlin::mBigTextFont);
+}
+
+void mBold_Click(Zevlin& form) {
+    traceState(form, "mBold_Click");
+    trapped(form, "Error in mBold_Click: #", [&] {
+        if (!form.Initializing) toggleBold(form);
+    });
+}
+
+void mLeftJustify_Click(Zevlin& form) {
+    traceState(form, "mLeftJustify_Click");
+    trapped(form, "Error in mLeftJustify_Click: #", [&] {
+        if (!form.Initializing) toggleLeftJustify(form);
+    });
+}
+
+void mFillIn_Click(Zevlin& form) {
+    trapped(form, "Error in mFillIn_Click: #", [&] {
+        if (form.Initializing) return;
+        form.mFillIn.Checked = !form.mFillIn.Checked;
+        IniWrite(form);
+        RebuildScreenImage(form);
+    });
+}
+
+} // namespace zev

@@ -1,0 +1,51 @@
+// What the panels consist of.
+#include "app/wire_panels.h"
+
+#include <algorithm>
+
+#include "support/form_test.h"
+
+namespace zev::test {
+namespace {
+
+class WirePanels : public FormTest {};
+
+TEST_F(WirePanels, BothPanelsHaveOneDefaultAndOneCancelButton) {
+    for (const auto& panel : wirePanels(form)) {
+        int defaults = 0;
+        int cancels = 0;
+        for (const auto& control : panel.controls) {
+            const auto* button = std::get_if<toolkit::CommandButton*>(&control);
+            if (button == nullptr) continue;
+            defaults += (*button)->Default ? 1 : 0;
+            cancels += (*button)->Cancel ? 1 : 0;
+            EXPECT_TRUE((*button)->Click);
+        }
+        EXPECT_EQ(defaults, 1);
+        EXPECT_EQ(cancels, 1);
+    }
+}
+
+TEST_F(WirePanels, ThePanelsBelongToTheForm) {
+    const auto panels = wirePanels(form);
+    ASSERT_EQ(panels.size(), 2U);
+    EXPECT_EQ(panels[0].box, &form.P3);
+    EXPECT_EQ(panels[1].box, &form.ColorPic);
+    EXPECT_EQ(form.ColorBut[0].Caption, "&OK");
+    EXPECT_EQ(form.ColorBut[1].Caption, "&Cancel");
+}
+
+TEST_F(WirePanels, EverySliderHasItsOwnNumber) {
+    start();
+    EXPECT_TRUE(toolkit::test::chooseMenu("Options>Color Management>Custom..."));
+    for (std::size_t i = 0; i < form.ColorScroll.size(); ++i) {
+        form.ColorScroll[i].Value = static_cast<int>(10 * (i + 1));
+        form.ColorScroll[i].Scroll();
+    }
+    EXPECT_EQ(form.ColorID[0].Caption, "10");
+    EXPECT_EQ(form.ColorID[1].Caption, "20");
+    EXPECT_EQ(form.ColorID[2].Caption, "30");
+}
+
+} // namespace
+} // namespace zev::test

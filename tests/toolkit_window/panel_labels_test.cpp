@@ -1,0 +1,54 @@
+// How a panel's labels are painted.
+#include "panel_fixture.h"
+
+namespace window_test {
+namespace {
+
+using namespace toolkit;
+
+class PanelLabels : public PanelTest {
+  protected:
+    /// Whether any pixel of the panel's rectangle is dark.
+    [[nodiscard]] static bool hasInk(int left, int top, int width, int height) {
+        const Bitmap shown = test::grabWindow();
+        for (int y = top; y < top + height; ++y)
+            for (int x = left; x < left + width; ++x)
+                if (redOf(*shown.pixel(100 + x, 100 + y)) < 100) return true;
+        return false;
+    }
+};
+
+TEST_F(PanelLabels, AWrappedCaptionGoesOnInTheNextLine) {
+    place(plain, 220, 25, 70, 60);
+    plain.Caption = "iiiii iiiii iiiii iiiii iiiii";
+    EXPECT_FALSE(hasInk(220, 45, 70, 40));
+    plain.Wraps = true;
+    plain.Caption += " ";
+    EXPECT_TRUE(hasInk(220, 42, 70, 15));
+}
+
+TEST_F(PanelLabels, AWordThatIsTooLongStandsByItself) {
+    place(plain, 220, 25, 40, 60);
+    plain.Wraps = true;
+    plain.Caption = "iiiiiiiiiiiiiiiiiiiiiii iii";
+    EXPECT_TRUE(hasInk(220, 25, 40, 12));
+    EXPECT_TRUE(hasInk(220, 40, 40, 15));
+}
+
+TEST_F(PanelLabels, AnOpaqueLabelHasItsTextInTheMiddleOfItsHeight) {
+    place(plain, 220, 25, 70, 60);
+    plain.Caption = "iii";
+    EXPECT_TRUE(hasInk(221, 26, 68, 13));
+    plain.BackStyle = BackStyle::Opaque;
+    EXPECT_FALSE(hasInk(221, 26, 68, 13));
+    EXPECT_TRUE(hasInk(221, 48, 68, 14));
+}
+
+TEST_F(PanelLabels, AnOpaqueLabelHasAFrame) {
+    plain.BackStyle = BackStyle::Opaque;
+    EXPECT_NE(shownAt(150, 10), white);
+    EXPECT_EQ(shownAt(152, 10), white);
+}
+
+} // namespace
+} // namespace window_test
