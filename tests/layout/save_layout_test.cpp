@@ -2,7 +2,6 @@
 
 #include "support/form_test.h"
 #include "toolkit/files.h"
-#include "view/colors.h"
 #include "view/rebuild.h"
 
 namespace zev::test {
@@ -155,9 +154,8 @@ TEST_F(SaveLayout, WrittenAndReadAgainLeavesEveryPlace) {
 
 TEST_F(SaveLayout, KeepsTheFieldsOwnColoursUnderAColourScheme) {
     useSmallLayout();
+    writeOptions("Zoom=5\r\nColorScheme=65280\r\n");
     start();
-    form.ColorScheme = 0x00FF00;
-    mColorScheme_Click(form, 1);
     ASSERT_EQ(form.AMark[2].ForeColor, 0x00FF00U);
     MSaveShapes_Click(form);
     const std::string saved = dataFileContent("Definitions.Ini");
