@@ -129,6 +129,7 @@ TEST_F(ChooserMenu, RenameOntoAnotherCardIsRefusedInAnyCaseAndNothingIsLost) {
             rename(1, name);
             leave();
         });
+        ASSERT_FALSE(boxes.empty());
         EXPECT_EQ(boxes.back().text, "Another file already has that name");
         EXPECT_EQ(boxes.back().icon, toolkit::Icon::Exclamation);
     }

@@ -217,6 +217,7 @@ TEST_F(Chooser, RefusesEachForbiddenCharacter) {
     for (const char character : std::string_view("/\\:*?<>\"")) {
         const std::string name = std::string("a") + character + "b";
         EXPECT_EQ(take(name), "");
+        ASSERT_FALSE(boxes.empty());
         EXPECT_EQ(boxes.back().text, "'" + name + invalidTail);
     }
     EXPECT_EQ(boxes.size(), 8U);

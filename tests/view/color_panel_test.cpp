@@ -121,10 +121,14 @@ TEST_F(ColorPanel, OpeningItAgainLoadsNoFurtherPresets) {
     startWith();
     open();
     const float left = form.ColorSample[5].Left;
+    form.ColorSample[4].Tag = "the same one";
     cancel();
+    form.Trace.clear();
     open();
     EXPECT_EQ(form.ColorSample.UBound(), 5);
     EXPECT_EQ(form.ColorSample[5].Left, left);
+    EXPECT_EQ(form.ColorSample[4].Tag, "the same one");
+    EXPECT_FALSE(traced("MakeObjRounded"));
 }
 
 TEST_F(ColorPanel, ShowsThePresetsAsTheyAre) {
