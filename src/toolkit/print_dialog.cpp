@@ -3,10 +3,14 @@
 #include <algorithm>
 #include <utility>
 
+#include <QtCore/QDir>
+#include <QtCore/QTimer>
+#include <QtCore/QUuid>
 #include <QtPrintSupport/QPrintDialog>
 #include <QtPrintSupport/QPrinter>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
 #include "toolkit/qt_answers.h"
@@ -35,12 +39,18 @@ void nameButtons(QPrintDialog& dialog) {
                 button->setText(QStringLiteral("OK"));
 }
 
-/// The dialog's own way of printing to a file is our printer of that kind.
+/// The dialog's own way of printing to a file is our printer of that kind, which asks for the file
+/// when a page is printed.
 void nameFilePrinter(QPrintDialog& dialog) {
     for (auto* list : dialog.findChildren<QComboBox*>()) {
         const int row = list->findText(QStringLiteral("Print to File (PDF)"));
         if (row >= 0) list->setItemText(row, qString(printToPdfName));
     }
+    // A name that is taken would be asked about.
+    if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename")))
+        file->setText(QDir::temp().filePath(QUuid::createUuid().toString(QUuid::WithoutBraces)));
+    for (const char* name : {"lOutput", "filename", "fileBrowser"})
+        if (auto* part = dialog.findChild<QWidget*>(QString::fromLatin1(name))) part->hide();
 }
 
 void setUp(QPrinter& target, const Printer& present) {
@@ -103,7 +113,8 @@ std::optional<Printer> setUpOnScreen(const Printer& present) {
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     dialog.setWindowTitle(QStringLiteral("Printer Setup"));
     nameButtons(dialog);
-    nameFilePrinter(dialog);
+    // The dialog makes these parts when it comes up.
+    QTimer::singleShot(0, &dialog, [&dialog] { nameFilePrinter(dialog); });
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
     rethrowKept();
     if (!isAccepted) return std::nullopt;

@@ -127,6 +127,8 @@ class DialogDriver {
     [[nodiscard]] std::vector<std::string> labels() const;
     [[nodiscard]] std::vector<std::string> listRows(int list) const;
     [[nodiscard]] std::string chosen(int list) const;
+    /// Chooses the row in the list that has it; false where none does.
+    [[nodiscard]] bool choose(std::string_view row);
     void choose(int list, int row);
     void typeInto(int list, int keyCode, std::string_view text);
     void turnOn(std::string_view option);

@@ -28,10 +28,9 @@ QDialog* openDialog() {
 /// A dialog runs an event loop of its own, so what works it must wait in the queue from before.
 void onceOpen(std::function<void(QDialog&)> act) {
     QTimer::singleShot(0, qApp, [act = std::move(act)] {
-        if (QDialog* dialog = openDialog())
-            act(*dialog);
-        else
-            onceOpen(act);
+        if (openDialog() == nullptr) return onceOpen(act);
+        // What the dialog itself does when it has come up goes first.
+        QTimer::singleShot(0, qApp, [act] { act(*openDialog()); });
     });
 }
 
@@ -81,6 +80,16 @@ std::vector<std::string> DialogDriver::listRows(int list) const {
 }
 
 std::string DialogDriver::chosen(int list) const { return ansiText(listAt(list).currentText()); }
+
+bool DialogDriver::choose(std::string_view row) {
+    for (QComboBox* list : openDialog()->findChildren<QComboBox*>()) {
+        const int index = list->findText(qString(row));
+        if (index < 0) continue;
+        list->setCurrentIndex(index);
+        return true;
+    }
+    return false;
+}
 
 void DialogDriver::choose(int list, int row) { listAt(list).setCurrentIndex(row); }
 

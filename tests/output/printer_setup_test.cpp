@@ -67,5 +67,18 @@ TEST_F(PrinterSetup, TheSystemsDialogIsTitledAndItsCancelChangesNothing) {
     EXPECT_EQ(form.Myprinter.Devicename, "Print to PDF");
 }
 
+TEST_F(PrinterSetup, TheSystemsDialogOffersPrintToPdfAndTakesIt) {
+    toolkit::overridePrinters({laser(8)});
+    start();
+    toolkit::test::driveNextDialog([](toolkit::test::DialogDriver& dialog) {
+        EXPECT_TRUE(dialog.choose(toolkit::printToPdfName));
+        dialog.press("OK");
+    });
+    MPrintSetup_Click(form);
+    EXPECT_EQ(form.CurrentPrinter.DeviceName, toolkit::printToPdfName);
+    EXPECT_EQ(form.Myprinter.Devicename, "User selected");
+    EXPECT_FLOAT_EQ(form.Myprinter.PageWidthInches, 8.5F);
+}
+
 } // namespace
 } // namespace zev::test
