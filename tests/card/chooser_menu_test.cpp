@@ -205,6 +205,46 @@ TEST_F(ChooserMenu, ACardThatVanishesBehindTheChooserOpensBlankUnderItsName) {
     EXPECT_FALSE(form.CardModified);
 }
 
+TEST_F(ChooserMenu, ACardThatBecomesUnreadableBehindTheChooserOpensBlank) {
+    announceError("Error in GetCardFile ");
+    answerChooser([&] {
+        fs::remove(dataFile("Brown.zev"));
+        fs::create_directory(dataFile("Brown.zev"));
+        clickRow(1);
+        clickOn(form.BOK);
+    });
+    choose("File>Open...");
+    EXPECT_TRUE(traced("Error in GetCardFile 75, Path/File access error"));
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_TRUE(form.P1.Visible);
+}
+
+TEST_F(ChooserMenu, AFolderThatVanishesBehindTheChooserLeavesABlankCard) {
+    answerChooser([&] {
+        fs::remove_all(dataFolder);
+        clickRow(1);
+        clickOn(form.BOK);
+    });
+    choose("File>Open...");
+    EXPECT_EQ(form.CardName, "Brown");
+    EXPECT_FALSE(form.CardModified);
+    fs::create_directories(dataFolder);
+}
+
+TEST_F(ChooserMenu, SavingIntoAFolderThatHasVanishedEndsTheProgram) {
+    announceError("Error in MSave_Click ");
+    announceError("Error in Traceit: #76"); // the trace has no folder either
+    clickMark(1);
+    answerChooser([&] {
+        fs::remove_all(dataFolder);
+        toolkit::test::typeText("Zorn");
+        toolkit::test::typeKey(toolkit::key::enter);
+    });
+    EXPECT_TRUE(endsProgram([] { choose("File>Save As..."); }));
+    EXPECT_FALSE(form.P3.Visible);
+    fs::create_directories(dataFolder);
+}
+
 TEST_F(ChooserMenu, ACardWithBlanksAtItsEndsInTheFolderOpensBlankUnderTheTrimmedName) {
     writeCard(" Zorn ", cardFile({.marks = {"1,1,0"}}));
     answerChooser([&] {

@@ -28,7 +28,7 @@ class ByKeyboard(whole_program.WholeProgramTest):
         desktop.Card(program).click_text(walk[0])
         self.press_slowly(keys)
         program.press("Escape", "ctrl+s")
-        desktop.wait_for("the end of the walk", program.boxes, 120)
+        desktop.wait_for("the end of the walk", program.shows_chooser, 120)
         program.answer_name("By keyboard")
         program.wait_for_title(r"\( By keyboard \)$")
         saved_marks, saved_texts = self.home.records("By keyboard")
