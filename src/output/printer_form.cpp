@@ -76,7 +76,7 @@ frmPrint::frmPrint(toolkit::Printer& printerObject) : printer(printerObject) {
     cmdOK.Click = [this] { cmdOK_Click(*this); };
     cmdCancel.Click = [this] { cmdCancel_Click(*this); };
     form.combos = {&cbPrinter, &cbSize, &cbSource};
-    form.options = {&rbOrientation[0], &rbOrientation[1]};
+    for (toolkit::OptionButton& button : rbOrientation) form.options.push_back(&button);
     form.buttons = {&cmdOK, &cmdCancel};
 }
 

@@ -90,10 +90,12 @@ std::string zlibStream(const RowSource& source) {
     const int processors = static_cast<int>(std::thread::hardware_concurrency());
     const int count = std::clamp(std::min(processors, source.rows), 1, mostParts);
     std::vector<std::future<Part>> running;
+    running.reserve(static_cast<std::size_t>(count));
     for (int i = 0; i < count; ++i)
         running.push_back(std::async(std::launch::async, deflatedPart, std::cref(source),
                                      source.rows * i / count, source.rows * (i + 1) / count));
     std::vector<Part> parts;
+    parts.reserve(running.size());
     for (auto& part : running) parts.push_back(part.get());
     return joined(parts);
 }
