@@ -59,6 +59,15 @@ def screenshot():
     return Picture(output_of("import", "-silent", "-window", "root", "-depth", "8", "ppm:-"))
 
 
+def wait_until_calm():
+    """Until two looks at the screen, a while apart, show the same."""
+    def calm():
+        before = screenshot().bytes
+        time.sleep(0.3)
+        return screenshot().bytes == before
+    wait_for("the screen to come to rest", calm)
+
+
 def save_screenshot(path):
     output_of("import", "-silent", "-window", "root", str(path))
 

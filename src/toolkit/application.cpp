@@ -13,7 +13,21 @@ class Application::Implementation {
     QApplication application;
 };
 
+namespace {
+
+/// Windows' own font engines round advances to pixels and don't take the project's picture fonts
+/// for what they are; this one paints and measures as on every other system.
+void choosePlatform() {
+#ifdef _WIN32
+    constexpr const char* variable = "QT_QPA_PLATFORM";
+    if (qEnvironmentVariableIsEmpty(variable)) qputenv(variable, "windows:fontengine=freetype");
+#endif
+}
+
+} // namespace
+
 Application::Application(int& argumentCount, char** arguments) {
+    choosePlatform();
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QCoreApplication::setAttribute(Qt::AA_DontShowIconsInMenus);
     QCoreApplication::setApplicationName(QStringLiteral("zevlin"));

@@ -8,6 +8,9 @@
 namespace toolkit {
 namespace {
 
+/// Of a file, on all platforms; some just say that a longer one isn't there.
+constexpr std::size_t longestName = 255;
+
 std::FILE* openFile(const std::filesystem::path& path, FileMode mode) {
 #ifdef _WIN32
     constexpr const wchar_t* modes[] = {L"rb", L"wb", L"ab"};
@@ -24,7 +27,10 @@ void failFile(const std::filesystem::path& path, int errorCode) {
     std::error_code ignored;
     if (std::filesystem::is_directory(path, ignored)) throw RunTimeError(Failure::PathFileAccess);
     const std::filesystem::path folder = path.parent_path();
-    if (errorCode == ENOENT && !folder.empty() && !std::filesystem::exists(folder, ignored))
+    const bool isMissing = errorCode == ENOENT;
+    if (isMissing && path.filename().native().size() > longestName)
+        throw RunTimeError(Failure::BadFileName);
+    if (isMissing && !folder.empty() && !std::filesystem::is_directory(folder, ignored))
         throw RunTimeError(Failure::PathNotFound);
     throw fileFailure(errorCode);
 }

@@ -20,6 +20,7 @@ bool isDevice(std::string_view name) {
     static constexpr auto devices = std::to_array<std::string_view>(
         {"con",  "prn",  "aux",  "nul",  "com1", "com2", "com3", "com4", "com5", "com6", "com7",
          "com8", "com9", "lpt1", "lpt2", "lpt3", "lpt4", "lpt5", "lpt6", "lpt7", "lpt8", "lpt9"});
+    if (name == "." || name == "..") return true;
     const std::string stem = lowerCase(trim(name.substr(0, name.find('.'))));
     return std::ranges::find(devices, stem) != devices.end();
 }

@@ -35,9 +35,12 @@ struct PrintJob::Document {
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
     ~Document() {
+        const bool hasTarget = file.has_value();
         std::error_code ignored;
+        // Some systems remove no file that is open.
+        file.reset();
         // Half a file would look like a page; what is no file stays, as a device.
-        if (file && !isDone && std::filesystem::is_regular_file(target, ignored))
+        if (hasTarget && !isDone && std::filesystem::is_regular_file(target, ignored))
             std::filesystem::remove(target, ignored);
     }
     [[nodiscard]] PdfPage page() const;

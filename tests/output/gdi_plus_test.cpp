@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "support/system.h"
 #include "toolkit/files.h"
 
 namespace zev {
@@ -11,10 +12,7 @@ namespace fs = std::filesystem;
 
 class GdiPlus : public testing::Test {
   protected:
-    GdiPlus() {
-        std::string name = (fs::temp_directory_path() / "zevlin-images-XXXXXX").string();
-        folder = mkdtemp(name.data());
-    }
+    GdiPlus() { folder = test_system::newFolder("zevlin-images-"); }
     ~GdiPlus() override { fs::remove_all(folder); }
     GdiPlus(const GdiPlus&) = delete;
     GdiPlus& operator=(const GdiPlus&) = delete;

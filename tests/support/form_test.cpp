@@ -6,6 +6,7 @@
 
 #include "app/form_load.h"
 #include "app/wiring.h"
+#include "support/system.h"
 #include "toolkit/clock.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
@@ -26,10 +27,7 @@ Value takeFirst(std::vector<Value>& values) {
     return value;
 }
 
-fs::path newFolder() {
-    std::string name = (fs::temp_directory_path() / "zevlin-test-XXXXXX").string();
-    return mkdtemp(name.data());
-}
+fs::path newFolder() { return test_system::newFolder("zevlin-test-"); }
 
 std::vector<std::string> linesOf(const std::string& content) {
     std::vector<std::string> lines;

@@ -1,11 +1,10 @@
-#include <cstdlib>
-
 #include <gtest/gtest.h>
 
+#include "support/system.h"
 #include "toolkit/window.h"
 
 int main(int argumentCount, char** arguments) {
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    test_system::presetVariable("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argumentCount, arguments);
     const toolkit::Application application(argumentCount, arguments);
     return RUN_ALL_TESTS();

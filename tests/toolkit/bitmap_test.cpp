@@ -10,7 +10,7 @@ namespace {
 
 constexpr Color red = rgb(255, 0, 0);
 
-long count(const Bitmap& bitmap, Color color) {
+auto count(const Bitmap& bitmap, Color color) {
     return std::count(bitmap.row(0), bitmap.row(0) + bitmap.width() * bitmap.height(),
                       pixelOf(color));
 }

@@ -1,9 +1,10 @@
 #include "toolkit/clock.h"
 
-#include <cstdlib>
 #include <ctime>
 
 #include <gtest/gtest.h>
+
+#include "support/system.h"
 
 namespace toolkit {
 namespace {
@@ -14,12 +15,12 @@ class Clock : public testing::Test {
     static constexpr double midnight = 1795219200 - 5 * 3600;
 
     void SetUp() override {
-        setenv("TZ", "XYZ-5", 1);
+        test_system::setVariable("TZ", "XYZ-5");
         tzset();
     }
     void TearDown() override {
         overrideClock(-1);
-        unsetenv("TZ");
+        test_system::clearVariable("TZ");
         tzset();
     }
 };

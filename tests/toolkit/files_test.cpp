@@ -1,9 +1,6 @@
 #include "toolkit/files.h"
 
 #include <chrono>
-#include <csignal>
-
-#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
@@ -17,26 +14,6 @@ namespace fs = std::filesystem;
 using test::failureOf;
 using test::TemporaryFolder;
 using namespace std::string_literals;
-
-// No file may grow beyond this many bytes while it lives: a disk that fills up half way.
-class FileSizeLimit {
-  public:
-    explicit FileSizeLimit(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before_);
-        const rlimit limit{bytes, before_.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FileSizeLimit() {
-        setrlimit(RLIMIT_FSIZE, &before_);
-        std::signal(SIGXFSZ, SIG_DFL);
-    }
-    FileSizeLimit(const FileSizeLimit&) = delete;
-    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
-
-  private:
-    rlimit before_{};
-};
 
 TEST(Files, ContentComesBackByteByByte) {
     const TemporaryFolder folder;
@@ -103,24 +80,6 @@ TEST(Files, ANameTooLongIsFailure52) {
     EXPECT_EQ(failureOf([&] { writeFile(folder / std::string(300, 'n'), "x"); }), 52);
 }
 
-TEST(Files, AFullDiskIsFailure61EvenWhereOnlyTheFlushSeesIt) {
-    EXPECT_EQ(failureOf([] { writeFile("/dev/full", "short"); }), 61);
-    EXPECT_EQ(failureOf([] { writeFile("/dev/full", std::string(1000000, 'x')); }), 61);
-    EXPECT_EQ(failureOf([] { appendFile("/dev/full", "short"); }), 61);
-}
-
-TEST(Files, AFailedCopyOntoADeviceLeavesTheDevice) {
-    const TemporaryFolder folder;
-    writeFile(folder / "f", "x");
-    fs::create_symlink("/dev/full", folder / "link");
-    EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "link"); }), 61);
-    EXPECT_TRUE(fs::is_symlink(folder / "link"));
-}
-
-TEST(Files, AnEndlessSourceIsFailure7) {
-    EXPECT_EQ(failureOf([] { (void)readFile("/dev/zero"); }), 7);
-}
-
 TEST(Files, ACopyHasContentAndTimeAndIsWritable) {
     const TemporaryFolder folder;
     writeFile(folder / "from", "content");
@@ -147,15 +106,6 @@ TEST(Files, ACopyOntoItselfFailsAndKeepsTheContent) {
     writeFile(folder / "f", "content");
     EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "f"); }), 70);
     EXPECT_EQ(readFile(folder / "f"), "content");
-}
-
-TEST(Files, AHalfWrittenCopyIsRemoved) {
-    const TemporaryFolder folder;
-    writeFile(folder / "from", std::string(300000, 'x'));
-    const FileSizeLimit limit(100000);
-    EXPECT_EQ(failureOf([&] { copyFile(folder / "from", folder / "to"); }), 57);
-    EXPECT_FALSE(fs::exists(folder / "to"));
-    EXPECT_TRUE(fs::exists(folder / "from"));
 }
 
 TEST(Files, RenamingMovesTheFile) {

@@ -1,8 +1,8 @@
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 #include "fixture.h"
+#include "support/system.h"
 
 toolkit::Application* window_test::application = nullptr;
 
@@ -19,8 +19,7 @@ constexpr const char* screens = R"({"screens": [
 
 /// The platform reads the description of its screens from this file.
 fs::path describedScreens() {
-    std::string name = (fs::temp_directory_path() / "zevlin-screens-XXXXXX").string();
-    fs::path file = fs::path(mkdtemp(name.data())) / "screens.json";
+    fs::path file = test_system::newFolder("zevlin-screens-") / "screens.json";
     std::ofstream(file) << screens;
     return file;
 }
@@ -30,7 +29,7 @@ fs::path describedScreens() {
 int main(int argumentCount, char** arguments) {
     const fs::path file = describedScreens();
     // A test opens no window on anyone's desktop unless asked to.
-    setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + file.string()).c_str(), 0);
+    test_system::presetVariable("QT_QPA_PLATFORM", "offscreen:configfile=" + file.string());
     testing::InitGoogleTest(&argumentCount, arguments);
     toolkit::Application made(argumentCount, arguments);
     fs::remove_all(file.parent_path());

@@ -1,0 +1,68 @@
+// A disk that fills up, and other files that only a system with devices among its files can show.
+#include "toolkit/files.h"
+
+#include <csignal>
+
+#include <sys/resource.h>
+
+#include <gtest/gtest.h>
+
+#include "toolkit/failure_of.h"
+#include "toolkit/temporary_folder.h"
+
+namespace toolkit {
+namespace {
+
+namespace fs = std::filesystem;
+using test::failureOf;
+using test::TemporaryFolder;
+
+// No file may grow beyond this many bytes while it lives: a disk that fills up half way.
+class FileSizeLimit {
+  public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before_);
+        const rlimit limit{bytes, before_.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &before_);
+        std::signal(SIGXFSZ, SIG_DFL);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+  private:
+    rlimit before_{};
+};
+
+TEST(FullDisk, AFullDiskIsFailure61EvenWhereOnlyTheFlushSeesIt) {
+    EXPECT_EQ(failureOf([] { writeFile("/dev/full", "short"); }), 61);
+    EXPECT_EQ(failureOf([] { writeFile("/dev/full", std::string(1000000, 'x')); }), 61);
+    EXPECT_EQ(failureOf([] { appendFile("/dev/full", "short"); }), 61);
+}
+
+TEST(FullDisk, AFailedCopyOntoADeviceLeavesTheDevice) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "x");
+    fs::create_symlink("/dev/full", folder / "link");
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "link"); }), 61);
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+}
+
+TEST(FullDisk, AnEndlessSourceIsFailure7) {
+    EXPECT_EQ(failureOf([] { (void)readFile("/dev/zero"); }), 7);
+}
+
+TEST(FullDisk, AHalfWrittenCopyIsRemoved) {
+    const TemporaryFolder folder;
+    writeFile(folder / "from", std::string(300000, 'x'));
+    const FileSizeLimit limit(100000);
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "from", folder / "to"); }), 57);
+    EXPECT_FALSE(fs::exists(folder / "to"));
+    EXPECT_TRUE(fs::exists(folder / "from"));
+}
+
+} // namespace
+} // namespace toolkit
