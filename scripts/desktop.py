@@ -81,6 +81,7 @@ class Home:
         self.data = self.folder / "Documents" / "ZEV"
         self.program = self.folder / "program"
         self.installed = self.program / "zevlin-files"
+        self.needs_calm = False  # whether keys may come only while nothing is painted
         self.environment = {}  # what the program gets beside the usual
         self.install()
 
@@ -180,9 +181,13 @@ class Program:
         return wait_for(f"a title like {pattern}", lambda: re.search(pattern, self.title()))
 
     def press(self, *keys):
+        if self.home.needs_calm:
+            wait_until_calm()
         xdotool("key", "--clearmodifiers", *keys)
 
     def type(self, text):
+        if self.home.needs_calm:
+            wait_until_calm()
         xdotool("type", "--delay", 15, text)
 
     def click(self, x, y, button=1):
@@ -193,6 +198,8 @@ class Program:
         return [window for window in self.windows(title) if window != self.window]
 
     def wait_for_box(self, title="."):
+        if self.home.needs_calm:
+            wait_until_calm()  # else a menu that is closing counts as a box
         return wait_for(f"a box {title}", lambda: self.boxes(title))[0]
 
     def answer(self, box, *keys):

@@ -36,7 +36,6 @@ def fill_in(home):
         desktop.wait_for("the options file", (home.data / "ZEV.Ini").exists)
         program.wait_for_title(r"\(unnamed\)")
         program.press("Escape")
-        desktop.wait_until_calm()
 
         say(f'Opening the sample card "{CARD}".')
         program.press("ctrl+o")
@@ -69,7 +68,6 @@ def fill_in(home):
 def export(program, home, row, name):
     """The row is counted in the list of formats; the files lie beside the card."""
     say(f'Exporting the card as "{name}".')
-    desktop.wait_until_calm()
     program.choose_in_file_menu(EXPORT_ROW, "Right", *["Down"] * row)
     program.answer_prompt(name)
     desktop.wait_for(name, lambda: holds(home.data / name, b""))
@@ -79,7 +77,6 @@ def export(program, home, row, name):
 
 def print_to_file(program, path):
     say("Printing the card to a PDF file.")
-    desktop.wait_until_calm()
     program.press("ctrl+p")
     box = program.wait_for_box("^Print to PDF$")
     desktop.xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15,
