@@ -16,7 +16,8 @@ namespace {
 constexpr int documentsIdentifier = 5;
 
 std::filesystem::path nativePath(const QString& path) {
-    return {path.toStdU16String(), std::filesystem::path::generic_format};
+    std::filesystem::path native(path.toStdU16String(), std::filesystem::path::generic_format);
+    return native.make_preferred();
 }
 
 QString qPath(const std::filesystem::path& path) {
