@@ -80,7 +80,7 @@ bool isJpeg(std::string_view extension) {
 } // namespace
 
 cGdiPlus::cGdiPlus(Failed failed, const std::vector<toolkit::ImageEncoder>& encoders)
-    : failed_(std::move(failed)), token_(1), encoderCount_(static_cast<int>(encoders.size())) {
+    : failed_(std::move(failed)), encoderCount_(static_cast<int>(encoders.size())) {
     if (encoders.empty()) raise(status::genericError);
     encoderIds_.resize(encoders.size());
     for (int index = encoderCount_ - 1; index >= 0; --index) {

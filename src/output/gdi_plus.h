@@ -39,7 +39,6 @@ class cGdiPlus {
     void raise(int status) const;
 
     Failed failed_;
-    std::uint32_t token_ = 0; ///< 0 where the start failed
     std::vector<toolkit::CodecId> encoderIds_;
     int encoderCount_ = 0;
     std::map<std::string, int, std::less<>> encoderIndexes_; ///< by pattern in lower case

@@ -140,7 +140,7 @@ std::string ask(const InputBox& box) {
 
 std::filesystem::path askForFile(const FileQuestion& question) {
     updateWindow();
-    const auto path =
+    auto path =
         dialogAnswers().file ? dialogAnswers().file(question) : askForFileOnScreen(question);
     rethrowKept();
     return path;

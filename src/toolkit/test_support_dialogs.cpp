@@ -74,8 +74,9 @@ std::vector<std::string> DialogDriver::labels() const {
 
 std::vector<std::string> DialogDriver::listRows(int list) const {
     std::vector<std::string> rows;
-    for (int row = 0; row < listAt(list).count(); ++row)
-        rows.push_back(ansiText(listAt(list).itemText(row)));
+    const int count = listAt(list).count();
+    rows.reserve(static_cast<std::size_t>(count));
+    for (int row = 0; row < count; ++row) rows.push_back(ansiText(listAt(list).itemText(row)));
     return rows;
 }
 

@@ -1,5 +1,7 @@
 #include "output/printer_setup.h"
 
+#include <algorithm>
+
 #include "output/print_test.h"
 #include "toolkit/print_dialog.h"
 
@@ -63,7 +65,7 @@ TEST_F(PrinterSetup, TheSystemsDialogIsTitledAndItsCancelChangesNothing) {
     toolkit::test::endNextDialog(seen);
     MPrintSetup_Click(form);
     EXPECT_EQ(seen.title, "Printer Setup");
-    EXPECT_EQ(std::ranges::count(seen.buttons, "Print"), 0);
+    EXPECT_EQ(std::count(seen.buttons.begin(), seen.buttons.end(), "Print"), 0);
     EXPECT_EQ(form.Myprinter.Devicename, "Print to PDF");
 }
 

@@ -41,7 +41,7 @@ class ModalFormOnScreen : public WindowTest {
 };
 
 TEST_F(ModalFormOnScreen, RunsTheHandlersWithTheNewValues) {
-    test::driveNextDialog([this](test::DialogDriver& dialog) {
+    test::driveNextDialog([](test::DialogDriver& dialog) {
         EXPECT_EQ(dialog.title(), "Title");
         dialog.choose(0, 1);
         dialog.turnOn("Option");

@@ -155,7 +155,9 @@ Bitmap expanded(const toolkit::IndexedPicture& picture) {
     for (int y = 0; y < picture.height; ++y)
         for (int x = 0; x < picture.width; ++x)
             bitmap.row(y)[x] =
-                picture.palette[picture.indices[static_cast<std::size_t>(y * picture.width + x)]];
+                picture.palette[picture.indices[static_cast<std::size_t>(y) *
+                                                    static_cast<std::size_t>(picture.width) +
+                                                static_cast<std::size_t>(x)]];
     return bitmap;
 }
 
