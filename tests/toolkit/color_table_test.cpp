@@ -18,7 +18,9 @@ int largestShift(const Bitmap& picture, const IndexedPicture& indexed) {
     int largest = 0;
     for (int y = 0; y < picture.height(); ++y) {
         for (int x = 0; x < picture.width(); ++x) {
-            const auto cell = static_cast<std::size_t>(y * picture.width() + x);
+            const auto cell =
+                static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width()) +
+                static_cast<std::size_t>(x);
             const Color shown = colorOf(indexed.palette.at(indexed.indices.at(cell)));
             const Color meant = picture.pixel(x, y).value();
             largest = std::max({largest, std::abs(redOf(shown) - redOf(meant)),
