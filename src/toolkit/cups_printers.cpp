@@ -134,16 +134,8 @@ class Destination {
         return printer.Papers.front().code;
     }
 
-    [[nodiscard]] std::string defaultTray() const {
-        ipp_attribute_t* value =
-            cups_.findDestDefault(CUPS_HTTP_DEFAULT, destination_, info_, CUPS_MEDIA_SOURCE);
-        const char* keyword = value == nullptr ? nullptr : cups_.getString(value, 0, nullptr);
-        return keyword == nullptr ? std::string() : keyword;
-    }
-
     void readTrays(Printer& printer) const {
         int code = 0;
-        const std::string present = defaultTray();
         for (const std::string& keyword : supported(CUPS_MEDIA_SOURCE)) {
             const char* name = cups_.localizeDestValue(CUPS_HTTP_DEFAULT, destination_, info_,
                                                        CUPS_MEDIA_SOURCE, keyword.c_str());
