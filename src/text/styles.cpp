@@ -12,6 +12,7 @@
 #include "text/edit_keys.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
+#include "toolkit/clipboard.h"
 #include "toolkit/dialog.h"
 
 namespace zev {
@@ -168,7 +169,9 @@ void mpopHilite_Click(Zevlin& form) {
 void mpopCopy_Click(Zevlin& form) {
     Traceit(form, "mpopCopy_Click");
     trapped(form, "Error in mpopCopy_Click: #", [&] {
-        if (isEditing(form)) form.ClipText = copiedText(form);
+        if (!isEditing(form)) return;
+        form.ClipText = copiedText(form);
+        toolkit::setClipboardText(form.ClipText);
     });
 }
 

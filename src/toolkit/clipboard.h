@@ -1,5 +1,7 @@
-// The system's clipboard, for pictures.
+// The system's clipboard.
 #pragma once
+
+#include <string_view>
 
 #include "toolkit/bitmap.h"
 
@@ -8,5 +10,8 @@ namespace toolkit {
 /// Puts the picture on the clipboard in the place of whatever is there. Other programs can take it
 /// while this one runs.
 void setClipboardPicture(const Bitmap& picture);
+
+/// Likewise a text of the program's code page.
+void setClipboardText(std::string_view text);
 
 } // namespace toolkit

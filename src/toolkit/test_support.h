@@ -139,6 +139,9 @@ class DialogDriver {
 /// Runs once the next form is there, which must close in it.
 void driveNextDialog(std::function<void(DialogDriver&)> act);
 
+/// The text on the clipboard, in UTF-8.
+[[nodiscard]] std::string clipboardText();
+
 /// The picture on the clipboard, empty if there is none.
 [[nodiscard]] Bitmap clipboardPicture();
 

@@ -112,6 +112,8 @@ bool DialogDriver::isEnabled(std::string_view option) const {
 
 void DialogDriver::press(std::string_view button) { buttonWith<QPushButton>(button).click(); }
 
+std::string clipboardText() { return QGuiApplication::clipboard()->text().toStdString(); }
+
 Bitmap clipboardPicture() {
     const QImage image = QGuiApplication::clipboard()->image();
     Bitmap bitmap(image.width(), image.height());

@@ -137,6 +137,14 @@ TEST_F(Styles, CopiedSelectionIsOnTheSystemsClipboardToo) {
     EXPECT_EQ(shownText(form.CText), "534");
 }
 
+TEST_F(Styles, CopyWithoutASelectionPutsTheWholeTextOnTheSystemsClipboard) {
+    startSmall();
+    openWith("North & South");
+    fillClipboard("another program's");
+    mpopCopy_Click(form);
+    EXPECT_EQ(clipboardText(), "North & South");
+}
+
 TEST_F(Styles, CopyDoesNotEnablePasteButTheNextOpeningDoes) {
     startSmall();
     openWith("North");
