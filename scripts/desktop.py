@@ -15,18 +15,27 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 STAGE = pathlib.Path(os.environ.get("ZEVLIN_BUILD", ROOT / "build" / "release")) / "stage"
 DESIGN_WIDTH = 1198  # pixels of the card for which a layout gives the places
 TWIPS_PER_INCH = 1440
+ATTEMPTS = 10  # to give a window the focus
 CHOOSER_TITLE = r" - (Open an existing card file|Save this card)$"
 
 
-def wait_for(what, condition, seconds=30):
-    """The condition's value as soon as it is true; an error that says what was missed."""
+def value_within(seconds, condition):
+    """The condition's value as soon as it is true; None if it doesn't come true in time."""
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         value = condition()
         if value:
             return value
         time.sleep(0.03)
-    raise TimeoutError(f"waited {seconds} seconds in vain for {what}")
+    return None
+
+
+def wait_for(what, condition, seconds=30):
+    """The condition's value as soon as it is true; an error that says what was missed."""
+    value = value_within(seconds, condition)
+    if not value:
+        raise TimeoutError(f"waited {seconds} seconds in vain for {what}")
+    return value
 
 
 def output_of(*command):
@@ -35,6 +44,12 @@ def output_of(*command):
 
 def xdotool(*arguments):
     return output_of("xdotool", *map(str, arguments)).decode()
+
+
+def window_in_focus():
+    """The window that gets the keys; empty while none does."""
+    found = subprocess.run(["xdotool", "getwindowfocus"], capture_output=True, timeout=20)
+    return found.stdout.decode().strip()
 
 
 class Picture:
@@ -59,15 +74,6 @@ def screenshot():
     return Picture(output_of("import", "-silent", "-window", "root", "-depth", "8", "ppm:-"))
 
 
-def wait_until_calm():
-    """Until two looks at the screen, a while apart, show the same."""
-    def calm():
-        before = screenshot().bytes
-        time.sleep(0.3)
-        return screenshot().bytes == before
-    wait_for("the screen to come to rest", calm)
-
-
 def save_screenshot(path):
     output_of("import", "-silent", "-window", "root", str(path))
 
@@ -81,7 +87,7 @@ class Home:
         self.data = self.folder / "Documents" / "ZEV"
         self.program = self.folder / "program"
         self.installed = self.program / "zevlin-files"
-        self.needs_calm = False  # whether keys may come only while nothing is painted
+        self.focuses_itself = False  # whether the program's windows take the keys when they want
         self.environment = {}  # what the program gets beside the usual
         self.install()
 
@@ -180,15 +186,30 @@ class Program:
     def wait_for_title(self, pattern):
         return wait_for(f"a title like {pattern}", lambda: re.search(pattern, self.title()))
 
+    def focus(self, window):
+        """Sees to it that a window gets the keys."""
+        if not self.home.focuses_itself:
+            xdotool("windowfocus", "--sync", window)
+            return
+        # Behind a box that goes a window is still disabled, and refuses the focus when it is offered.
+        for _ in range(ATTEMPTS):
+            if value_within(2, lambda: window_in_focus() == window):
+                return
+            xdotool("windowactivate", window)
+        raise TimeoutError("the window doesn't take the keys")
+
     def press(self, *keys):
-        if self.home.needs_calm:
-            wait_until_calm()
+        self.await_window()
         xdotool("key", "--clearmodifiers", *keys)
 
     def type(self, text):
-        if self.home.needs_calm:
-            wait_until_calm()
+        self.await_window()
         xdotool("type", "--delay", 15, text)
+
+    def await_window(self):
+        """Keys that come between a box and the window behind it get lost."""
+        if self.home.focuses_itself:
+            self.focus(self.window)
 
     def click(self, x, y, button=1):
         xdotool("mousemove", round(x), round(y), "click", button)
@@ -198,13 +219,33 @@ class Program:
         return [window for window in self.windows(title) if window != self.window]
 
     def wait_for_box(self, title="."):
-        if self.home.needs_calm:
-            wait_until_calm()  # else a menu that is closing counts as a box
-        return wait_for(f"a box {title}", lambda: self.boxes(title))[0]
+        def shown():
+            boxes = self.boxes(title)
+            if self.home.focuses_itself:
+                # A menu is a window there, but the keys don't go to it.
+                boxes = [box for box in boxes if box == window_in_focus()]
+            return boxes
+        return wait_for(f"a box {title}", shown)[0]
 
-    def answer(self, box, *keys):
-        """Presses keys in a box and waits until it is gone."""
-        xdotool("windowfocus", "--sync", box, "key", "--clearmodifiers", *keys)
+    def answer(self, box, key):
+        """Presses a key in a box and waits until it is gone."""
+        self.focus(box)
+        if self.home.focuses_itself:
+            return self.answer_holding(box, key)
+        xdotool("key", "--clearmodifiers", key)
+        self.wait_until_gone(box)
+
+    def answer_holding(self, box, key):
+        """Holds the key until another window has the focus. A box goes at the press, and where no
+        window is left to hear of the release, the next press counts as a repetition."""
+        xdotool("keydown", key)
+        try:
+            self.wait_until_gone(box)
+            self.focus(wait_for("the next window", self.windows)[0])
+        finally:
+            xdotool("keyup", key)
+
+    def wait_until_gone(self, box):
         wait_for("the box to close", lambda: not self.is_running() or box not in self.windows())
 
     def wait_for_chooser(self):
@@ -219,10 +260,11 @@ class Program:
         self.press("Return")
         wait_for("the chooser to close", lambda: not self.shows_chooser())
 
-    def answer_prompt(self, text):
+    def answer_prompt(self, text, title="."):
         """Types a text into the box that a command has opened to ask for one."""
-        box = self.wait_for_box()
-        xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15, text)
+        box = self.wait_for_box(title)
+        self.focus(box)
+        xdotool("key", "ctrl+a", "type", "--delay", 15, text)
         self.answer(box, "Return")
 
     def shows_chooser(self):
@@ -241,7 +283,8 @@ class Program:
 
     def close(self):
         """Asks the window to close, as its frame's button does."""
-        xdotool("windowfocus", "--sync", self.window, "key", "--clearmodifiers", "alt+F4")
+        self.focus(self.window)
+        xdotool("key", "--clearmodifiers", "alt+F4")
 
     def wait_for_end(self):
         wait_for("the program's end", lambda: not self.is_running())

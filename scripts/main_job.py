@@ -78,10 +78,7 @@ def export(program, home, row, name):
 def print_to_file(program, path):
     say("Printing the card to a PDF file.")
     program.press("ctrl+p")
-    box = program.wait_for_box("^Print to PDF$")
-    desktop.xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15,
-                    program.home.named(path))
-    program.answer(box, "Return")
+    program.answer_prompt(program.home.named(path), "^Print to PDF$")
     desktop.wait_for("the page", lambda: holds(path, b"%%EOF\n"))
     return path
 

@@ -2,11 +2,10 @@
 
 #include <cstdlib>
 
-#include <QtCore/QEventLoop>
-#include <QtCore/QTimer>
 #include <QtWidgets/QApplication>
 
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_pending_events.h"
 #include "toolkit/qt_program.h"
 #include "toolkit/qt_window.h"
 
@@ -21,7 +20,7 @@ void overrideProgram(ProgramOverrides overrides) { programOverrides() = std::mov
 
 void doEvents() {
     updateWindow();
-    if (qApp != nullptr) QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    if (qApp != nullptr) runPendingEvents();
     rethrowKept();
 }
 
@@ -32,9 +31,7 @@ void wait(int milliseconds) {
         return;
     }
     updateWindow();
-    QEventLoop loop;
-    QTimer::singleShot(milliseconds, Qt::PreciseTimer, &loop, &QEventLoop::quit);
-    loop.exec(QEventLoop::ExcludeUserInputEvents);
+    runEventsFor(milliseconds);
     rethrowKept();
 }
 
