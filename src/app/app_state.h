@@ -15,6 +15,7 @@ struct TraceState {
     bool headerWritten = false;     ///< the file was emptied by this run
     bool dimensionsWritten = false; ///< the block of control sizes stands in it
     bool specsWritten = false;      ///< the figures of the first text field stand in it
+    bool isWriting = false;         ///< a block is being put together; nothing else is taken
 };
 
 struct AppState {

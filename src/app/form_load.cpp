@@ -5,6 +5,7 @@
 
 #include "app/command_line.h"
 #include "app/data_folder.h"
+#include "app/hooks.h"
 #include "app/initialize.h"
 #include "app/options.h"
 #include "app/services.h"
@@ -75,6 +76,7 @@ void applyKindOfBuild(Zevlin& form) {
     form.MShapes.Visible = !form.ProductionBuild;
     form.MShowDesignMenu.Checked = !form.ProductionBuild;
     form.WheelHooked = form.ProductionBuild;
+    if (form.WheelHooked) hookWheel(form);
 }
 
 void hidePrintColorItems(Zevlin& form) {

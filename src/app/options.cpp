@@ -7,6 +7,7 @@
 
 #include "app/data_folder.h"
 #include "app/options_file.h"
+#include "app/services.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "layout/read_comment.h"
@@ -139,11 +140,11 @@ int checkedFontSize(const Zevlin& form) {
     return form.mBigTextFont.Checked ? 3 : 0;
 }
 
-void describeMachine(const Zevlin& form, OptionsDocument& document) {
+void describeMachine(Zevlin& form, OptionsDocument& document) {
     const auto screen = toolkit::screen();
     document.printer = form.CurrentPrinter;
     document.facts = form.Myprinter;
-    document.systemVersion = toolkit::systemVersion();
+    document.systemVersion = WinVer(form);
     document.screenWidth = screen.Width;
     document.screenHeight = screen.Height;
     document.twipsPerPixel = form.TwipsPerPixel;
@@ -152,11 +153,12 @@ void describeMachine(const Zevlin& form, OptionsDocument& document) {
     document.applicationPath = toolkit::displayText(toolkit::programFolder());
     document.documentsPath = toolkit::displayText(form.DataFolder);
     document.currentPath = toolkit::displayText(currentFolder(form));
-    document.memory = toolkit::memoryFacts();
-    document.usage = toolkit::memoryUsage();
+    ignoringFailures([&] { document.memory = toolkit::memoryFacts(); });
+    document.memoryLoad = MemoryLoad(form);
+    document.usage.current = GetMemoryUsage(form, document.usage.peak);
 }
 
-OptionsDocument documentOf(const Zevlin& form) {
+OptionsDocument documentOf(Zevlin& form) {
     OptionsDocument document;
     document.programVersion = form.ProgramVersion;
     document.name = form.MyName;

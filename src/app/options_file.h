@@ -65,6 +65,7 @@ struct OptionsDocument {
     std::string documentsPath;
     std::string currentPath;
     toolkit::MemoryFacts memory;
+    std::string memoryLoad; ///< with its unit
     toolkit::MemoryUsage usage;
 };
 

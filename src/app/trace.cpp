@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
+#include "app/services.h"
 #include "app/zevlin.h"
 #include "toolkit/ansi.h"
 #include "toolkit/clock.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
-#include "toolkit/system.h"
 
 namespace zev {
 namespace {
@@ -31,12 +31,16 @@ std::string headerLine(const Zevlin& form) {
     return joined({toolkit::dateTimeText(), "\t", form.ProgramVersion, lineEnd});
 }
 
-std::string memoryLines() {
-    const auto load = toolkit::memoryFacts().loadPercent;
-    const auto usage = toolkit::memoryUsage();
-    return joined({"System Memory Load: ", toolkit::numberText(load), "%", lineEnd,
-                   "ZEV's Curr Memory usage:  ", toolkit::groupedText(usage.current), lineEnd,
-                   "ZEV's Peak Memory usage:  ", toolkit::groupedText(usage.peak), lineEnd});
+/// Nothing that is asked for meanwhile traces, or a failure would come back for more.
+std::string memoryLines(Zevlin& form) {
+    form.traceState.isWriting = true;
+    const std::string load = MemoryLoad(form);
+    std::uint64_t peak = 0;
+    const std::uint64_t current = GetMemoryUsage(form, peak);
+    form.traceState.isWriting = false;
+    return joined({"System Memory Load: ", load, lineEnd,
+                   "ZEV's Curr Memory usage:  ", toolkit::groupedText(current), lineEnd,
+                   "ZEV's Peak Memory usage:  ", toolkit::groupedText(peak), lineEnd});
 }
 
 std::filesystem::path ringFile(const Zevlin& form) {
@@ -58,7 +62,7 @@ void dumpRing(Zevlin& form) {
         block += line;
         block += lineEnd;
     });
-    block += memoryLines();
+    block += memoryLines(form);
     toolkit::appendFile(ringFile(form), block);
     form.Trace.clear();
 }
@@ -85,7 +89,7 @@ std::string dimensions(Zevlin& form) {
                      toolkit::numberText(form.Testtext.TextHeight("|")), lineEnd});
     // Form, P1, P2 and P3 all measure in twips.
     block += joined({"    Scalemodes - Form,P1,P2,P3: ", "1 1 1 1", lineEnd});
-    return block + memoryLines();
+    return block + memoryLines(form);
 }
 
 void traceToFile(Zevlin& form, std::string_view text) {
@@ -116,6 +120,7 @@ void traceUntrapped(Zevlin& form, std::string_view text) {
 } // namespace
 
 void Traceit(Zevlin& form, std::string_view text) {
+    if (form.traceState.isWriting) return;
     try {
         traceUntrapped(form, text);
     } catch (const std::exception&) {

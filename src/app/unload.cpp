@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/hooks.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/chooser_events.h"
@@ -23,7 +24,10 @@ bool Form_Unload(Zevlin& form, int unloadMode) {
             return BCancel_Click(form);
         }
         cancel = CheckMod(form);
-        if (!cancel) releasePrinter(form);
+        if (cancel) return;
+        releasePrinter(form);
+        restoreDefaultPrinter(form);
+        if (form.WheelHooked) unhookWheel(form);
     });
     return cancel;
 }
@@ -32,7 +36,7 @@ void MExit_Click(Zevlin& form) {
     Traceit(form, "MExit_Click " + std::string(truthText(form.CardModified)));
     trapped(form, "Error in MExit_Click: #", [&] {
         if (CheckMod(form)) return;
-        if (!Form_Unload(form, unloadFromCode)) toolkit::endProgram();
+        if (!Form_Unload(form, unloadFromCode)) toolkit::leaveProgram();
     });
 }
 

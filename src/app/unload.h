@@ -8,6 +8,7 @@ struct Zevlin;
 /// How the form came to be unloaded.
 constexpr int unloadByPlayer = 0;
 constexpr int unloadFromCode = 1;
+constexpr int unloadBySession = 2;
 
 /// Closes the chooser if it is open, else asks about unsaved changes; true refuses, and the form
 /// stays.

@@ -12,7 +12,6 @@
 #include "marks/card_mouse.h"
 #include "marks/keys.h"
 #include "marks/mark_clicks.h"
-#include "marks/move_card.h"
 #include "text/edit_field.h"
 #include "text/edit_keys.h"
 
@@ -21,8 +20,8 @@ namespace {
 
 void wireForm(Zevlin& form) {
     form.KeyDown = run(form, Form_KeyDown);
-    form.MouseWheel = run(form, MouseWheel);
     form.QueryClose = [&form] { return Form_Unload(form, unloadByPlayer); };
+    form.QueryEnd = [&form] { return Form_Unload(form, unloadBySession); };
     form.Unhandled = [&form](const toolkit::RunTimeError& failure) {
         traceFailure(form, "Error in an event: #", failure);
     };

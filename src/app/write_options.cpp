@@ -170,7 +170,7 @@ std::string megabytes(std::uint64_t bytes) {
 void appendMemory(std::string& file, const OptionsDocument& document) {
     appendLine(file, "'    Physical Memory:    ", megabytes(document.memory.physicalBytes));
     appendLine(file, "'    Total Memory:       ", megabytes(document.memory.pageFileBytes));
-    appendLine(file, "'    Memory Load:        ", numberText(document.memory.loadPercent) + "%");
+    appendLine(file, "'    Memory Load:        ", document.memoryLoad);
     appendLine(file, "'    Curr Memory usage:  ", toolkit::groupedText(document.usage.current));
     appendLine(file, "'    Peak Memory usage:  ", toolkit::groupedText(document.usage.peak));
 }

@@ -3,11 +3,10 @@
 #include <optional>
 #include <string>
 
+#include "app/services.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
-#include "toolkit/number_text.h"
 #include "toolkit/screen.h"
-#include "toolkit/system.h"
 
 namespace zev {
 namespace {
@@ -42,8 +41,7 @@ void TestBlankPage(Zevlin& form, std::string_view label, const toolkit::PictureB
     if (!form.TraceOn) return;
     Traceit(form, "TestBlankPage");
     Traceit(form, std::string(label) + " TestBlankPage: page is " + std::string(verdict(picture)) +
-                      "; MemoryLoad=" + toolkit::numberText(toolkit::memoryFacts().loadPercent) +
-                      "%");
+                      "; MemoryLoad=" + MemoryLoad(form));
 }
 
 } // namespace zev

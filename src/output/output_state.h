@@ -21,6 +21,7 @@ struct OutputState {
     PrinterFacts Myprinter;          ///< what the program keeps of the chosen printer
     toolkit::Printer CurrentPrinter; ///< the printer object
     toolkit::PrintJob PrinterDC;     ///< the document on the printer
+    std::string SavedDefaultPrinter; ///< the system's, before the set-up changed it
     bool PrinterPending = false;     ///< the default printer's facts are still to be asked for
     bool PrinterSetUp = false;       ///< the player has been through the set-up
     bool Printing = false;

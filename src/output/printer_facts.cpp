@@ -72,4 +72,10 @@ void releasePrinter(Zevlin& form) {
     if (form.PrintMethod == primaryPrintMethod) form.Myprinter.hdc = 0;
 }
 
+void restoreDefaultPrinter(Zevlin& form) {
+    if (form.SavedDefaultPrinter.empty()) return;
+    if (toolkit::defaultPrinterName() != form.SavedDefaultPrinter)
+        toolkit::setDefaultPrinter(form.SavedDefaultPrinter);
+}
+
 } // namespace zev

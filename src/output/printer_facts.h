@@ -23,4 +23,7 @@ void readPrinterFacts(Zevlin& form);
 /// At the program's end: no document stays open, and the primary method's printer is let go.
 void releasePrinter(Zevlin& form);
 
+/// At the program's end: the system's default printer, where the set-up has changed it.
+void restoreDefaultPrinter(Zevlin& form);
+
 } // namespace zev

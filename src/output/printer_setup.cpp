@@ -1,5 +1,8 @@
 #include "output/printer_setup.h"
 
+#include <optional>
+#include <string>
+
 #include "app/options.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
@@ -35,12 +38,22 @@ void hideWaitText(Zevlin& form) {
     toolkit::doEvents();
 }
 
+/// The system's dialog may change the default printer. What another program changes meanwhile is
+/// none of ours, so only the name before such a change is kept.
+std::optional<toolkit::Printer> askForPrinter(Zevlin& form) {
+    const std::string before = toolkit::defaultPrinterName();
+    auto chosen = toolkit::setUpOnScreen(form.CurrentPrinter);
+    const bool isChanged = toolkit::defaultPrinterName() != before;
+    if (isChanged && form.SavedDefaultPrinter.empty()) form.SavedDefaultPrinter = before;
+    return chosen;
+}
+
 void setUpPrimary(Zevlin& form) {
     form.MousePointer = toolkit::MousePointer::Hourglass;
     showWaitText(form);
     takePendingPrinter(form);
     form.MousePointer = toolkit::MousePointer::Default;
-    const auto chosen = toolkit::setUpOnScreen(form.CurrentPrinter);
+    const auto chosen = askForPrinter(form);
     hideWaitText(form);
     if (!chosen) return;
     form.CurrentPrinter = *chosen;

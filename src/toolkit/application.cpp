@@ -1,6 +1,7 @@
 #include <QtWidgets/QApplication>
 
 #include "toolkit/qt_program_icon.h"
+#include "toolkit/qt_session_end.h"
 #include "toolkit/qt_window.h"
 #include "toolkit/window.h"
 
@@ -43,6 +44,7 @@ Application::~Application() = default;
 
 int Application::run() {
     updateWindow();
+    const SessionEnd sessionEnd;
     return QApplication::exec();
 }
 

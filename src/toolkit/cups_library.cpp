@@ -20,6 +20,7 @@ std::optional<CupsLibrary> load() {
     if (!library.load()) return std::nullopt;
     CupsLibrary cups;
     const bool complete = find(library, "cupsGetDests", cups.getDests) &&
+                          find(library, "cupsSetDests2", cups.setDests) &&
                           find(library, "cupsGetNamedDest", cups.getNamedDest) &&
                           find(library, "cupsFreeDests", cups.freeDests) &&
                           find(library, "cupsCopyDestInfo", cups.copyDestInfo) &&

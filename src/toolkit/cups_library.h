@@ -9,6 +9,7 @@ namespace toolkit {
 /// The functions that the program uses, by their own names.
 struct CupsLibrary {
     decltype(&::cupsGetDests) getDests = nullptr;
+    decltype(&::cupsSetDests2) setDests = nullptr;
     decltype(&::cupsGetNamedDest) getNamedDest = nullptr;
     decltype(&::cupsFreeDests) freeDests = nullptr;
     decltype(&::cupsCopyDestInfo) copyDestInfo = nullptr;

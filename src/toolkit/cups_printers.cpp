@@ -5,6 +5,7 @@
 
 #include "toolkit/ansi.h"
 #include "toolkit/cups_library.h"
+#include "toolkit/error.h"
 #include "toolkit/system_printers.h"
 #include "toolkit/utf8.h"
 
@@ -162,6 +163,35 @@ std::vector<std::string> systemPrinterNames() {
     }
     cups->freeDests(count, list);
     return names;
+}
+
+std::string systemDefaultPrinterName() {
+    const CupsLibrary* cups = cupsLibrary();
+    if (cups == nullptr) return {};
+    cups_dest_t* list = nullptr;
+    const int count = cups->getDests(&list);
+    std::string name;
+    for (const cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count)))
+        if (destination.is_default != 0) name = ansiFromUtf8(destination.name);
+    cups->freeDests(count, list);
+    return name;
+}
+
+void setSystemDefaultPrinter(std::string_view name) {
+    const CupsLibrary* cups = cupsLibrary();
+    if (cups == nullptr) throw RunTimeError(Failure::PrinterError);
+    cups_dest_t* list = nullptr;
+    const int count = cups->getDests(&list);
+    const std::string wanted = utf8FromAnsi(name);
+    bool isThere = false;
+    for (cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count))) {
+        const bool isWanted = destination.instance == nullptr && destination.name == wanted;
+        destination.is_default = isWanted ? 1 : 0;
+        isThere = isThere || isWanted;
+    }
+    const bool isSet = isThere && cups->setDests(CUPS_HTTP_DEFAULT, count, list) == 0;
+    cups->freeDests(count, list);
+    if (!isSet) throw RunTimeError(Failure::PrinterError);
 }
 
 Printer systemPrinter(std::string_view name) {

@@ -16,17 +16,17 @@ std::exception_ptr& kept() {
     return exception;
 }
 
-/// What runs meanwhile runs as if no handler were running.
-class Outermost {
+/// A number that is another one for a while.
+class Meanwhile {
   public:
-    explicit Outermost(int& depth) : depth_(depth), outer_(std::exchange(depth, 0)) {}
-    Outermost(const Outermost&) = delete;
-    Outermost& operator=(const Outermost&) = delete;
-    ~Outermost() { depth_ = outer_; }
+    Meanwhile(int& number, int value) : number_(number), before_(std::exchange(number, value)) {}
+    Meanwhile(const Meanwhile&) = delete;
+    Meanwhile& operator=(const Meanwhile&) = delete;
+    ~Meanwhile() { number_ = before_; }
 
   private:
-    int& depth_;
-    int outer_;
+    int& number_;
+    int before_;
 };
 
 } // namespace
@@ -60,8 +60,15 @@ void Delivery::askToClose() {
     if (!std::exchange(closeAsked_, true)) scheduleClose();
 }
 
+void Delivery::askToEnd() {
+    endAsked_ = true;
+    askToClose();
+}
+
 void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
-    const Outermost outermost(depth_);
+    // What runs meanwhile runs as if no handler were running.
+    const Meanwhile outermost(depth_, 0);
+    const Meanwhile wait(waits_, waits_ + 1);
     if (closeAsked_) scheduleClose();
     while (!isOver() && !kept()) {
         if (programOverrides().player)
@@ -72,12 +79,21 @@ void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
     rethrowKept();
 }
 
+void Delivery::close() {
+    if (!endAsked_) return run(hooks_.close);
+    endAsked_ = false;
+    const bool isInWait = waits_ > 0;
+    run(hooks_.end);
+    // Only the wait was ended; the question comes again when its procedure has returned.
+    if (isInWait) endAsked_ = closeAsked_ = true;
+}
+
 /// Queued: the close procedure may end the program, which must not happen below the platform's own
 /// close event. Another handler may have begun by then, so the depth is looked at again.
 void Delivery::scheduleClose() {
     QTimer::singleShot(0, &timers_, [this] {
         if (depth_ > 0 || !std::exchange(closeAsked_, false)) return;
-        run(hooks_.close);
+        close();
     });
 }
 

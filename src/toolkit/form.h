@@ -52,6 +52,8 @@ struct Form {
     std::function<void(int keys, int rotation, int x, int y)> MouseWheel;
     /// The player closes the window; true refuses.
     std::function<bool()> QueryClose;
+    /// The session ends, or another program asks this one to; true refuses.
+    std::function<bool()> QueryEnd;
     /// A failure that no procedure trapped (none should).
     std::function<void(const RunTimeError&)> Unhandled;
 

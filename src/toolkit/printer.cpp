@@ -5,6 +5,7 @@
 #include <cmath>
 #include <utility>
 
+#include "toolkit/error.h"
 #include "toolkit/system_printers.h"
 
 namespace toolkit {
@@ -104,6 +105,19 @@ Printer defaultPrinter() {
     if (printer.hdc == 0) printer = printToPdf();
     if (overrides().noPrinter) printer.hdc = 0;
     return printer;
+}
+
+std::string defaultPrinterName() {
+    const auto& printers = overrides().printers;
+    return printers.empty() ? systemDefaultPrinterName() : printers.front().DeviceName;
+}
+
+void setDefaultPrinter(std::string_view name) {
+    auto& printers = overrides().printers;
+    if (printers.empty()) return setSystemDefaultPrinter(name);
+    const auto found = std::ranges::find(printers, name, &Printer::DeviceName);
+    if (found == printers.end()) throw RunTimeError(Failure::PrinterError);
+    std::rotate(printers.begin(), found, found + 1);
 }
 
 bool isAskingSlow() { return overrides().printers.empty() && !overrides().noPrinter; }

@@ -69,6 +69,12 @@ constexpr std::string_view printToPdfName = "Print to PDF";
 /// The system's default printer, or "Print to PDF".
 [[nodiscard]] Printer defaultPrinter();
 
+/// The name of the system's default printer; empty where it has none.
+[[nodiscard]] std::string defaultPrinterName();
+
+/// Makes an installed printer the default of this player's programs. Failure 482.
+void setDefaultPrinter(std::string_view name);
+
 /// Whether asking for the default printer may take long, so that it is better put off.
 [[nodiscard]] bool isAskingSlow();
 

@@ -8,6 +8,7 @@
 #include "toolkit/qt_pending_events.h"
 #include "toolkit/qt_program.h"
 #include "toolkit/qt_window.h"
+#include "toolkit/window.h"
 
 namespace toolkit {
 
@@ -43,6 +44,11 @@ void waitForPlayer(const std::function<bool()>& isOver) {
 void beep() {
     if (programOverrides().beep) return programOverrides().beep();
     QApplication::beep();
+}
+
+void leaveProgram() {
+    if (programOverrides().throwAtEnd) throw ProgramEnded{};
+    Application::quit();
 }
 
 void endProgram() {

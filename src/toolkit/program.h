@@ -41,8 +41,13 @@ void openWebPage(const char* address);
 /// Ends the process at once: no unload, no further save.
 [[noreturn]] void endProgram();
 
-/// What endProgram throws where a test has asked for it; deliberately no std::exception. Out of an
-/// event handler it reaches the test through the helper of toolkit::test that sent the event.
+/// Ends the program in good order once the running events have returned: what it holds for others,
+/// as a picture on the clipboard, goes to the system.
+void leaveProgram();
+
+/// What endProgram and leaveProgram throw where a test has asked for it; deliberately no
+/// std::exception. Out of an event handler it reaches the test through the helper of toolkit::test
+/// that sent the event.
 struct ProgramEnded {};
 
 /// Settings for tests, in force until changed.

@@ -23,6 +23,7 @@ class Delivery {
         std::function<void()> push; ///< what the program changed goes to the widgets
         std::function<void(const RunTimeError&)> unhandled;
         std::function<void()> close; ///< the player closes the window
+        std::function<void()> end;   ///< the session ends
     };
     explicit Delivery(Hooks hooks) : hooks_(std::move(hooks)) {}
 
@@ -32,17 +33,24 @@ class Delivery {
     /// Runs the close once no handler is running, from the event loop.
     void askToClose();
 
+    /// The same for the end of the session. Where a procedure waits for the player, which a close
+    /// ends, it is asked again behind that procedure.
+    void askToEnd();
+
     /// Runs the player's events until `isOver`, in the middle of a handler. A close comes at once.
     void letPlayerAct(const std::function<bool()>& isOver);
 
   private:
     void guarded(const std::function<void()>& handler);
     void scheduleClose();
+    void close();
 
     Hooks hooks_;
     QObject timers_; ///< what is still queued dies with this
     int depth_ = 0;
+    int waits_ = 0; ///< procedures that wait for the player
     bool closeAsked_ = false;
+    bool endAsked_ = false;
 };
 
 } // namespace toolkit

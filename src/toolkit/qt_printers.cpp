@@ -59,6 +59,8 @@ std::vector<std::string> systemPrinterNames() {
     return names;
 }
 
+std::string systemDefaultPrinterName() { return ansiText(QPrinterInfo::defaultPrinterName()); }
+
 Printer systemPrinter(std::string_view name) {
     Printer printer;
     const QPrinterInfo info = QPrinterInfo::printerInfo(qString(name));

@@ -1,74 +1,30 @@
 #include "toolkit/system.h"
 
-#ifndef _WIN32
+#include <utility>
 
-#include <charconv>
-#include <fstream>
-#include <string_view>
-
-#include <sys/utsname.h>
-
-#include "toolkit/number_text.h"
+#include "toolkit/system_source.h"
 
 namespace toolkit {
 namespace {
 
-// The figure behind a label of one of the kernel's tables, which count in units of 1024 bytes.
-std::uint64_t bytesBehind(const char* file, std::string_view label) {
-    std::ifstream table(file);
-    std::string line;
-    while (std::getline(table, line)) {
-        if (!line.starts_with(label)) continue;
-        const std::size_t digits = line.find_first_of("0123456789", label.size());
-        if (digits == std::string::npos) return 0;
-        std::uint64_t kilobytes = 0;
-        std::from_chars(line.data() + digits, line.data() + line.size(), kilobytes);
-        return kilobytes * 1024;
-    }
-    return 0;
-}
-
-// The next number of a release such as "6.1.0-18", 0 where there is none.
-int takeNumber(std::string_view& release) {
-    const std::size_t digits = release.find_first_of("0123456789");
-    if (digits == std::string_view::npos) return 0;
-    release.remove_prefix(digits);
-    int number = 0;
-    const char* end = std::from_chars(release.data(), release.data() + release.size(), number).ptr;
-    release.remove_prefix(static_cast<std::size_t>(end - release.data()));
-    return number;
+SystemSource& source() {
+    static SystemSource current = thisSystem();
+    return current;
 }
 
 } // namespace
 
-std::string systemVersion() {
-    utsname names{};
-    uname(&names);
-    std::string_view release = names.release;
-    const int major = takeNumber(release);
-    const int minor = takeNumber(release);
-    const int build = takeNumber(release);
-    return numberText(major) + "." + numberText(minor) + ", Build " + numberText(build) +
-           ", Platform " + names.sysname + ", SP 0.0";
-}
+std::string systemVersion() { return source().version(); }
 
-MemoryFacts memoryFacts() {
-    constexpr const char* table = "/proc/meminfo";
-    MemoryFacts facts;
-    facts.physicalBytes = bytesBehind(table, "MemTotal:");
-    facts.pageFileBytes = facts.physicalBytes + bytesBehind(table, "SwapTotal:");
-    const std::uint64_t available = bytesBehind(table, "MemAvailable:");
-    if (available < facts.physicalBytes)
-        facts.loadPercent =
-            static_cast<int>((facts.physicalBytes - available) * 100 / facts.physicalBytes);
-    return facts;
-}
+MemoryFacts memoryFacts() { return source().memory(); }
 
-MemoryUsage memoryUsage() {
-    constexpr const char* table = "/proc/self/status";
-    return {.current = bytesBehind(table, "VmRSS:"), .peak = bytesBehind(table, "VmHWM:")};
+MemoryUsage memoryUsage() { return source().usage(); }
+
+void overrideSystem(SystemSource inPlace) {
+    source() = thisSystem();
+    if (inPlace.version) source().version = std::move(inPlace.version);
+    if (inPlace.memory) source().memory = std::move(inPlace.memory);
+    if (inPlace.usage) source().usage = std::move(inPlace.usage);
 }
 
 } // namespace toolkit
-
-#endif

@@ -1,7 +1,9 @@
-// Facts about the machine, for the trace and the options file. None of these traces or fails.
+// Facts about the machine, for the trace and the options file. A system that doesn't tell them is a
+// failure like that of a file. None of these traces.
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace toolkit {
@@ -22,5 +24,14 @@ struct MemoryUsage {
     std::uint64_t peak = 0;
 };
 [[nodiscard]] MemoryUsage memoryUsage();
+
+/// Where the facts come from.
+struct SystemSource {
+    std::function<std::string()> version{};
+    std::function<MemoryFacts()> memory{};
+    std::function<MemoryUsage()> usage{};
+};
+/// For tests: in the system's place; an empty function leaves that fact to the system.
+void overrideSystem(SystemSource source);
 
 } // namespace toolkit

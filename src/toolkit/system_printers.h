@@ -17,6 +17,12 @@ namespace toolkit {
 /// The facts of a printer of the print service; a hdc of 0 where it isn't there.
 [[nodiscard]] Printer systemPrinter(std::string_view name);
 
+/// Empty where the player has no default printer.
+[[nodiscard]] std::string systemDefaultPrinterName();
+
+/// Makes it the player's default; failure 482.
+void setSystemDefaultPrinter(std::string_view name);
+
 /// Hands a page to a printer. Open it, send the page, close it: each fails with 482, with the
 /// system's own words where it has any.
 class SystemPrintJob {

@@ -1,4 +1,4 @@
-#include "toolkit/system.h"
+#include "toolkit/system_source.h"
 
 #ifdef _WIN32
 
@@ -6,6 +6,7 @@
 // After windows.h, on whose types it builds.
 #include <psapi.h>
 
+#include "toolkit/error.h"
 #include "toolkit/number_text.h"
 
 namespace toolkit {
@@ -24,29 +25,33 @@ RTL_OSVERSIONINFOEXW versionOfSystem() {
     return version;
 }
 
-} // namespace
-
-std::string systemVersion() {
-    const RTL_OSVERSIONINFOEXW version = versionOfSystem();
+std::string versionOf(const RTL_OSVERSIONINFOEXW& version) {
     return text(version.dwMajorVersion) + "." + text(version.dwMinorVersion) + ", Build " +
            text(version.dwBuildNumber) + ", Platform " + text(version.dwPlatformId) + ", SP " +
            text(version.wServicePackMajor) + "." + text(version.wServicePackMinor);
 }
 
-MemoryFacts memoryFacts() {
+std::string version() { return versionOf(versionOfSystem()); }
+
+MemoryFacts memory() {
     MEMORYSTATUSEX status{};
     status.dwLength = sizeof(status);
-    if (GlobalMemoryStatusEx(&status) == 0) return {};
+    if (GlobalMemoryStatusEx(&status) == 0) throw RunTimeError(Failure::DeviceIo);
     return {.physicalBytes = status.ullTotalPhys,
             .pageFileBytes = status.ullTotalPageFile,
             .loadPercent = static_cast<int>(status.dwMemoryLoad)};
 }
 
-MemoryUsage memoryUsage() {
+MemoryUsage usage() {
     PROCESS_MEMORY_COUNTERS counters{};
-    if (K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters)) == 0) return {};
+    if (K32GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters)) == 0)
+        throw RunTimeError(Failure::DeviceIo);
     return {.current = counters.WorkingSetSize, .peak = counters.PeakWorkingSetSize};
 }
+
+} // namespace
+
+SystemSource thisSystem() { return {.version = version, .memory = memory, .usage = usage}; }
 
 } // namespace toolkit
 

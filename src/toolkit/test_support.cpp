@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QTimer>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -84,6 +85,14 @@ void closeWindow() {
     requestClose();
     settle();
 }
+
+void endSession() {
+    updateWindow();
+    window().delivery().askToEnd();
+    settle();
+}
+
+void whenRunning(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
 
 /// Twice, because what runs first may queue more; not until nothing is left, for a blinking caret
 /// never comes to an end.

@@ -66,6 +66,10 @@ void shiftWindow(int toTheRight, int down);
 void requestClose();
 /// The same and lets the answer run.
 void closeWindow();
+/// The session ends: the same, but for the question that the form is asked.
+void endSession();
+/// Runs once, from the event loop of the running program.
+void whenRunning(std::function<void()> act);
 /// Lets everything that waits in the queue run.
 void settle();
 

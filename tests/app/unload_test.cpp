@@ -1,6 +1,11 @@
 #include "app/unload.h"
 
+#include <algorithm>
+
 #include "app/layouts.h"
+#include "toolkit/files.h"
+#include "toolkit/print_dialog.h"
+#include "toolkit/printer.h"
 
 namespace zev::test {
 namespace {
@@ -9,6 +14,33 @@ namespace fs = std::filesystem;
 
 class Unload : public FormTest {
   protected:
+    ~Unload() override { toolkit::answerPrinterSetupWith({}); }
+
+    static toolkit::Printer printer(const char* name) {
+        toolkit::Printer printer = toolkit::printerNamed(toolkit::printToPdfName);
+        printer.DeviceName = name;
+        return printer;
+    }
+    /// The player goes through the printer set-up, in which the system makes another printer the
+    /// default one.
+    void setUpWithNewDefault(const char* name) {
+        toolkit::answerPrinterSetupWith([name](const toolkit::Printer& present) {
+            toolkit::setDefaultPrinter(name);
+            return present;
+        });
+        EXPECT_TRUE(toolkit::test::chooseMenu("File>Printer Setup..."));
+    }
+    /// How far a notch of the wheel moves the card.
+    float moveOfWheel() {
+        const float before = form.P1.Top;
+        toolkit::test::turnWheel(-120);
+        return form.P1.Top - before;
+    }
+    /// Where the line stands in the trace; past its end if it doesn't.
+    [[nodiscard]] std::ptrdiff_t lineOf(std::string_view line) const {
+        const auto lines = traceLines();
+        return std::ranges::find(lines, line) - lines.begin();
+    }
     void startChanged() {
         writeLayout(fewFields());
         start();
@@ -24,15 +56,139 @@ TEST_F(Unload, ClosingAnUnchangedCardAsksNothing) {
     EXPECT_TRUE(traced("Form_Unload 0"));
 }
 
-TEST_F(Unload, RefusingToLoseChangesKeepsAllState) {
+TEST_F(Unload, RefusingToLoseChangesKeepsAllStateAndThePrinter) {
+    toolkit::overridePrinters({printer("Home"), printer("Office")});
     startChanged();
-    const auto printer = form.Myprinter.hdc;
+    setUpWithNewDefault("Office");
+    const auto handle = form.Myprinter.hdc;
+    const auto file = home / "page.pdf";
+    answerFile(file);
+    ASSERT_EQ(form.PrinterDC.start(toolkit::printerNamed(toolkit::printToPdfName),
+                                   {.title = "Test", .filePreset = {}}),
+              toolkit::DocumentStart::Open);
     answer(toolkit::Answer::Cancel);
-    EXPECT_TRUE(Form_Unload(form, unloadByPlayer));
+    toolkit::test::closeWindow();
+    EXPECT_EQ(boxes.size(), 1U);
     EXPECT_TRUE(form.CardModified);
     EXPECT_TRUE(form.AMark[1].Visible);
-    EXPECT_EQ(form.Myprinter.hdc, printer);
     EXPECT_TRUE(form.Visible);
+    EXPECT_NE(handle, 0);
+    EXPECT_EQ(form.Myprinter.hdc, handle);
+    EXPECT_TRUE(form.PrinterDC.isOpen());
+    EXPECT_EQ(toolkit::defaultPrinterName(), "Office");
+    EXPECT_LT(moveOfWheel(), 0);
+}
+
+TEST_F(Unload, TheChooserIsLookedAtFirstThenTheChanges) {
+    startChanged();
+    writeCard("Jones", "");
+    answer(toolkit::Answer::No);
+    answerChooser([&] {
+        form.Trace.clear();
+        toolkit::test::closeWindow();
+        EXPECT_TRUE(form.ChooserCancelled);
+        EXPECT_FALSE(traced("CheckMod False, False, False"));
+        EXPECT_LT(lineOf("Form_Unload 0"), lineOf("BCancel_Click"));
+    });
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Open..."));
+    EXPECT_NE(form.Myprinter.hdc, 0);
+    form.Trace.clear();
+    toolkit::test::closeWindow();
+    EXPECT_LT(lineOf("Form_Unload 0"), lineOf("CheckMod False, False, False"));
+    EXPECT_EQ(form.Myprinter.hdc, 0);
+}
+
+TEST_F(Unload, ADocumentOnThePrinterIsGivenUp) {
+    start();
+    const auto file = home / "page.pdf";
+    answerFile(file);
+    ASSERT_EQ(form.PrinterDC.start(toolkit::printerNamed(toolkit::printToPdfName),
+                                   {.title = "Test", .filePreset = {}}),
+              toolkit::DocumentStart::Open);
+    EXPECT_TRUE(fs::exists(file));
+    toolkit::test::closeWindow();
+    EXPECT_FALSE(form.PrinterDC.isOpen());
+    EXPECT_FALSE(fs::exists(file));
+}
+
+TEST_F(Unload, OnlyThePrimaryMethodsPrinterIsLetGo) {
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\n");
+    start();
+    ASSERT_EQ(form.PrintMethod, 2);
+    toolkit::test::closeWindow();
+    EXPECT_NE(form.Myprinter.hdc, 0);
+    form.PrintMethod = 3;
+    toolkit::test::closeWindow();
+    EXPECT_EQ(form.Myprinter.hdc, 0);
+}
+
+TEST_F(Unload, PutsBackTheDefaultPrinterThatTheSetUpChanged) {
+    toolkit::overridePrinters({printer("Home"), printer("Office"), printer("Cellar")});
+    start();
+    setUpWithNewDefault("Office");
+    setUpWithNewDefault("Cellar");
+    EXPECT_EQ(toolkit::defaultPrinterName(), "Cellar");
+    toolkit::test::closeWindow();
+    EXPECT_EQ(toolkit::defaultPrinterName(), "Home");
+}
+
+TEST_F(Unload, LeavesTheDefaultPrinterAloneThatAnotherProgramChanged) {
+    toolkit::overridePrinters({printer("Home"), printer("Office")});
+    start();
+    setUpWithNewDefault("Home");
+    toolkit::setDefaultPrinter("Office");
+    toolkit::test::closeWindow();
+    EXPECT_EQ(toolkit::defaultPrinterName(), "Office");
+}
+
+TEST_F(Unload, ADefaultPrinterThatIsGoneIsAFailureInTheTraceAndNothingElse) {
+    announceError("Error in Form_Unload: #482");
+    toolkit::overridePrinters({printer("Home"), printer("Office")});
+    start();
+    setUpWithNewDefault("Office");
+    toolkit::overridePrinters({printer("Office")});
+    EXPECT_FALSE(Form_Unload(form, unloadByPlayer));
+    EXPECT_TRUE(traced("Error in Form_Unload: #482, Printer error"));
+}
+
+TEST_F(Unload, TheWheelMovesTheCardUntilTheFormIsUnloaded) {
+    start();
+    EXPECT_LT(moveOfWheel(), 0);
+    toolkit::test::closeWindow();
+    EXPECT_EQ(moveOfWheel(), 0);
+}
+
+TEST_F(Unload, AnEditThatIsStillOpenCountsAsAChange) {
+    writeLayout(fewFields());
+    start();
+    clickText(1);
+    toolkit::test::compose("", "kept");
+    answer(toolkit::Answer::Yes);
+    answerName("Jones");
+    toolkit::test::closeWindow();
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_NE(dataFileContent("Jones.zev").find("\"kept\""), std::string::npos);
+}
+
+TEST_F(Unload, TheEndOfTheSessionAsksAsTheWindowDoes) {
+    startChanged();
+    answer(toolkit::Answer::Cancel);
+    toolkit::test::endSession();
+    EXPECT_TRUE(traced("Form_Unload 2"));
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_NE(form.Myprinter.hdc, 0);
+}
+
+TEST_F(Unload, TheEndOfTheSessionClosesTheChooserAndGoesOn) {
+    start();
+    writeCard("Jones", "");
+    answerChooser([] { toolkit::test::endSession(); });
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Open..."));
+    EXPECT_EQ(choosers.size(), 1U);
+    EXPECT_NE(form.Myprinter.hdc, 0);
+    toolkit::test::settle();
+    EXPECT_EQ(form.Myprinter.hdc, 0);
 }
 
 TEST_F(Unload, ClosingTheWindowAsksAboutChanges) {

@@ -117,6 +117,7 @@ void describeMachine(OptionsDocument& document) {
     document.documentsPath = "/home/joe/ZEV";
     document.currentPath = "/home/joe";
     document.memory = {.physicalBytes = 4156500000, .pageFileBytes = 524287, .loadPercent = 45};
+    document.memoryLoad = "45%";
     document.usage = {.current = 61234567, .peak = 999};
 }
 

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/utsname.h>
+#endif
+
 namespace toolkit {
 namespace {
 
@@ -12,6 +16,25 @@ TEST(System, VersionHasTheFormOfTheDiagnostics) {
     const std::regex form(R"(\d+\.\d+, Build \d+, Platform \w+, SP \d+\.\d+)");
     EXPECT_TRUE(std::regex_match(systemVersion(), form)) << systemVersion();
     EXPECT_NE(systemVersion().substr(0, 4), "0.0,");
+}
+
+#ifndef _WIN32
+TEST(System, VersionIsTheKernelsOwn) {
+    utsname names{};
+    ASSERT_EQ(uname(&names), 0);
+    const std::string release = names.release;
+    const std::string version = systemVersion();
+    EXPECT_EQ(version.substr(0, version.find(',')), release.substr(0, release.find('.', 2)));
+    EXPECT_NE(version.find(std::string("Platform ") + names.sysname), std::string::npos);
+}
+#endif
+
+TEST(System, AnOverrideStandsInUntilItIsTakenBack) {
+    overrideSystem({.memory = [] { return MemoryFacts{.loadPercent = 300}; }});
+    EXPECT_EQ(memoryFacts().loadPercent, 300);
+    EXPECT_GT(memoryUsage().current, 0U);
+    overrideSystem({});
+    EXPECT_LE(memoryFacts().loadPercent, 100);
 }
 
 TEST(System, MemoryOfTheMachineIsPlausible) {

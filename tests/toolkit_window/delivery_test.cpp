@@ -71,6 +71,41 @@ TEST_F(Delivery, ProcedureIsOverBeforeTheQuestion) {
               std::find(log.begin(), log.end(), "asked"));
 }
 
+TEST_F(Delivery, TheEndOfTheSessionIsAskedOnceAndByItself) {
+    form.QueryClose = [this] {
+        note("closed");
+        return true;
+    };
+    form.QueryEnd = [this] {
+        note("ended");
+        return true;
+    };
+    test::endSession();
+    test::settle();
+    EXPECT_EQ(log, (Log{"ended"}));
+    test::closeWindow();
+    EXPECT_EQ(log.back(), "closed");
+}
+
+TEST_F(Delivery, TheEndOfTheSessionIsAskedAgainBehindAWaitForThePlayer) {
+    bool isOver = false;
+    form.QueryEnd = [&] {
+        note("ended");
+        isOver = true;
+        return true;
+    };
+    card.Click = [&] {
+        waitForPlayer([&] { return isOver; });
+        note("wait over");
+    };
+    overrideProgram({.player = [] { test::endSession(); }});
+    test::click(px(300), px(200));
+    test::settle();
+    EXPECT_EQ(times("ended"), 2);
+    EXPECT_EQ(log.back(), "ended");
+    EXPECT_EQ(times("wait over"), 1);
+}
+
 TEST_F(Delivery, QueuedCloseWaitsForAProcedureThatBeganMeanwhile) {
     form.QueryClose = [this] {
         note("asked");

@@ -1,0 +1,13 @@
+#include "app/hooks.h"
+
+#include "app/run_procedure.h"
+#include "app/zevlin.h"
+#include "marks/move_card.h"
+
+namespace zev {
+
+void hookWheel(Zevlin& form) { form.MouseWheel = run(form, MouseWheel); }
+
+void unhookWheel(Zevlin& form) { form.MouseWheel = {}; }
+
+} // namespace zev

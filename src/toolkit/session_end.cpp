@@ -1,0 +1,77 @@
+#include "toolkit/qt_session_end.h"
+
+#ifndef _WIN32
+
+#include <array>
+#include <csignal>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include "toolkit/qt_delivery.h"
+#include "toolkit/qt_window.h"
+
+namespace toolkit {
+namespace {
+
+constexpr std::array endings{SIGHUP, SIGINT, SIGTERM};
+
+/// Almost nothing may be called in a signal's handler; writing to a pipe may.
+std::array<int, 2>& ends() {
+    static std::array<int, 2> readAndWrite{-1, -1};
+    return readAndWrite;
+}
+
+void tellByPipe(int /*signal*/) {
+    const char byte = 0;
+    [[maybe_unused]] const auto written = write(ends()[1], &byte, 1);
+}
+
+void takeOver(int signal) {
+    struct sigaction action {};
+    action.sa_handler = tellByPipe;
+    action.sa_flags = static_cast<int>(SA_RESETHAND) | SA_RESTART;
+    // Whoever started the program may have set it to be ignored.
+    struct sigaction before {};
+    sigaction(signal, nullptr, &before);
+    if (before.sa_handler != SIG_IGN) sigaction(signal, &action, nullptr);
+}
+
+void askForm(int readEnd) {
+    char byte = 0;
+    if (read(readEnd, &byte, 1) == 1 && currentWindow() != nullptr)
+        currentWindow()->delivery().askToEnd();
+}
+
+} // namespace
+
+SessionEnd::SessionEnd() {
+    if (pipe2(ends().data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
+    const int readEnd = ends()[0];
+    notifier_ = std::make_unique<QSocketNotifier>(readEnd, QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [readEnd] { askForm(readEnd); });
+    for (const int signal : endings) takeOver(signal);
+}
+
+SessionEnd::~SessionEnd() {
+    if (!notifier_) return;
+    notifier_.reset();
+    // A handler that still comes writes to no file at all.
+    for (int& end : ends()) {
+        close(end);
+        end = -1;
+    }
+}
+
+} // namespace toolkit
+
+#else
+
+namespace toolkit {
+
+SessionEnd::SessionEnd() = default;
+SessionEnd::~SessionEnd() = default;
+
+} // namespace toolkit
+
+#endif

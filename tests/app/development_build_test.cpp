@@ -1,0 +1,34 @@
+// A build of the developers' own: this program has the services of one.
+#include "app/form_load.h"
+#include "support/form_test.h"
+#include "toolkit/files.h"
+
+namespace zev::test {
+namespace {
+
+class DevelopmentBuild : public FormTest {};
+
+TEST_F(DevelopmentBuild, DeletesTheTraceOfTheRunBefore) {
+    toolkit::writeFile(dataFile("Trace.txt"), "before");
+    start();
+    EXPECT_FALSE(form.ProductionBuild);
+    EXPECT_FALSE(std::filesystem::exists(dataFile("Trace.txt")));
+}
+
+TEST_F(DevelopmentBuild, ShowsTheDesignMenuFromTheStart) {
+    start();
+    EXPECT_TRUE(form.MShapes.Visible);
+    EXPECT_TRUE(form.MShowDesignMenu.Checked);
+}
+
+TEST_F(DevelopmentBuild, LeavesTheWheelAlone) {
+    start();
+    EXPECT_FALSE(form.WheelHooked);
+    toolkit::test::turnWheel(-120);
+    EXPECT_EQ(form.P1.Top, 0);
+    toolkit::test::closeWindow();
+    EXPECT_TRUE(traced("Form_Unload 0"));
+}
+
+} // namespace
+} // namespace zev::test
