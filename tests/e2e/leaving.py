@@ -1,4 +1,9 @@
-"""Leaving the program with and without unsaved changes."""
+"""Leaving the program with and without unsaved changes: by its window, by its menu, and because the
+session ends."""
+
+import os
+import signal
+import subprocess
 
 import whole_program
 from whole_program import desktop
@@ -54,6 +59,92 @@ class Leaving(whole_program.WholeProgramTest):
         program.answer_name("Named at last")
         self.assertEqual(program.wait_for_end(), 0)
         self.assertEqual(self.home.records("Named at last")[0], {min(card.marks)})
+
+    def test_exit_asks_too_and_leaves(self):
+        program = self.changed_card()
+        program.press("alt+f", "x")
+        program.answer(program.wait_for_box(QUESTION), "Escape")
+        self.assertTrue(program.is_running())
+        program.press("alt+f", "x")
+        program.answer(program.wait_for_box(QUESTION), "alt+y")
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(self.home.records("Two Over One")[0], self.marks ^ {self.mark})
+
+    def test_closing_the_chooser_keeps_the_program(self):
+        program = self.start_for_the_first_time()
+        program.press("ctrl+o")
+        program.wait_for_chooser()
+        program.close()
+        program.wait_for_title(r"\(unnamed\)$")
+        self.leave(program)
+
+    def test_a_text_that_is_still_open_is_a_change(self):
+        program = self.start_for_the_first_time()
+        card = desktop.Card(program)
+        field = min(card.texts)
+        card.click_text(field)
+        program.type("kept")
+        program.close()
+        program.answer(program.wait_for_box(QUESTION), "alt+y")
+        program.answer_name("Open text")
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(self.home.records("Open text")[1][field], "kept")
+
+    def test_the_end_of_the_session_asks_about_changes(self):
+        program = self.changed_card()
+        program.process.send_signal(signal.SIGTERM)
+        program.answer(program.wait_for_box(QUESTION), "alt+y")
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(self.home.records("Two Over One")[0], self.marks ^ {self.mark})
+
+    def test_the_end_of_the_session_closes_the_chooser_and_leaves(self):
+        program = self.start_for_the_first_time()
+        program.press("ctrl+o")
+        program.wait_for_chooser()
+        program.process.send_signal(signal.SIGTERM)
+        self.assertEqual(program.wait_for_end(), 0)
+
+    def test_a_second_signal_ends_it_in_the_middle_of_a_question(self):
+        program = self.changed_card()
+        program.process.send_signal(signal.SIGTERM)
+        program.wait_for_box(QUESTION)
+        program.process.send_signal(signal.SIGTERM)
+        self.assertEqual(program.wait_for_end(), -signal.SIGTERM)
+        self.assertEqual(self.home.records("Two Over One")[0], self.marks)
+
+    def test_a_lost_screen_ends_it_without_a_crash(self):
+        self.leave(self.start_for_the_first_time())
+        with Screen() as screen:
+            self.home.environment = {"DISPLAY": screen.name}
+            program = subprocess.Popen([*self.home.command(), "Two Over One"], cwd=self.home.folder,
+                                       env=self.home.usual_environment() | self.home.environment)
+            screen.wait_for_window(program)
+        self.assertEqual(program.wait(timeout=30), 1)
+        self.assertTrue(self.home.card("Two Over One").exists())
+
+
+class Screen:
+    """A screen that goes away with its server."""
+
+    def __enter__(self):
+        reading, writing = os.pipe()
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-nolisten", "tcp"],
+                                       pass_fds=[writing], stderr=subprocess.DEVNULL)
+        os.close(writing)
+        with os.fdopen(reading) as numbers:
+            self.name = f":{numbers.readline().strip()}"
+        return self
+
+    def wait_for_window(self, program):
+        command = ["xdotool", "search", "--onlyvisible", "--pid", str(program.pid), "--name",
+                   r"^Zevlin  \("]
+        environment = os.environ | {"DISPLAY": self.name}
+        desktop.wait_for("the window", lambda: subprocess.run(
+            command, env=environment, capture_output=True, timeout=20).stdout)
+
+    def __exit__(self, *failure):
+        self.server.kill()
+        self.server.wait(timeout=10)
 
 
 if __name__ == "__main__":
