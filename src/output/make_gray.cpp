@@ -10,7 +10,7 @@ void MakeGray(Zevlin& form, toolkit::PictureBox& picture) {
     Traceit(form, "MakeGray");
     trapped(form, "Error in MakeGray: #", [&] {
         if (picture.Picture)
-            picture.Picture = std::make_shared<const toolkit::Bitmap>(grayed(*picture.Picture));
+            picture.Picture = std::make_shared<toolkit::Bitmap>(grayed(*picture.Picture));
     });
 }
 

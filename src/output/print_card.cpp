@@ -76,7 +76,7 @@ void beginJob(Zevlin& form) {
 /// The player goes on seeing the card as it is now.
 void freezeScreen(Zevlin& form) {
     toolkit::doEvents();
-    form.P1.Picture = std::make_shared<const toolkit::Bitmap>(toolkit::flattenedCard(form.P1));
+    toolkit::flatten(form.P1);
     form.P2.Visible = false;
     form.P2.Move(form.P1.Left, form.P1.Top, form.P1.Width, form.P1.Height);
     form.P2.Picture = form.P1.Picture;
@@ -148,9 +148,9 @@ void restore(Zevlin& form, const View& view) {
     const bool wasFrozen = form.P2.Visible;
     step([&] {
         // The picture has the fields burnt in, so it is drawn anew even if the scale is the same.
-        putViewBack(form, view);
         RestoreBackgroundPicture(form, Rescale::Always);
     });
+    putViewBack(form, view);
     step([&] {
         IniWrite(form);
         if (wasFrozen) RebuildScreenImage(form);

@@ -69,11 +69,7 @@ class PictureDelivery {
         form_.SetFocus(picture_);
         TestBlankPage(form_, "PrintPictureBox before first SendMessage", picture_);
         TestBlankPage(form_, "PrintPictureBox before second SendMessage", picture_);
-        runStep(600, [this] {
-            picture_.Picture =
-                std::make_shared<const toolkit::Bitmap>(toolkit::flattenedCard(picture_));
-            picture_.Sharp = {};
-        });
+        runStep(600, [this] { toolkit::flatten(picture_); });
         TestBlankPage(form_, "PrintPictureBox after second SendMessage", picture_);
         TestBlankPage(form_, "PrintPictureBox after picture=image", picture_);
     }

@@ -9,6 +9,7 @@
 
 #include "toolkit/color.h"
 #include "toolkit/font.h"
+#include "toolkit/pixel_memory.h"
 
 namespace toolkit {
 
@@ -39,7 +40,7 @@ class Bitmap {
 
     int width_ = 0;
     int height_ = 0;
-    std::vector<std::uint32_t> pixels_;
+    std::vector<std::uint32_t, PixelAllocator<std::uint32_t>> pixels_;
 };
 
 constexpr std::uint32_t pixelOf(Color color) {

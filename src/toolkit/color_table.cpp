@@ -121,39 +121,35 @@ Replacements replacementsOf(const Counts& counts) {
     return {*replacementsWithin(pixels, everything), everything};
 }
 
+/// The picture in the colours that stand for its pixels' own, asked for once in a run of one
+/// colour; none where they get too many.
+template <typename StandIn>
+std::optional<IndexedPicture> indexed(const Bitmap& picture, StandIn standIn) {
+    IndexedPicture result = emptyCopy(picture);
+    ColorIndex colors;
+    const auto pixels = pixelsOf(picture);
+    for (auto run = pixels.begin(); run != pixels.end();) {
+        const auto end = std::find_if(run, pixels.end(),
+                                      [own = *run](std::uint32_t pixel) { return pixel != own; });
+        const std::size_t index = colors.indexOf(standIn(*run), result.palette);
+        if (result.palette.size() > mostColors) return std::nullopt;
+        result.indices.insert(result.indices.end(), static_cast<std::size_t>(end - run),
+                              static_cast<std::uint8_t>(index));
+        run = end;
+    }
+    return result;
+}
+
 } // namespace
 
 std::optional<IndexedPicture> exactlyIndexed(const Bitmap& picture) {
-    IndexedPicture indexed = emptyCopy(picture);
-    ColorIndex colors;
-    std::uint32_t last = 0;
-    std::uint8_t index = 0;
-    for (const std::uint32_t pixel : pixelsOf(picture)) {
-        if (pixel != last || indexed.palette.empty()) {
-            index = static_cast<std::uint8_t>(colors.indexOf(pixel, indexed.palette));
-            last = pixel;
-            if (indexed.palette.size() > mostColors) return std::nullopt;
-        }
-        indexed.indices.push_back(index);
-    }
-    return indexed;
+    return indexed(picture, std::identity());
 }
 
 NearPicture nearlyIndexed(const Bitmap& picture) {
     const Replacements replacements = replacementsOf(countColors(picture));
-    IndexedPicture indexed = emptyCopy(picture);
-    ColorIndex colors;
-    std::uint32_t last = 0;
-    std::uint8_t index = 0;
-    for (const std::uint32_t pixel : pixelsOf(picture)) {
-        if (pixel != last || indexed.palette.empty()) {
-            index = static_cast<std::uint8_t>(
-                colors.indexOf(replacements.colors.at(pixel), indexed.palette));
-            last = pixel;
-        }
-        indexed.indices.push_back(index);
-    }
-    return {std::move(indexed), replacements.reach};
+    const auto standIn = [&](std::uint32_t pixel) { return replacements.colors.at(pixel); };
+    return {*indexed(picture, standIn), replacements.reach};
 }
 
 } // namespace toolkit

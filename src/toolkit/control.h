@@ -105,7 +105,8 @@ struct SharpPicture {
 /// A picture box with a persistent picture. ScaleMode is always 1, twips.
 struct PictureBox : Control {
     static constexpr int ScaleMode = 1;
-    /// The picture shown at (0, 0), shared because it is replaced as a whole, never drawn upon.
+    /// The picture shown at (0, 0), shared because it is replaced as a whole: nobody draws on one
+    /// that another shows, too.
     std::shared_ptr<const Bitmap> Picture;
     SharpPicture Sharp;
     toolkit::MousePointer MousePointer = toolkit::MousePointer::Default;

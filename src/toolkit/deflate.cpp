@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <future>
+#include <span>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -62,8 +64,9 @@ class PartDeflater {
 
 Part deflatedPart(const RowSource& source, int first, int end) {
     PartDeflater deflater;
-    std::vector<std::uint8_t> row(source.rowBytes);
+    std::vector<std::uint8_t> row;
     for (int y = first; y < end; ++y) {
+        row.clear();
         source.write(y, row);
         deflater.add(row, Z_NO_FLUSH);
     }

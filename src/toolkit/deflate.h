@@ -1,20 +1,18 @@
 // Compression of pictures, on all processors. Internal to the toolkit's sources.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <span>
 #include <string>
+#include <vector>
 
 namespace toolkit {
 
-/// Rows of equal length, each written by `write(row, bytes)` when its turn comes, so that they are
-/// never in memory all at once. Rows may be asked for at the same time by several threads.
+/// Rows, each added by `write(row, bytes)` when its turn comes, so that they are never in memory
+/// all at once. Rows may be asked for at the same time by several threads.
 struct RowSource {
     int rows = 0;
-    std::size_t rowBytes = 0;
-    std::function<void(int row, std::span<std::uint8_t> bytes)> write;
+    std::function<void(int row, std::vector<std::uint8_t>& bytes)> write;
 };
 
 /// The rows as one zlib stream, compressed fast rather than small.

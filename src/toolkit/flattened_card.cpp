@@ -1,3 +1,6 @@
+#include <memory>
+#include <utility>
+
 #include <QtGui/QPainter>
 
 #include "toolkit/qt_label_scene.h"
@@ -8,31 +11,44 @@
 namespace toolkit {
 namespace {
 
+using Picture = std::shared_ptr<Bitmap>;
+
+bool hasCardSize(const PictureBox& card, int width, int height) {
+    return card.Picture && card.Picture->width() == width && card.Picture->height() == height;
+}
+
 /// The picture at the card's size, with the card's colour where it doesn't reach.
-Bitmap pictureOf(const PictureBox& card) {
-    const int width = pixelsFromTwips(card.Width);
-    const int height = pixelsFromTwips(card.Height);
-    if (card.Picture && card.Picture->width() == width && card.Picture->height() == height)
-        return *card.Picture;
-    Bitmap bitmap(width, height, card.BackColor);
-    if (!card.Picture || card.Picture->empty() || bitmap.empty()) return bitmap;
-    QImage image = imageOver(bitmap);
+Picture extended(const PictureBox& card, int width, int height) {
+    auto bitmap = std::make_shared<Bitmap>(width, height, card.BackColor);
+    if (!card.Picture || card.Picture->empty() || bitmap->empty()) return bitmap;
+    QImage image = imageOver(*bitmap);
     QPainter(&image).drawImage(0, 0, imageOver(*card.Picture));
     return bitmap;
 }
 
+/// A picture to draw on: the card's own where nobody else has it, since the largest ones are worth
+/// no copy.
+Picture takePicture(PictureBox& card) {
+    const int width = pixelsFromTwips(card.Width);
+    const int height = pixelsFromTwips(card.Height);
+    card.Sharp = {};
+    if (!hasCardSize(card, width, height)) return extended(card, width, height);
+    if (card.Picture.use_count() > 1) return std::make_shared<Bitmap>(*card.Picture);
+    return std::const_pointer_cast<Bitmap>(std::exchange(card.Picture, nullptr));
+}
+
 } // namespace
 
-Bitmap flattenedCard(const PictureBox& card) {
-    Bitmap bitmap = pictureOf(card);
+void flatten(PictureBox& card) {
+    const Picture picture = takePicture(card);
+    card.Picture = picture;
     const Window::Implementation* window = currentWindow();
-    if (window == nullptr || bitmap.empty()) return bitmap;
+    if (window == nullptr || picture->empty()) return;
     LabelScene scene;
     (void)scene.takeOver(window->parts());
-    QImage image = imageOver(bitmap);
+    QImage image = imageOver(*picture);
     QPainter painter(&image);
-    scene.paint(painter, QRect(0, 0, bitmap.width(), bitmap.height()));
-    return bitmap;
+    scene.paint(painter, QRect(0, 0, picture->width(), picture->height()));
 }
 
 } // namespace toolkit

@@ -1,7 +1,6 @@
 #include "toolkit/pdf_page.h"
 
-#include <algorithm>
-#include <span>
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -9,6 +8,7 @@
 #include "toolkit/color_table.h"
 #include "toolkit/deflate.h"
 #include "toolkit/number_text.h"
+#include "toolkit/pixel_runs.h"
 
 namespace toolkit {
 namespace {
@@ -23,32 +23,28 @@ std::string hexText(std::uint32_t pixel) {
 
 struct ImageData {
     std::string colorSpace;
+    std::string filter;
     std::string bytes;
 };
 
 ImageData indexedData(const IndexedPicture& picture) {
-    const auto width = static_cast<std::size_t>(picture.width);
     std::string table;
     for (const std::uint32_t color : picture.palette) table += hexText(color);
+    const auto write = [&](int row, std::vector<std::uint8_t>& bytes) {
+        const auto start = picture.indices.begin() + std::ptrdiff_t{row} * picture.width;
+        bytes.assign(start, start + picture.width);
+    };
     return {"[/Indexed /DeviceRGB " + numberText(static_cast<int>(picture.palette.size()) - 1) +
                 " <" + table + ">]",
-            zlibStream({picture.height, width, [&](int row, std::span<std::uint8_t> bytes) {
-                            const auto start =
-                                picture.indices.begin() + row * static_cast<std::ptrdiff_t>(width);
-                            std::copy_n(start, width, bytes.begin());
-                        }})};
+            "/FlateDecode", zlibStream({picture.height, write})};
 }
 
 ImageData trueColorData(const Bitmap& picture) {
-    const auto write = [&](int y, std::span<std::uint8_t> channels) {
-        const std::uint32_t* row = picture.row(y);
-        std::uint8_t* next = channels.data();
-        for (int x = 0; x < picture.width(); ++x)
-            for (const unsigned shift : {16U, 8U, 0U})
-                *next++ = static_cast<std::uint8_t>(row[x] >> shift & 0xFFU);
+    const auto write = [&](int row, std::vector<std::uint8_t>& bytes) {
+        appendPixelRuns({picture.row(row), static_cast<std::size_t>(picture.width())}, bytes);
+        if (row == picture.height() - 1) bytes.push_back(endOfPixelRuns);
     };
-    return {"/DeviceRGB",
-            zlibStream({picture.height(), 3U * static_cast<std::size_t>(picture.width()), write})};
+    return {"/DeviceRGB", "[/FlateDecode /RunLengthDecode]", zlibStream({picture.height(), write})};
 }
 
 ImageData imageData(const Bitmap& picture) {
@@ -111,7 +107,7 @@ void addImage(File& file, const Bitmap& picture) {
     file.addStream("/Type /XObject /Subtype /Image /Width " + numberText(picture.width()) +
                        " /Height " + numberText(picture.height()) +
                        " /BitsPerComponent 8 /Interpolate true /ColorSpace " + data.colorSpace +
-                       " /Filter /FlateDecode ",
+                       " /Filter " + data.filter + " ",
                    data.bytes);
 }
 

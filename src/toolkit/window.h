@@ -59,9 +59,10 @@ class Window {
     std::unique_ptr<Implementation> implementation_;
 };
 
-/// The card of the open window with its labels as their values stand now, at one pixel a pixel;
-/// also the parts that no screen shows. Without a window it is the card's picture alone.
-[[nodiscard]] Bitmap flattenedCard(const PictureBox& card);
+/// Makes the labels of the open window, as their values stand now, part of the card's picture, at
+/// one pixel a pixel; also the parts that no screen shows. Without a window the picture stays as it
+/// is. What else shares the picture keeps it without the labels.
+void flatten(PictureBox& card);
 
 /// The platform's application object: made first in main, gone last.
 class Application {

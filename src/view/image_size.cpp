@@ -43,7 +43,7 @@ std::shared_ptr<const toolkit::Bitmap> draw(const CardPicture& source, const Dra
                                   static_cast<int>(drawing.height));
     const int stripTop = static_cast<int>(std::floor(drawing.height - drawing.strip));
     bitmap.fill(0, stripTop, bitmap.width(), bitmap.height() - stripTop, toolkit::white);
-    return std::make_shared<const toolkit::Bitmap>(std::move(bitmap));
+    return std::make_shared<toolkit::Bitmap>(std::move(bitmap));
 }
 
 void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source,

@@ -204,7 +204,8 @@ TEST_F(PrintCard, ItsStepsComeInTheirOrder) {
     for (const char* step :
          {"MPrint_Click", "IniWrite", "PositionSave", "IniWrite", "CheckPointShapes",
           "SetImageSize 1, False, True", "RebuildScreenImage", "MakeTimeStamp", "PrintPictureBox",
-          "True RestoreBackgroundPicture ", "IniWrite", "RebuildScreenImage", "RestoreShapes"}) {
+          "True RestoreBackgroundPicture ", "SetImageSize 1, False, True", "IniWrite",
+          "RebuildScreenImage", "RestoreShapes"}) {
         place = std::find(place, lines.end(), step);
         ASSERT_NE(place, lines.end()) << step;
         ++place;

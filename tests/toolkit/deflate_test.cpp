@@ -24,10 +24,10 @@ std::string inflated(const std::string& stream, std::size_t length) {
 void expectRoundTrip(int rows, std::size_t rowBytes) {
     std::string content(static_cast<std::size_t>(rows) * rowBytes, '\0');
     for (std::size_t i = 0; i < content.size(); ++i) content[i] = static_cast<char>(i * i % 251);
-    const RowSource source{rows, rowBytes, [&](int row, std::span<std::uint8_t> bytes) {
-                               const auto start =
-                                   content.begin() + row * static_cast<std::ptrdiff_t>(rowBytes);
-                               std::copy_n(start, rowBytes, bytes.begin());
+    const RowSource source{rows, [&](int row, std::vector<std::uint8_t>& bytes) {
+                               const auto length = static_cast<std::ptrdiff_t>(rowBytes);
+                               const auto start = content.begin() + row * length;
+                               bytes.assign(start, start + length);
                            }};
     EXPECT_EQ(inflated(zlibStream(source), content.size()), content) << rows << " " << rowBytes;
 }

@@ -32,7 +32,8 @@ TEST(PdfPage, FewColoursAreAPaletteAndManyAreKept) {
         has(pdfFile(letter, Bitmap(20, 10, rgb(1, 2, 3))), "[/Indexed /DeviceRGB 0 <010203>]"));
     Bitmap many(300, 1);
     for (int x = 0; x < 300; ++x) many.setPixel(x, 0, rgb(x % 256, x / 256, 9));
-    EXPECT_TRUE(has(pdfFile(letter, many), "/ColorSpace /DeviceRGB"));
+    EXPECT_TRUE(has(pdfFile(letter, many), "/ColorSpace /DeviceRGB /Filter [/FlateDecode "
+                                           "/RunLengthDecode] "));
 }
 
 TEST(PdfPage, TheTableOfObjectsTellsWhereTheyBegin) {

@@ -6,25 +6,51 @@ namespace {
 
 using namespace toolkit;
 
-using FlattenedCard = PaintTest;
+class FlattenedCard : public PaintTest {
+  protected:
+    [[nodiscard]] Bitmap flattened() const {
+        PictureBox copy = card;
+        flatten(copy);
+        return *copy.Picture;
+    }
+};
 
 TEST_F(FlattenedCard, HoldsThePictureAndTheVisibleLabels) {
     card.Picture = std::make_shared<Bitmap>(400, 300, grey);
     block(marks[1], 50, 60, 20, 10, blue);
     block(marks[2], 80, 60, 20, 10, red);
     marks[2].Visible = false;
-    const Bitmap flat = flattenedCard(card);
+    const Bitmap flat = flattened();
     ASSERT_EQ(flat.width(), 400);
     ASSERT_EQ(flat.height(), 300);
     EXPECT_EQ(flat.pixel(55, 65), blue);
     EXPECT_EQ(flat.pixel(85, 65), grey);
 }
 
+TEST_F(FlattenedCard, WhoSharesThePictureKeepsItWithoutTheLabels) {
+    card.Picture = std::make_shared<Bitmap>(400, 300, grey);
+    const auto shared = card.Picture;
+    block(marks[1], 50, 60, 20, 10, blue);
+    flatten(card);
+    EXPECT_EQ(shared->pixel(55, 65), grey);
+    EXPECT_EQ(card.Picture->pixel(55, 65), blue);
+}
+
+TEST_F(FlattenedCard, APictureThatNobodySharesIsntCopied) {
+    PictureBox alone = card;
+    alone.Picture = std::make_shared<Bitmap>(400, 300, grey);
+    const Bitmap* own = alone.Picture.get();
+    block(marks[1], 50, 60, 20, 10, blue);
+    flatten(alone);
+    EXPECT_EQ(alone.Picture.get(), own);
+    EXPECT_EQ(own->pixel(55, 65), blue);
+}
+
 TEST_F(FlattenedCard, GoesBeyondWhatTheWindowShows) {
     card.Width = px(2000);
     card.Height = px(1500);
     block(marks[1], 1900, 1400, 20, 10, blue);
-    const Bitmap flat = flattenedCard(card);
+    const Bitmap flat = flattened();
     ASSERT_EQ(flat.width(), 2000);
     EXPECT_EQ(flat.pixel(1905, 1405), blue);
     EXPECT_EQ(flat.pixel(1000, 1000), white);
