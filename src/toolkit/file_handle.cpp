@@ -13,10 +13,10 @@ constexpr std::size_t longestName = 255;
 
 std::FILE* openFile(const std::filesystem::path& path, FileMode mode) {
 #ifdef _WIN32
-    constexpr const wchar_t* modes[] = {L"rb", L"wb", L"ab"};
+    constexpr const wchar_t* modes[] = {L"rb", L"wb", L"ab", L"r+b"};
     return _wfopen(path.c_str(), modes[static_cast<int>(mode)]);
 #else
-    constexpr const char* modes[] = {"rb", "wb", "ab"};
+    constexpr const char* modes[] = {"rb", "wb", "ab", "r+b"};
     return std::fopen(path.c_str(), modes[static_cast<int>(mode)]);
 #endif
 }

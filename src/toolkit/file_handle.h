@@ -9,7 +9,8 @@
 
 namespace toolkit {
 
-enum class FileMode { Read, Replace, Append };
+/// Update writes over a file from its start and keeps what lies behind.
+enum class FileMode { Read, Replace, Append, Update };
 
 /// A failure of the call that has just set errno, for this path: a folder in the place of the file
 /// is 75, a missing folder on the way 76, whatever the platform says.

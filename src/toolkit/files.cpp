@@ -3,6 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <chrono>
+#include <optional>
 
 #include "toolkit/error.h"
 #include "toolkit/file_handle.h"
@@ -60,6 +61,61 @@ void removeHalfWritten(const fs::path& path) {
     if (fs::is_regular_file(path, ignored)) fs::remove(path, ignored);
 }
 
+/// Where a file can be put in the place of what is there, also behind a link; none for a device.
+std::optional<fs::path> replaceablePlace(const fs::path& path) {
+    std::error_code ignored;
+    const bool isLink = fs::is_symlink(path, ignored);
+    const fs::file_type type = fs::status(path, ignored).type();
+    if (type == fs::file_type::not_found && !isLink) return path;
+    if (type != fs::file_type::regular) return std::nullopt;
+    // What can't be written can't be replaced, either.
+    FileHandle(path, FileMode::Append).close();
+    return isLink ? fs::canonical(path, ignored) : path;
+}
+
+/// A disk without room still takes what isn't longer than what it has.
+bool overwrite(const fs::path& path, std::string_view content) {
+    std::error_code error;
+    const std::uintmax_t length = fs::file_size(path, error);
+    if (error || length < content.size()) return false;
+    writeContent(path, FileMode::Update, content);
+    fs::resize_file(path, content.size(), error);
+    return !error;
+}
+
+/// None where the folder takes no file beside the one that is replaced.
+std::optional<FileHandle> openBeside(const fs::path& path) {
+    try {
+        return FileHandle(path, FileMode::Replace);
+    } catch (const RunTimeError& failure) {
+        if (failure.failure() == Failure::DiskFull) throw;
+        return std::nullopt;
+    }
+}
+
+/// The old content stays until the new one is whole. False if that can't be done here.
+bool exchangeContent(const fs::path& path, std::string_view content) {
+    fs::path part = path.parent_path() / "$$";
+    part += path.filename();
+    part += ".part";
+    auto file = openBeside(part);
+    if (!file) return false;
+    std::error_code error;
+    try {
+        file->write(content);
+        file->close();
+    } catch (...) {
+        file.reset();
+        removeHalfWritten(part);
+        throw;
+    }
+    const fs::file_status old = fs::status(path, error);
+    if (fs::exists(old)) fs::permissions(part, old.permissions(), error);
+    fs::rename(part, path, error);
+    if (error) removeHalfWritten(part);
+    return !error;
+}
+
 } // namespace
 
 std::string readFile(const fs::path& path) {
@@ -76,6 +132,13 @@ std::string readFile(const fs::path& path) {
 }
 
 void writeFile(const fs::path& path, std::string_view content) {
+    const auto place = replaceablePlace(path);
+    try {
+        if (place && exchangeContent(*place, content)) return;
+    } catch (const RunTimeError& failure) {
+        if (failure.failure() == Failure::DiskFull && overwrite(*place, content)) return;
+        throw;
+    }
     writeContent(path, FileMode::Replace, content);
 }
 

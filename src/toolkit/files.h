@@ -28,8 +28,9 @@ namespace toolkit {
 /// way, 57, and 7 above 256 MiB.
 [[nodiscard]] std::string readFile(const std::filesystem::path& path);
 
-/// Replaces the file; returns only when flush and close were seen to succeed. The old content is
-/// gone the moment the file is opened. Failures 70, 75, 76, 61, 57.
+/// Replaces the file; returns only when flush and close were seen to succeed. The old content stays
+/// until the new one is whole beside it, so that a disk without room costs neither; only where the
+/// folder takes no other file is it gone from the start. Failures 52, 70, 75, 76, 61, 57.
 void writeFile(const std::filesystem::path& path, std::string_view content);
 void appendFile(const std::filesystem::path& path, std::string_view content);
 

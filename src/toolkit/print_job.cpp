@@ -6,6 +6,7 @@
 #include "toolkit/dialog.h"
 #include "toolkit/error.h"
 #include "toolkit/file_handle.h"
+#include "toolkit/files.h"
 #include "toolkit/pdf_page.h"
 #include "toolkit/system_printers.h"
 
@@ -25,7 +26,7 @@ struct PrintJob::Document {
     Printer printer;
     std::string title;
     std::filesystem::path target;          ///< of "Print to PDF"
-    std::optional<FileHandle> file;        ///< likewise
+    bool madeTarget = false;               ///< the file is there to see that it can be written
     std::optional<SystemPrintJob> service; ///< of the system's printers
     std::shared_ptr<const Bitmap> picture{};
     Place place{};
@@ -35,13 +36,15 @@ struct PrintJob::Document {
     Document(const Document&) = delete;
     Document& operator=(const Document&) = delete;
     ~Document() {
-        const bool hasTarget = file.has_value();
         std::error_code ignored;
-        // Some systems remove no file that is open.
-        file.reset();
-        // Half a file would look like a page; what is no file stays, as a device.
-        if (hasTarget && !isDone && std::filesystem::is_regular_file(target, ignored))
-            std::filesystem::remove(target, ignored);
+        if (madeTarget && !isDone) std::filesystem::remove(target, ignored);
+    }
+    /// Fails as writing will fail.
+    void tryTarget() {
+        std::error_code ignored;
+        const bool isNew = !std::filesystem::exists(target, ignored);
+        FileHandle(target, FileMode::Append).close();
+        madeTarget = isNew;
     }
     [[nodiscard]] PdfPage page() const;
 };
@@ -74,7 +77,7 @@ DocumentStart PrintJob::start(const Printer& printer, const DocumentInfo& info) 
         if (printer.DeviceName == printToPdfName) {
             document->target = askForTarget(info);
             if (document->target.empty()) return DocumentStart::Dropped;
-            document->file.emplace(document->target, FileMode::Replace);
+            document->tryTarget();
         } else {
             document->service.emplace(printer, info.title);
         }
@@ -97,12 +100,11 @@ void PrintJob::finish() {
     const auto document = std::exchange(document_, nullptr);
     const auto picture =
         document->picture ? document->picture : std::make_shared<const Bitmap>(1, 1);
-    if (document->file) {
-        document->file->write(pdfFile(document->page(), *picture));
-        document->file->close();
-    } else {
+    if (document->service) {
         document->service->send(document->page(), *picture);
         document->service->close();
+    } else {
+        writeFile(document->target, pdfFile(document->page(), *picture));
     }
     document->isDone = true;
 }

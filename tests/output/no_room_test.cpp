@@ -33,19 +33,6 @@ class NoRoom : public PrintTest {
                                   "Error in MSaveShapes ", "Error in PrintPictureBox at step "})
             announceError(error);
     }
-    void expectUnharmed() const {
-        EXPECT_FALSE(form.Printing);
-        EXPECT_TRUE(form.P1.Visible);
-        EXPECT_FALSE(form.P2.Visible);
-        EXPECT_TRUE(form.MenusEnabled);
-        EXPECT_TRUE(form.AMark[1].Visible);
-        EXPECT_FALSE(form.AMark[2].Visible);
-        EXPECT_EQ(form.AText[1].Tag, "a ^h && more");
-        EXPECT_TRUE(form.CardModified);
-        EXPECT_EQ(form.CardName, "");
-        EXPECT_EQ(form.P1.Width, 1198 * 15);
-        EXPECT_EQ(form.ZoomLevel, 5);
-    }
     void expectNextPrintWorks() {
         boxes.clear();
         EXPECT_EQ(print().pixelsAcross, 2396);

@@ -10,16 +10,6 @@ class PrintPicture : public PrintTest {
     static constexpr std::string_view refused =
         "Printer error 'PPB1', could not print the card. Please use 'Printer Setup' to re-select "
         "your printer, then try again.";
-    void expectUnharmed() const {
-        EXPECT_FALSE(form.Printing);
-        EXPECT_TRUE(form.P1.Visible);
-        EXPECT_FALSE(form.P2.Visible);
-        EXPECT_TRUE(form.AMark[1].Visible);
-        EXPECT_EQ(form.AText[1].Tag, "a ^h && more");
-        EXPECT_TRUE(form.CardModified);
-        EXPECT_EQ(form.P1.Width, 1198 * 15);
-        EXPECT_FALSE(std::filesystem::exists(dataFile("$$TempDef.Ini")));
-    }
 };
 
 TEST_F(PrintPicture, AnUnknownPageIsPrintedAtEightAndATenthInches) {

@@ -107,6 +107,23 @@ class PrintTest : public FormTest {
         for (const auto& text : traceLines()) found += text == line ? 1 : 0;
         return found;
     }
+    /// After a job that failed: the card is as startWithContent has left it.
+    void expectUnharmed() const {
+        EXPECT_FALSE(form.Printing);
+        EXPECT_TRUE(form.P1.Visible);
+        EXPECT_FALSE(form.P2.Visible);
+        EXPECT_TRUE(form.MenusEnabled);
+        EXPECT_EQ(form.MousePointer, toolkit::MousePointer::Default);
+        EXPECT_TRUE(form.AMark[1].Visible);
+        EXPECT_FALSE(form.AMark[2].Visible);
+        EXPECT_EQ(form.AText[1].Tag, "a ^h && more");
+        EXPECT_TRUE(form.CardModified);
+        EXPECT_EQ(form.CardName, "");
+        EXPECT_EQ(form.P1.Width, 1198 * 15);
+        EXPECT_EQ(form.ZoomLevel, 5);
+        EXPECT_FALSE(std::filesystem::exists(dataFile("$$TempDef.Ini")));
+        EXPECT_FALSE(std::filesystem::exists(dataFile("$$Tempcard.zev")));
+    }
     /// The part of the options file that a player sets.
     [[nodiscard]] std::string settings() const {
         const std::string content = dataFileContent("ZEV.Ini");

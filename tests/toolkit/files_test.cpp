@@ -1,6 +1,7 @@
 #include "toolkit/files.h"
 
 #include <chrono>
+#include <iterator>
 
 #include <gtest/gtest.h>
 
@@ -32,6 +33,28 @@ TEST(Files, WritingReplacesAndAppendingAdds) {
     EXPECT_EQ(readFile(folder / "f"), "new and more");
     appendFile(folder / "g", "made");
     EXPECT_EQ(readFile(folder / "g"), "made");
+}
+
+TEST(Files, ReplacingKeepsModeAndLinkAndLeavesNothingBeside) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "d");
+    writeFile(folder / "d/f", "old");
+    fs::permissions(folder / "d/f", fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink(folder / "d/f", folder / "link");
+    writeFile(folder / "link", "new");
+    EXPECT_TRUE(fs::is_symlink(folder / "link"));
+    EXPECT_EQ(readFile(folder / "d/f"), "new");
+    EXPECT_EQ(fs::status(folder / "d/f").permissions(),
+              fs::perms::owner_read | fs::perms::owner_write);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "d"), {}), 1);
+}
+
+TEST(Files, ANameThatLeavesNoRoomForAnotherBesideItIsWrittenOver) {
+    const TemporaryFolder folder;
+    const std::string name(250, 'n');
+    writeFile(folder / name, "old");
+    writeFile(folder / name, "new");
+    EXPECT_EQ(readFile(folder / name), "new");
 }
 
 TEST(Files, AMissingFileIsFailure53) {

@@ -2,11 +2,13 @@
 #include "toolkit/files.h"
 
 #include <csignal>
+#include <iterator>
 
 #include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
+#include "support/small_disk.h"
 #include "toolkit/failure_of.h"
 #include "toolkit/temporary_folder.h"
 
@@ -41,6 +43,33 @@ TEST(FullDisk, AFullDiskIsFailure61EvenWhereOnlyTheFlushSeesIt) {
     EXPECT_EQ(failureOf([] { writeFile("/dev/full", "short"); }), 61);
     EXPECT_EQ(failureOf([] { writeFile("/dev/full", std::string(1000000, 'x')); }), 61);
     EXPECT_EQ(failureOf([] { appendFile("/dev/full", "short"); }), 61);
+}
+
+TEST(FullDisk, WhatFindsNoRoomLeavesTheOldContent) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "old");
+    const FileSizeLimit limit(100000);
+    EXPECT_EQ(failureOf([&] { writeFile(folder / "f", std::string(300000, 'x')); }), 57);
+    EXPECT_EQ(readFile(folder / "f"), "old");
+    EXPECT_EQ(failureOf([&] { writeFile(folder / "g", std::string(300000, 'x')); }), 57);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / ""), {}), 1);
+}
+
+TEST(FullDisk, WhatDoesntGrowIsStillWritten) {
+    const TemporaryFolder folder;
+    const test_system::SmallDisk disk(folder.path(), 64);
+    if (!disk.isThere()) GTEST_SKIP() << "no disk can be made here: " << disk.refusal();
+    writeFile(folder / "f", std::string(6000, 'x'));
+    disk.fill();
+    writeFile(folder / "f", std::string(5000, 'y'));
+    EXPECT_EQ(readFile(folder / "f"), std::string(5000, 'y'));
+    EXPECT_EQ(failureOf([&] { writeFile(folder / "f", std::string(9000, 'z')); }), 61);
+    EXPECT_EQ(readFile(folder / "f"), std::string(5000, 'y'));
+    EXPECT_EQ(failureOf([&] { writeFile(folder / "g", "new"); }), 61);
+    EXPECT_FALSE(fs::exists(folder / "g"));
+    disk.giveRoom();
+    writeFile(folder / "f", std::string(9000, 'z'));
+    EXPECT_EQ(readFile(folder / "f"), std::string(9000, 'z'));
 }
 
 TEST(FullDisk, AFailedCopyOntoADeviceLeavesTheDevice) {

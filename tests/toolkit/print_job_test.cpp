@@ -65,6 +65,14 @@ TEST_F(PrintJobs, AnAbandonedDocumentLeavesNoFile) {
     EXPECT_FALSE(std::filesystem::exists(target));
 }
 
+TEST_F(PrintJobs, AnAbandonedDocumentLeavesTheFormerFile) {
+    writeFile(target, "a page");
+    ASSERT_EQ(start(), DocumentStart::Open);
+    EXPECT_EQ(readFile(target), "a page");
+    job.abandon();
+    EXPECT_EQ(readFile(target), "a page");
+}
+
 TEST_F(PrintJobs, AFullDiskFailsAndLeavesTheDevice) {
     target = "/dev/full";
     ASSERT_EQ(start(), DocumentStart::Open);
