@@ -74,6 +74,18 @@ def screenshot():
     return Picture(output_of("import", "-silent", "-window", "root", "-depth", "8", "ppm:-"))
 
 
+def picture_in(path):
+    """The picture in a file, as another program reads it."""
+    return Picture(output_of("convert", str(path), "-depth", "8", "ppm:-"))
+
+
+def picture_on_clipboard(kind):
+    """The bytes of the picture, as another program gets them that asks for that kind; else None."""
+    found = subprocess.run(["xclip", "-selection", "clipboard", "-t", f"image/{kind}", "-o"],
+                           capture_output=True, timeout=20)
+    return found.stdout if found.returncode == 0 else None
+
+
 def save_screenshot(path):
     output_of("import", "-silent", "-window", "root", str(path))
 
@@ -88,6 +100,7 @@ class Home:
         self.program = self.folder / "program"
         self.installed = self.program / "zevlin-files"
         self.focuses_itself = False  # whether the program's windows take the keys when they want
+        self.clipboard_kind = "png"  # of the pictures that the program's system hands on
         self.environment = {}  # what the program gets beside the usual
         self.install()
 
@@ -104,6 +117,10 @@ class Home:
     def named(self, path):
         """A file as the program would name it."""
         return str(path)
+
+    def opening(self, name):
+        """The argument that opens a card."""
+        return name
 
     def usual_environment(self):
         return {"HOME": str(self.folder), "PATH": "/usr/bin:/bin", "LANG": "C.UTF-8",
@@ -188,15 +205,20 @@ class Program:
 
     def focus(self, window):
         """Sees to it that a window gets the keys."""
-        if not self.home.focuses_itself:
+        if self.home.focuses_itself:
+            self.await_focus(lambda: window_in_focus() == window, window)
+        else:
             xdotool("windowfocus", "--sync", window)
-            return
-        # Behind a box that goes a window is still disabled, and refuses the focus when it is offered.
+
+    @staticmethod
+    def await_focus(has_focus, window):
+        """Behind a box that goes, a window is still disabled and refuses the focus when it is
+        offered: then it is offered again."""
         for _ in range(ATTEMPTS):
-            if value_within(2, lambda: window_in_focus() == window):
+            if value_within(2, has_focus):
                 return
             xdotool("windowactivate", window)
-        raise TimeoutError("the window doesn't take the keys")
+        raise TimeoutError("no window takes the keys")
 
     def press(self, *keys):
         self.await_window()
@@ -241,7 +263,9 @@ class Program:
         xdotool("keydown", key)
         try:
             self.wait_until_gone(box)
-            self.focus(wait_for("the next window", self.windows)[0])
+            if self.is_running():
+                self.await_focus(lambda: window_in_focus() in self.windows(),
+                                 self.window or wait_for("the next window", self.windows)[0])
         finally:
             xdotool("keyup", key)
 

@@ -1,5 +1,5 @@
-"""The main job as a player does it: fills in a sample card, saves it, opens it again, exports it as
-an image in each format and prints it to a file.
+"""The main job as a player does it: fills in a sample card, saves it, opens it again, zooms, exports
+it as an image in each format, copies it to the clipboard and prints it to a file.
 
 For the demonstration and for the tests of the packages, which run it on other systems' homes.
 """
@@ -7,8 +7,9 @@ For the demonstration and for the tests of the packages, which run it on other s
 import desktop
 
 CARD = "Two Over One"
-TEXT = "3^h+"
-EXPORT_ROW = 8  # of the File menu, counted from 0
+TEXT = "Ax 3^h+ ^s"
+EXPORT_ROW, COPY_ROW = 8, 10  # of the File menu, counted from 0
+STAMP_HEIGHT = 40  # pixels at the foot of an image, where the time stands
 
 
 def say(text):
@@ -52,8 +53,9 @@ def fill_in(home):
         program.wait_for_title(r"\*$")
         say(f'Typing "{TEXT}" into a text area.')
         card.click_text(text)
-        program.type(TEXT)
-        program.press("Escape")
+        # One suit symbol as typed, the other by its key.
+        program.type(TEXT.removesuffix("^s"))
+        program.press("F8", "Escape")
         say("Saving the card.")
         program.press("ctrl+s")
         program.wait_for_title(r"\)$")
@@ -75,6 +77,27 @@ def export(program, home, row, name):
     return home.data / name
 
 
+def zoom(program):
+    """Larger, smaller, and to the screen's width."""
+    say("Zooming in and out.")
+    scales = [desktop.Card(program).scale]
+    for keys in (("ctrl+KP_Add", "ctrl+KP_Add"), ("ctrl+KP_Subtract",), ("ctrl+0",)):
+        program.press(*keys)
+        scales.append(desktop.Card(program).scale)
+    first, larger, smaller, fitting = scales
+    if not larger > smaller > max(first, fitting):
+        raise RuntimeError(f"the card was shown at these scales: {scales}")
+
+
+def copy(program, path):
+    say("Copying the card to the clipboard.")
+    program.choose_in_file_menu(COPY_ROW)
+    picture = desktop.wait_for("the picture on the clipboard",
+                               lambda: desktop.picture_on_clipboard(program.home.clipboard_kind))
+    path.write_bytes(picture)
+    return path
+
+
 def print_to_file(program, path):
     say("Printing the card to a PDF file.")
     program.press("ctrl+p")
@@ -89,16 +112,18 @@ def holds(path, end):
 
 def show_again(home, picture, page):
     """Saves a picture of the screen, and names the files that were exported and printed."""
-    program = desktop.Program(home, CARD)
+    program = desktop.Program(home, home.opening(CARD))
     try:
         say("Started again with the card's name.")
         program.wait_for_title(rf"\( {CARD} \)$")
         desktop.wait_for("the card on the screen", lambda: desktop.Card(program).scale > 0)
         desktop.save_screenshot(picture)
+        zoom(program)
         # A name that ends otherwise than the item's format says makes a file of that kind.
         files = [export(program, home, row, f"{CARD}.{ending}")
                  for row, ending in enumerate(("gif", "png", "bmp"))]
         files.append(export(program, home, 0, f"{CARD}.gif.jpg"))
+        files.append(copy(program, page.with_name(f"copied.{home.clipboard_kind}")))
         files.append(print_to_file(program, page))
         program.close()
         program.wait_for_end()

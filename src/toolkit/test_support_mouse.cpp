@@ -9,10 +9,11 @@
 #include "toolkit/qt_test_window.h"
 #include "toolkit/test_support.h"
 
-/// An event as if it came from outside. The platform lets a function of this very name do so.
-bool qt_sendSpontaneousEvent(QObject* receiver, QEvent* event) {
-    return QCoreApplication::sendSpontaneousEvent(receiver, event);
-}
+/// Marks events as come from outside. The platform lets a class of this very name do so.
+class QSpontaneKeyEvent {
+  public:
+    static void mark(QEvent& event) { event.setSpontaneous(); }
+};
 
 namespace toolkit::test {
 namespace {
@@ -101,7 +102,8 @@ void turnWheel(int rotation) {
     QWheelEvent event(widget.mapFromGlobal(place), place, QPoint(), QPoint(0, rotation),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     // Only wheel events from outside go on to the widget behind one that can't use them.
-    qt_sendSpontaneousEvent(&widget, &event);
+    QSpontaneKeyEvent::mark(event);
+    QCoreApplication::instance()->notify(&widget, &event);
     rethrowKept();
 }
 

@@ -1,8 +1,6 @@
 """Prints, exports and copies a filled-in card with the whole program, and looks at what others get:
 a real print service, the page drawn by a PDF viewer, image files, another program's paste."""
 
-import subprocess
-
 import print_service
 import whole_program
 from whole_program import desktop
@@ -16,10 +14,6 @@ MARGIN = 0.125  # inches that the printers of the service can't reach
 
 def page_picture(pdf):
     return desktop.Picture(desktop.output_of("pdftoppm", "-r", str(DOTS), "-singlefile", str(pdf)))
-
-
-def image_picture(path):
-    return desktop.Picture(desktop.output_of("convert", str(path), "-depth", "8", "ppm:-"))
 
 
 def is_dark(pixel):
@@ -69,7 +63,7 @@ class PrintingTest(whole_program.WholeProgramTest):
         page = Page(pdf, margin)
         marks, texts = self.home.records(CARD)
         mark_places, text_places = desktop.layout_fields(self.home)
-        image = image_picture(self.home.data / "card.bmp")
+        image = desktop.picture_in(self.home.data / "card.bmp")
         middle = range(image.height // 4, image.height // 2, 3)
         inked = [x for x in range(image.width)
                  if any(is_dark(image.pixel(x, y)) for y in middle)]
@@ -181,19 +175,12 @@ class PrintServiceTest(PrintingTest):
 
 
 class FilesTest(PrintingTest):
-    def answer_file(self, program, path):
-        box = program.wait_for_box("^Print to PDF$")
-        desktop.xdotool("windowfocus", "--sync", box, "key", "ctrl+a", "type", "--delay", 15,
-                        str(path))
-        program.answer(box, "Return")
-
     def test_prints_to_a_file_without_a_service_and_without_flicker(self):
         program = self.start_with_card()
         self.export_bmp(program)
         pdf = self.home.folder / "page.pdf"
         program.press("ctrl+p")
-        program.wait_for_box("^Print to PDF$")
-        self.answer_file(program, pdf)
+        program.answer_prompt(pdf, "^Print to PDF$")
         desktop.wait_for("the page", lambda: pdf.exists() and pdf.read_bytes()[-6:] == b"%%EOF\n")
         self.check_page(pdf, 0)
         self.assertLess(pdf.stat().st_size, 1500000)
@@ -227,13 +214,9 @@ class FilesTest(PrintingTest):
         self.export_bmp(program)
         program.choose_in_file_menu(COPY)
         pasted = self.home.folder / "pasted.png"
-
-        def paste():
-            found = subprocess.run(["xclip", "-selection", "clipboard", "-t", "image/png", "-o"],
-                                   capture_output=True, timeout=20)
-            return found.returncode == 0 and found.stdout
-        pasted.write_bytes(desktop.wait_for("the picture on the clipboard", paste))
-        left, right = image_picture(pasted), image_picture(self.home.data / "card.bmp")
+        pasted.write_bytes(desktop.wait_for("the picture on the clipboard",
+                                            lambda: desktop.picture_on_clipboard("png")))
+        left, right = desktop.picture_in(pasted), desktop.picture_in(self.home.data / "card.bmp")
         self.assertEqual((left.width, left.height), (right.width, right.height))
         above_stamp = left.height - 40
         self.assertEqual(left.part(0, 0, left.width, above_stamp),
@@ -251,8 +234,8 @@ class FilesTest(PrintingTest):
         for name, kind in formats.items():
             told = desktop.output_of("identify", "-format", "%m %w", str(self.home.data / name))
             self.assertRegex(told.decode(), f"^{kind}3? 1198$")
-        gif = image_picture(self.home.data / "card.gif")
-        bmp = image_picture(self.home.data / "card.bmp")
+        gif = desktop.picture_in(self.home.data / "card.gif")
+        bmp = desktop.picture_in(self.home.data / "card.bmp")
         length = 3 * gif.width * (gif.height - 40)
         self.assertLessEqual(max(abs(a - b) for a, b in zip(gif.bytes[:length],
                                                             bmp.bytes[:length])), 8)
