@@ -1,6 +1,8 @@
 #include "toolkit/qt_label_painter.h"
 
+#include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include <QtGui/QPainter>
 
@@ -26,6 +28,19 @@ float textOffset(const Label& label, float width) {
     return 0;
 }
 
+/// Length of the words at the beginning that fit into the label; the first word always counts.
+std::size_t firstLine(const Label& label, std::string_view text) {
+    std::size_t length = std::min(text.find(' '), text.size());
+    float width = textWidth(label.Font, text.substr(0, length));
+    while (length < text.size()) {
+        const std::size_t end = std::min(text.find(' ', length + 1), text.size());
+        width += textWidth(label.Font, text.substr(length, end - length));
+        if (width > label.Width) break;
+        length = end;
+    }
+    return length;
+}
+
 } // namespace
 
 QRect paintedRectangle(const Label& label) {
@@ -44,7 +59,8 @@ void paintLabel(QPainter& painter, const Label& label) {
     const QRect place = pixelRectangle(label);
     painter.setClipRect(paintedRectangle(label));
     if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
-    const std::string text = paintedText(label.Caption);
+    std::string text = paintedText(label.Caption);
+    if (label.Wraps) text.resize(firstLine(label, text));
     if (text.empty()) return;
     const auto scale = static_cast<double>(twipsPerPixel());
     const float offset = textOffset(label, textWidth(label.Font, text));

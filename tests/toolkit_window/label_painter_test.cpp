@@ -97,5 +97,31 @@ TEST_F(LabelPainter, TextTooWideIsCutOffAtTheLabelUnlessItMayOverflow) {
     EXPECT_GT(overflowing.right, 135);
 }
 
+TEST_F(LabelPainter, ATextThatWrapsEndsWithTheLastWordThatFits) {
+    place(texts[1], 100, 60, 60, 30);
+    write(texts[1], "HHH H", Alignment::Center);
+    const float width = textWidth(texts[1].Font, "HHH H") / px(1);
+    ASSERT_LT(width, 60);
+    const Ink line = inkOf(test::grabCard());
+    texts[1].Caption = "HHH H HHH HHHHHHHHHHH";
+    texts[1].Wraps = true;
+    const Ink wrapped = inkOf(test::grabCard());
+    EXPECT_EQ(wrapped.left, line.left);
+    EXPECT_EQ(wrapped.right, line.right);
+    EXPECT_EQ(wrapped.bottom, line.bottom);
+    texts[1].Caption = "HHH H";
+    EXPECT_EQ(inkOf(test::grabCard()).right, line.right);
+}
+
+TEST_F(LabelPainter, AFirstWordThatIsTooWideIsCutOffAtTheLabel) {
+    place(texts[1], 100, 60, 30, 30);
+    write(texts[1], "HHHHHHHH H", Alignment::Left);
+    texts[1].Wraps = true;
+    const Ink cut = inkOf(test::grabCard());
+    EXPECT_GE(cut.left, 100);
+    EXPECT_GT(cut.right, 120);
+    EXPECT_LT(cut.right, 130);
+}
+
 } // namespace
 } // namespace window_test
