@@ -6,6 +6,7 @@
 #include "card/lifecycle.h"
 #include "card/names_line.h"
 #include "card/save.h"
+#include "design/design_mode.h"
 #include "design/pen.h"
 #include "help/help_page.h"
 #include "layout/save_layout.h"
@@ -84,7 +85,12 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::mPrintAlt,   "Use alternate print method", "", mPrintAlt_Click},
     {1, &Zevlin::MColor,      "Force color printing", "",     MColor_Click},
     {1, &Zevlin::MMono,       "Force black printing", "",     MMono_Click},
+    separator,
+    {1, &Zevlin::MShowDesignMenu, "Show the Design Menu         Shift Ctrl  D", "",
+     MShowDesignMenu_Click},
     {0, &Zevlin::MShapes,     "&Design",            "",       nullptr},
+    {1, &Zevlin::MShowShapes, "Show all Marks",     "Ctrl+A", MShowShapes_Click},
+    separator,
     {1, &Zevlin::MSmall,      "Small",              "",       MSmall_Click},
     {1, &Zevlin::MMedium,     "Medium",             "",       MMedium_Click},
     {1, &Zevlin::MLarge,      "Large",              "",       MLarge_Click},
@@ -100,6 +106,8 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MSetTabs,    "Set Tab sequence",   "",       MSetTabs_Click, AtStart::Disabled},
     {1, &Zevlin::MSaveShapes, "Save Design",        "",       MSaveShapes_Click, AtStart::Disabled},
     {0, &Zevlin::MHelp,       "&Help",              "",       MHelp_Click},
+    // Last, so that the others stay where they are while it changes its width.
+    {0, &Zevlin::MCoord,      "Coordinates",        "",       nullptr},
 });
 // clang-format on
 

@@ -90,18 +90,6 @@ void traceSpecs(Zevlin& form, const toolkit::Label& text) {
             joinedValues({form.TextFontSize[1], form.TextFontSize[2], form.TextFontSize[3]}, ", "));
 }
 
-void placeHighlight(Zevlin& form, int index, float left, float top) {
-    const toolkit::Label& text = form.AText[index];
-    toolkit::Label& highlight = form.Highlight[index];
-    const auto twips = static_cast<float>(form.TwipsPerPixel);
-    highlight.Caption = "    ";
-    highlight.Font = text.Font;
-    highlight.Font.Size = text.Font.Size / 2;
-    highlight.BackColor = highlightYellow;
-    highlight.BackStyle = toolkit::BackStyle::Opaque;
-    highlight.Move(left + 2 * twips, top + twips, text.Width - 4 * twips, 0.67F * text.Height);
-}
-
 void fillText(Zevlin& form, const FieldRecord& record, const TextDress& dress) {
     const int index = record.number;
     toolkit::Label& text = form.AText[index];
@@ -118,7 +106,7 @@ void fillText(Zevlin& form, const FieldRecord& record, const TextDress& dress) {
     const float left = record.left * scale + dress.correctionLeft;
     const float top = record.top * scale + dress.correctionTop;
     text.Move(left, top, record.width * scale, text.Height);
-    placeHighlight(form, index, left, top);
+    placeHighlight(form, index);
     text.Visible = true;
     form.P1Stack.sendToBack(text);
     cellOf(form.TextDefaultColors, index) = text.ForeColor;
@@ -160,6 +148,19 @@ void buildTexts(Zevlin& form, InitializeRun& run, LayoutReader& layout) {
     // The names line needs a live field: a number out of sequence would name a hole.
     const bool live = form.FirstBigText > 0 && form.AText[form.FirstBigText].Visible;
     form.NamesField = live ? form.FirstBigText : std::int16_t{0};
+}
+
+void placeHighlight(Zevlin& form, int index) {
+    const toolkit::Label& text = form.AText[index];
+    toolkit::Label& highlight = form.Highlight[index];
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    highlight.Caption = "    ";
+    highlight.Font = text.Font;
+    highlight.Font.Size = text.Font.Size / 2;
+    highlight.BackColor = highlightYellow;
+    highlight.BackStyle = toolkit::BackStyle::Opaque;
+    highlight.Move(text.Left + 2 * twips, text.Top + twips, text.Width - 4 * twips,
+                   0.67F * text.Height);
 }
 
 } // namespace zev

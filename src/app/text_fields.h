@@ -10,4 +10,7 @@ class LayoutReader;
 /// Reads the text records and makes one shown label and one highlight for each.
 void buildTexts(Zevlin& form, InitializeRun& run, LayoutReader& layout);
 
+/// Puts the highlight of the field with this number behind its text, where that lies now.
+void placeHighlight(Zevlin& form, int index);
+
 } // namespace zev

@@ -8,6 +8,8 @@
 #include "app/unload.h"
 #include "app/wire_panels.h"
 #include "app/zevlin.h"
+#include "design/drag_field.h"
+#include "design/undo.h"
 #include "help/help_page.h"
 #include "marks/card_mouse.h"
 #include "marks/keys.h"
@@ -33,6 +35,7 @@ void wireCard(Zevlin& form) {
     form.P1.MouseUp = run(form, P1_MouseUp);
     form.P1.Click = run(form, P1_Click);
     form.P1.KeyDown = run(form, P1_KeyDown);
+    form.P1.KeyPress = run(form, P1_KeyPress);
 }
 
 void wireBoxes(Zevlin& form) {
@@ -57,33 +60,32 @@ void wireHelp(Zevlin& form) {
     form.THelp.Click = run(form, THelp_Click);
 }
 
+/// A slot that runs the mouse procedure of a label.
+auto runMouse(Zevlin& form, void (*procedure)(Zevlin&, int, toolkit::MouseArguments&)) {
+    return [&form, procedure](int index, toolkit::MouseArguments& mouse) {
+        procedure(form, index, mouse);
+    };
+}
+
 /// Groups from the back of the card to its front.
 std::vector<toolkit::LabelGroup> cardGroups(Zevlin& form) {
-    toolkit::LabelGroup highlights;
-    highlights.labels = &form.Highlight;
-    toolkit::LabelGroup texts;
-    texts.labels = &form.AText;
-    texts.MouseDown = [&form](int index, toolkit::MouseArguments& mouse) {
-        AText_MouseDown(form, index, mouse);
-    };
-    texts.Click = run(form, AText_Click);
-    toolkit::LabelGroup marks;
-    marks.labels = &form.AMark;
-    marks.TakesFocus = true;
-    marks.MouseDown = [&form](int index, toolkit::MouseArguments& mouse) {
-        AMark_MouseDown(form, index, mouse);
-    };
-    marks.Click = run(form, AMark_Click);
-    toolkit::LabelGroup symbols;
-    symbols.labels = &form.SText;
-    symbols.MouseDown = [&form](int index, toolkit::MouseArguments& mouse) {
-        SText_MouseDown(form, index, mouse);
-    };
-    symbols.MouseUp = [&form](int index, toolkit::MouseArguments& mouse) {
-        SText_MouseUp(form, index, mouse);
-    };
-    symbols.Click = run(form, SText_Click);
-    return {highlights, texts, marks, symbols};
+    return {{.labels = &form.Highlight},
+            {.labels = &form.AText,
+             .MouseDown = runMouse(form, AText_MouseDown),
+             .MouseMove = runMouse(form, AText_MouseMove),
+             .MouseUp = runMouse(form, AText_MouseUp),
+             .Click = run(form, AText_Click)},
+            {.labels = &form.AMark,
+             .TakesFocus = true,
+             .MouseDown = runMouse(form, AMark_MouseDown),
+             .MouseMove = runMouse(form, AMark_MouseMove),
+             .MouseUp = runMouse(form, AMark_MouseUp),
+             .Click = run(form, AMark_Click)},
+            {.labels = &form.SText,
+             .MouseDown = runMouse(form, SText_MouseDown),
+             .MouseMove = runMouse(form, SText_MouseMove),
+             .MouseUp = runMouse(form, SText_MouseUp),
+             .Click = run(form, SText_Click)}};
 }
 
 std::vector<toolkit::MenuRow> menuRows(Zevlin& form) {

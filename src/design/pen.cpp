@@ -20,6 +20,12 @@ void choose(Zevlin& form, std::string_view name, const Group& group, std::size_t
     for (std::size_t i = 0; i < group.size(); ++i) group[i]->Checked = i == chosen;
 }
 
+/// Taking back what was added goes by the checked shape, so a new one gives it up.
+void chooseShape(Zevlin& form, std::string_view name, std::size_t chosen) {
+    choose(form, name, shapes(form), chosen);
+    form.UndoIndex = 0;
+}
+
 } // namespace
 
 void MSmall_Click(Zevlin& form) { choose(form, "MSmall_Click", sizes(form), 0); }
@@ -28,8 +34,8 @@ void MLarge_Click(Zevlin& form) { choose(form, "MLarge_Click", sizes(form), 2); 
 void MBlack_Click(Zevlin& form) { choose(form, "MBlack_Click", colors(form), 0); }
 void MRed_Click(Zevlin& form) { choose(form, "MRed_Click", colors(form), 1); }
 void MBlue_Click(Zevlin& form) { choose(form, "MBlue_Click", colors(form), 2); }
-void MCheck_Click(Zevlin& form) { choose(form, "MCheck_Click", shapes(form), 0); }
-void MCircle_Click(Zevlin& form) { choose(form, "MCircle_Click", shapes(form), 1); }
-void MText_Click(Zevlin& form) { choose(form, "MText_Click", shapes(form), 2); }
+void MCheck_Click(Zevlin& form) { chooseShape(form, "MCheck_Click", 0); }
+void MCircle_Click(Zevlin& form) { chooseShape(form, "MCircle_Click", 1); }
+void MText_Click(Zevlin& form) { chooseShape(form, "MText_Click", 2); }
 
 } // namespace zev

@@ -5,6 +5,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "design/design_mode.h"
 #include "layout/layout_file.h"
 #include "layout/pixels.h"
 #include "toolkit/ansi.h"
@@ -111,16 +112,24 @@ void saveLayout(Zevlin& form) {
     form.OrigIndex = 0;
 }
 
+void writeFields(Zevlin& form) {
+    if (trapped(form, "Error in MSaveShapes ", [&] { saveLayout(form); })) return;
+    // A job puts back the layout that it has set aside.
+    if (!form.Printing) toolkit::endProgram();
+    form.LayoutUnwritten = true;
+}
+
 } // namespace
 
 void MSaveShapes_Click(Zevlin& form) {
     Traceit(form, "MSaveShapes_Click");
     // A layout is never written before the controls exist.
     if (form.AMark.UBound() == 0 && form.AText.UBound() == 0) return;
-    if (trapped(form, "Error in MSaveShapes ", [&] { saveLayout(form); })) return;
-    // A job puts back the layout that it has set aside.
-    if (!form.Printing) toolkit::endProgram();
-    form.LayoutUnwritten = true;
+    // The fields are saved as they are on a card, not as design mode shows them.
+    const bool designing = form.MShowShapes.Checked;
+    if (designing) MShowShapes_Click(form);
+    writeFields(form);
+    if (designing) MShowShapes_Click(form);
 }
 
 } // namespace zev

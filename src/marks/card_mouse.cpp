@@ -6,6 +6,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "design/add_field.h"
 #include "help/help_page.h"
 #include "marks/hit_test.h"
 #include "marks/mark_clicks.h"
@@ -26,6 +27,7 @@ std::optional<int> scan(const Zevlin& form) {
 }
 
 void pressCard(Zevlin& form, const toolkit::MouseArguments& mouse) {
+    if (form.MShowShapes.Checked) return pressDesign(form, mouse);
     if (mouse.Button != toolkit::button::left) return;
     if (const auto hit = scan(form)) {
         form.LastX = mouse.X;
@@ -46,6 +48,8 @@ void moveCard(Zevlin& form, const toolkit::MouseArguments& mouse) {
 }
 
 void followMouse(Zevlin& form, const toolkit::MouseArguments& mouse) {
+    if (form.MShowShapes.Checked && (mouse.Button & toolkit::button::right) != 0)
+        shapeNewField(form, mouse);
     const bool dragging = mouse.Button == toolkit::button::left && !form.MarkHitPending;
     if (!dragging) {
         form.LastX = mouse.X;
@@ -87,6 +91,8 @@ void P1_MouseUp(Zevlin& form, toolkit::MouseArguments& mouse) {
     trapped(form, "Error in P1_MouseUp: #", [&] {
         form.P1.MousePointer = toolkit::MousePointer::Default;
         form.MarkHitPending = false;
+        const bool added = form.MShowShapes.Checked && mouse.Button == toolkit::button::right;
+        if (added && form.MText.Checked) finishNewText(form);
     });
 }
 

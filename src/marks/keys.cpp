@@ -4,6 +4,8 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "design/design_mode.h"
+#include "design/move_marks.h"
 #include "help/help_page.h"
 #include "marks/move_card.h"
 #include "marks/tab_walk.h"
@@ -85,11 +87,40 @@ bool zoomByKey(Zevlin& form, const toolkit::KeyArguments& key) {
     }
 }
 
+/// Arrows with any modifier, in design mode. True if it was one.
+bool moveMarksByKey(Zevlin& form, const toolkit::KeyArguments& key) {
+    if (key.Shift == 0 || !form.MShowShapes.Checked) return false;
+    switch (key.KeyCode) {
+    case toolkit::key::left:
+        MoveMarks(form, -1, 0, key.Shift);
+        return true;
+    case toolkit::key::up:
+        MoveMarks(form, 0, -1, key.Shift);
+        return true;
+    case toolkit::key::right:
+        MoveMarks(form, 1, 0, key.Shift);
+        return true;
+    case toolkit::key::down:
+        MoveMarks(form, 0, 1, key.Shift);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isDesignKey(const toolkit::KeyArguments& key) {
+    return key.Shift == (toolkit::shift::shift | toolkit::shift::ctrl) &&
+           (key.KeyCode == 'D' || key.KeyCode == 'S');
+}
+
 void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
     if (moveCardByKey(form, key.KeyCode, key.Shift)) return;
     if (zoomByKey(form, key)) return;
+    if (moveMarksByKey(form, key)) return;
     if (toolkit::isKeyRepeat()) return;
-    if (key.KeyCode == toolkit::key::tab) {
+    if (isDesignKey(key)) {
+        MShowDesignMenu_Click(form);
+    } else if (key.KeyCode == toolkit::key::tab) {
         walkFromMark(form, key.Shift);
     } else if (key.KeyCode == toolkit::key::space) {
         toggleTabbedMark(form);

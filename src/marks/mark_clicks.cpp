@@ -3,6 +3,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "design/drag_field.h"
 #include "help/help_page.h"
 #include "marks/record_tabs.h"
 #include "text/edit_field.h"
@@ -43,7 +44,10 @@ void AMark_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
         // The mark may be gone: the press went to it by number.
         static_cast<void>(form.AMark[index]);
         form.LastButton = static_cast<std::int16_t>(mouse.Button);
-        recordTabPress(form, index + firstMarkItem, mouse);
+        form.FieldHeld = false;
+        if (recordTabPress(form, index + firstMarkItem, mouse)) return;
+        if (form.MShowShapes.Checked && !form.THelp.Visible)
+            pressField(form, {FieldKind::Mark, index}, mouse);
     });
 }
 
@@ -71,8 +75,15 @@ void rememberTabMark(Zevlin& form, int index) {
     form.TabCode = toolkit::toInteger16(index + firstMarkItem);
 }
 
-void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& /*mouse*/) {
+void SText_MouseMove(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
+    trapped(form, "Error in SText_MouseMove: #",
+            [&] { AText_MouseMove(form, fieldOf(form, index), mouse); });
+}
+
+void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
     Traceit(form, "SText_MouseUp " + numberText(index));
+    trapped(form, "Error in SText_MouseUp: #",
+            [&] { AText_MouseUp(form, fieldOf(form, index), mouse); });
 }
 
 std::string readOut(int index, const toolkit::Label& field) {

@@ -15,6 +15,7 @@ void AMark_Click(Zevlin& form, int index);
 
 // A symbol has no behaviour of its own: its events go to the field that its Tag names.
 void SText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse);
+void SText_MouseMove(Zevlin& form, int index, toolkit::MouseArguments& mouse);
 void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& mouse);
 void SText_Click(Zevlin& form, int index);
 

@@ -7,6 +7,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "design/drag_field.h"
 #include "help/help_page.h"
 #include "marks/record_tabs.h"
 #include "marks/tab_walk.h"
@@ -177,7 +178,9 @@ std::string commitTrace(const Zevlin& form) {
 
 void AText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
     trapped(form, "Error in AText_MouseDown: #", [&] {
+        form.FieldHeld = false;
         if (form.THelp.Visible || recordTabPress(form, index, mouse)) return;
+        if (form.MShowShapes.Checked) return pressField(form, {FieldKind::Text, index}, mouse);
         form.ClickIndex = static_cast<std::int16_t>(index);
         form.ClickButton = static_cast<std::int16_t>(mouse.Button);
         form.ClickX = mouse.X;

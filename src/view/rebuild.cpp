@@ -13,6 +13,7 @@
 #include "card/load.h"
 #include "card/modified.h"
 #include "card/save.h"
+#include "design/design_mode.h"
 #include "text/edit_field.h"
 #include "toolkit/files.h"
 #include "view/background.h"
@@ -70,6 +71,8 @@ void carryThrough(Zevlin& form) {
         form.CardInMemory ? *form.CardInMemory : toolkit::readFile(cardPath(form));
     ResetMod(form);
     MNew_Click(form);
+    // The places in it are those of the former size.
+    form.UndoIndex = 0;
     form.P1.Visible = false;
     Initialize(form);
     form.CardName = temporaryCardName;
@@ -86,11 +89,15 @@ void carryThrough(Zevlin& form) {
 
 void RebuildScreenImage(Zevlin& form) {
     Traceit(form, "RebuildScreenImage");
+    const bool designing = form.MShowShapes.Checked;
     trapped(form, "Error in RebuildScreenImage: #", [&] {
         form.TabActive = false;
+        // What design mode shows is neither to be saved nor to be lost.
+        if (designing) MShowShapes_Click(form);
         IniWrite(form);
         if (!form.Initializing) carryThrough(form);
     });
+    if (designing) MShowShapes_Click(form);
 }
 
 } // namespace zev

@@ -7,6 +7,8 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "design/design_mode.h"
+#include "layout/check_point.h"
 #include "text/set_sym.h"
 #include "view/rebuild.h"
 
@@ -38,14 +40,29 @@ void rebuildKeepingChanges(Zevlin& form) {
     if (changed) SetMod(form);
 }
 
+/// Unsaved design goes through the rebuild as the layout that is read anew. True in design mode.
+bool setDesignAside(Zevlin& form) {
+    if (!form.MShowShapes.Checked) return false;
+    CheckPointShapes(form);
+    MShowShapes_Click(form);
+    return true;
+}
+
+void bringDesignBack(Zevlin& form) {
+    MShowShapes_Click(form);
+    RestoreShapes(form);
+}
+
 void chooseSize(Zevlin& form, const char* name, Item chosen) {
     traceState(form, name);
+    if (form.Initializing) return;
+    const bool designing = setDesignAside(form);
     trapped(form, "Error in " + std::string(name) + ": #", [&] {
-        if (form.Initializing) return;
         checkSize(form, chosen);
         IniWrite(form);
         rebuildKeepingChanges(form);
     });
+    if (designing) bringDesignBack(form);
 }
 
 /// The symbols lie where the text's width puts them.

@@ -70,7 +70,7 @@ class Choosing(whole_program.WholeProgramTest):
 
     def test_a_custom_colour_is_there_again_at_the_next_start(self):
         program = self.start_for_the_first_time()
-        program.press("alt+o", "Up", "Up", "Right", "Down", "Return")
+        program.press("alt+o", "Up", "Up", "Up", "Right", "Down", "Return")
         # The first slider has the keys.
         program.press("End", "Return")
         desktop.wait_for("the colour in the options", lambda: "ColorScheme=255 " in

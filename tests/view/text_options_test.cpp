@@ -153,6 +153,32 @@ TEST_F(TextOptions, WhileTheProgramInitializesNothingHappens) {
     EXPECT_TRUE(traced("False mBold_Click "));
 }
 
+TEST_F(TextOptions, InDesignModeASizeComesBackWithTheMarksShownAndThePositionsKept) {
+    start();
+    const std::string saved = dataFileContent("Definitions.Ini");
+    toolkit::test::typeKey('D', toolkit::shift::shift | toolkit::shift::ctrl);
+    const float left = form.AMark[2].Left;
+    const auto from = middleOf(form.AMark[2]);
+    toolkit::test::moveMouse(from.x, from.y);
+    toolkit::test::pressMouse(from.x, from.y);
+    toolkit::test::moveMouse(from.x + 30, from.y, toolkit::button::left);
+    toolkit::test::releaseMouse(from.x + 30, from.y);
+    ASSERT_EQ(form.AMark[2].Left, left + 30);
+    form.TraceOn = true; // the ring holds fewer lines than this takes
+    chooseSize("Big");
+    EXPECT_TRUE(traced("True mBigTextFont_Click "));
+    EXPECT_EQ(sizes(), "...X");
+    EXPECT_EQ(form.TextFontSize[1], 14 * form.CardScale);
+    EXPECT_TRUE(form.MShowShapes.Checked);
+    EXPECT_EQ(form.AText[1].Caption.substr(0, 4), "[ 1 ");
+    for (int i = 1; i <= form.AMark.UBound(); ++i) EXPECT_TRUE(form.AMark[i].Visible) << i;
+    EXPECT_EQ(form.AMark[2].Left, left + 30);
+    // The file is as it was: nobody has saved the design.
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), saved);
+    EXPECT_FALSE(std::filesystem::exists(dataFile("$$TempDef.Ini")));
+    EXPECT_FALSE(form.CardModified);
+}
+
 TEST_F(TextOptions, BoldfaceDressesAllTextsAndIsRemembered) {
     start();
     enter(1, "abc");

@@ -1,0 +1,153 @@
+#include "design/add_field.h"
+
+#include <string>
+
+#include "app/field_values.h"
+#include "app/zevlin.h"
+#include "marks/marks_state.h"
+#include "text/edit_field.h"
+#include "toolkit/color.h"
+#include "toolkit/number_text.h"
+
+namespace zev {
+namespace {
+
+/// Colours of the platform's palette. Red and blue aren't those of the printed card: a field gets
+/// these by its colour menu.
+namespace palette {
+constexpr int black = 0;
+constexpr int cyan = 11;
+constexpr int red = 12;
+constexpr int yellow = 14;
+constexpr int white = 15;
+} // namespace palette
+
+toolkit::Color chosenColor(const Zevlin& form) {
+    if (form.MBlack.Checked) return toolkit::qbColor(palette::black);
+    return toolkit::qbColor(form.MRed.Checked ? palette::red : palette::cyan);
+}
+
+/// 1 small, 2 medium, 3 large.
+std::size_t chosenSize(const Zevlin& form) {
+    if (form.MSmall.Checked) return 1;
+    return form.MMedium.Checked ? 2 : 3;
+}
+
+template <typename Value>
+void store(std::vector<Value>& values, int index, Value value) {
+    growTo(values, index);
+    cellOf(values, index) = value;
+}
+
+char chosenSymbol(const Zevlin& form) {
+    if (form.MCircle.Checked) return mark_symbol::circle;
+    return form.mFillIn.Checked ? mark_symbol::square : mark_symbol::check;
+}
+
+void addMark(Zevlin& form, const toolkit::MouseArguments& mouse) {
+    form.DesignDirty = true;
+    const std::int16_t index = toolkit::toInteger16(form.AMark.UBound() + 1);
+    toolkit::Label& mark = form.AMark.Load(index);
+    form.UndoIsText = false;
+    const std::size_t size = chosenSize(form);
+    store(form.MarkSizes, index, static_cast<std::int16_t>(size));
+    mark.Font = {.Name = form.MarkFontName,
+                 .Size = form.MarkFontSize.at(size),
+                 .Bold = true,
+                 .Italic = false};
+    mark.ForeColor = chosenColor(form);
+    store(form.MarkColors, index, mark.ForeColor);
+    mark.Caption = std::string(1, chosenSymbol(form));
+    mark.Clips = false;
+    form.Testtext.Font = mark.Font;
+    mark.Move(mouse.X, mouse.Y, form.Testtext.TextWidth(mark.Caption),
+              form.Testtext.TextHeight(mark.Caption));
+    mark.Visible = true;
+    form.P1Stack.bringToFront(mark);
+    form.UndoIndex = index;
+}
+
+std::string doubled(std::string text) {
+    for (int i = 0; i < 8; ++i) text += text;
+    return text;
+}
+
+std::string newTextHead(int index) { return toolkit::numberText(index) + " My "; }
+
+std::string trimmedEnd(std::string text) {
+    text.pop_back();
+    return text;
+}
+
+void dressNewText(Zevlin& form, toolkit::Label& text, int index) {
+    const std::size_t size = chosenSize(form);
+    store(form.TextSizes, index, static_cast<std::int16_t>(size));
+    text.Font = {.Name = form.TextFontName,
+                 .Size = form.TextFontSize.at(size),
+                 .Bold = size > 1,
+                 .Italic = false};
+    text.ForeColor = chosenColor(form);
+    store(form.TextColors, index, text.ForeColor);
+    // A yellow bar for as long as its width is being chosen.
+    text.BackStyle = toolkit::BackStyle::Opaque;
+    text.BackColor = toolkit::qbColor(palette::yellow);
+    text.Caption = trimmedEnd(newTextHead(index) + doubled("| "));
+    text.Alignment = toolkit::Alignment::Left;
+    text.Wraps = true;
+}
+
+void addText(Zevlin& form, const toolkit::MouseArguments& mouse) {
+    form.DesignDirty = true;
+    const std::int16_t index = toolkit::toInteger16(form.AText.UBound() + 1);
+    toolkit::Label& text = form.AText.Load(index);
+    form.Highlight.Load(index);
+    form.UndoIsText = true;
+    dressNewText(form, text, index);
+    form.Testtext.Font = text.Font;
+    text.Move(mouse.X, mouse.Y, form.Testtext.TextWidth("abc"), form.Testtext.TextHeight("["));
+    text.Visible = true;
+    form.P1Stack.bringToFront(text);
+    form.UndoIndex = form.TIndex = index;
+    SetTextBox(form, form.CText, index);
+    SetTextBox(form, form.LText, index);
+}
+
+} // namespace
+
+void pressDesign(Zevlin& form, const toolkit::MouseArguments& mouse) {
+    if (mouse.Button == toolkit::button::left) {
+        form.P1.MousePointer = toolkit::MousePointer::Hand;
+        form.LastX = mouse.X;
+        form.LastY = mouse.Y;
+    } else if (mouse.Button == toolkit::button::right) {
+        // The click that dismisses the help page adds nothing.
+        if (form.THelp.Visible) return;
+        if (form.MText.Checked) {
+            addText(form, mouse);
+        } else {
+            addMark(form, mouse);
+        }
+    }
+}
+
+void shapeNewField(Zevlin& form, const toolkit::MouseArguments& mouse) {
+    const bool isText = form.MText.Checked;
+    auto& fields = isText ? form.AText : form.AMark;
+    if (fields.UBound() == 0) return;
+    toolkit::Label& field = fields[fields.UBound()];
+    form.DesignDirty = true;
+    if (!isText) return field.Move(mouse.X, mouse.Y);
+    if (mouse.X > field.Left) field.Width = mouse.X - field.Left;
+    form.P1Stack.bringToFront(field);
+}
+
+void finishNewText(Zevlin& form) {
+    if (form.AText.UBound() == 0) return;
+    toolkit::Label& text = form.AText[form.AText.UBound()];
+    text.Alignment = toolkit::Alignment::Center;
+    text.Caption = trimmedEnd(doubled(newTextHead(form.AText.UBound())));
+    text.BackColor = toolkit::qbColor(palette::white);
+    text.BackStyle = toolkit::BackStyle::Transparent;
+}
+
+} // namespace zev

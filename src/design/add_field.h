@@ -1,0 +1,20 @@
+// Adding a field to the design by pressing the right button on bare card.
+#pragma once
+
+#include "toolkit/control.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// A press on bare card: the right button adds what the Design menu says, the left one takes the
+/// card itself.
+void pressDesign(Zevlin& form, const toolkit::MouseArguments& mouse);
+
+/// While the right button is down: a new mark follows the pointer, a new text field is widened.
+void shapeNewField(Zevlin& form, const toolkit::MouseArguments& mouse);
+
+/// The right button is let go: a new text field gets its final look.
+void finishNewText(Zevlin& form);
+
+} // namespace zev

@@ -1,0 +1,29 @@
+// A mark or a text field as design mode speaks of them: both are labels that can be moved about.
+#pragma once
+
+#include <vector>
+
+#include "toolkit/color.h"
+#include "toolkit/label.h"
+
+namespace zev {
+
+struct Zevlin;
+
+enum class FieldKind { Mark = 1, Text = 2 };
+
+struct DesignField {
+    FieldKind kind = FieldKind::Mark;
+    int index = 0;
+};
+
+/// A field that doesn't exist is failure 340.
+[[nodiscard]] toolkit::Label& labelOf(Zevlin& form, DesignField field);
+
+/// The colours of all fields of the kind, by field number.
+[[nodiscard]] std::vector<toolkit::Color>& colorsOf(Zevlin& form, FieldKind kind);
+
+/// Shows the field's number, place and size on the menu bar.
+void showReadOut(Zevlin& form, DesignField field);
+
+} // namespace zev

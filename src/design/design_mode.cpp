@@ -1,0 +1,169 @@
+#include "design/design_mode.h"
+
+#include <array>
+#include <string>
+
+#include "app/text_fields.h"
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/lifecycle.h"
+#include "card/modified.h"
+#include "card/save.h"
+#include "text/set_sym.h"
+#include "toolkit/dialog.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+#include "view/colors.h"
+
+namespace zev {
+namespace {
+
+using Item = toolkit::MenuItem Zevlin::*;
+
+/// Commands on a card, of which there is none to work on.
+constexpr std::array<Item, 8> cardItems{&Zevlin::MNew,          &Zevlin::MOpen,      &Zevlin::MSave,
+                                        &Zevlin::MSaveAs,       &Zevlin::MPartnerID, &Zevlin::MMyID,
+                                        &Zevlin::MPrintPartner, &Zevlin::MPrintBoth};
+
+/// Commands on the layout.
+constexpr std::array<Item, 3> designItems{&Zevlin::MAutoAdjust, &Zevlin::MSetTabs,
+                                          &Zevlin::MSaveShapes};
+
+template <std::size_t Count>
+void enable(Zevlin& form, const std::array<Item, Count>& items, bool enabled) {
+    for (const Item item : items) (form.*item).Enabled = enabled;
+}
+
+/// Where the card lies, put back at the end: a new card is moved to the corner.
+class KeptPlace {
+  public:
+    explicit KeptPlace(Zevlin& form) : form_(form), left_(form.P1.Left), top_(form.P1.Top) {}
+    void putBack() const { form_.P1.Move(left_, top_); }
+
+  private:
+    Zevlin& form_;
+    float left_;
+    float top_;
+};
+
+void checkScheme(Zevlin& form, int index) {
+    for (auto& scheme : form.mcolorscheme) scheme.Checked = false;
+    form.mcolorscheme.at(static_cast<std::size_t>(index)).Checked = true;
+    SetGlobalColors(form);
+}
+
+/// True unless the player would rather keep the card as it is.
+bool letsGoOfCard(Zevlin& form) {
+    // A print job comes by here with its own copy of the card and must not ask.
+    if (!form.CardModified || form.Printing) return true;
+    const auto answer = toolkit::show({.text = "Do you want to save your card first?",
+                                       .buttons = toolkit::Buttons::YesNoCancel,
+                                       .icon = toolkit::Icon::Question,
+                                       .title = {},
+                                       .preset = {}});
+    if (answer == toolkit::Answer::Cancel) return false;
+    if (answer == toolkit::Answer::Yes) {
+        MSave_Click(form);
+        // Still changed: the naming of an unnamed card was cancelled.
+        return !form.CardModified;
+    }
+    ResetMod(form);
+    form.DesignDirty = false;
+    form.OrigIndex = 0;
+    MNew_Click(form);
+    return true;
+}
+
+/// The number of a text field, and as much of a pattern as makes its width seen.
+std::string fieldPattern(int index) {
+    std::string pattern = "] ";
+    for (int i = 0; i < 8; ++i) pattern += pattern;
+    pattern.insert(0, "[ " + toolkit::numberText(index) + " ");
+    pattern.pop_back();
+    return pattern;
+}
+
+void showAllFields(Zevlin& form) {
+    for (int i = 1; i <= form.AMark.UBound(); ++i) form.AMark[i].Visible = true;
+    // Symbols belong to a text that isn't shown any more.
+    unloadSymbols(form);
+    for (int i = 1; i <= form.AText.UBound(); ++i) {
+        form.AText[i].Caption = fieldPattern(i);
+        form.AText[i].Wraps = true;
+    }
+}
+
+void hideAllFields(Zevlin& form) {
+    for (int i = 1; i <= form.AMark.UBound(); ++i) form.AMark[i].Visible = false;
+    for (int i = 1; i <= form.AText.UBound(); ++i) {
+        form.AText[i].Caption.clear();
+        form.AText[i].Wraps = false;
+        placeHighlight(form, i);
+    }
+}
+
+void switchMode(Zevlin& form, bool designing) {
+    form.MShowShapes.Checked = designing;
+    enable(form, designItems, designing);
+    enable(form, cardItems, !designing);
+    form.TabRecordPrev = 0;
+    // SPACE would hide a field for as long as the mode lasts.
+    form.TabActive = false;
+    form.FieldHeld = false;
+    form.MCoord.Visible = designing;
+    form.MCoord.Caption.clear();
+}
+
+void enterDesign(Zevlin& form) {
+    const KeptPlace place(form);
+    form.SetFocus(form.P1);
+    toolkit::doEvents();
+    if (!letsGoOfCard(form)) return;
+    form.SchemeBeforeDesign = static_cast<std::int16_t>(ColorSchemeIndex(form));
+    checkScheme(form, 0);
+    MNew_Click(form);
+    switchMode(form, true);
+    showAllFields(form);
+    place.putBack();
+}
+
+/// What was designed stays in the controls until they are built anew.
+void leaveDesign(Zevlin& form) {
+    const KeptPlace place(form);
+    switchMode(form, false);
+    form.MSetTabs.Checked = false;
+    if (!form.Printing) form.MousePointer = toolkit::MousePointer::Default;
+    hideAllFields(form);
+    form.OrigIndex = 0;
+    ResetMod(form);
+    MNew_Click(form);
+    checkScheme(form, form.SchemeBeforeDesign);
+    place.putBack();
+}
+
+void showDesignMenu(Zevlin& form) {
+    if (form.MShowShapes.Checked) MShowShapes_Click(form);
+    form.MShowDesignMenu.Checked = !form.MShowDesignMenu.Checked;
+    form.MShapes.Visible = form.MShowDesignMenu.Checked;
+    if (form.MShowDesignMenu.Checked) MShowShapes_Click(form);
+}
+
+} // namespace
+
+void MShowDesignMenu_Click(Zevlin& form) {
+    Traceit(form, "MShowDesignMenu_Click");
+    trapped(form, "Error in MShowDesignMenu_Click: #", [&] { showDesignMenu(form); });
+}
+
+void MShowShapes_Click(Zevlin& form) {
+    Traceit(form, "MShowShapes_Click");
+    trapped(form, "Error in MShowShapes_Click: #", [&] {
+        if (form.MShowShapes.Checked) {
+            leaveDesign(form);
+        } else {
+            enterDesign(form);
+        }
+    });
+}
+
+} // namespace zev

@@ -1,0 +1,58 @@
+#include "design/undo.h"
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "design/design_field.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+constexpr int undoKey = 26;
+
+void moveBack(Zevlin& form) {
+    const DesignField field{form.UndoIsText ? FieldKind::Text : FieldKind::Mark, form.UndoIndex};
+    form.UndoIndex = 0;
+    labelOf(form, field).Move(form.UndoLeft, form.UndoTop, form.UndoWidth, form.UndoHeight);
+}
+
+void unloadLastText(Zevlin& form) {
+    const int last = form.AText.UBound() - 1;
+    form.AText.UnloadAbove(last);
+    form.Highlight.UnloadAbove(last);
+    if (form.NamesField > last) form.NamesField = 0;
+    if (form.TIndex > last) form.TIndex = 0;
+}
+
+/// The field that was added last is the last of its kind.
+void unloadLast(Zevlin& form) {
+    form.UndoIndex = 0;
+    if (form.MText.Checked) {
+        if (form.AText.UBound() > 0) unloadLastText(form);
+    } else if (form.AMark.UBound() > 0) {
+        form.AMark.UnloadAbove(form.AMark.UBound() - 1);
+    }
+    form.SetFocus(form.P1);
+}
+
+void undo(Zevlin& form) {
+    if (form.UndoIndex < 1) {
+        toolkit::beep();
+    } else if (form.UndoValid) {
+        moveBack(form);
+    } else {
+        unloadLast(form);
+    }
+}
+
+} // namespace
+
+void P1_KeyPress(Zevlin& form, int& KeyAscii) {
+    Traceit(form, "P1_KeyPress " + toolkit::numberText(KeyAscii));
+    trapped(form, "Error in P1_KeyPress: #", [&] {
+        if (form.MShowShapes.Checked && KeyAscii == undoKey) undo(form);
+    });
+}
+
+} // namespace zev

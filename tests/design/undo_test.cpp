@@ -1,0 +1,148 @@
+#include "design/undo.h"
+
+#include "design/design_test.h"
+
+namespace zev::test {
+namespace {
+
+using namespace toolkit::test;
+
+class UndoDesign : public DesignTest {};
+
+TEST_F(UndoDesign, WithNothingToUndoItBeeps) {
+    design();
+    undo();
+    EXPECT_EQ(beeps, 1);
+}
+
+TEST_F(UndoDesign, ADragIsTakenBackOnce) {
+    design();
+    const float left = form.AMark[2].Left;
+    const float top = form.AMark[2].Top;
+    dragLabel(form.AMark[2], 30, 20);
+    undo();
+    EXPECT_EQ(form.AMark[2].Left, left);
+    EXPECT_EQ(form.AMark[2].Top, top);
+    EXPECT_EQ(beeps, 0);
+    undo();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(form.AMark[2].Left, left);
+}
+
+TEST_F(UndoDesign, AWidthIsTakenBack) {
+    design();
+    const float width = form.AText[1].Width;
+    dragLabel(form.AText[1], 25, 0, toolkit::button::left, toolkit::shift::ctrl);
+    ASSERT_EQ(form.AText[1].Width, width + 25 * pixel);
+    undo();
+    EXPECT_EQ(form.AText[1].Width, width);
+}
+
+TEST_F(UndoDesign, WhatWasAddedIsTakenAway) {
+    design();
+    addField();
+    ASSERT_EQ(form.AMark.UBound(), 5);
+    undo();
+    EXPECT_EQ(form.AMark.UBound(), 4);
+    EXPECT_EQ(form.ActiveControl, &form.P1);
+    EXPECT_EQ(form.MarkSizes.size(), 6U);
+    EXPECT_EQ(form.MarkColors.size(), 6U);
+    undo();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(form.AMark.UBound(), 4);
+}
+
+TEST_F(UndoDesign, ATextThatWasAddedIsTakenAwayWithItsHighlight) {
+    design();
+    choose("Design>Text");
+    addField(50, 0);
+    undo();
+    EXPECT_EQ(form.AText.UBound(), 4);
+    EXPECT_EQ(form.Highlight.UBound(), 4);
+    EXPECT_EQ(form.TIndex, 0);
+    EXPECT_EQ(form.TextSizes.size(), 6U);
+    choose("Design>Save Design");
+    EXPECT_TRUE(
+        layoutHolds("4\r\n\r\n' The field numbers are not in horizontal or vertical order.  "
+                    "They're in the sequence in which they were added during design."));
+}
+
+TEST_F(UndoDesign, AnotherShapeGivesItUp) {
+    design();
+    choose("Design>Circle");
+    addField();
+    choose("Design>Checkmark");
+    undo();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(form.AMark.UBound(), 5);
+}
+
+TEST_F(UndoDesign, AnotherSizeOrColourDoesNot) {
+    design();
+    addField();
+    choose("Design>Large");
+    choose("Design>Blue");
+    undo();
+    EXPECT_EQ(beeps, 0);
+    EXPECT_EQ(form.AMark.UBound(), 4);
+}
+
+/// Only a press on a field says what kind of change it was: a field added after one takes that
+/// one's old place.
+TEST_F(UndoDesign, AfterAPressANewFieldGoesToThePressedOnesPlace) {
+    design();
+    const float left = form.AMark[1].Left;
+    const float top = form.AMark[1].Top;
+    dragLabel(form.AMark[1], 5, 0);
+    addField();
+    undo();
+    ASSERT_EQ(form.AMark.UBound(), 5);
+    EXPECT_EQ(form.AMark[5].Left, left);
+    EXPECT_EQ(form.AMark[5].Top, top);
+    EXPECT_EQ(form.AMark[1].Left, left + 5 * pixel);
+}
+
+TEST_F(UndoDesign, OnANormalCardTheKeyDoesNothing) {
+    start();
+    form.UndoIndex = 2;
+    undo();
+    EXPECT_EQ(beeps, 0);
+    EXPECT_EQ(form.AMark.UBound(), 4);
+    EXPECT_EQ(form.UndoIndex, 2);
+}
+
+TEST_F(UndoDesign, OtherKeysDoNothing) {
+    design();
+    typeKey('Y', toolkit::shift::ctrl);
+    typeKey('Z', 0, "z");
+    EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(UndoDesign, AFailureIsTracedOnce) {
+    design();
+    dragLabel(form.AMark[4], 5, 0);
+    form.UndoIndex = 9;
+    announceError("Error in P1_KeyPress: #");
+    undo();
+    EXPECT_TRUE(traced("Error in P1_KeyPress: #340, Control array element '9' doesn't exist"));
+    undo();
+    EXPECT_EQ(beeps, 1);
+}
+
+/// A press with the middle button makes it look as if a field had been added; the names line goes
+/// with the last text field.
+TEST_F(UndoDesign, TheNamesLineIsForgottenWhenItsFieldGoes) {
+    writeLayout(smallLayout({{100, 100, 0, 0, 1, 2}}, {{100, 300, 300, 0, 1, 3}}));
+    design();
+    ASSERT_EQ(form.NamesField, 1);
+    choose("Design>Text");
+    form.UndoIndex = 1;
+    undo();
+    EXPECT_EQ(form.AText.UBound(), 0);
+    EXPECT_EQ(form.NamesField, 0);
+    pressDesignKey();
+    EXPECT_FALSE(form.MShowShapes.Checked);
+}
+
+} // namespace
+} // namespace zev::test
