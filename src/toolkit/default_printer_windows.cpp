@@ -1,13 +1,10 @@
-#include "toolkit/system_printers.h"
-
-#ifdef _WIN32
-
 #include <windows.h>
 // After windows.h, on whose types it builds.
 #include <winspool.h>
 
 #include "toolkit/error.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/system_printers.h"
 
 namespace toolkit {
 
@@ -19,5 +16,3 @@ void setSystemDefaultPrinter(std::string_view name) {
 }
 
 } // namespace toolkit
-
-#endif

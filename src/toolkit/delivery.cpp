@@ -65,6 +65,19 @@ void Delivery::askToEnd() {
     askToClose();
 }
 
+bool Delivery::mayEnd() {
+    if (depth_ > 0) {
+        askToEnd();
+        return false;
+    }
+    const bool isInWait = waits_ > 0;
+    bool ends = false;
+    run([&] { ends = hooks_.end(); });
+    // Only the wait was ended; the question comes again when its procedure has returned.
+    if (isInWait) endAsked_ = closeAsked_ = true;
+    return ends;
+}
+
 void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
     // What runs meanwhile runs as if no handler were running.
     const Meanwhile outermost(depth_, 0);
@@ -82,10 +95,7 @@ void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
 void Delivery::close() {
     if (!endAsked_) return run(hooks_.close);
     endAsked_ = false;
-    const bool isInWait = waits_ > 0;
-    run(hooks_.end);
-    // Only the wait was ended; the question comes again when its procedure has returned.
-    if (isInWait) endAsked_ = closeAsked_ = true;
+    static_cast<void>(mayEnd());
 }
 
 /// Queued: the close procedure may end the program, which must not happen below the platform's own

@@ -23,7 +23,7 @@ class Delivery {
         std::function<void()> push; ///< what the program changed goes to the widgets
         std::function<void(const RunTimeError&)> unhandled;
         std::function<void()> close; ///< the player closes the window
-        std::function<void()> end;   ///< the session ends
+        std::function<bool()> end;   ///< the session ends; whether the program does
     };
     explicit Delivery(Hooks hooks) : hooks_(std::move(hooks)) {}
 
@@ -36,6 +36,10 @@ class Delivery {
     /// The same for the end of the session. Where a procedure waits for the player, which a close
     /// ends, it is asked again behind that procedure.
     void askToEnd();
+
+    /// The same at once, with the answer; while a handler runs that is no, and the form is asked
+    /// when it is over.
+    [[nodiscard]] bool mayEnd();
 
     /// Runs the player's events until `isOver`, in the middle of a handler. A close comes at once.
     void letPlayerAct(const std::function<bool()>& isOver);

@@ -1,14 +1,12 @@
-// The end of the session, of which the system tells by a signal. Internal to the toolkit's sources.
+// The end of the session, as the system tells it. Internal to the toolkit's sources.
 #pragma once
 
 #include <memory>
 
-#include <QtCore/QSocketNotifier>
-
 namespace toolkit {
 
-/// While it lives, a signal that asks the program to end asks the form first. A second one ends the
-/// program at once.
+/// While it lives, the system's wish that the program ends is put to the form first. Where it comes
+/// as a signal, a second one ends the program at once.
 class SessionEnd {
   public:
     SessionEnd();
@@ -17,7 +15,8 @@ class SessionEnd {
     SessionEnd& operator=(const SessionEnd&) = delete;
 
   private:
-    std::unique_ptr<QSocketNotifier> notifier_;
+    struct Implementation;
+    std::unique_ptr<Implementation> implementation_;
 };
 
 } // namespace toolkit

@@ -1,14 +1,13 @@
-#include "toolkit/qt_session_end.h"
-
-#ifndef _WIN32
-
 #include <array>
 #include <csignal>
 
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <QtCore/QSocketNotifier>
+
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_session_end.h"
 #include "toolkit/qt_window.h"
 
 namespace toolkit {
@@ -45,17 +44,22 @@ void askForm(int readEnd) {
 
 } // namespace
 
+struct SessionEnd::Implementation {
+    explicit Implementation(int readEnd) : notifier(readEnd, QSocketNotifier::Read) {
+        QObject::connect(&notifier, &QSocketNotifier::activated, [readEnd] { askForm(readEnd); });
+    }
+    QSocketNotifier notifier;
+};
+
 SessionEnd::SessionEnd() {
     if (pipe2(ends().data(), O_CLOEXEC | O_NONBLOCK) != 0) return;
-    const int readEnd = ends()[0];
-    notifier_ = std::make_unique<QSocketNotifier>(readEnd, QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, [readEnd] { askForm(readEnd); });
+    implementation_ = std::make_unique<Implementation>(ends()[0]);
     for (const int signal : endings) takeOver(signal);
 }
 
 SessionEnd::~SessionEnd() {
-    if (!notifier_) return;
-    notifier_.reset();
+    if (!implementation_) return;
+    implementation_.reset();
     // A handler that still comes writes to no file at all.
     for (int& end : ends()) {
         close(end);
@@ -64,14 +68,3 @@ SessionEnd::~SessionEnd() {
 }
 
 } // namespace toolkit
-
-#else
-
-namespace toolkit {
-
-SessionEnd::SessionEnd() = default;
-SessionEnd::~SessionEnd() = default;
-
-} // namespace toolkit
-
-#endif

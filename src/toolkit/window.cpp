@@ -12,8 +12,10 @@ Window::Implementation*& current() {
     return window;
 }
 
-void quitUnlessRefused(const std::function<bool()>& refuses) {
-    if (!refuses || !refuses()) Application::quit();
+bool quitUnlessRefused(const std::function<bool()>& refuses) {
+    if (refuses && refuses()) return false;
+    Application::quit();
+    return true;
 }
 
 } // namespace
@@ -27,13 +29,13 @@ void updateWindow() {
 }
 
 Window::Implementation::Implementation(WindowParts shown)
-    : parts_(std::move(shown)), delivery_({[this] { pull(); }, [this] { push(); },
-                                           [this](const RunTimeError& failure) {
-                                               if (parts_.form->Unhandled)
-                                                   parts_.form->Unhandled(failure);
-                                           },
-                                           [this] { quitUnlessRefused(parts_.form->QueryClose); },
-                                           [this] { quitUnlessRefused(parts_.form->QueryEnd); }}),
+    : parts_(std::move(shown)),
+      delivery_({[this] { pull(); }, [this] { push(); },
+                 [this](const RunTimeError& failure) {
+                     if (parts_.form->Unhandled) parts_.form->Unhandled(failure);
+                 },
+                 [this] { quitUnlessRefused(parts_.form->QueryClose); },
+                 [this] { return quitUnlessRefused(parts_.form->QueryEnd); }}),
       wheel_(*parts_.form, delivery_), form_(parts_, delivery_, wheel_),
       card_(form_.area(), parts_, delivery_, wheel_),
       keys_(parts_, delivery_,

@@ -24,6 +24,7 @@ TEST_F(DevelopmentBuild, ShowsTheDesignMenuFromTheStart) {
 TEST_F(DevelopmentBuild, LeavesTheWheelAlone) {
     start();
     EXPECT_FALSE(form.WheelHooked);
+    EXPECT_EQ(form.MouseWheel, nullptr);
     toolkit::test::turnWheel(-120);
     EXPECT_EQ(form.P1.Top, 0);
     toolkit::test::closeWindow();

@@ -87,6 +87,22 @@ TEST_F(Delivery, TheEndOfTheSessionIsAskedOnceAndByItself) {
     EXPECT_EQ(log.back(), "closed");
 }
 
+TEST_F(Delivery, TheEndOfTheSessionWaitsForTheRunningProcedure) {
+    form.QueryEnd = [this] {
+        note("ended");
+        return true;
+    };
+    card.Click = [this] {
+        test::endSession();
+        note("procedure over");
+    };
+    test::click(px(30), px(40));
+    test::settle();
+    EXPECT_LT(std::find(log.begin(), log.end(), "procedure over"),
+              std::find(log.begin(), log.end(), "ended"));
+    EXPECT_EQ(times("ended"), 1);
+}
+
 TEST_F(Delivery, TheEndOfTheSessionIsAskedAgainBehindAWaitForThePlayer) {
     bool isOver = false;
     form.QueryEnd = [&] {
