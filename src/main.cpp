@@ -2,6 +2,7 @@
 #include "app/form_load.h"
 #include "app/wiring.h"
 #include "app/zevlin.h"
+#include "toolkit/program.h"
 #include "toolkit/window.h"
 
 int main(int argumentCount, char** arguments) {
@@ -10,5 +11,8 @@ int main(int argumentCount, char** arguments) {
     toolkit::Window window(zev::wire(form));
     zev::Form_Load(form, application.commandLine());
     window.update();
-    return application.run();
+    const int result = application.run();
+    // A print service that still hasn't answered is left to itself.
+    if (form.PrinterAsked.isAsked() && !form.PrinterAsked.isAnswered()) toolkit::endProgram();
+    return result;
 }

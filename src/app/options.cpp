@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <string>
 #include <utility>
 
@@ -22,6 +23,9 @@
 
 namespace zev {
 namespace {
+
+/// For so long the end of the program waits for a print service that was asked.
+constexpr std::chrono::seconds longestFarewell{2};
 
 constexpr int largestColor = (1 << 24) - 1;
 
@@ -181,6 +185,14 @@ OptionsDocument documentOf(Zevlin& form) {
     return document;
 }
 
+void writeOptionsFile(Zevlin& form) {
+    // A file that couldn't be written tells an old view.
+    form.OptionsUnwritten = !trapped(form, "Error in IniWrite ", [&] {
+        toolkit::writeFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
+                           writeOptions(documentOf(form)));
+    });
+}
+
 } // namespace
 
 void readOptions(Zevlin& form, std::string content) {
@@ -193,12 +205,15 @@ void readOptions(Zevlin& form, std::string content) {
 
 void IniWrite(Zevlin& form) {
     Traceit(form, "IniWrite");
+    // A slow print service keeps nobody waiting: its printer gets into the file when it is known.
+    askForPendingPrinter(form, [&form] { writeOptionsFile(form); });
+    writeOptionsFile(form);
+}
+
+void completeOptions(Zevlin& form) {
+    if (!form.PrinterPending || !form.PrinterAsked.isAnswered(longestFarewell)) return;
     takePendingPrinter(form);
-    // A file that couldn't be written tells an old view.
-    form.OptionsUnwritten = !trapped(form, "Error in IniWrite ", [&] {
-        toolkit::writeFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
-                           writeOptions(documentOf(form)));
-    });
+    writeOptionsFile(form);
 }
 
 } // namespace zev

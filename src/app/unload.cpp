@@ -3,6 +3,7 @@
 #include <string>
 
 #include "app/hooks.h"
+#include "app/options.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/chooser_events.h"
@@ -25,6 +26,7 @@ bool Form_Unload(Zevlin& form, int unloadMode) {
         }
         cancel = CheckMod(form);
         if (cancel) return;
+        completeOptions(form);
         releasePrinter(form);
         restoreDefaultPrinter(form);
         if (form.WheelHooked) unhookWheel(form);

@@ -56,7 +56,10 @@ bool hasName(Zevlin& form) {
 void saveCard(Zevlin& form) {
     commitOpenField(form);
     if (!hasName(form)) return;
-    toolkit::writeFile(cardPath(form), writeCard(documentOf(form)));
+    std::string content = writeCard(documentOf(form));
+    // Whatever cleans or syncs the folder must not take the player's work along.
+    if (form.NameBeforeRebuild) form.CardInMemory = content;
+    toolkit::writeFile(cardPath(form), content);
     ResetMod(form);
     form.OrigIndex = 0;
     form.OrigText.clear();

@@ -9,6 +9,7 @@
 #include "toolkit/control.h"
 #include "toolkit/print_job.h"
 #include "toolkit/printer.h"
+#include "toolkit/printer_question.h"
 
 namespace zev {
 
@@ -22,13 +23,14 @@ struct OutputState {
     toolkit::Printer CurrentPrinter; ///< the printer object
     toolkit::PrintJob PrinterDC;     ///< the document on the printer
     std::string SavedDefaultPrinter; ///< the system's, before the set-up changed it
-    bool PrinterPending = false;     ///< the default printer's facts are still to be asked for
-    bool PrinterSetUp = false;       ///< the player has been through the set-up
+    bool PrinterPending = false;     ///< the default printer's facts are still to be taken
+    toolkit::PrinterQuestion PrinterAsked;
+    bool PrinterSetUp = false; ///< the player has been through the set-up
     bool Printing = false;
     bool PrintAlertShown = false; ///< the narrow page was told in this run
     /// The options file doesn't hold the present state: its last writing failed.
     bool OptionsUnwritten = false;
-    /// While a job runs: the card, where the file that carries it couldn't be written.
+    /// While the screen is rebuilt: the card, in case the file that carries it isn't there.
     std::optional<std::string> CardInMemory;
 
     toolkit::PictureBox P2;    ///< stands for the card while a job runs

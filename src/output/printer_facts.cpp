@@ -33,12 +33,22 @@ void takeDefaultPrinter(Zevlin& form, int& step) {
 
 void takePendingPrinter(Zevlin& form) {
     if (!std::exchange(form.PrinterPending, false)) return;
-    form.CurrentPrinter = toolkit::defaultPrinter();
+    form.CurrentPrinter = form.PrinterAsked.answer();
     form.Myprinter.hdc = form.CurrentPrinter.hdc;
     // The options may have named another one meanwhile.
     if (form.Myprinter.Devicename.empty())
         form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
     readPrinterFacts(form);
+}
+
+void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken) {
+    if (!form.PrinterPending) return;
+    if (form.PrinterAsked.isAnswered()) return takePendingPrinter(form);
+    form.PrinterAsked.ask([&form, taken] {
+        if (!form.PrinterPending) return;
+        takePendingPrinter(form);
+        taken();
+    });
 }
 
 void readPrinterFacts(Zevlin& form) {

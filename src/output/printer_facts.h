@@ -1,6 +1,8 @@
 // What the program knows of the printer.
 #pragma once
 
+#include <functional>
+
 #include "output/printed_size.h"
 
 namespace zev {
@@ -12,8 +14,12 @@ struct Zevlin;
 /// off until something needs them.
 void takeDefaultPrinter(Zevlin& form, int& step);
 
-/// Takes the facts that were put off, if any.
+/// Takes the facts that were put off, if any, and waits for them if need be.
 void takePendingPrinter(Zevlin& form);
+
+/// Takes them if they are there; else they are asked for, and `taken` runs when they have come
+/// later and were taken.
+void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken);
 
 /// Computes the facts of the printer object.
 void readPrinterFacts(Zevlin& form);

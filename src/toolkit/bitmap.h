@@ -18,6 +18,8 @@ class Bitmap {
   public:
     Bitmap() = default;
     Bitmap(int width, int height, Color fill = white);
+    /// One whose pixels are nothing yet.
+    [[nodiscard]] static Bitmap unpainted(int width, int height);
 
     [[nodiscard]] int width() const { return width_; }
     [[nodiscard]] int height() const { return height_; }

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstddef>
+#include <new>
+#include <utility>
 
 namespace toolkit {
 
@@ -24,6 +26,15 @@ struct PixelAllocator {
     }
     void deallocate(Pixel* pixels, std::size_t count) {
         returnPixelMemory(pixels, count * sizeof(Pixel));
+    }
+    /// Pixels that nobody gives a colour stay as the memory comes.
+    template <typename Other>
+    void construct(Other* place) {
+        ::new (place) Other;
+    }
+    template <typename Other, typename... Values>
+    void construct(Other* place, Values&&... values) {
+        ::new (place) Other(std::forward<Values>(values)...);
     }
     bool operator==(const PixelAllocator& /*other*/) const = default;
 };

@@ -14,6 +14,7 @@ namespace {
 struct PrinterOverrides {
     std::vector<Printer> printers;
     bool noPrinter = false;
+    std::function<Printer()> defaultQuestion;
 };
 
 PrinterOverrides& overrides() {
@@ -120,9 +121,22 @@ void setDefaultPrinter(std::string_view name) {
     std::rotate(printers.begin(), found, found + 1);
 }
 
+std::function<Printer()> defaultPrinterQuestion() {
+    if (overrides().defaultQuestion) return overrides().defaultQuestion;
+    return [] {
+        const auto names = systemPrinterNames();
+        const Printer printer = names.empty() ? Printer{} : systemPrinter(names.front());
+        return printer.hdc == 0 ? printToPdf() : printer;
+    };
+}
+
 bool isAskingSlow() { return overrides().printers.empty() && !overrides().noPrinter; }
 
 void overridePrinters(std::vector<Printer> printers) { overrides().printers = std::move(printers); }
+
+void overrideDefaultPrinterQuestion(std::function<Printer()> question) {
+    overrides().defaultQuestion = std::move(question);
+}
 
 void overrideNoPrinter(bool none) { overrides().noPrinter = none; }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -75,11 +76,16 @@ constexpr std::string_view printToPdfName = "Print to PDF";
 /// Makes an installed printer the default of this player's programs. Failure 482.
 void setDefaultPrinter(std::string_view name);
 
+/// What asks the system for its default printer, in whatever thread.
+[[nodiscard]] std::function<Printer()> defaultPrinterQuestion();
+
 /// Whether asking for the default printer may take long, so that it is better put off.
 [[nodiscard]] bool isAskingSlow();
 
 /// For tests: the printers that the system has; an empty list gives back the real ones.
 void overridePrinters(std::vector<Printer> printers);
+/// For tests: what answers for the system's default printer; none gives back the system.
+void overrideDefaultPrinterQuestion(std::function<Printer()> question);
 /// For tests: a machine where even the default printer has no device context.
 void overrideNoPrinter(bool none);
 

@@ -13,27 +13,29 @@ constexpr int builtInWidth = 2396;
 constexpr int builtInHeight = 2473;
 constexpr float half = 0.5F;
 
+using SharedPicture = std::shared_ptr<const toolkit::IndexedPicture>;
+
+SharedPicture builtIn(const char* file) {
+    return std::make_shared<const toolkit::IndexedPicture>(
+        toolkit::decodePicture(toolkit::embeddedFile(file)));
+}
+
 /// Decoded once, when a scale first asks for it.
-const toolkit::IndexedPicture& builtInFull() {
-    static const auto picture = toolkit::decodePicture(toolkit::embeddedFile("/card/full.bin"));
+const SharedPicture& builtInFull() {
+    static const auto picture = builtIn("/card/full.bin");
     return picture;
 }
 
 /// Comes ready made with the program, so a start needs no full picture.
-const toolkit::IndexedPicture& builtInHalf() {
-    static const auto picture = toolkit::decodePicture(toolkit::embeddedFile("/card/half.bin"));
+const SharedPicture& builtInHalf() {
+    static const auto picture = builtIn("/card/half.bin");
     return picture;
 }
 
 } // namespace
 
-struct CardPicture::Replacement {
-    std::shared_ptr<const toolkit::Bitmap> full;
-    toolkit::Bitmap half;
-};
-
 CardPicture::CardPicture(const std::shared_ptr<const toolkit::Bitmap>& picture)
-    : replacement_(std::make_shared<const Replacement>(Replacement{picture, halved(*picture)})) {}
+    : replacement_({picture, std::make_shared<const toolkit::Bitmap>(halved(*picture))}) {}
 
 void CardPicture::load(const std::filesystem::path& path) {
     *this = CardPicture(std::make_shared<const toolkit::Bitmap>(toolkit::loadBitmap(path)));
@@ -45,12 +47,14 @@ int CardPicture::height() const {
     return replacement_ ? replacement_->full->height() : builtInHeight;
 }
 
-toolkit::Bitmap CardPicture::scaledTo(float scale, int width, int height) const {
-    const bool fromFull = scale > half;
-    const ScaleRequest request{
-        .factor = fromFull ? scale : scale / half, .width = width, .height = height};
-    if (replacement_) return scaled(fromFull ? *replacement_->full : replacement_->half, request);
-    return scaled(fromFull ? builtInFull() : builtInHalf(), request);
+PictureInMaking CardPicture::startScaled(const ScaleRequest& request) const {
+    if (request.factor > half)
+        return replacement_ ? zev::startScaled(replacement_->full, request)
+                            : zev::startScaled(builtInFull(), request);
+    ScaleRequest ofHalf = request;
+    ofHalf.factor /= half;
+    return replacement_ ? zev::startScaled(replacement_->half, ofHalf)
+                        : zev::startScaled(builtInHalf(), ofHalf);
 }
 
 } // namespace zev

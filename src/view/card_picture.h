@@ -3,10 +3,14 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 
 #include "toolkit/bitmap.h"
 
 namespace zev {
+
+struct PictureInMaking;
+struct ScaleRequest;
 
 /// The built-in picture or one that the player put in its place. Copies share the pixels.
 class CardPicture {
@@ -22,13 +26,16 @@ class CardPicture {
     [[nodiscard]] int width() const;
     [[nodiscard]] int height() const;
 
-    /// The picture shrunk by `scale` (0.2 to 1) into one of `width` x `height` pixels: always made
-    /// from the smallest step of the pyramid of halves that isn't smaller.
-    [[nodiscard]] toolkit::Bitmap scaledTo(float scale, int width, int height) const;
+    /// The picture shrunk by the request's factor (0.2 to 1) of its full size: always made from the
+    /// smallest step of the pyramid of halves that isn't smaller.
+    [[nodiscard]] PictureInMaking startScaled(const ScaleRequest& request) const;
 
   private:
-    struct Replacement;
-    std::shared_ptr<const Replacement> replacement_;
+    struct Replacement {
+        std::shared_ptr<const toolkit::Bitmap> full;
+        std::shared_ptr<const toolkit::Bitmap> half;
+    };
+    std::optional<Replacement> replacement_;
 };
 
 } // namespace zev

@@ -2,11 +2,11 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
-#include "layout/position.h"
 #include "toolkit/screen.h"
 #include "view/rebuild.h"
 #include "view/task_bar.h"
 #include "view/time_stamp.h"
+#include "view/zoom_run.h"
 
 namespace zev {
 namespace {
@@ -40,12 +40,6 @@ void toggle(Zevlin& form, toolkit::MenuItem& chosen, toolkit::MenuItem& other) {
     other.Checked = false;
 }
 
-void endZoom(Zevlin& form) {
-    PositionRestore(form);
-    form.Zooming = false;
-    MakeTimeStamp(form);
-}
-
 void turnFitOff(Zevlin& form) {
     form.ZoomTable[0] = 0;
     rebuildUnlessInitializing(form);
@@ -72,20 +66,16 @@ void fitHeight(Zevlin& form) {
 void MFitScreenWidth_Click(Zevlin& form) {
     Traceit(form, "MFitScreenWidth");
     trapped(form, "Error in MFitScreenWidth_Click: #", [&] {
-        form.Zooming = true;
-        PositionSave(form);
-        fitWidth(form);
-        endZoom(form);
+        runZoom(form, [&] { fitWidth(form); });
+        MakeTimeStamp(form);
     });
 }
 
 void MFitScreenHeight_Click(Zevlin& form) {
     Traceit(form, "MFitScreenHeight_Click");
     trapped(form, "Error in MFitScreenHeight_Click: #", [&] {
-        form.Zooming = true;
-        PositionSave(form);
-        fitHeight(form);
-        endZoom(form);
+        runZoom(form, [&] { fitHeight(form); });
+        MakeTimeStamp(form);
     });
 }
 

@@ -10,6 +10,7 @@
 #include "app/zevlin.h"
 #include "toolkit/number_text.h"
 #include "toolkit/screen.h"
+#include "view/scale_picture.h"
 
 namespace zev {
 namespace {
@@ -38,12 +39,12 @@ struct Drawing {
     }
 };
 
-std::shared_ptr<const toolkit::Bitmap> draw(const CardPicture& source, const Drawing& drawing) {
-    auto bitmap = source.scaledTo(drawing.scale, static_cast<int>(drawing.width),
-                                  static_cast<int>(drawing.height));
-    const int stripTop = static_cast<int>(std::floor(drawing.height - drawing.strip));
-    bitmap.fill(0, stripTop, bitmap.width(), bitmap.height() - stripTop, toolkit::white);
-    return std::make_shared<toolkit::Bitmap>(std::move(bitmap));
+PictureInMaking startDrawing(const CardPicture& source, const Drawing& drawing) {
+    return source.startScaled(
+        {.factor = drawing.scale,
+         .width = static_cast<int>(drawing.width),
+         .height = static_cast<int>(drawing.height),
+         .contentHeight = static_cast<int>(std::floor(drawing.height - drawing.strip))});
 }
 
 void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source,
@@ -57,12 +58,19 @@ void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& s
         wholePixelsOf(static_cast<float>(source.height()) * drawing.scale) + drawing.strip);
     target.Width = drawing.width * twips;
     target.Height = drawing.height * twips;
-    target.Picture = draw(source, drawing);
-    target.Sharp = {target.Picture, [source, drawing](float ratio) {
-                        // More than its full size there isn't to see.
-                        const float most = std::max(largestScale / drawing.scale, 1.0F);
-                        return draw(source, drawing.enlarged(std::min(ratio, most)));
-                    }};
+    auto making = startDrawing(source, drawing);
+    target.Picture = making.picture;
+    target.Sharp = {
+        target.Picture, [source, drawing](float ratio) {
+            // More than its full size there isn't to see.
+            const float most = std::max(largestScale / drawing.scale, 1.0F);
+            return startDrawing(source, drawing.enlarged(std::min(ratio, most))).finished();
+        }};
+    // Nobody looks at the card before its rebuild is through.
+    if (form.NameBeforeRebuild)
+        form.PictureRows = std::move(making.rows);
+    else
+        making.rows.finish();
 }
 
 } // namespace

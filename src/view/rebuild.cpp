@@ -1,6 +1,5 @@
 #include "view/rebuild.h"
 
-#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -29,11 +28,6 @@ void deleteTemporaryCard(Zevlin& form) {
     });
 }
 
-/// Whatever cleans or syncs the folder must not take the player's work along.
-void writeIfGone(const std::filesystem::path& file, const std::string& content) {
-    if (!std::filesystem::exists(file)) toolkit::writeFile(file, content);
-}
-
 /// Name and changed flag for the time of a rebuild: whatever happens, they and the card come back.
 class KeptCard {
   public:
@@ -45,12 +39,14 @@ class KeptCard {
     KeptCard& operator=(const KeptCard&) = delete;
     ~KeptCard() {
         putBack();
+        form_.PictureRows.finish();
         form_.P1.Visible = true;
     }
     void putBack() {
         form_.CardName = name_;
         form_.CardModified = modified_;
         form_.NameBeforeRebuild.reset();
+        form_.CardInMemory.reset();
     }
 
   private:
@@ -65,10 +61,7 @@ void carryThrough(Zevlin& form) {
     KeptCard kept(form);
     deleteTemporaryCard(form);
     form.CardName = temporaryCardName;
-    form.CardInMemory.reset();
     MSave_Click(form);
-    const std::string content =
-        form.CardInMemory ? *form.CardInMemory : toolkit::readFile(cardPath(form));
     ResetMod(form);
     MNew_Click(form);
     // The places in it are those of the former size.
@@ -76,11 +69,11 @@ void carryThrough(Zevlin& form) {
     form.P1.Visible = false;
     Initialize(form);
     form.CardName = temporaryCardName;
-    if (!form.CardInMemory) writeIfGone(cardPath(form), content);
     GetCardFile(form);
     kept.putBack();
     SetCaption(form);
     deleteTemporaryCard(form);
+    form.PictureRows.finish();
     form.P1.Visible = true;
     CreateBG(form, form.BGPat, 0, 0);
 }

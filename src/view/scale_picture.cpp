@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <cstring>
 #include <optional>
-#include <thread>
+#include <utility>
 #include <vector>
+
+#include "view/coverage.h"
 
 namespace zev {
 namespace {
@@ -15,67 +16,28 @@ using Pixel = std::uint32_t;
 
 // A pixel's channels or their weighted sum, side by side so that one instruction takes all four.
 // Single precision holds them to a ten-thousandth of a shade.
+using Lanes [[gnu::vector_size(16)]] = float;
 struct Channels {
-    alignas(16) std::array<float, 4> shares{};
-
-    void add(const Channels& other, float weight) {
-        for (std::size_t i = 0; i < shares.size(); ++i) shares[i] += other.shares[i] * weight;
-    }
+    Lanes shares{};
 };
 
 constexpr Channels split(Pixel pixel) {
-    return {{static_cast<float>(pixel & 0xFFU), static_cast<float>(pixel >> 8U & 0xFFU),
-             static_cast<float>(pixel >> 16U & 0xFFU), 255}};
+    return {Lanes{static_cast<float>(pixel & 0xFFU), static_cast<float>(pixel >> 8U & 0xFFU),
+                  static_cast<float>(pixel >> 16U & 0xFFU), 255}};
 }
 
-constexpr Pixel joined(const Channels& channels) {
-    std::array<std::int32_t, 4> bytes{};
+constexpr Channels paperChannels{{255, 255, 255, 255}};
+
+// Joined in one go: the instructions that do it take several pixels.
+constexpr int joinedAtOnce = 16;
+
+void join(const std::array<Channels, joinedAtOnce>& sums, Pixel* output, int count) {
+    std::array<float, 4 * joinedAtOnce> shares;
+    std::memcpy(shares.data(), sums.data(), sizeof(shares));
+    std::array<std::uint8_t, 4 * joinedAtOnce> bytes;
     for (std::size_t i = 0; i < bytes.size(); ++i)
-        bytes[i] = static_cast<std::int32_t>(channels.shares[i]);
-    return static_cast<Pixel>(bytes[3]) << 24U | static_cast<Pixel>(bytes[2]) << 16U |
-           static_cast<Pixel>(bytes[1]) << 8U | static_cast<Pixel>(bytes[0]);
-}
-
-// The pixels of one direction that an output pixel covers. Their weights sum to 1.
-struct Span {
-    int first = 0;
-    int count = 0;
-    std::size_t weights = 0; ///< place of the first one in the list of weights
-};
-
-struct Coverage {
-    std::vector<Span> spans;
-    std::vector<float> weights;
-};
-
-void addSpan(Coverage& coverage, double from, double to, int last) {
-    const int first = std::min(static_cast<int>(from), last);
-    const int count = std::clamp(static_cast<int>(std::ceil(to)), first + 1, last + 1) - first;
-    const double end = std::min(to, last + 1.0);
-    coverage.spans.push_back({first, count, coverage.weights.size()});
-    double given = 0;
-    for (int i = 1; i < count; ++i) {
-        const double boundary = (first + i - from) / (end - from);
-        coverage.weights.push_back(static_cast<float>(boundary - given));
-        given = boundary;
-    }
-    coverage.weights.push_back(static_cast<float>(1 - given));
-}
-
-// For each output pixel that `length` pixels reach when shrunk, the input pixels below it.
-Coverage coverageOf(int length, double factor, int outputLength) {
-    Coverage coverage;
-    const double reached = std::nearbyint(length * factor);
-    const int count = static_cast<int>(std::clamp<double>(reached, 0, outputLength));
-    for (int i = 0; i < count; ++i) addSpan(coverage, i / factor, (i + 1) / factor, length - 1);
-    return coverage;
-}
-
-Pixel averageColumns(const Channels* columns, const float* weights, int count) {
-    // What is joined loses its fraction: a half more, and it is rounded.
-    Channels sum{{0.5F, 0.5F, 0.5F, 0.5F}};
-    for (int i = 0; i < count; ++i) sum.add(columns[i], weights[i]);
-    return joined(sum);
+        bytes[i] = static_cast<std::uint8_t>(static_cast<std::int32_t>(shares[i]));
+    std::memcpy(output, bytes.data(), static_cast<std::size_t>(count) * sizeof(Pixel));
 }
 
 using Palette = std::array<Pixel, 256>;
@@ -89,78 +51,95 @@ Palette fullPalette(const toolkit::IndexedPicture& picture) {
     return palette;
 }
 
-// The element that is white, if there is one.
-std::optional<std::uint8_t> paperOf(const Palette& palette) {
-    const auto found = std::ranges::find(palette, toolkit::pixelOf(toolkit::white));
-    if (found == palette.end()) return std::nullopt;
-    return static_cast<std::uint8_t>(found - palette.begin());
-}
+// What a scaler needs to know of a picture of palette indices...
+class IndexedSource {
+  public:
+    using Element = std::uint8_t;
 
-const std::uint8_t* indexRow(const toolkit::IndexedPicture& picture, int y) {
-    return picture.indices.data() +
-           static_cast<std::size_t>(y) * static_cast<std::size_t>(picture.width);
-}
+    explicit IndexedSource(std::shared_ptr<const toolkit::IndexedPicture> picture)
+        : picture_(std::move(picture)), palette_(fullPalette(*picture_)) {
+        std::ranges::transform(palette_, channels_.begin(), split);
+    }
+    [[nodiscard]] int width() const { return picture_->width; }
+    [[nodiscard]] int height() const { return picture_->height; }
+    [[nodiscard]] const Element* row(int y) const {
+        return picture_->indices.data() +
+               static_cast<std::size_t>(y) * static_cast<std::size_t>(picture_->width);
+    }
+    [[nodiscard]] const Channels& channelsOf(Element index) const { return channels_[index]; }
+    [[nodiscard]] Pixel pixelOf(Element index) const { return palette_[index]; }
+    /// The element that is white, if there is one.
+    [[nodiscard]] std::optional<Element> paper() const {
+        const auto found = std::ranges::find(palette_, toolkit::pixelOf(toolkit::white));
+        if (found == palette_.end()) return std::nullopt;
+        return static_cast<Element>(found - palette_.begin());
+    }
+
+  private:
+    std::shared_ptr<const toolkit::IndexedPicture> picture_;
+    Palette palette_;
+    std::array<Channels, 256> channels_;
+};
+
+// ... and of one of pixels.
+class BitmapSource {
+  public:
+    using Element = Pixel;
+
+    explicit BitmapSource(std::shared_ptr<const toolkit::Bitmap> picture)
+        : picture_(std::move(picture)) {}
+    [[nodiscard]] int width() const { return picture_->width(); }
+    [[nodiscard]] int height() const { return picture_->height(); }
+    [[nodiscard]] const Element* row(int y) const { return picture_->row(y); }
+    [[nodiscard]] static Channels channelsOf(Element pixel) { return split(pixel); }
+    [[nodiscard]] static Pixel pixelOf(Element pixel) { return pixel; }
+    [[nodiscard]] static std::optional<Element> paper() { return toolkit::pixelOf(toolkit::white); }
+
+  private:
+    std::shared_ptr<const toolkit::Bitmap> picture_;
+};
 
 // Most of a card is paper. Columns go in blocks, and a block without ink costs only the look at it.
 constexpr int blockWidth = 8;
 
-// Fewer output rows aren't worth a thread.
-constexpr int fewestRows = 64;
-constexpr int mostProcessors = 4;
-
-int processors() {
-    return std::clamp(static_cast<int>(std::thread::hardware_concurrency()), 1, mostProcessors);
-}
-
-// The output pixels that a block of columns has part in: from `first` up to `end`.
-struct Reach {
-    int first = 0;
-    int end = 0;
-};
-
-std::vector<Reach> reachOf(const Coverage& columns, int width) {
+// The output pixels that a block of columns has part in.
+std::vector<RowRange> outputsOf(const Coverage& columns, int width) {
     const auto blocks = static_cast<std::size_t>((width + blockWidth - 1) / blockWidth);
-    std::vector<Reach> reach(blocks, {static_cast<int>(columns.spans.size()), 0});
-    for (int x = 0; x < static_cast<int>(columns.spans.size()); ++x) {
-        const Span& span = columns.spans[static_cast<std::size_t>(x)];
-        for (int i = span.first / blockWidth; i <= (span.first + span.count - 1) / blockWidth;
-             ++i) {
-            Reach& block = reach[static_cast<std::size_t>(i)];
-            block = {std::min(block.first, x), std::max(block.end, x + 1)};
+    std::vector<RowRange> outputs(blocks, {columns.size(), 0});
+    for (int x = 0; x < columns.size(); ++x) {
+        const int first = columns.firsts[static_cast<std::size_t>(x)];
+        const int last = first + columns.countOf(x) - 1;
+        for (int i = first / blockWidth; i <= last / blockWidth; ++i) {
+            RowRange& block = outputs[static_cast<std::size_t>(i)];
+            block = {std::min(block.from, x), std::max(block.to, x + 1)};
         }
     }
-    return reach;
+    return outputs;
 }
 
-// A source whose element `first`[x] of a row stands for the channels `channelsOf(first[x])`.
-template <typename Row, typename ChannelsOf, typename Element>
+template <typename Source>
 class Scaler {
   public:
-    Scaler(int width, int height, double factor, Row row, ChannelsOf channelsOf,
-           std::optional<Element> paper, toolkit::Bitmap& result)
-        : width_(width), factor_(factor), row_(row), channelsOf_(channelsOf),
-          hasPaper_(paper.has_value()), result_(result),
-          columns_(coverageOf(width, factor, result.width())),
-          rows_(coverageOf(height, factor, result.height())), reach_(reachOf(columns_, width)) {
+    Scaler(Source source, const ScaleRequest& request, std::shared_ptr<toolkit::Bitmap> result)
+        : source_(std::move(source)), full_(request.factor == 1), result_(std::move(result)),
+          columns_(coverageOf(source_.width(), request.factor, result_->width())),
+          rows_(coverageOf(source_.height(), request.factor,
+                           std::min(result_->height(), request.contentHeight))),
+          outputs_(outputsOf(columns_, source_.width())),
+          lines_(static_cast<std::size_t>(RowWork::hands(result_->height())), emptyLine()) {
+        const auto paper = source_.paper();
+        hasPaper_ = paper.has_value();
         paper_.fill(paper.value_or(Element{}));
     }
 
-    // The output rows in as many parts as there are processors for.
-    void run() {
-        const int height = static_cast<int>(rows_.spans.size());
-        const int parts = std::clamp(height / fewestRows, 1, processors());
-        std::vector<Line> lines(static_cast<std::size_t>(parts), emptyLine());
-        std::vector<std::jthread> others;
-        for (int part = 1; part < parts; ++part)
-            others.emplace_back([&, part] {
-                runRows(height * part / parts, height * (part + 1) / parts,
-                        lines[static_cast<std::size_t>(part)]);
-            });
-        runRows(0, height / parts, lines.front());
+    void work(int hand, const RowWork::Next& next) {
+        Line& line = lines_[static_cast<std::size_t>(hand)];
+        while (const auto rows = next())
+            for (int y = rows->from; y < rows->to; ++y) makeRow(y, line);
     }
 
   private:
-    static constexpr Channels paperChannels{{255, 255, 255, 255}};
+    using Element = typename Source::Element;
 
     // One row of averages; a block that isn't inked holds paper.
     struct Line {
@@ -168,119 +147,154 @@ class Scaler {
         std::vector<char> inked;
     };
 
+    // An output pixel at the right edge may look at columns that don't count for it.
     [[nodiscard]] Line emptyLine() const {
-        return {std::vector<Channels>(reach_.size() * blockWidth, paperChannels),
-                std::vector<char>(reach_.size())};
+        const std::size_t beyond = static_cast<std::size_t>(columns_.reach);
+        return {std::vector<Channels>(outputs_.size() * blockWidth + beyond, paperChannels),
+                std::vector<char>(outputs_.size())};
     }
 
-    // Full size has nothing to average.
-    void runRows(int from, int to, Line& line) {
-        for (int y = from; y < to; ++y) {
-            const Span& rows = rows_.spans[static_cast<std::size_t>(y)];
-            Pixel* output = result_.row(y);
-            if (factor_ == 1) {
-                copyInk(row_(rows.first), output);
-            } else {
-                averageRows(rows, line);
-                averageInk(line, output);
-            }
+    void makeRow(int y, Line& line) {
+        Pixel* output = result_->row(y);
+        std::fill_n(output, result_->width(), toolkit::pixelOf(toolkit::white));
+        if (y >= rows_.size()) return;
+        // Full size has nothing to average.
+        if (full_) return copyInk(source_.row(rows_.firsts[static_cast<std::size_t>(y)]), output);
+        averageRows(y, line);
+        switch (columns_.reach) {
+        case 3:
+            return averageInk<3>(line, output);
+        case 4:
+            return averageInk<4>(line, output);
+        default:
+            return averageInk<0>(line, output);
         }
     }
 
     void copyInk(const Element* first, Pixel* output) const {
-        const int width = static_cast<int>(columns_.spans.size());
+        const int width = columns_.size();
         for (int column = 0; column < width; column += blockWidth) {
             const int count = std::min(blockWidth, width - column);
             if (!isInked(first + column, 1, count)) continue;
-            for (int x = column; x < column + count; ++x) output[x] = joined(channelsOf_(first[x]));
+            for (int x = column; x < column + count; ++x) output[x] = source_.pixelOf(first[x]);
         }
     }
 
     [[nodiscard]] bool isInked(const Element* first, int rows, int count) const {
         if (!hasPaper_) return true;
         const auto size = static_cast<std::size_t>(count) * sizeof(Element);
-        for (int i = 0; i < rows; ++i, first += width_)
+        for (int i = 0; i < rows; ++i, first += source_.width())
             if (count == blockWidth ? std::memcmp(first, paper_.data(), sizeof(paper_)) != 0
                                     : std::memcmp(first, paper_.data(), size) != 0)
                 return true;
         return false;
     }
 
-    void averageRows(const Span& rows, Line& line) {
-        const Element* first = row_(rows.first);
-        for (std::size_t block = 0; block < reach_.size(); ++block) {
+    void averageRows(int y, Line& line) {
+        const Element* first = source_.row(rows_.firsts[static_cast<std::size_t>(y)]);
+        const float* weights = rows_.weightsOf(y);
+        const int rows = rows_.countOf(y);
+        for (std::size_t block = 0; block < outputs_.size(); ++block) {
             const int column = static_cast<int>(block) * blockWidth;
-            const int count = std::min(blockWidth, width_ - column);
+            const int count = std::min(blockWidth, source_.width() - column);
             Channels* averages = &line.averages[block * blockWidth];
             const bool was = line.inked[block] != 0;
-            const bool is = isInked(first + column, rows.count, count);
+            const bool is = isInked(first + column, rows, count);
             line.inked[block] = is ? 1 : 0;
             if (is)
-                averageBlock(first + column, rows, averages, count);
+                averageBlock(first + column, weights, rows, averages, count);
             else if (was)
                 std::fill_n(averages, count, paperChannels);
         }
     }
 
-    // All rows of a column at once, so that no sum is stored before it is whole.
-    void averageBlock(const Element* first, const Span& rows, Channels* averages, int count) {
-        const float* weights = &rows_.weights[rows.weights];
+    void averageBlock(const Element* first, const float* weights, int rows, Channels* averages,
+                      int count) {
+        if (count == blockWidth) return averageWholeBlock(first, weights, rows, averages);
         for (int x = 0; x < count; ++x) {
             Channels sum;
-            const Element* element = first + x;
-            for (int i = 0; i < rows.count; ++i, element += width_)
-                sum.add(channelsOf_(*element), weights[i]);
+            for (int i = 0; i < rows; ++i)
+                sum.shares +=
+                    source_.channelsOf(first[i * source_.width() + x]).shares * weights[i];
             averages[x] = sum;
         }
     }
 
+    // All rows of its columns at once, so that no sum is stored before it is whole.
+    void averageWholeBlock(const Element* first, const float* weights, int rows,
+                           Channels* averages) {
+        std::array<Channels, blockWidth> sums{};
+        for (int i = 0; i < rows; ++i, first += source_.width())
+            for (std::size_t x = 0; x < sums.size(); ++x)
+                sums[x].shares += source_.channelsOf(first[x]).shares * weights[i];
+        std::copy(sums.begin(), sums.end(), averages);
+    }
+
     // Output pixels without ink below them are white already.
+    template <int Reach>
     void averageInk(const Line& line, Pixel* output) const {
-        int done = 0;
-        for (std::size_t block = 0; block < reach_.size(); ++block) {
+        const auto blocks = outputs_.size();
+        for (std::size_t block = 0; block < blocks; ++block) {
             if (line.inked[block] == 0) continue;
-            for (int x = std::max(done, reach_[block].first); x < reach_[block].end; ++x) {
-                const Span& span = columns_.spans[static_cast<std::size_t>(x)];
-                output[x] = averageColumns(&line.averages[static_cast<std::size_t>(span.first)],
-                                           &columns_.weights[span.weights], span.count);
-            }
-            done = std::max(done, reach_[block].end);
+            RowRange run = outputs_[block];
+            // Blocks beyond a picture that is cut have no part in it.
+            for (; block + 1 < blocks && line.inked[block + 1] != 0; ++block)
+                run.to = std::max(run.to, outputs_[block + 1].to);
+            averageColumns<Reach>(line, output, run.from, run.to);
         }
     }
 
-    int width_;
-    double factor_;
-    Row row_;
-    ChannelsOf channelsOf_;
-    bool hasPaper_;
-    std::array<Element, blockWidth> paper_{}; ///< a block without ink
-    toolkit::Bitmap& result_;
+    template <int Reach>
+    void averageColumns(const Line& line, Pixel* output, int from, int to) const {
+        const int reach = Reach == 0 ? columns_.reach : Reach;
+        std::array<Channels, joinedAtOnce> sums;
+        for (int x = from; x < to; x += joinedAtOnce) {
+            const int count = std::min(joinedAtOnce, to - x);
+            const float* weights = columns_.weightsOf(x);
+            for (int i = 0; i < count; ++i, weights += reach) {
+                const Channels* average = &line.averages[static_cast<std::size_t>(
+                    columns_.firsts[static_cast<std::size_t>(x + i)])];
+                // What is joined loses its fraction: a half more, and it is rounded.
+                Lanes sum{0.5F, 0.5F, 0.5F, 0.5F};
+                for (int column = 0; column < reach; ++column)
+                    sum += average[column].shares * weights[column];
+                sums[static_cast<std::size_t>(i)].shares = sum;
+            }
+            join(sums, output + x, count);
+        }
+    }
+
+    Source source_;
+    bool full_;
+    std::shared_ptr<toolkit::Bitmap> result_;
     Coverage columns_;
     Coverage rows_;
-    std::vector<Reach> reach_;
+    std::vector<RowRange> outputs_; ///< of each block
+    std::vector<Line> lines_;       ///< of each hand
+    bool hasPaper_ = false;
+    std::array<Element, blockWidth> paper_{}; ///< a block without ink
 };
+
+template <typename Source>
+PictureInMaking startScaling(Source source, const ScaleRequest& request) {
+    auto result = std::make_shared<toolkit::Bitmap>(
+        toolkit::Bitmap::unpainted(request.width, request.height));
+    auto scaler = std::make_shared<Scaler<Source>>(std::move(source), request, result);
+    return {result, RowWork(result->height(), [scaler](int hand, const RowWork::Next& next) {
+                scaler->work(hand, next);
+            })};
+}
 
 } // namespace
 
-toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& request) {
-    toolkit::Bitmap result(request.width, request.height);
-    const auto row = [&](int y) { return source.row(y); };
-    Scaler(source.width(), source.height(), request.factor, row, split,
-           std::optional(toolkit::pixelOf(toolkit::white)), result)
-        .run();
-    return result;
+PictureInMaking startScaled(const std::shared_ptr<const toolkit::Bitmap>& source,
+                            const ScaleRequest& request) {
+    return startScaling(BitmapSource(source), request);
 }
 
-toolkit::Bitmap scaled(const toolkit::IndexedPicture& source, const ScaleRequest& request) {
-    toolkit::Bitmap result(request.width, request.height);
-    const Palette palette = fullPalette(source);
-    std::array<Channels, 256> channels;
-    std::ranges::transform(palette, channels.begin(), split);
-    const auto row = [&](int y) { return indexRow(source, y); };
-    const auto channelsOf = [&](std::uint8_t index) -> const Channels& { return channels[index]; };
-    Scaler(source.width, source.height, request.factor, row, channelsOf, paperOf(palette), result)
-        .run();
-    return result;
+PictureInMaking startScaled(const std::shared_ptr<const toolkit::IndexedPicture>& source,
+                            const ScaleRequest& request) {
+    return startScaling(IndexedSource(source), request);
 }
 
 } // namespace zev

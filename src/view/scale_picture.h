@@ -1,21 +1,42 @@
 // Scaling the card's picture, as smooth as print: area averages from a pyramid of halves.
 #pragma once
 
+#include <limits>
+#include <memory>
+#include <utility>
+
 #include "toolkit/bitmap.h"
 #include "toolkit/indexed_picture.h"
+#include "view/row_work.h"
 
 namespace zev {
 
-/// The content of `source` shrunk by `factor` (0 < factor <= 1) into a picture of the given size in
-/// pixels: each pixel the rounded average of the area that it covers. Content begins at (0, 0) and
-/// takes its scaled size rounded to whole pixels; what it doesn't reach is white.
+/// The content of a picture shrunk by `factor` (0 < factor <= 1) into a picture of the given size
+/// in pixels: each pixel the rounded average of the area that it covers. Content begins at (0, 0)
+/// and takes its scaled size rounded to whole pixels, but no more than `contentHeight`; what it
+/// doesn't reach is white.
 struct ScaleRequest {
     float factor = 1;
     int width = 0;
     int height = 0;
+    int contentHeight = std::numeric_limits<int>::max();
 };
-[[nodiscard]] toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& request);
-[[nodiscard]] toolkit::Bitmap scaled(const toolkit::IndexedPicture& source,
-                                     const ScaleRequest& request);
+
+/// A picture that is still being made; it is whole when its rows are finished.
+struct PictureInMaking {
+    std::shared_ptr<const toolkit::Bitmap> picture;
+    RowWork rows;
+
+    [[nodiscard]] std::shared_ptr<const toolkit::Bitmap> finished() && {
+        rows.finish();
+        return std::move(picture);
+    }
+};
+
+[[nodiscard]] PictureInMaking startScaled(const std::shared_ptr<const toolkit::Bitmap>& source,
+                                          const ScaleRequest& request);
+[[nodiscard]] PictureInMaking
+startScaled(const std::shared_ptr<const toolkit::IndexedPicture>& source,
+            const ScaleRequest& request);
 
 } // namespace zev

@@ -4,9 +4,9 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
-#include "layout/position.h"
 #include "toolkit/program.h"
 #include "view/rebuild.h"
+#include "view/zoom_run.h"
 
 namespace zev {
 namespace {
@@ -28,21 +28,12 @@ void goTo(Zevlin& form, int step) {
     RebuildScreenImage(form);
 }
 
-template <typename Body>
-void zoom(Zevlin& form, Body body) {
-    form.Zooming = true;
-    PositionSave(form);
-    body();
-    PositionRestore(form);
-    form.Zooming = false;
-}
-
 } // namespace
 
 void MZoomIn_Click(Zevlin& form) {
     Traceit(form, "MZoomIn_Click");
     trapped(form, "Error in MZoomIn_Click: #", [&] {
-        zoom(form, [&] {
+        runZoom(form, [&] {
             leaveFit(form, stepBelowFit);
             goTo(form, form.ZoomLevel + 1);
         });
@@ -52,7 +43,7 @@ void MZoomIn_Click(Zevlin& form) {
 void MZoomOut_Click(Zevlin& form) {
     Traceit(form, "MZoomOut_Click");
     trapped(form, "Error in MZoomOut_Click: #", [&] {
-        zoom(form, [&] {
+        runZoom(form, [&] {
             leaveFit(form, stepAboveFit);
             goTo(form, form.ZoomLevel - 1);
         });

@@ -18,11 +18,12 @@ class WholeProgramTest(unittest.TestCase):
     """A test of the staged program. The trace must hold no error at its end."""
 
     announced_error = None  # a text that an error line of the trace may hold
+    home_type = desktop.Home
 
     def run(self, result=None):
         result = result or self.defaultTestResult()
         self.programs = []
-        self.home = desktop.Home(pathlib.Path(tempfile.mkdtemp(prefix="zevlin-")) / "home")
+        self.home = self.home_type(pathlib.Path(tempfile.mkdtemp(prefix="zevlin-")) / "home")
         failures = len(result.failures) + len(result.errors)
         try:
             super().run(result)

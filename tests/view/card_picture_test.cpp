@@ -1,6 +1,7 @@
 #include "view/card_picture.h"
 
 #include "support/form_test.h"
+#include "support/scaled_picture.h"
 #include "toolkit/files.h"
 
 namespace zev::test {
@@ -28,7 +29,8 @@ TEST_F(Picture, AScaledCardFillsWhatIsAskedFor) {
     for (const float scale : {0.2F, 0.425F, 0.5F, 0.6F, 1.0F}) {
         const auto width = static_cast<int>(2396 * scale);
         const auto height = static_cast<int>(2473 * scale);
-        const auto scaled = picture.scaledTo(scale, width, height);
+        const auto scaled =
+            test::scaled(picture, {.factor = scale, .width = width, .height = height});
         EXPECT_EQ(scaled.width(), width);
         EXPECT_EQ(scaled.height(), height);
     }
@@ -36,8 +38,8 @@ TEST_F(Picture, AScaledCardFillsWhatIsAskedFor) {
 
 TEST_F(Picture, BothSidesOfHalfSizeShowTheSameCard) {
     // The half comes ready made, the other is made from the full picture.
-    const auto half = picture.scaledTo(0.5F, 1198, 1236);
-    const auto above = picture.scaledTo(0.5001F, 1198, 1236);
+    const auto half = test::scaled(picture, {.factor = 0.5F, .width = 1198, .height = 1236});
+    const auto above = test::scaled(picture, {.factor = 0.5001F, .width = 1198, .height = 1236});
     int different = 0;
     for (int y = 0; y < 1236; ++y) {
         for (int x = 0; x < 1198; ++x) {
@@ -55,7 +57,7 @@ TEST_F(Picture, AFileTakesThePlaceOfTheBuiltInCard) {
     EXPECT_EQ(picture.width(), 40);
     EXPECT_EQ(picture.height(), 20);
     for (const float scale : {0.25F, 0.75F}) {
-        const auto scaled = picture.scaledTo(scale, 10, 5);
+        const auto scaled = test::scaled(picture, {.factor = scale, .width = 10, .height = 5});
         EXPECT_EQ(scaled.pixel(5, 2), toolkit::rgb(9, 8, 7)) << scale;
     }
 }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "support/form_test.h"
+#include "support/scaled_picture.h"
 #include "toolkit/indexed_picture.h"
 #include "view/halve_picture.h"
 #include "view/rebuild.h"
@@ -33,7 +34,9 @@ toolkit::Bitmap cardAt(float scale) {
     const auto sized = [scale](int length) {
         return static_cast<int>(std::lround(static_cast<float>(length) * scale));
     };
-    return CardPicture().scaledTo(scale, sized(full().width()), sized(full().height()));
+    return test::scaled(
+        CardPicture(),
+        {.factor = scale, .width = sized(full().width()), .height = sized(full().height())});
 }
 bool isInk(const toolkit::Bitmap& picture, int x, int y) {
     return picture.pixel(x, y).value_or(toolkit::white) != toolkit::white;

@@ -6,6 +6,7 @@
 
 #include "card/load.h"
 #include "support/form_test.h"
+#include "support/scaled_picture.h"
 #include "view/rebuild.h"
 
 namespace zev::test {
@@ -64,7 +65,8 @@ class FilledCard : public FormTest {
                                 lines(form.AText.UBound(), ",\"" + text + "\",0"));
         form.CardName = "Filled";
         GetCardFile(form);
-        full = form.PBase.scaledTo(1, form.PBase.width(), form.PBase.height());
+        full = test::scaled(
+            form.PBase, {.factor = 1, .width = form.PBase.width(), .height = form.PBase.height()});
     }
 
     void zoomTo(int level) {

@@ -1,6 +1,7 @@
 #include "view/image_size.h"
 
 #include "app/layouts.h"
+#include "support/scaled_picture.h"
 #include "toolkit/bitmap.h"
 
 namespace zev::test {
@@ -142,7 +143,7 @@ TEST_F(SharpImage, OneAndAHalfTimesThePixelsShowThePictureOfThatSize) {
     startAt("5");
     const auto sharp = toolkit::test::grabCardAt(1.5);
     ASSERT_EQ(sharp.width(), 1500);
-    const auto expected = form.PBase.scaledTo(0.75F, 1500, 750);
+    const auto expected = test::scaled(form.PBase, {.factor = 0.75F, .width = 1500, .height = 750});
     for (int x = 300; x < 320; ++x) EXPECT_EQ(sharp.pixel(x, 500), expected.pixel(x, 500)) << x;
 }
 

@@ -130,7 +130,7 @@ TEST_F(Rebuild, TheStampNeverTellsTheTemporaryName) {
 }
 
 #ifndef _WIN32 // no file is a pipe there
-TEST_F(Rebuild, ATemporaryCardThatVanishesInBetweenIsWrittenAgain) {
+TEST_F(Rebuild, ATemporaryCardThatVanishesInBetweenTakesNothingAlong) {
     startWithContent();
     // The rebuild waits for its layout from a pipe, and meanwhile the card goes.
     fs::remove(dataFile("Definitions.Ini"));

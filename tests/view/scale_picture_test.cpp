@@ -7,6 +7,7 @@
 #include <cmath>
 #include <random>
 
+#include "support/scaled_picture.h"
 #include "view/halve_picture.h"
 
 namespace zev {
@@ -15,6 +16,7 @@ namespace {
 using toolkit::Bitmap;
 using toolkit::Color;
 using toolkit::rgb;
+using zev::test::scaled;
 
 Bitmap noise(int width, int height) {
     std::mt19937 random(7);
@@ -118,6 +120,17 @@ TEST(Scaled, IsWhiteBeyondTheContent) {
     for (int y = 0; y < 30; ++y)
         for (int x = 0; x < 25; ++x)
             ASSERT_EQ(result.pixel(x, y), x < 20 && y < 20 ? toolkit::black : toolkit::white);
+}
+
+TEST(Scaled, IsWhiteFromTheContentsEndOn) {
+    const Bitmap source(40, 40, toolkit::black);
+    for (const float factor : {0.5F, 1.0F}) {
+        const Bitmap result =
+            scaled(source, {.factor = factor, .width = 20, .height = 20, .contentHeight = 13});
+        EXPECT_EQ(result.pixel(19, 12), toolkit::black);
+        for (int y = 13; y < 20; ++y)
+            for (int x = 0; x < 20; ++x) ASSERT_EQ(result.pixel(x, y), toolkit::white) << factor;
+    }
 }
 
 TEST(Scaled, IsCutWhereTheContentIsLarger) {
