@@ -6,6 +6,7 @@
 #include "text/edit_field.h"
 #include "text/set_sym.h"
 #include "toolkit/key.h"
+#include "view/rebuild.h"
 
 namespace {
 
@@ -61,12 +62,16 @@ void setSymAmong(benchmark::State& state) {
 }
 BENCHMARK(setSymAmong)->Arg(5)->Arg(500)->Unit(benchmark::kMicrosecond)->Iterations(200);
 
+/// At a step of the zoom.
 void paintFullCard(benchmark::State& state) {
     Program program;
     program.openFullCard();
+    program.form.ZoomLevel = static_cast<std::int16_t>(state.range(0));
+    zev::RebuildScreenImage(program.form);
+    toolkit::test::settle();
     for (auto _ : state) benchmark::DoNotOptimize(toolkit::test::grabCard());
 }
-BENCHMARK(paintFullCard)->Unit(benchmark::kMillisecond);
+BENCHMARK(paintFullCard)->Arg(1)->Arg(4)->Arg(5)->Arg(11)->Unit(benchmark::kMillisecond);
 
 } // namespace
 

@@ -122,6 +122,7 @@ FieldClick takeClick(Zevlin& form, int index) {
 void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
     const toolkit::Label& field = form.AText[index];
     box.Font = field.Font;
+    box.BaseLine = field.BaseLine;
     box.ForeColor = field.ForeColor;
     box.Move(field.Left, field.Top, field.Width, field.Height);
     box.Text = field.Tag;

@@ -117,6 +117,7 @@ void takeOverTyping(Zevlin& form, toolkit::TextBox& box, int keyCode) {
     // A shrinking field makes the box shrink with it.
     box.Font.Name = field.Font.Name;
     box.Font.Size = field.Font.Size;
+    box.BaseLine = field.BaseLine;
     box.SelStart = start;
 }
 

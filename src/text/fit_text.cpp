@@ -2,8 +2,10 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "text/base_line.h"
 #include "text/fit.h"
 #include "toolkit/number_text.h"
+#include "view/image_size.h"
 
 namespace zev {
 namespace {
@@ -12,6 +14,15 @@ float fullSize(const Zevlin& form, int index) {
     const auto cell = static_cast<std::size_t>(index);
     const int size = cell < form.TextSizes.size() ? form.TextSizes[cell] : 1;
     return form.TextFontSize[size == 2 || size == 3 ? static_cast<std::size_t>(size) : 1];
+}
+
+/// A text of full size stands on its rule; a smaller one stands free, where its font puts it.
+toolkit::BaseLine lineOfFullSize(const Zevlin& form, const toolkit::Label& label) {
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    const float printedPixels = static_cast<float>(form.PBase.width()) / designWidth;
+    return baseLineOverRule(label.Top + toolkit::textAscent(label.Font),
+                            {.ofFields = form.TextScale * twips,
+                             .ofPrint = form.LastImageScale * printedPixels * twips});
 }
 
 void fit(Zevlin& form, int index) {
@@ -25,6 +36,8 @@ void fit(Zevlin& form, int index) {
                                                   .width = label.Width,
                                                   .text = label.Caption},
                                                  toolkit::textWidth);
+    label.BaseLine =
+        label.Font.Size == regular.Size ? lineOfFullSize(form, label) : toolkit::BaseLine{};
 }
 
 } // namespace

@@ -83,6 +83,11 @@ float textLeft(const toolkit::Label& label) {
     return label.Left + (label.Width - toolkit::textWidth(label.Font, label.Caption)) / 2;
 }
 
+/// Twips from the card's top to where the label's font puts its base line.
+float baseLineOf(const toolkit::Label& label) {
+    return label.Top + toolkit::textAscent(label.Font);
+}
+
 /// Whether any of a symbol can be seen: a text that is far too wide has more of them than the card
 /// could hold.
 bool liesNearCard(const Zevlin& form, float left) {
@@ -103,6 +108,8 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
     symbol.Move(left, label.Top - pixelsAboveField * twips,
                 form.Testtext.TextWidth(std::string_view(scanBuffer).substr(position, 2)),
                 label.Height + pixelsHigher * twips);
+    // A symbol is larger than its text, but stands on the same line.
+    symbol.BaseLine = label.BaseLine.movedBy(baseLineOf(label) - baseLineOf(symbol));
     symbol.Visible = true;
     shownSymbols(form, index).push_back(form.SText.UBound());
     stack(form, index, symbol);

@@ -9,8 +9,8 @@
 
 namespace toolkit {
 
-void ControlLooks::push(QWidget& widget, const Control& control, int widening) {
-    const QRect place = pixelRectangle(control).adjusted(-widening, 0, widening, 0);
+void ControlLooks::push(QWidget& widget, const Control& control, QMargins outset) {
+    const QRect place = pixelRectangle(control).marginsAdded(outset);
     if (place != widget.geometry()) widget.setGeometry(place);
     if (font_ != control.Font) {
         font_ = control.Font;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QtGui/QFontMetricsF>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
@@ -9,6 +10,7 @@
 
 #include "toolkit/qt_input.h"
 #include "toolkit/qt_text.h"
+#include "toolkit/screen.h"
 
 namespace toolkit {
 namespace {
@@ -50,7 +52,6 @@ EditBox::EditBox(QWidget& parent, Form& form, TextBox& box, const Control& conta
     hide();
     if (place == Place::Card) {
         setFrame(false);
-        setTextMargins(0, -ownTopMargin, 0, -ownTopMargin);
     } else {
         setTextMargins(ownMargin, 0, ownMargin, 0);
     }
@@ -86,7 +87,28 @@ void EditBox::push() {
     const Qt::Alignment wanted =
         qAlignment(box_.Alignment) | (place_ == Place::Card ? Qt::AlignTop : Qt::AlignVCenter);
     if (wanted != alignment()) setAlignment(wanted);
-    looks_.push(*this, box_, wideningOf(place_));
+    if (place_ == Place::Panel) return looks_.push(*this, box_, {});
+    const int line = baseLine();
+    const int bottom = pixelsFromTwips(box_.Top + box_.Height);
+    looks_.push(*this, box_, {ownMargin, 0, ownMargin, std::max(line - bottom, 0)});
+    pushBaseLine(line);
+}
+
+/// The row of the card below the text's feet, as the label's.
+int EditBox::baseLine() const {
+    const auto twips = static_cast<double>(twipsPerPixel());
+    const auto line = static_cast<double>(box_.Top + textAscent(box_.Font));
+    const auto pixels = [&](float below) { return (line + static_cast<double>(below)) / twips; };
+    const BaseLine& base = box_.BaseLine;
+    return qRound(paintedLine(pixels(base.Wanted), pixels(base.Highest), pixels(base.Lowest)));
+}
+
+/// A line edit puts its text at its top by its own measures of the font; the label goes by the
+/// exact ones, from its exact place.
+void EditBox::pushBaseLine(int line) {
+    const int own = y() + qRound(QFontMetricsF(font()).ascent()) + ownTopMargin;
+    const QMargins wanted(0, line - own, 0, -ownTopMargin);
+    if (wanted != textMargins()) setTextMargins(wanted);
 }
 
 void EditBox::pushText() {

@@ -7,6 +7,7 @@
 #include <QtGui/QPainter>
 
 #include "toolkit/qt_geometry.h"
+#include "toolkit/qt_run_picture.h"
 #include "toolkit/text_painter.h"
 
 namespace toolkit {
@@ -41,6 +42,27 @@ std::size_t firstLine(const Label& label, std::string_view text) {
     return length;
 }
 
+/// A base line in the painter's own coordinates, and whether it is a whole row of the device.
+struct PaintedLine {
+    double y = 0;
+    bool isWhole = true;
+};
+
+/// Rounded once, from the exact place: the base line of a text keeps to its printed rule, and a
+/// mark to its box, as well as the rows of the screen allow.
+PaintedLine paintedLineOf(const Label& label, const QTransform& device) {
+    const double rowsPerTwip = device.m22() / twipsPerPixel();
+    const auto line = static_cast<double>(label.Top + textAscent(label.Font));
+    const auto rows = [&](float below) {
+        return (line + static_cast<double>(below)) * rowsPerTwip;
+    };
+    const BaseLine& base = label.BaseLine;
+    const double row = paintedLine(rows(base.Wanted), rows(base.Highest), rows(base.Lowest));
+    // The picture below begins on a whole row of the device, whatever lies above the card.
+    const double start = std::round(device.dy());
+    return {(row + start - device.dy()) / device.m22(), row == std::nearbyint(row)};
+}
+
 } // namespace
 
 QRect paintedRectangle(const Label& label) {
@@ -64,11 +86,10 @@ void paintLabel(QPainter& painter, const Label& label) {
     if (text.empty()) return;
     const auto scale = static_cast<double>(twipsPerPixel());
     const float offset = textOffset(label, textWidth(label.Font, text));
-    // Rounded once, from the exact place: the base line of a text keeps to its printed rule, and a
-    // mark to its box, as well as whole pixels allow.
-    const QPointF origin(static_cast<double>(label.Left + offset) / scale,
-                         pixelsFromTwips(label.Top + textAscent(label.Font)));
-    drawRun(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
+    const PaintedLine line = paintedLineOf(label, painter.deviceTransform());
+    const QPointF origin(static_cast<double>(label.Left + offset) / scale, line.y);
+    const auto draw = line.isWhole ? drawRun : drawRunBetweenRows;
+    draw(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
 }
 
 } // namespace toolkit

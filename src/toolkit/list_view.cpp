@@ -40,7 +40,7 @@ void ListView::push() {
         pushIndex();
         if (const QString tip = qString(list_.ToolTip); tip != toolTip()) setToolTip(tip);
     }
-    looks_.push(*this, list_, 0);
+    looks_.push(*this, list_, {});
 }
 
 void ListView::pushIndex() {

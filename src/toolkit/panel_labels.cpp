@@ -44,8 +44,10 @@ void paintFramedLabel(QPainter& painter, const Label& label) {
     text.Top += (label.Height - text.Height) / 2;
     paintLabel(painter, text);
     painter.setClipping(false);
-    painter.setPen(frameColor(qColor(label.BackColor)));
-    painter.drawRect(pixelRectangle(label).adjusted(0, 0, -1, -1));
+    // Filled, not drawn: a pen lies half beside its line where a pixel is several of the screen's.
+    const QRect place = pixelRectangle(label);
+    for (const QRect& edge : QRegion(place) - place.adjusted(1, 1, -1, -1))
+        painter.fillRect(edge, frameColor(qColor(label.BackColor)));
 }
 
 void paintWrappedLabel(QPainter& painter, const Label& label) {

@@ -36,7 +36,7 @@ class Shown : public Widget {
     bool focusNextPrevChild(bool /*next*/) override { return false; }
 
     void pushLooks() {
-        looks_.push(*this, control_, 0);
+        looks_.push(*this, control_, {});
         if (this->isEnabled() != control_.Enabled) this->setEnabled(control_.Enabled);
     }
 

@@ -3,6 +3,7 @@
 
 #include <optional>
 
+#include <QtCore/QMargins>
 #include <QtCore/QPoint>
 
 #include "toolkit/form.h"
@@ -16,8 +17,8 @@ namespace toolkit {
 /// Gives a widget the place, font, colours and visibility of its control, each only on a change.
 class ControlLooks {
   public:
-    /// `widening` pixels are added at the left and the right of the control's place.
-    void push(QWidget& widget, const Control& control, int widening);
+    /// The widget is larger than the control's place by the pixels of `outset`.
+    void push(QWidget& widget, const Control& control, QMargins outset);
 
   private:
     std::optional<FontSpec> font_;

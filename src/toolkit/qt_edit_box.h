@@ -46,6 +46,8 @@ class EditBox : public QLineEdit {
     [[nodiscard]] Selection shownSelection() const;
     void pushText();
     void pushSelection();
+    [[nodiscard]] int baseLine() const;
+    void pushBaseLine(int line);
     void convertTyped();
     void noteEdit();
 

@@ -23,12 +23,23 @@ TEST_F(ControlLooks, BoxCoversItsPlaceAndTwoPixelsAtEitherSide) {
 TEST_F(ControlLooks, BoxFollowsItsControl) {
     openBox("");
     card.Picture = std::make_shared<Bitmap>(400, 300, rgb(10, 10, 10));
-    box.Move(px(200), px(100), px(50), px(5));
+    box.Move(px(200), px(100), px(50), px(20));
     box.BackColor = rgb(255, 255, 160);
     const Bitmap shown = test::grabCard();
-    EXPECT_EQ(shown.pixel(240, 104), rgb(255, 255, 160));
-    EXPECT_EQ(shown.pixel(240, 105), rgb(10, 10, 10));
+    EXPECT_EQ(shown.pixel(240, 119), rgb(255, 255, 160));
+    EXPECT_EQ(shown.pixel(240, 120), rgb(10, 10, 10));
     EXPECT_EQ(shown.pixel(100, 30), rgb(10, 10, 10));
+}
+
+TEST_F(ControlLooks, LowBoxOverTheCardReachesDownToItsTextsFeet) {
+    openBox("");
+    card.Picture = std::make_shared<Bitmap>(400, 300, rgb(10, 10, 10));
+    box.Font = {.Name = "Arial", .Size = 12};
+    box.Move(px(200), px(100), px(50), px(5));
+    const int line = 100 + pixelsFromTwips(textAscent(box.Font));
+    const Bitmap shown = test::grabCard();
+    EXPECT_EQ(shown.pixel(240, line - 1), white);
+    EXPECT_EQ(shown.pixel(240, line), rgb(10, 10, 10));
 }
 
 TEST_F(ControlLooks, TextTakesTheControlsColour) {

@@ -1,4 +1,6 @@
 // A label, pixel by pixel.
+#include <cmath>
+
 #include "painting.h"
 
 namespace window_test {
@@ -51,6 +53,61 @@ TEST_F(LabelPainter, TextIsPaintedAsDrawTextPaintsIt) {
     for (int y = 0; y < 300; ++y)
         for (int x = 0; x < 400; ++x) ASSERT_EQ(shown.pixel(x, y), expected.pixel(x, y));
     EXPECT_GT(inkOf(shown).right, 60);
+}
+
+/// How dark the pixels of a row are, together.
+int darknessOf(const Bitmap& shown, int y) {
+    int sum = 0;
+    for (int x = 0; x < shown.width(); ++x) sum += 255 - redOf(shown.pixel(x, y).value_or(white));
+    return sum;
+}
+
+TEST_F(LabelPainter, BaseLineIsPaintedOnARowOfItsLimits) {
+    place(texts[1], 50, 60, 200, 40);
+    write(texts[1], "IIII", Alignment::Left);
+    const int own = inkOf(test::grabCard()).bottom;
+    texts[1].BaseLine = {.Wanted = 0, .Highest = px(2), .Lowest = px(4)};
+    EXPECT_NEAR(inkOf(test::grabCard()).bottom, own + 2, 1);
+    texts[1].BaseLine = {.Wanted = px(10), .Highest = 0, .Lowest = px(20)};
+    EXPECT_EQ(inkOf(test::grabCard()).bottom, own + 10);
+}
+
+TEST_F(LabelPainter, BaseLineBetweenTwoRowsShowsItsFraction) {
+    place(texts[1], 50, 60, 200, 40);
+    write(texts[1], "IIII", Alignment::Left);
+    const float line = 60 + textAscent(texts[1].Font) / px(1);
+    const int row = static_cast<int>(line) + 1;
+    for (const float fraction : {0.25F, 0.5F, 0.75F}) {
+        const float below = (static_cast<float>(row) + fraction - line) * px(1);
+        texts[1].BaseLine = {.Wanted = below, .Highest = below, .Lowest = below};
+        const Bitmap shown = test::grabCard();
+        const auto stem = static_cast<float>(darknessOf(shown, row - 3));
+        EXPECT_NEAR(static_cast<float>(darknessOf(shown, row)) / stem, fraction, 0.03F);
+        EXPECT_EQ(darknessOf(shown, row + 1), 0) << fraction;
+    }
+}
+
+TEST_F(LabelPainter, TextBetweenRowsIsAsDarkAsOneOnARow) {
+    place(texts[1], 50, 60, 200, 40);
+    write(texts[1], "Weak jump shifts", Alignment::Left);
+    const auto ink = [&] {
+        const Bitmap shown = test::grabCard();
+        int sum = 0;
+        for (int y = 0; y < shown.height(); ++y) sum += darknessOf(shown, y);
+        return sum;
+    };
+    const int whole = ink();
+    texts[1].BaseLine = {.Wanted = 7, .Highest = 7, .Lowest = 7};
+    EXPECT_NEAR(ink(), whole, whole / 20);
+}
+
+TEST_F(LabelPainter, SharpScreenPutsTheBaseLineOnItsOwnRows) {
+    place(texts[1], 50, 60, 200, 40);
+    write(texts[1], "IIII", Alignment::Left);
+    const float line = 60 + textAscent(texts[1].Font) / px(1);
+    const float below = (std::ceil(line) + 0.5F - line) * px(1);
+    texts[1].BaseLine.Wanted = below;
+    EXPECT_EQ(inkOf(test::grabCardAt(2)).bottom, 2 * static_cast<int>(std::ceil(line)));
 }
 
 TEST_F(LabelPainter, CentredAndRightTextStandWhereTheirWidthsPutThem) {

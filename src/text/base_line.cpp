@@ -1,0 +1,21 @@
+#include "text/base_line.h"
+
+#include <cmath>
+
+namespace zev {
+namespace {
+
+/// A text that stands on its rule, to the precision of a place in twips, is above it.
+constexpr float precision = 1.0F / 256;
+
+} // namespace
+
+toolkit::BaseLine baseLineOverRule(float base, const DesignPixel& pixel) {
+    if (!(pixel.ofFields > 0 && pixel.ofPrint > 0)) return {};
+    const float rule = std::ceil(base / pixel.ofFields - precision);
+    return {.Wanted = 0,
+            .Highest = (rule - 1) * pixel.ofPrint - base,
+            .Lowest = rule * pixel.ofPrint - base};
+}
+
+} // namespace zev
