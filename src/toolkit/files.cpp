@@ -73,11 +73,24 @@ std::optional<fs::path> replaceablePlace(const fs::path& path) {
     return isLink ? fs::canonical(path, ignored) : path;
 }
 
-/// A disk without room still takes what isn't longer than what it has.
+/// Makes the file as long as the content, within the blocks that it has already.
+bool grow(const fs::path& path, std::uintmax_t length, std::string_view content) {
+    if (length >= content.size()) return true;
+    try {
+        writeContent(path, FileMode::Append, content.substr(static_cast<std::size_t>(length)));
+        return true;
+    } catch (const RunTimeError&) {
+        std::error_code ignored;
+        fs::resize_file(path, length, ignored);
+        return false;
+    }
+}
+
+/// A disk without room still takes what needs no more blocks than the file has.
 bool overwrite(const fs::path& path, std::string_view content) {
     std::error_code error;
     const std::uintmax_t length = fs::file_size(path, error);
-    if (error || length < content.size()) return false;
+    if (error || !grow(path, length, content)) return false;
     writeContent(path, FileMode::Update, content);
     fs::resize_file(path, content.size(), error);
     return !error;

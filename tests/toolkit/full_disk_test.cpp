@@ -55,7 +55,7 @@ TEST(FullDisk, WhatFindsNoRoomLeavesTheOldContent) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / ""), {}), 1);
 }
 
-TEST(FullDisk, WhatDoesntGrowIsStillWritten) {
+TEST(FullDisk, WhatNeedsNoMoreBlocksIsStillWritten) {
     const TemporaryFolder folder;
     const test_system::SmallDisk disk(folder.path(), 64);
     if (!disk.isThere()) GTEST_SKIP() << "no disk can be made here: " << disk.refusal();
@@ -65,6 +65,8 @@ TEST(FullDisk, WhatDoesntGrowIsStillWritten) {
     EXPECT_EQ(readFile(folder / "f"), std::string(5000, 'y'));
     EXPECT_EQ(failureOf([&] { writeFile(folder / "f", std::string(9000, 'z')); }), 61);
     EXPECT_EQ(readFile(folder / "f"), std::string(5000, 'y'));
+    writeFile(folder / "f", std::string(8000, 'w')); // within the same blocks
+    EXPECT_EQ(readFile(folder / "f"), std::string(8000, 'w'));
     EXPECT_EQ(failureOf([&] { writeFile(folder / "g", "new"); }), 61);
     EXPECT_FALSE(fs::exists(folder / "g"));
     disk.giveRoom();

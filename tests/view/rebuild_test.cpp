@@ -78,7 +78,7 @@ TEST_F(Rebuild, WhileTheProgramInitializesOnlyTheOptionsAreWritten) {
     form.Initializing = true;
     form.Trace.clear();
     RebuildScreenImage(form);
-    EXPECT_EQ(traceLines(), (std::vector<std::string>{"RebuildScreenImage", "IniWrite"}));
+    EXPECT_EQ(traceLines(), (std::vector<std::string>{"RebuildScreenImage", "IniWrite", "WinVer"}));
     form.Initializing = false;
 }
 
