@@ -87,10 +87,11 @@ void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
 }
 
 std::string readOut(int index, const toolkit::Label& field) {
-    return numberText(index) + ": (" + numberText(field.Left) + "," + numberText(field.Top) +
-           ") - (" + numberText(field.Left + field.Width) + "," +
-           numberText(field.Top + field.Height) + ")  [" + numberText(field.Width) + "*" +
-           numberText(field.Height) + "]";
+    // Fractions of a twip say nothing to a reader.
+    const auto twips = [](float value) { return numberText(toolkit::roundToInteger(value)); };
+    return numberText(index) + ": (" + twips(field.Left) + "," + twips(field.Top) + ") - (" +
+           twips(field.Left + field.Width) + "," + twips(field.Top + field.Height) + ")  [" +
+           twips(field.Width) + "*" + twips(field.Height) + "]";
 }
 
 std::string placeText(const toolkit::Label& label) {

@@ -22,7 +22,7 @@ void SText_Click(Zevlin& form, int index);
 /// Lets SPACE and TAB act on this mark while the cursor stays where it is now.
 void rememberTabMark(Zevlin& form, int index);
 
-/// A field's number, corners and size, as the read-out of the menu bar shows them.
+/// A field's number, corners and size in whole twips, as the read-out of the menu bar shows them.
 [[nodiscard]] std::string readOut(int index, const toolkit::Label& field);
 
 /// "left, top, width, height" for traces.

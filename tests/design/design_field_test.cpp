@@ -27,5 +27,12 @@ TEST_F(DesignFields, TheReadOutTellsNumberCornersAndSize) {
     EXPECT_EQ(form.MCoord.Caption, "2: (1500,6000) - (6000,6240)  [4500*240]");
 }
 
+TEST_F(DesignFields, TheReadOutTellsWholeTwips) {
+    start();
+    form.AText[2].Move(1500.25F, 6000.75F, 4500.5F, 240);
+    showReadOut(form, {FieldKind::Text, 2});
+    EXPECT_EQ(form.MCoord.Caption, "2: (1500,6001) - (6001,6241)  [4500*240]");
+}
+
 } // namespace
 } // namespace zev::test
