@@ -114,10 +114,17 @@ void switchMode(Zevlin& form, bool designing) {
     form.MCoord.Caption.clear();
 }
 
-void enterDesign(Zevlin& form) {
-    const KeptPlace place(form);
+/// Where the card has the focus nothing is open, and whoever only comes back to design mode must
+/// not show the blank card in between.
+void commitEdit(Zevlin& form) {
+    if (form.ActiveControl == &form.P1) return;
     form.SetFocus(form.P1);
     toolkit::doEvents();
+}
+
+void enterDesign(Zevlin& form) {
+    const KeptPlace place(form);
+    commitEdit(form);
     if (!letsGoOfCard(form)) return;
     form.SchemeBeforeDesign = static_cast<std::int16_t>(ColorSchemeIndex(form));
     checkScheme(form, 0);

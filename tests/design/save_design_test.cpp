@@ -38,6 +38,17 @@ TEST_F(SaveDesign, TheModeStaysOnWithAllMarksShown) {
     EXPECT_TRUE(holdsMarkAt(1, 100, 100));
 }
 
+/// The mode is left and entered again, but nobody is to see the blank card in between.
+TEST_F(SaveDesign, NothingFlashes) {
+    design();
+    settle();
+    const int before = cardPaints().pixels;
+    choose("Design>Save Design");
+    settle();
+    EXPECT_LT(static_cast<float>(cardPaints().pixels - before),
+              form.P1.Width / pixel * form.P1.Height / pixel / 10);
+}
+
 TEST_F(SaveDesign, WhatWasSavedIsThereAfterLeavingAndAtTheNextStart) {
     design();
     dragLabel(form.AMark[2], 7, 3);
