@@ -20,6 +20,7 @@
 #include "toolkit/ansi.h"
 #include "toolkit/qt_font_face.h"
 #include "toolkit/qt_geometry.h"
+#include "toolkit/text_painter.h"
 
 namespace toolkit {
 namespace {
@@ -30,7 +31,7 @@ constexpr double outlineSize = 64;
 constexpr double places = 64;
 /// More texts than a card has areas.
 constexpr std::size_t mostPictures = 512;
-/// What is wider isn't kept; a file may bring a text of any length.
+/// A file may bring a text of any length; one that is wider stands on a row after all.
 constexpr int widestPicture = 4096;
 
 /// The fonts' outlines at one size, by the byte of the text.
@@ -135,7 +136,8 @@ void drawRunBetweenRows(QPainter& painter, QPointF baselineOrigin, const FontSpe
                                                   .across = part(whole.x(), origin.x()),
                                                   .down = part(whole.y(), origin.y()),
                                                   .text = std::string(text)});
-    if (picture.image.isNull()) return;
+    if (picture.image.isNull())
+        return drawRun(painter, baselineOrigin, font, pixelsPerTwip, color, text);
     const QPointF corner = device.inverted().map(whole + picture.corner);
     const QSizeF size = QSizeF(picture.image.size()) / ratio;
     painter.drawImage(QRectF(corner, size), picture.image);
