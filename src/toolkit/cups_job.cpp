@@ -1,5 +1,6 @@
 // A page on its way to the print service.
 #include <algorithm>
+#include <cmath>
 
 #include "toolkit/ansi.h"
 #include "toolkit/cups_library.h"
@@ -42,13 +43,31 @@ const Item* itemWithCode(const std::vector<Item>& items, int code) {
     return found == items.end() ? nullptr : &*found;
 }
 
+std::string hundredthsOfMillimetres(float inches) {
+    constexpr float inAnInch = 2540;
+    return std::to_string(std::lround(inches * inAnInch));
+}
+
+/// The service heeds a tray only together with the paper in it.
+void addMedia(Options& options, const Printer& printer) {
+    const Paper* paper = itemWithCode(printer.Papers, printer.PaperSize);
+    if (paper == nullptr) return;
+    const PaperTray* tray = itemWithCode(printer.Trays, printer.PaperBin);
+    if (tray == nullptr) return options.add(CUPS_MEDIA, paper->keyword);
+    options.add("media-col", "{media-size={x-dimension=" + hundredthsOfMillimetres(paper->width) +
+                                 " y-dimension=" + hundredthsOfMillimetres(paper->height) +
+                                 "} media-source=" + tray->keyword + "}");
+}
+
 /// The page comes at its own size and direction, so the service must neither scale nor turn it.
 void addChoices(Options& options, const Printer& printer) {
+    for (const JobOption& option : printer.JobOptions)
+        options.add(option.keyword.c_str(), option.value);
     options.add("print-scaling", "none");
-    if (const Paper* paper = itemWithCode(printer.Papers, printer.PaperSize))
-        options.add(CUPS_MEDIA, paper->keyword);
-    if (const PaperTray* tray = itemWithCode(printer.Trays, printer.PaperBin))
-        options.add(CUPS_MEDIA_SOURCE, tray->keyword);
+    addMedia(options, printer);
+    // A grey page on its own is mixed from all inks.
+    if (printer.ColorMode == 1)
+        options.add(CUPS_PRINT_COLOR_MODE, CUPS_PRINT_COLOR_MODE_MONOCHROME);
     if (printer.Copies > 1) options.add(CUPS_COPIES, std::to_string(printer.Copies));
 }
 

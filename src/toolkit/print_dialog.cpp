@@ -1,18 +1,21 @@
 #include "toolkit/print_dialog.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include <QtCore/QDir>
 #include <QtCore/QTimer>
 #include <QtCore/QUuid>
 #include <QtPrintSupport/QPrintDialog>
+#include <QtPrintSupport/QPrintEngine>
 #include <QtPrintSupport/QPrinter>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QDialogButtonBox>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QPushButton>
 
+#include "toolkit/ansi.h"
 #include "toolkit/qt_answers.h"
 #include "toolkit/qt_delivery.h"
 #include "toolkit/qt_text.h"
@@ -22,6 +25,10 @@ namespace toolkit {
 namespace {
 
 constexpr double millimetresInAnInch = 25.4;
+
+/// Where Qt keeps what its dialog offers of the print service's own options.
+constexpr auto serviceOptions = QPrintEngine::PrintEnginePropertyKey(0xFE00);
+constexpr int monochrome = 1;
 
 PrinterChoice& answerInPlace() {
     static PrinterChoice answer;
@@ -39,6 +46,14 @@ void nameButtons(QPrintDialog& dialog) {
                 button->setText(QStringLiteral("OK"));
 }
 
+void hideParts(const QPrintDialog& dialog, std::initializer_list<const char*> names) {
+    for (const char* name : names)
+        if (auto* part = dialog.findChild<QWidget*>(QString::fromLatin1(name))) part->hide();
+}
+
+/// A card is one page.
+void hidePageRange(const QPrintDialog& dialog) { hideParts(dialog, {"gbPrintRange", "reverse"}); }
+
 /// The dialog's own way of printing to a file is our printer of that kind, which asks for the file
 /// when a page is printed.
 void nameFilePrinter(QPrintDialog& dialog) {
@@ -49,8 +64,7 @@ void nameFilePrinter(QPrintDialog& dialog) {
     // A name that is taken would be asked about.
     if (auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename")))
         file->setText(QDir::temp().filePath(QUuid::createUuid().toString(QUuid::WithoutBraces)));
-    for (const char* name : {"lOutput", "filename", "fileBrowser"})
-        if (auto* part = dialog.findChild<QWidget*>(QString::fromLatin1(name))) part->hide();
+    hideParts(dialog, {"lOutput", "filename", "fileBrowser"});
 }
 
 void setUp(QPrinter& target, const Printer& present) {
@@ -65,6 +79,8 @@ void setUp(QPrinter& target, const Printer& present) {
         target.setPageSize(QPageSize(size, QPageSize::Inch, QString(), QPageSize::FuzzyMatch));
     }
     target.setPageOrientation(isLandscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    target.setCopyCount(present.Copies);
+    if (present.ColorMode == monochrome) target.setColorMode(QPrinter::GrayScale);
 }
 
 /// The printer's paper that is nearest to the chosen size.
@@ -84,6 +100,34 @@ int paperLike(const Printer& printer, const QSizeF& millimetres) {
     return code;
 }
 
+/// The tray that the service calls so.
+const PaperTray* trayCalled(const Printer& printer, std::string_view name) {
+    const auto tray = std::ranges::find_if(printer.Trays, [&](const PaperTray& each) {
+        return lowerCase(each.keyword) == lowerCase(name) || each.name == name;
+    });
+    return tray == printer.Trays.end() ? nullptr : &*tray;
+}
+
+/// Copies, colour, tray, and what else the service's own options offer.
+void takeJobChoices(Printer& printer, const QPrinter& target) {
+    printer.Copies = target.copyCount();
+    if (target.colorMode() == QPrinter::GrayScale) {
+        constexpr int monochromeDepth = 8;
+        printer.ColorMode = monochrome;
+        printer.BitsPerPixel = monochromeDepth;
+    }
+    const QStringList options = target.printEngine()->property(serviceOptions).toStringList();
+    for (qsizetype i = 0; i + 1 < options.size(); i += 2) {
+        const std::string keyword = options[i].toStdString();
+        const std::string value = options[i + 1].toStdString();
+        const PaperTray* tray = keyword == "InputSlot" ? trayCalled(printer, value) : nullptr;
+        if (tray != nullptr)
+            printer.PaperBin = tray->code;
+        else if (!value.empty())
+            printer.JobOptions.push_back({keyword, value});
+    }
+}
+
 Printer chosenPrinter(const QPrinter& target) {
     const bool isFile = target.outputFormat() == QPrinter::PdfFormat;
     Printer printer =
@@ -93,12 +137,7 @@ Printer chosenPrinter(const QPrinter& target) {
                                                                             : Orientation::Portrait;
     layOutPage(printer, paperLike(printer, layout.pageSize().size(QPageSize::Millimeter)),
                orientation);
-    printer.Copies = isFile ? 1 : target.copyCount();
-    if (!isFile && target.colorMode() == QPrinter::GrayScale) {
-        constexpr int monochromeDepth = 8;
-        printer.ColorMode = 1;
-        printer.BitsPerPixel = monochromeDepth;
-    }
+    if (!isFile) takeJobChoices(printer, target);
     return printer;
 }
 
@@ -114,7 +153,10 @@ std::optional<Printer> setUpOnScreen(const Printer& present) {
     dialog.setWindowTitle(QStringLiteral("Printer Setup"));
     nameButtons(dialog);
     // The dialog makes these parts when it comes up.
-    QTimer::singleShot(0, &dialog, [&dialog] { nameFilePrinter(dialog); });
+    QTimer::singleShot(0, &dialog, [&dialog] {
+        nameFilePrinter(dialog);
+        hidePageRange(dialog);
+    });
     const bool isAccepted = dialog.exec() == QDialog::Accepted;
     rethrowKept();
     if (!isAccepted) return std::nullopt;

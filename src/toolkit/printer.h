@@ -26,6 +26,12 @@ struct PaperTray {
     std::string keyword;
 };
 
+/// A choice beyond what the program knows of, in the print service's own words.
+struct JobOption {
+    std::string keyword;
+    std::string value;
+};
+
 enum class Orientation : int { Portrait = 1, Landscape = 2 };
 
 /// Facts of a printer as the system reports them. Sizes in twips.
@@ -53,6 +59,7 @@ struct Printer {
     bool CanTurn = true; ///< whether the orientation can be chosen
     std::vector<Paper> Papers;
     std::vector<PaperTray> Trays;
+    std::vector<JobOption> JobOptions;
 };
 
 /// Computes all that follows from resolution, paper and orientation. A paper that the printer

@@ -14,7 +14,7 @@ BACKEND = """#!/bin/sh
 # Keeps the job's page: job number, user, title, copies, options and maybe a file.
 [ $# -eq 0 ] && echo 'direct keep "Unknown" "Keeps each job"' && exit 0
 if [ $# -ge 6 ]; then cat "$6"; else cat; fi >"{jobs}/part" &&
-echo "$5" >"{jobs}/$1.options" && mv "{jobs}/part" "{jobs}/$1.pdf"
+echo "copies=$4 $5" >"{jobs}/$1.options" && mv "{jobs}/part" "{jobs}/$1.pdf"
 """
 
 PPD = """*PPD-Adobe: "4.3"
@@ -165,6 +165,11 @@ class PrintService:
     def pages(self):
         """The files of the jobs so far, in their order."""
         return sorted(self.jobs.glob("*.pdf"), key=lambda path: int(path.stem))
+
+    def options(self, job):
+        """What the job asks of the printer, by its names."""
+        told = (self.jobs / f"{job}.options").read_text().split()
+        return dict(option.split("=", 1) for option in told if "=" in option)
 
     def stop(self):
         self.process.terminate()
