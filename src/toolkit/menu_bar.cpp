@@ -59,7 +59,19 @@ void MenuBar::push() {
         entry->action->setVisible(item.Visible);
         entry->action->setEnabled(item.Enabled);
     }
-    if (isEnabled() != parts_.form->MenusEnabled) setEnabled(parts_.form->MenusEnabled);
+    const Form& form = *parts_.form;
+    if (isEnabled() == form.MenusEnabled) return;
+    showRest(form.MousePointer == MousePointer::Hourglass ? Rest::OfAMoment : Rest::Lasting);
+    setEnabled(form.MenusEnabled);
+}
+
+/// While the program works for a moment, words that turn grey and back would only flicker.
+void MenuBar::showRest(Rest rest) {
+    QPalette looks;
+    if (rest == Rest::OfAMoment)
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            looks.setColor(QPalette::Disabled, role, looks.color(QPalette::Active, role));
+    setPalette(looks);
 }
 
 bool MenuBar::hasMenu(std::size_t row) const {

@@ -38,6 +38,9 @@ class MenuBar : public QMenuBar {
         std::string caption;
     };
 
+    enum class Rest { Lasting, OfAMoment };
+
+    void showRest(Rest rest);
     void addEntry(std::size_t row);
     void fill(QMenu& menu, std::size_t first, int level);
     std::size_t addRow(QMenu& menu, std::size_t row);

@@ -1,6 +1,13 @@
 """Prints, exports and copies a filled-in card with the whole program, and looks at what others get:
 a real print service, the page drawn by a PDF viewer, image files, another program's paste."""
 
+import ctypes
+import re
+import threading
+import time
+import zlib
+
+import clipboard_manager
 import print_service
 import whole_program
 from whole_program import desktop
@@ -89,6 +96,49 @@ class PrintingTest(whole_program.WholeProgramTest):
         program.wait_for_title(rf"\( {CARD} \)$")
 
 
+class Lookout:
+    """Looks at a part of the screen at short intervals, which takes a library rather than a program.
+    Looks are told apart by their sums."""
+
+    ALL_PLANES = ctypes.c_ulong(-1)
+    ROWS_OF_PIXELS = 2  # the format
+
+    class Image(ctypes.Structure):
+        _fields_ = [("width", ctypes.c_int), ("height", ctypes.c_int), ("offset", ctypes.c_int),
+                    ("format", ctypes.c_int), ("data", ctypes.POINTER(ctypes.c_char)),
+                    ("order", ctypes.c_int * 4), ("depth", ctypes.c_int),
+                    ("row_bytes", ctypes.c_int)]
+
+    def __init__(self, left, top, width, height):
+        self.x11 = ctypes.CDLL("libX11.so.6")
+        self.x11.XOpenDisplay.restype = ctypes.c_void_p
+        self.x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        self.x11.XGetImage.restype = ctypes.POINTER(self.Image)
+        self.display = ctypes.c_void_p(self.x11.XOpenDisplay(None))
+        self.root = ctypes.c_ulong(self.x11.XDefaultRootWindow(self.display))
+        self.place = (left, top, width, height)
+        self.image = self.x11.XGetImage(self.display, self.root, *self.place, self.ALL_PLANES,
+                                        self.ROWS_OF_PIXELS)
+
+    def look(self):
+        self.x11.XGetSubImage(self.display, self.root, *self.place, self.ALL_PLANES,
+                              self.ROWS_OF_PIXELS, self.image, 0, 0)
+        image = self.image.contents
+        return zlib.crc32(ctypes.string_at(image.data, image.row_bytes * image.height))
+
+    def looks_while(self, goes_on, interval=0.02):
+        """What was seen as long as the condition held."""
+        looks = []
+        while goes_on():
+            due = time.monotonic() + interval
+            looks.append(self.look())
+            time.sleep(max(0, due - time.monotonic()))
+        return looks
+
+    def close(self):
+        self.x11.XCloseDisplay(self.display)
+
+
 class PrintServiceTest(PrintingTest):
     def setUp(self):
         self.service = print_service.PrintService(self.home.folder.parent / "service")
@@ -116,6 +166,39 @@ class PrintServiceTest(PrintingTest):
         own, first, second = (page_picture(page).part(0, 0, 2550, 2400) for page in pages)
         self.assertEqual(own, first)
         self.assertNotEqual(first, second)
+        self.leave(program)
+
+    def test_the_picture_freezes_and_never_flickers(self):
+        self.service.add("Office", default=True)
+        program = self.start_with_card()
+        card = desktop.Card(program)
+        shell = desktop.xdotool("getwindowgeometry", "--shell", program.window)
+        width, height = (int(re.search(rf"{name}=(\d+)", shell)[1])
+                         for name in ("WIDTH", "HEIGHT"))
+        # From the menu bar down.
+        lookout = Lookout(round(card.left), round(card.top) - 20, width - 40, height - 60)
+        self.addCleanup(lookout.close)
+        frozen = lookout.look()
+        options = self.home.data / "ZEV.Ini"
+
+        def is_at_full_size():
+            return b"Zoom=11" in options.read_bytes()
+        key = threading.Thread(target=program.press, args=("ctrl+p",))
+        key.start()
+        before = lookout.looks_while(lambda: not is_at_full_size())
+        during = lookout.looks_while(is_at_full_size)
+        self.wait_for_pages(1)
+        end = time.monotonic() + 1
+        after = lookout.looks_while(lambda: time.monotonic() < end)
+        key.join()
+        looks = before + during + after
+        # The restored card may have a new time stamp.
+        restored = looks[-1]
+        switch = looks.index(restored)
+        self.assertGreater(len(during), 0)
+        self.assertEqual(set(looks[:switch]), {frozen} if switch else set())
+        self.assertEqual(set(looks[switch:]), {restored})
+        print(f"{len(before)}, {len(during)} and {len(after)} looks before, in and after the job")
         self.leave(program)
 
     def test_prints_grey_and_black_on_a_printer_without_colour(self):
@@ -222,6 +305,18 @@ class FilesTest(PrintingTest):
         self.assertEqual(left.part(0, 0, left.width, above_stamp),
                          right.part(0, 0, right.width, above_stamp))
         self.leave(program)
+
+    def test_a_clipboard_manager_keeps_the_picture_when_the_program_ends(self):
+        manager = clipboard_manager.ClipboardManager()
+        program = self.start_with_card()
+        program.choose_in_file_menu(COPY)
+        desktop.wait_for("the picture on the clipboard",
+                         lambda: desktop.picture_on_clipboard("png"))
+        self.leave(program)
+        self.assertIsNotNone(manager.picture)
+        kept = self.home.folder / "kept.png"
+        kept.write_bytes(manager.picture)
+        self.assertEqual(desktop.picture_in(kept).width, 1198)
 
     def test_image_files_are_read_by_others(self):
         program = self.start_with_card()
