@@ -45,7 +45,7 @@ class PictureDelivery {
         flatten();
         bool isRefused = false;
         if (isExporting(form_))
-            runStep(1000, [this] { exportPicture(); });
+            exportPicture();
         else
             isRefused = !printPicture();
         if (isRefused) return;
@@ -143,6 +143,12 @@ class PictureDelivery {
     }
 
     void exportPicture() {
+        runStep(1000, [this] { scaleAndHandOver(); });
+        forget(form_.PDisk);
+        form_.PDisk.Move(form_.PDisk.Left, form_.PDisk.Top, resting, resting);
+    }
+
+    void scaleAndHandOver() {
         forget(form_.PDisk);
         constexpr float half = 0.5F;
         const float view = form_.ZoomTable.at(static_cast<std::size_t>(form_.ZoomLevel));
@@ -154,8 +160,6 @@ class PictureDelivery {
             toolkit::setClipboardPicture(*form_.PDisk.Picture);
         else
             SaveImageToDisk(form_, form_.PDisk);
-        forget(form_.PDisk);
-        form_.PDisk.Move(form_.PDisk.Left, form_.PDisk.Top, resting, resting);
     }
 
     /// The picture and what it was drawn from.
