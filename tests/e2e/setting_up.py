@@ -77,8 +77,7 @@ class SettingUpTest(whole_program.WholeProgramTest):
                      ("ctrl+shift+Tab",), ("shift+Tab", "shift+Tab", "Down"),  # the lower tray
                      ("Return",)):
             self.press_in(program, "^Printer Properties$", *keys)
-        for keys in (("alt+o",), ("Tab", "Tab", "Tab", "Up", "Up"),  # three copies
-                     ("Return",)):
+        for keys in (("alt+o",), ("Tab", "Tab", "Tab", "Up", "Up", "Return")):  # three copies
             self.press_in(program, "^Printer Setup$", *keys)
         self.wait_for_set_up()
         (width, height), options = self.page_and_options(program)
