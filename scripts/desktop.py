@@ -30,7 +30,7 @@ def value_within(seconds, condition):
     return None
 
 
-def wait_for(what, condition, seconds=30):
+def wait_for(what, condition, seconds=60):
     """The condition's value as soon as it is true; an error that says what was missed."""
     value = value_within(seconds, condition)
     if not value:
@@ -81,9 +81,10 @@ def picture_in(path):
 
 def picture_on_clipboard(kind):
     """The bytes of the picture, as another program gets them that asks for that kind; else None."""
-    found = subprocess.run(["xclip", "-selection", "clipboard", "-t", f"image/{kind}", "-o"],
-                           capture_output=True, timeout=20)
-    return found.stdout if found.returncode == 0 else None
+    try:
+        return output_of("xclip", "-selection", "clipboard", "-t", f"image/{kind}", "-o")
+    except (subprocess.CalledProcessError, subprocess.TimeoutExpired):
+        return None
 
 
 def save_screenshot(path):
@@ -217,7 +218,8 @@ class Program:
         for _ in range(ATTEMPTS):
             if value_within(2, has_focus):
                 return
-            xdotool("windowactivate", window)
+            # It may be gone by then.
+            subprocess.run(["xdotool", "windowactivate", window], capture_output=True, timeout=20)
         raise TimeoutError("no window takes the keys")
 
     def press(self, *keys):
@@ -281,8 +283,16 @@ class Program:
         self.wait_for_chooser()
         self.press("ctrl+a")
         self.type(name)
-        self.press("Return")
-        wait_for("the chooser to close", lambda: not self.shows_chooser())
+        self.take_name()
+
+    def take_name(self):
+        # Where a press may count as a repetition, it comes again.
+        attempts, seconds = (ATTEMPTS, 10) if self.home.focuses_itself else (1, 30)
+        for _ in range(attempts):
+            self.press("Return")
+            if value_within(seconds, lambda: not self.shows_chooser()):
+                return
+        raise TimeoutError("the chooser doesn't close")
 
     def answer_prompt(self, text, title="."):
         """Types a text into the box that a command has opened to ask for one."""

@@ -67,11 +67,18 @@ void nameFilePrinter(QPrintDialog& dialog) {
     hideParts(dialog, {"lOutput", "filename", "fileBrowser"});
 }
 
-void setUp(QPrinter& target, const Printer& present) {
-    if (present.DeviceName == printToPdfName)
-        target.setOutputFormat(QPrinter::PdfFormat);
+/// Windows' own dialog knows none but the system's printers, and doesn't come up for another one:
+/// it begins with the system's default, which the target is already.
+void setUpDevice(QPrinter& target, const Printer& present) {
+    if (present.DeviceName != printToPdfName) target.setPrinterName(qString(present.DeviceName));
+#ifndef Q_OS_WIN
     else
-        target.setPrinterName(qString(present.DeviceName));
+        target.setOutputFormat(QPrinter::PdfFormat);
+#endif
+}
+
+void setUp(QPrinter& target, const Printer& present) {
+    setUpDevice(target, present);
     const bool isLandscape = present.Orientation == static_cast<int>(Orientation::Landscape);
     const auto paper = std::ranges::find(present.Papers, present.PaperSize, &Paper::code);
     if (paper != present.Papers.end()) {

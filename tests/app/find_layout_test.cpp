@@ -50,9 +50,9 @@ TEST_F(FindLayout, AMissingOneIsCopiedFromTheInstalledOnesAndTheTraceSaysSo) {
     start();
     EXPECT_EQ(dataFileContent("Definitions.Ini"),
               toolkit::readFile(programFolder / "Definitions.Ini.15"));
-    const auto folder = dataFolder.string();
-    EXPECT_TRUE(traced("Initialize step 1280: Definitions.Ini not found in " + folder));
-    EXPECT_TRUE(traced("Initialize step 1350: creating " + folder + "/Definitions.Ini"));
+    EXPECT_TRUE(
+        traced("Initialize step 1280: Definitions.Ini not found in " + dataFolder.string()));
+    EXPECT_TRUE(traced("Initialize step 1350: creating " + dataFile("Definitions.Ini").string()));
     EXPECT_FALSE(fs::exists(dataFile("Definitions.Ini.15")));
 }
 

@@ -27,7 +27,7 @@ TEST_F(FolderLine, TheLeftButtonShowsTheFolder) {
     start();
     inChooser([&] { pressFolder(toolkit::button::left); });
     ASSERT_EQ(launched.size(), 1U);
-    EXPECT_NE(launched[0].find(dataFolder.string()), std::string::npos) << launched[0];
+    EXPECT_NE(launched[0].find(dataFolder.generic_string()), std::string::npos) << launched[0];
 }
 
 TEST_F(FolderLine, TheRightButtonDoesNothingWhereTheFolderIsFixed) {

@@ -28,10 +28,15 @@ fs::path describedScreens() {
 
 int main(int argumentCount, char** arguments) {
     const fs::path file = describedScreens();
+    // By its mere name, as a colon in a path would end the option.
+    const fs::path before = fs::current_path();
+    fs::current_path(file.parent_path());
     // A test opens no window on anyone's desktop unless asked to.
-    test_system::presetVariable("QT_QPA_PLATFORM", "offscreen:configfile=" + file.string());
+    test_system::presetVariable("QT_QPA_PLATFORM",
+                                "offscreen:configfile=" + file.filename().string());
     testing::InitGoogleTest(&argumentCount, arguments);
     toolkit::Application made(argumentCount, arguments);
+    fs::current_path(before);
     fs::remove_all(file.parent_path());
     window_test::application = &made;
     return RUN_ALL_TESTS();
