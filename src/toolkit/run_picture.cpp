@@ -4,10 +4,10 @@
 
 #include <array>
 #include <cmath>
-#include <compare>
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
 #include <utility>
 
 #include <QtCore/QCoreApplication>
@@ -70,7 +70,10 @@ struct RunLook {
     int down = 0;
     std::string text;
 
-    friend auto operator<=>(const RunLook&, const RunLook&) = default;
+    [[nodiscard]] auto key() const { return std::tie(face, pixelSize, color, across, down, text); }
+    friend bool operator<(const RunLook& left, const RunLook& right) {
+        return left.key() < right.key();
+    }
 };
 
 /// The text with its origin at (0, 0).

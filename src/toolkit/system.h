@@ -32,6 +32,6 @@ struct SystemSource {
     std::function<MemoryUsage()> usage{};
 };
 /// For tests: in the system's place; an empty function leaves that fact to the system.
-void overrideSystem(SystemSource source);
+void overrideSystem(SystemSource inPlace);
 
 } // namespace toolkit

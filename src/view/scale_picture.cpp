@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cstring>
 #include <optional>
 #include <utility>
@@ -32,9 +33,8 @@ constexpr Channels paperChannels{{255, 255, 255, 255}};
 constexpr int joinedAtOnce = 16;
 
 void join(const std::array<Channels, joinedAtOnce>& sums, Pixel* output, int count) {
-    std::array<float, 4 * joinedAtOnce> shares;
-    std::memcpy(shares.data(), sums.data(), sizeof(shares));
-    std::array<std::uint8_t, 4 * joinedAtOnce> bytes;
+    const auto shares = std::bit_cast<std::array<float, 4 * joinedAtOnce>>(sums);
+    std::array<std::uint8_t, 4 * joinedAtOnce> bytes{};
     for (std::size_t i = 0; i < bytes.size(); ++i)
         bytes[i] = static_cast<std::uint8_t>(static_cast<std::int32_t>(shares[i]));
     std::memcpy(output, bytes.data(), static_cast<std::size_t>(count) * sizeof(Pixel));
@@ -252,12 +252,12 @@ class Scaler {
             const int count = std::min(joinedAtOnce, to - x);
             const float* weights = columns_.weightsOf(x);
             for (int i = 0; i < count; ++i, weights += reach) {
-                const Channels* average = &line.averages[static_cast<std::size_t>(
-                    columns_.firsts[static_cast<std::size_t>(x + i)])];
+                const int column = x + i;
+                const int first = columns_.firsts[static_cast<std::size_t>(column)];
+                const Channels* average = &line.averages[static_cast<std::size_t>(first)];
                 // What is joined loses its fraction: a half more, and it is rounded.
                 Lanes sum{0.5F, 0.5F, 0.5F, 0.5F};
-                for (int column = 0; column < reach; ++column)
-                    sum += average[column].shares * weights[column];
+                for (int tap = 0; tap < reach; ++tap) sum += average[tap].shares * weights[tap];
                 sums[static_cast<std::size_t>(i)].shares = sum;
             }
             join(sums, output + x, count);

@@ -28,7 +28,8 @@ class DesignMode : public DesignTest {
         return checks;
     }
     [[nodiscard]] static bool equal(const toolkit::Bitmap& left, const toolkit::Bitmap& right) {
-        const auto size = static_cast<std::size_t>(left.width() * left.height());
+        const auto size =
+            static_cast<std::size_t>(left.width()) * static_cast<std::size_t>(left.height());
         return left.width() == right.width() && left.height() == right.height() &&
                std::equal(left.row(0), left.row(0) + size, right.row(0));
     }

@@ -16,8 +16,10 @@ TEST(PixelMemory, LargePicturesLeaveTheProcessWithTheirEnd) {
     {
         const Bitmap large(4000, 4000);
         EXPECT_GT(memoryUsage().current, before + 50'000'000);
-        const Bitmap copy = large;
+        Bitmap copy = large;
+        copy.row(0)[0] = black;
         EXPECT_EQ(copy.pixel(3999, 3999), white);
+        EXPECT_EQ(large.pixel(0, 0), white);
     }
     EXPECT_LT(memoryUsage().current, before + 10'000'000);
 }

@@ -98,7 +98,7 @@ TEST_F(LabelPainter, TextBetweenRowsIsAsDarkAsOneOnARow) {
     };
     const int whole = ink();
     texts[1].BaseLine = {.Wanted = 7, .Highest = 7, .Lowest = 7};
-    EXPECT_NEAR(ink(), whole, whole / 20);
+    EXPECT_NEAR(ink(), whole, whole * 0.05);
 }
 
 TEST_F(LabelPainter, SharpScreenPutsTheBaseLineOnItsOwnRows) {

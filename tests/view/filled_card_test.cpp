@@ -17,6 +17,8 @@ namespace {
 
 constexpr float twips = 15;
 constexpr int whole = 765;
+/// Ink that is no fringe.
+constexpr int clear = whole / 2;
 
 /// How much darker than paper a pixel is, 0 to 765.
 int darkness(const toolkit::Bitmap& bitmap, int x, int y) {
@@ -309,7 +311,7 @@ TEST_F(FilledCard, SuitsStandOnTheLineOfTheirText) {
             const double row = toolkit::paintedLine(static_cast<double>(lines[0] / twips),
                                                     static_cast<double>(lines[1] / twips),
                                                     static_cast<double>(lines[2] / twips));
-            EXPECT_NEAR(inkIn(pen, around, whole / 2).bottom, row, 1) << symbol << " at " << scale;
+            EXPECT_NEAR(inkIn(pen, around, clear).bottom, row, 1) << symbol << " at " << scale;
         }
     }
 }
