@@ -4,6 +4,7 @@
 
 #include "app/field_values.h"
 #include "app/zevlin.h"
+#include "design/design_field.h"
 #include "marks/marks_state.h"
 #include "text/edit_field.h"
 #include "toolkit/color.h"
@@ -67,17 +68,7 @@ void addMark(Zevlin& form, const toolkit::MouseArguments& mouse) {
     form.UndoIndex = index;
 }
 
-std::string doubled(std::string text) {
-    for (int i = 0; i < 8; ++i) text += text;
-    return text;
-}
-
 std::string newTextHead(int index) { return toolkit::numberText(index) + " My "; }
-
-std::string trimmedEnd(std::string text) {
-    text.pop_back();
-    return text;
-}
 
 void dressNewText(Zevlin& form, toolkit::Label& text, int index) {
     const std::size_t size = chosenSize(form);
@@ -91,7 +82,7 @@ void dressNewText(Zevlin& form, toolkit::Label& text, int index) {
     // A yellow bar for as long as its width is being chosen.
     text.BackStyle = toolkit::BackStyle::Opaque;
     text.BackColor = toolkit::qbColor(palette::yellow);
-    text.Caption = trimmedEnd(newTextHead(index) + doubled("| "));
+    text.Caption = newTextHead(index) + widthPattern("| ");
     text.Alignment = toolkit::Alignment::Left;
     text.Wraps = true;
 }
@@ -145,7 +136,7 @@ void finishNewText(Zevlin& form) {
     if (form.AText.UBound() == 0) return;
     toolkit::Label& text = form.AText[form.AText.UBound()];
     text.Alignment = toolkit::Alignment::Center;
-    text.Caption = trimmedEnd(doubled(newTextHead(form.AText.UBound())));
+    text.Caption = widthPattern(newTextHead(form.AText.UBound()));
     text.BackColor = toolkit::qbColor(palette::white);
     text.BackStyle = toolkit::BackStyle::Transparent;
 }

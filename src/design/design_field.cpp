@@ -13,6 +13,12 @@ std::vector<toolkit::Color>& colorsOf(Zevlin& form, FieldKind kind) {
     return kind == FieldKind::Mark ? form.MarkColors : form.TextColors;
 }
 
+std::string widthPattern(std::string unit) {
+    for (int i = 0; i < 8; ++i) unit += unit;
+    unit.pop_back();
+    return unit;
+}
+
 void showReadOut(Zevlin& form, DesignField field) {
     form.MCoord.Caption = readOut(field.index, labelOf(form, field));
 }

@@ -1,6 +1,7 @@
 // A mark or a text field as design mode speaks of them: both are labels that can be moved about.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "toolkit/color.h"
@@ -22,6 +23,9 @@ struct DesignField {
 
 /// The colours of all fields of the kind, by field number.
 [[nodiscard]] std::vector<toolkit::Color>& colorsOf(Zevlin& form, FieldKind kind);
+
+/// The unit 256 times, without its last blank: fills the widest field, so that its width is seen.
+[[nodiscard]] std::string widthPattern(std::string unit);
 
 /// Shows the field's number, place and size on the menu bar.
 void showReadOut(Zevlin& form, DesignField field);

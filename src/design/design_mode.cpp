@@ -9,6 +9,7 @@
 #include "card/lifecycle.h"
 #include "card/modified.h"
 #include "card/save.h"
+#include "design/design_field.h"
 #include "text/set_sym.h"
 #include "toolkit/dialog.h"
 #include "toolkit/number_text.h"
@@ -74,21 +75,12 @@ bool letsGoOfCard(Zevlin& form) {
     return true;
 }
 
-/// The number of a text field, and as much of a pattern as makes its width seen.
-std::string fieldPattern(int index) {
-    std::string pattern = "] ";
-    for (int i = 0; i < 8; ++i) pattern += pattern;
-    pattern.insert(0, "[ " + toolkit::numberText(index) + " ");
-    pattern.pop_back();
-    return pattern;
-}
-
 void showAllFields(Zevlin& form) {
     for (int i = 1; i <= form.AMark.UBound(); ++i) form.AMark[i].Visible = true;
     // Symbols belong to a text that isn't shown any more.
     unloadSymbols(form);
     for (int i = 1; i <= form.AText.UBound(); ++i) {
-        form.AText[i].Caption = fieldPattern(i);
+        form.AText[i].Caption = "[ " + toolkit::numberText(i) + " " + widthPattern("] ");
         form.AText[i].Wraps = true;
     }
 }

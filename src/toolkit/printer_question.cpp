@@ -1,7 +1,7 @@
 #include "toolkit/printer_question.h"
 
-#include <atomic>
 #include <future>
+#include <mutex>
 #include <thread>
 #include <utility>
 
@@ -14,13 +14,16 @@ namespace toolkit {
 struct PrinterQuestion::State {
     std::shared_future<Printer> printer;
     std::function<void()> answered;
-    std::atomic<bool> givenUp = false;
+    std::mutex posting; ///< held while the answer is posted: until then the program must not go
+    bool givenUp = false;
 };
 
 PrinterQuestion::PrinterQuestion() = default;
 
 PrinterQuestion::~PrinterQuestion() {
-    if (state_) state_->givenUp = true;
+    if (!state_) return;
+    const std::scoped_lock lock(state_->posting);
+    state_->givenUp = true;
 }
 
 void PrinterQuestion::ask(std::function<void()> answered) {
@@ -35,6 +38,7 @@ void PrinterQuestion::ask(std::function<void()> answered) {
     };
     std::thread([question = std::move(question), deliver, state = state_]() mutable {
         question();
+        const std::scoped_lock lock(state->posting);
         if (state->givenUp) return;
         QMetaObject::invokeMethod(QCoreApplication::instance(), deliver, Qt::QueuedConnection);
     }).detach();

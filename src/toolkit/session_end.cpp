@@ -1,5 +1,6 @@
 #include <array>
 #include <csignal>
+#include <utility>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -61,10 +62,7 @@ SessionEnd::~SessionEnd() {
     if (!implementation_) return;
     implementation_.reset();
     // A handler that still comes writes to no file at all.
-    for (int& end : ends()) {
-        close(end);
-        end = -1;
-    }
+    for (int& end : ends()) close(std::exchange(end, -1));
 }
 
 } // namespace toolkit
