@@ -188,8 +188,8 @@ OptionsDocument documentOf(Zevlin& form) {
 void writeOptionsFile(Zevlin& form) {
     // A file that couldn't be written tells an old view.
     form.OptionsUnwritten = !trapped(form, "Error in IniWrite ", [&] {
-        toolkit::writeFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
-                           writeOptions(documentOf(form)));
+        toolkit::updateFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
+                            writeOptions(documentOf(form)));
     });
 }
 

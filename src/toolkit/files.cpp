@@ -15,6 +15,9 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t chunkSize = 65536;
 
+// Of the file systems in use none has smaller ones, and each writes a block as a whole.
+constexpr std::size_t blockSize = 4096;
+
 // No text or picture of the program comes near; what is longer would only fill the memory.
 constexpr std::size_t largestContent = std::size_t{256} * 1024 * 1024;
 
@@ -96,6 +99,20 @@ bool overwrite(const fs::path& path, std::string_view content) {
     return !error;
 }
 
+/// False, with the old content still there or not, if the file isn't one of a single block.
+bool overwriteBlock(const fs::path& path, std::string_view content) {
+    std::error_code error;
+    const std::uintmax_t length = fs::file_size(path, error);
+    if (error || length == 0 || length > blockSize || content.size() > blockSize) return false;
+    try {
+        writeContent(path, FileMode::Update, content);
+    } catch (const RunTimeError&) {
+        return false;
+    }
+    if (content.size() < length) fs::resize_file(path, content.size(), error);
+    return !error;
+}
+
 /// None where the folder takes no file beside the one that is replaced.
 std::optional<FileHandle> openBeside(const fs::path& path) {
     try {
@@ -153,6 +170,10 @@ void writeFile(const fs::path& path, std::string_view content) {
         throw;
     }
     writeContent(path, FileMode::Replace, content);
+}
+
+void updateFile(const fs::path& path, std::string_view content) {
+    if (!overwriteBlock(path, content)) writeFile(path, content);
 }
 
 void appendFile(const fs::path& path, std::string_view content) {

@@ -4,31 +4,31 @@
 
 #include <cerrno>
 #include <charconv>
-#include <fstream>
+#include <string>
 #include <string_view>
 
 #include <sys/utsname.h>
 
 #include "toolkit/error.h"
+#include "toolkit/files.h"
 #include "toolkit/number_text.h"
 
 namespace toolkit {
 namespace {
 
-// The figure behind a label of one of the kernel's tables, which count in units of 1024 bytes.
-std::uint64_t bytesBehind(const char* file, std::string_view label) {
-    std::ifstream table(file);
-    if (!table) throw fileFailure(errno);
-    std::string line;
-    while (std::getline(table, line)) {
-        if (!line.starts_with(label)) continue;
-        const std::size_t digits = line.find_first_of("0123456789", label.size());
-        if (digits == std::string::npos) return 0;
-        std::uint64_t kilobytes = 0;
-        std::from_chars(line.data() + digits, line.data() + line.size(), kilobytes);
-        return kilobytes * 1024;
+// The figure behind a label in one of the kernel's tables, which count in units of 1024 bytes.
+std::uint64_t bytesBehind(std::string_view table, std::string_view label) {
+    while (!table.starts_with(label)) {
+        const std::size_t lineEnd = table.find('\n');
+        if (lineEnd == std::string_view::npos) return 0;
+        table.remove_prefix(lineEnd + 1);
     }
-    return 0;
+    table = table.substr(0, table.find('\n'));
+    const std::size_t digits = table.find_first_of("0123456789", label.size());
+    if (digits == std::string_view::npos) return 0;
+    std::uint64_t kilobytes = 0;
+    std::from_chars(table.data() + digits, table.data() + table.size(), kilobytes);
+    return kilobytes * 1024;
 }
 
 // The next number of a release such as "6.1.0-18", 0 where there is none.
@@ -54,7 +54,7 @@ std::string version() {
 }
 
 MemoryFacts memory() {
-    constexpr const char* table = "/proc/meminfo";
+    const std::string table = readFile("/proc/meminfo");
     MemoryFacts facts;
     facts.physicalBytes = bytesBehind(table, "MemTotal:");
     facts.pageFileBytes = facts.physicalBytes + bytesBehind(table, "SwapTotal:");
@@ -66,7 +66,7 @@ MemoryFacts memory() {
 }
 
 MemoryUsage usage() {
-    constexpr const char* table = "/proc/self/status";
+    const std::string table = readFile("/proc/self/status");
     return {.current = bytesBehind(table, "VmRSS:"), .peak = bytesBehind(table, "VmHWM:")};
 }
 

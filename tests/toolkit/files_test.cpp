@@ -49,6 +49,38 @@ TEST(Files, ReplacingKeepsModeAndLinkAndLeavesNothingBeside) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "d"), {}), 1);
 }
 
+TEST(Files, ABlockIsWrittenOverWhereItStands) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", "a longer line");
+    std::filesystem::create_hard_link(folder / "f", folder / "same");
+    updateFile(folder / "f", "short");
+    EXPECT_EQ(readFile(folder / "same"), "short");
+    updateFile(folder / "f", std::string(4096, 'x'));
+    EXPECT_EQ(readFile(folder / "same"), std::string(4096, 'x'));
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / ""), {}), 2);
+}
+
+TEST(Files, MoreThanABlockTakesThePlaceOfWhatWasThere) {
+    const TemporaryFolder folder;
+    updateFile(folder / "f", "new");
+    EXPECT_EQ(readFile(folder / "f"), "new");
+    for (const std::size_t length : {std::size_t{4097}, std::size_t{3}}) {
+        std::filesystem::remove(folder / "before");
+        std::filesystem::create_hard_link(folder / "f", folder / "before");
+        const std::string before = readFile(folder / "f");
+        updateFile(folder / "f", std::string(length, 'x'));
+        EXPECT_EQ(readFile(folder / "f"), std::string(length, 'x'));
+        EXPECT_EQ(readFile(folder / "before"), before);
+    }
+}
+
+TEST(Files, WhatCantBeUpdatedFailsLikeWhatCantBeWritten) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder / "d");
+    EXPECT_EQ(failureOf([&] { updateFile(folder / "d", "x"); }), 75);
+    EXPECT_EQ(failureOf([&] { updateFile(folder / "no" / "f", "x"); }), 76);
+}
+
 TEST(Files, ANameThatLeavesNoRoomForAnotherBesideItIsWrittenOver) {
     const TemporaryFolder folder;
     const std::string name(250, 'n');
