@@ -1,13 +1,24 @@
 #include "toolkit/qt_card_widget.h"
 
+#include <chrono>
+
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 
+#include "toolkit/pixel_memory.h"
 #include "toolkit/qt_geometry.h"
 #include "toolkit/qt_input.h"
 #include "toolkit/qt_picture.h"
 
 namespace toolkit {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Longer than from one key press to the next.
+constexpr std::chrono::milliseconds memoryIsKept = 2s;
+
+} // namespace
 
 CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery,
                        Wheel& wheel)
@@ -23,14 +34,25 @@ void CardWidget::push() {
     if (isFrozen()) return pushWaitPointer();
     pushPlace();
     pushPointer();
-    if (picture_ != parts_.card->Picture) {
-        picture_ = parts_.card->Picture;
-        sharp_.reset();
-        update();
-    }
+    if (picture_ != parts_.card->Picture) pushPicture();
     const QRegion changes = scene_.takeOver(parts_);
     if (!changes.isEmpty()) update(changes);
     if (isHidden() == parts_.card->Visible) setVisible(parts_.card->Visible);
+}
+
+/// Who zooms does so several times: until then each picture lies where the last but one did.
+void CardWidget::pushPicture() {
+    const KeptPixelMemory kept;
+    picture_ = parts_.card->Picture;
+    sharp_.reset();
+    keepMemory_.start(static_cast<int>(memoryIsKept.count()), this);
+    update();
+}
+
+void CardWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != keepMemory_.timerId()) return QWidget::timerEvent(event);
+    keepMemory_.stop();
+    releaseKeptPixelMemory();
 }
 
 bool CardWidget::isFrozen() const {

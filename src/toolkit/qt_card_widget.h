@@ -1,6 +1,7 @@
 // The card on the screen: its picture, its labels, its mouse. Internal to the toolkit's sources.
 #pragma once
 
+#include <QtCore/QBasicTimer>
 #include <QtWidgets/QWidget>
 
 #include "toolkit/qt_card_mouse.h"
@@ -31,11 +32,13 @@ class CardWidget : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
 
   private:
     [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
     [[nodiscard]] bool isFrozen() const;
     void pushPlace();
+    void pushPicture();
     void pushWaitPointer();
     void pushPointer();
     void paintPicture(QPainter& painter, const QRect& area) const;
@@ -50,6 +53,7 @@ class CardWidget : public QWidget {
     /// The picture in the pixels of the screen that it was last painted on, and their ratio.
     std::shared_ptr<const Bitmap> sharp_;
     double sharpRatio_ = 0;
+    QBasicTimer keepMemory_;
     Painted painted_;
     MousePointer pointer_ = MousePointer::Default;
     Grip grip_ = Grip::Open;

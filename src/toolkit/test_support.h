@@ -72,6 +72,8 @@ void endSession();
 void whenRunning(std::function<void()> act);
 /// Lets everything that waits in the queue run.
 void settle();
+/// The card's timers run out now.
+void elapseCardTimers();
 
 /// What the card shows, at one pixel a pixel.
 [[nodiscard]] Bitmap grabCard();
