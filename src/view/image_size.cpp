@@ -39,33 +39,53 @@ struct Drawing {
     }
 };
 
-PictureInMaking startDrawing(const CardPicture& source, const Drawing& drawing) {
-    return source.startScaled(
-        {.factor = drawing.scale,
-         .width = static_cast<int>(drawing.width),
-         .height = static_cast<int>(drawing.height),
-         .contentHeight = static_cast<int>(std::floor(drawing.height - drawing.strip))});
+float shownScale(float scale) {
+    return scale < smallestScale || scale > largestScale ? scaleOfRefusedOnes : scale;
 }
 
-void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source,
-                 float scale) {
-    const auto twips = static_cast<float>(form.TwipsPerPixel);
-    Drawing drawing{.scale = form.LastImageScale};
+Drawing drawingOf(const CardPicture& source, float scale) {
+    Drawing drawing{.scale = shownScale(scale)};
     drawing.width = wholePixelsOf(static_cast<float>(source.width()) * drawing.scale);
     // The strip goes by the scale asked for, also where another one is shown.
     drawing.strip = scale * stripPixels;
     drawing.height = wholePixelsOf(
         wholePixelsOf(static_cast<float>(source.height()) * drawing.scale) + drawing.strip);
+    return drawing;
+}
+
+ScaleRequest requestOf(const Drawing& drawing) {
+    return {.factor = drawing.scale,
+            .width = static_cast<int>(drawing.width),
+            .height = static_cast<int>(drawing.height),
+            .contentHeight = static_cast<int>(std::floor(drawing.height - drawing.strip))};
+}
+
+PictureInMaking pictureOf(Zevlin& form, const CardPicture& source, const ScaleRequest& request) {
+    auto started = std::exchange(form.PictureStarted, std::nullopt);
+    const bool isWanted = started && &source == &form.PBase && started->request == request;
+    return isWanted ? std::move(started->making) : source.startScaled(request);
+}
+
+std::size_t ladderStep(const Zevlin& form) {
+    const bool fit = form.MFitScreenWidth.Checked || form.MFitScreenHeight.Checked;
+    return fit ? std::size_t{0} : static_cast<std::size_t>(form.ZoomLevel);
+}
+
+void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source,
+                 float scale) {
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    const Drawing drawing = drawingOf(source, scale);
     target.Width = drawing.width * twips;
     target.Height = drawing.height * twips;
-    auto making = startDrawing(source, drawing);
+    auto making = pictureOf(form, source, requestOf(drawing));
     target.Picture = making.picture;
-    target.Sharp = {
-        target.Picture, [source, drawing](float ratio) {
-            // More than its full size there isn't to see.
-            const float most = std::max(largestScale / drawing.scale, 1.0F);
-            return startDrawing(source, drawing.enlarged(std::min(ratio, most))).finished();
-        }};
+    target.Sharp = {target.Picture, [source, drawing](float ratio) {
+                        // More than its full size there isn't to see.
+                        const float most = std::max(largestScale / drawing.scale, 1.0F);
+                        return source
+                            .startScaled(requestOf(drawing.enlarged(std::min(ratio, most))))
+                            .finished();
+                    }};
     // Nobody looks at the card before its rebuild is through.
     if (form.NameBeforeRebuild)
         form.PictureRows = std::move(making.rows);
@@ -80,20 +100,26 @@ void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& 
     Traceit(form, "SetImageSize " + flagsText(scale, rescale));
     trapped(form, "Error in SetImageSize " + flagsText(scale, rescale) + " #", [&] {
         if (rescale == Rescale::IfChanged && scale == form.LastImageScale) return;
-        form.LastImageScale =
-            scale < smallestScale || scale > largestScale ? scaleOfRefusedOnes : scale;
+        form.LastImageScale = shownScale(scale);
         drawPicture(form, target, source, scale);
         Traceit(form, "SetImageSize results: 1, 1, 1, 1");
     });
+}
+
+void StartPicture(Zevlin& form) {
+    // What is printed has its size already.
+    if (form.Printing) return;
+    const std::size_t step = ladderStep(form);
+    if (step >= form.ZoomTable.size() || form.ZoomTable[step] == form.LastImageScale) return;
+    const ScaleRequest request = requestOf(drawingOf(form.PBase, form.ZoomTable[step]));
+    form.PictureStarted = PictureAhead{request, form.PBase.startScaled(request)};
 }
 
 void RestoreBackgroundPicture(Zevlin& form, Rescale rescale) {
     Traceit(form,
             std::string(truthText(rescale == Rescale::Always)) + " RestoreBackgroundPicture ");
     trapped(form, "Error in RestoreBackgroundPicture: #", [&] {
-        const bool fit = form.MFitScreenWidth.Checked || form.MFitScreenHeight.Checked;
-        const auto step = fit ? std::size_t{0} : static_cast<std::size_t>(form.ZoomLevel);
-        SetImageSize(form, form.P1, form.PBase, form.ZoomTable.at(step), rescale);
+        SetImageSize(form, form.P1, form.PBase, form.ZoomTable.at(ladderStep(form)), rescale);
     });
 }
 

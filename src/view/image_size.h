@@ -22,6 +22,10 @@ constexpr float largestScale = 1.0F;
 void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source, float scale,
                   Rescale rescale);
 
+/// Begins to make the picture that RestoreBackgroundPicture will soon give to the card, if it needs
+/// another one.
+void StartPicture(Zevlin& form);
+
 /// Gives the card the size of the present zoom step or fit.
 void RestoreBackgroundPicture(Zevlin& form, Rescale rescale);
 

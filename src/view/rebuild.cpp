@@ -16,6 +16,7 @@
 #include "text/edit_field.h"
 #include "toolkit/files.h"
 #include "view/background.h"
+#include "view/image_size.h"
 
 namespace zev {
 namespace {
@@ -85,11 +86,13 @@ void RebuildScreenImage(Zevlin& form) {
     const bool designing = form.MShowShapes.Checked;
     trapped(form, "Error in RebuildScreenImage: #", [&] {
         form.TabActive = false;
+        if (!form.Initializing) StartPicture(form);
         // What design mode shows is neither to be saved nor to be lost.
         if (designing) MShowShapes_Click(form);
         IniWrite(form);
         if (!form.Initializing) carryThrough(form);
     });
+    form.PictureStarted.reset();
     if (designing) MShowShapes_Click(form);
 }
 

@@ -20,6 +20,8 @@ struct ScaleRequest {
     int width = 0;
     int height = 0;
     int contentHeight = std::numeric_limits<int>::max();
+
+    bool operator==(const ScaleRequest&) const = default;
 };
 
 /// A picture that is still being made; it is whole when its rows are finished.
@@ -31,6 +33,12 @@ struct PictureInMaking {
         rows.finish();
         return std::move(picture);
     }
+};
+
+/// One that was begun before it is asked for.
+struct PictureAhead {
+    ScaleRequest request;
+    PictureInMaking making;
 };
 
 [[nodiscard]] PictureInMaking startScaled(const std::shared_ptr<const toolkit::Bitmap>& source,

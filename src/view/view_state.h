@@ -13,6 +13,7 @@
 #include "toolkit/panel.h"
 #include "view/card_picture.h"
 #include "view/row_work.h"
+#include "view/scale_picture.h"
 #include "view/zoom_ladder.h"
 
 namespace zev {
@@ -31,7 +32,8 @@ struct ViewState {
     std::int16_t DesignZoomLevel = 0;
     ZoomLadder ZoomTable{};
     float LastImageScale = 0;
-    RowWork PictureRows; ///< of P1's picture, while the screen is rebuilt
+    std::optional<PictureAhead> PictureStarted; ///< by the rebuild, until SetImageSize takes it
+    RowWork PictureRows;                        ///< of P1's picture, while the screen is rebuilt
     bool Zooming = false;
     /// While the screen is rebuilt: the name that the card had before it took the temporary one.
     std::optional<std::string> NameBeforeRebuild;

@@ -70,6 +70,40 @@ TEST_F(ImageSize, ForcedItScalesAgain) {
                                                       "SetImageSize results: 1, 1, 1, 1"}));
 }
 
+TEST_F(ImageSize, APictureThatWasBegunIsTakenWhereItFits) {
+    start();
+    form.ZoomLevel = 7;
+    StartPicture(form);
+    ASSERT_TRUE(form.PictureStarted);
+    const auto begun = form.PictureStarted->making.picture;
+    RestoreBackgroundPicture(form, Rescale::IfChanged);
+    EXPECT_EQ(form.P1.Picture, begun);
+    EXPECT_EQ(begun->pixel(0, 0), blue);
+    EXPECT_EQ(begun->pixel(0, begun->height() - 1), toolkit::white);
+    EXPECT_FALSE(form.PictureStarted);
+    form.ZoomLevel = 8;
+    StartPicture(form);
+    const auto another = form.PictureStarted->making.picture;
+    size(0.6F);
+    EXPECT_NE(form.P1.Picture, another);
+    EXPECT_FALSE(form.PictureStarted);
+}
+
+TEST_F(ImageSize, NoPictureIsBegunThatNobodyWants) {
+    start();
+    RestoreBackgroundPicture(form, Rescale::IfChanged);
+    StartPicture(form);
+    EXPECT_FALSE(form.PictureStarted) << "of the size that is shown";
+    form.ZoomLevel = 8;
+    form.Printing = true;
+    StartPicture(form);
+    EXPECT_FALSE(form.PictureStarted) << "while the card has the size of the print";
+    form.Printing = false;
+    form.ZoomLevel = -1;
+    StartPicture(form);
+    EXPECT_FALSE(form.PictureStarted) << "for a step that isn't there";
+}
+
 TEST_F(ImageSize, TheBoundsThemselvesPass) {
     start();
     size(0.2F);
