@@ -4,7 +4,6 @@
 namespace zev::test {
 namespace {
 
-constexpr float pixel = 15;
 constexpr std::string_view checkText = "\xFC";
 constexpr std::string_view squareText = "n";
 constexpr std::string_view circleText = "\xA1";

@@ -7,8 +7,6 @@
 namespace zev::test {
 namespace {
 
-constexpr float pixel = 15;
-
 class PlaceWindow : public FormTest {
   protected:
     PlaceWindow() { writeLayout(fewFields()); }

@@ -6,8 +6,6 @@
 namespace zev::test {
 namespace {
 
-constexpr float pixel = 15;
-
 class TextFields : public FormTest {
   protected:
     void startWith(const std::string& layout) {

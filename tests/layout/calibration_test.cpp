@@ -8,7 +8,7 @@
 namespace zev::test {
 namespace {
 
-constexpr int pixel = 15;
+constexpr int twips = 15; ///< of a pixel
 
 /// Edges in twips, found column by column and row by row.
 struct Edges {
@@ -21,16 +21,16 @@ struct Edges {
 class Calibration : public FormTest {
   protected:
     static Edges scan(const toolkit::FontSpec& font, const std::string& caption) {
-        const int width = static_cast<int>(toolkit::textWidth(font, caption)) / pixel + 1;
-        const int height = static_cast<int>(toolkit::textHeight(font)) / pixel + 1;
+        const int width = static_cast<int>(toolkit::textWidth(font, caption)) / twips + 1;
+        const int height = static_cast<int>(toolkit::textHeight(font)) / twips + 1;
         toolkit::Bitmap picture(width, height);
         toolkit::drawText(picture, 0, 0, font, toolkit::black, caption);
         Edges edges;
         for (int x = 0; x < width; ++x) {
             for (int y = 0; y < height; ++y) {
                 if (picture.pixel(x, y) == toolkit::white) continue;
-                const auto left = static_cast<float>(x * pixel);
-                const auto top = static_cast<float>(y * pixel);
+                const auto left = static_cast<float>(x * twips);
+                const auto top = static_cast<float>(y * twips);
                 if (edges.left < 0) edges.left = left;
                 edges.right = left;
                 edges.bottom = std::max(edges.bottom, top);

@@ -20,6 +20,9 @@
 
 namespace zev::test {
 
+/// Twips of a pixel on the usual screen.
+constexpr float pixel = 15;
+
 /// A message box that was shown.
 struct ShownBox {
     std::string text;

@@ -8,8 +8,6 @@
 
 namespace zev::test {
 
-constexpr float pixel = 15;
-
 /// Marks 1 to 3 (black, red, blue) in a row, texts 1 to 4 below each other; text 4 is too narrow
 /// for most texts. TAB goes from text 1 to 2, on to marks 1 and 2 and to text 3, where it ends.
 class EditTest : public FormTest {

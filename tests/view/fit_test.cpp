@@ -5,8 +5,6 @@
 namespace zev::test {
 namespace {
 
-constexpr float pixel = 15;
-
 class Fit : public FormTest {
   protected:
     Fit() { writeLayout(fewFields()); }

@@ -7,7 +7,6 @@
 namespace zev::test {
 namespace {
 
-constexpr float pixel = 15;
 constexpr auto blue = toolkit::rgb(0, 0, 200);
 
 class ImageSize : public FormTest {

@@ -5,8 +5,6 @@
 namespace zev::test {
 namespace {
 
-constexpr float pixel = 15;
-
 class Panels : public FormTest {
   protected:
     void showPanel() {

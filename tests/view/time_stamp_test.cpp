@@ -7,8 +7,6 @@
 namespace zev::test {
 namespace {
 
-constexpr float pixel = 15;
-
 class TimeStamp : public FormTest {
   protected:
     TimeStamp() { toolkit::overrideClock(1000000000); }

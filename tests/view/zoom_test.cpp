@@ -13,7 +13,6 @@ namespace key = toolkit::key;
 namespace shift = toolkit::shift;
 using toolkit::test::typeKey;
 
-constexpr float pixel = 15;
 constexpr std::array steps = {0.2F,        0.25F, 1.0F / 3.0F, 0.425F, 0.5F, 0.6F,
                               2.0F / 3.0F, 0.75F, 0.8F,        0.9F,   1.0F};
 
