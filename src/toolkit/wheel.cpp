@@ -14,6 +14,8 @@ constexpr int notch = 120;
 void Wheel::turn(QWheelEvent& event) {
     event.accept();
     const int turned = event.angleDelta().y();
+    // To the side, or where a touchpad begins and ends: no change of direction.
+    if (turned == 0) return;
     if ((turned < 0) != (turned_ < 0)) turned_ = 0;
     turned_ += turned;
     const QPoint place = pixelAt(event.globalPosition());

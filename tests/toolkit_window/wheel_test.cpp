@@ -46,5 +46,15 @@ TEST_F(WheelTest, TurnToTheSideIsNothing) {
     EXPECT_EQ(log, Log{});
 }
 
+TEST_F(WheelTest, TurnToTheSideForgetsNothingInEitherDirection) {
+    for (const int direction : {1, -1}) {
+        log.clear();
+        test::turnWheel(80 * direction);
+        test::turnWheel(0);
+        test::turnWheel(40 * direction);
+        EXPECT_EQ(log, Log{std::to_string(120 * direction)});
+    }
+}
+
 } // namespace
 } // namespace window_test
