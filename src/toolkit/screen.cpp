@@ -1,11 +1,11 @@
 #include "toolkit/screen.h"
 
-#include <algorithm>
 #include <cmath>
 
 #include <QtGui/QGuiApplication>
 
 #include "toolkit/qt_screen.h"
+#include "toolkit/qt_task_bar.h"
 #include "toolkit/qt_window.h"
 
 namespace toolkit {
@@ -71,24 +71,13 @@ Screen screen() {
     return found;
 }
 
-/// Desktops tell only what is left free of the screen; the widest strip outside is the bar.
 TaskBar taskBar() {
     if (overridesInForce().hasTaskBar) return overridesInForce().taskBar;
     const QScreen* present = presentScreen();
     if (present == nullptr) return {};
-    const QRect whole = present->geometry();
-    const QRect free = present->availableGeometry();
-    const int atLeft = free.left() - whole.left();
-    const int atTop = free.top() - whole.top();
-    const int atRight = whole.right() - free.right();
-    const int atBottom = whole.bottom() - free.bottom();
-    const int thickest = std::max({atLeft, atTop, atRight, atBottom});
-    if (thickest <= 0) return {};
-    if (thickest == atBottom)
-        return barOf({whole.left(), free.bottom() + 1, whole.width(), atBottom});
-    if (thickest == atTop) return barOf({whole.left(), whole.top(), whole.width(), atTop});
-    if (thickest == atLeft) return barOf({whole.left(), whole.top(), atLeft, whole.height()});
-    return barOf({free.right() + 1, whole.top(), atRight, whole.height()});
+    const QRect bar = barBeside(present->geometry(), present->availableGeometry());
+    if (bar.isEmpty()) return {};
+    return barOf(bar);
 }
 
 void overrideScreen(const ScreenOverrides& overrides) { overridesInForce() = overrides; }
