@@ -38,6 +38,15 @@ TEST_F(ImageSize, TheStripShrinksWithTheCard) {
     EXPECT_EQ(form.P1.Height, 609 * pixel);
 }
 
+TEST_F(ImageSize, AStripOfABrokenHeightBeginsAtAWholePixel) {
+    start();
+    size(0.425F);
+    // 425 rows of the card and 6.4 of the strip are 431.
+    EXPECT_EQ(form.P1.Height, 431 * pixel);
+    EXPECT_EQ(form.P1.Picture->pixel(400, 423), blue);
+    EXPECT_EQ(form.P1.Picture->pixel(400, 424), toolkit::white);
+}
+
 TEST_F(ImageSize, TheCardKeepsItsPlaceAndItsVisibility) {
     start();
     form.P1.Move(30, 45);
@@ -117,6 +126,18 @@ TEST_F(ImageSize, AScaleAboveOneIsShownAtHalfSizeWithItsOwnStrip) {
     size(2);
     EXPECT_EQ(form.LastImageScale, 0.5F);
     EXPECT_EQ(form.P1.Width, 1000 * pixel);
+    EXPECT_EQ(form.P1.Height, 530 * pixel);
+}
+
+TEST_F(ImageSize, ARefusedScaleIsShownAnewEachTimeAndStandsForHalfSize) {
+    start();
+    size(2);
+    const auto first = form.P1.Picture;
+    size(2);
+    const auto second = form.P1.Picture;
+    EXPECT_NE(second, first);
+    size(0.5F);
+    EXPECT_EQ(form.P1.Picture, second);
     EXPECT_EQ(form.P1.Height, 530 * pixel);
 }
 

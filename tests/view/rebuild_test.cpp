@@ -10,6 +10,7 @@
 
 #include "app/layouts.h"
 #include "toolkit/files.h"
+#include "toolkit/key.h"
 #include "view/background.h"
 
 namespace zev::test {
@@ -102,6 +103,17 @@ TEST_F(Rebuild, TheCardShowsAgainAndTheWalkIsOver) {
     EXPECT_TRUE(form.P1.Visible);
     EXPECT_FALSE(form.TabActive);
     EXPECT_EQ(form.Background.text, form.ProgramVersion);
+}
+
+TEST_F(Rebuild, UndoIsOfferedAfterItAsBefore) {
+    startWithContent();
+    toolkit::test::typeKey(toolkit::key::escape);
+    for (const bool offered : {false, true}) {
+        form.mpopUndo.Enabled = offered;
+        RebuildScreenImage(form);
+        EXPECT_TRUE(form.CardModified);
+        EXPECT_EQ(form.mpopUndo.Enabled, offered);
+    }
 }
 
 TEST_F(Rebuild, TheFieldsAreMadeForTheNewSize) {

@@ -208,6 +208,31 @@ TEST_F(TextOptions, BoldfaceLaysTheSymbolsOutAnew) {
     EXPECT_EQ(form.AText[1].Tag, "long text ^h");
 }
 
+TEST_F(TextOptions, BoldfaceFitsNoTextUntilTheCardIsBuiltAnew) {
+    start();
+    const auto& label = form.AText[1];
+    std::string text = "n";
+    while (toolkit::textWidth(label.Font, text + "n ") < label.Width) text += "n";
+    enter(1, text);
+    const toolkit::FontSpec before = label.Font;
+    choose("Boldface");
+    EXPECT_EQ(label.Font.Size, before.Size);
+    EXPECT_EQ(label.Font.Name, before.Name);
+    chooseSize("Normal");
+    const toolkit::FontSpec& after = form.AText[1].Font;
+    EXPECT_TRUE(after.Size < before.Size || after.Name != before.Name);
+}
+
+TEST_F(TextOptions, InDesignModeBoldfaceTakesTheNumbersOffUntilTheModeIsEnteredAgain) {
+    start();
+    toolkit::test::typeKey('D', toolkit::shift::shift | toolkit::shift::ctrl);
+    ASSERT_TRUE(form.AText[1].Caption.starts_with("[ 1 "));
+    choose("Boldface");
+    EXPECT_EQ(form.AText[1].Caption, "");
+    for (int turn = 0; turn < 2; ++turn) toolkit::test::typeKey('A', toolkit::shift::ctrl);
+    EXPECT_TRUE(form.AText[1].Caption.starts_with("[ 1 "));
+}
+
 TEST_F(TextOptions, WithBoldfaceTheFieldsOwnItemIsOffAndItsKeyDoesNothing) {
     start();
     choose("Boldface");

@@ -40,6 +40,36 @@ TEST_F(TimeStamp, AnAmpersandInTheNameShowsAsOne) {
     EXPECT_EQ(toolkit::paintedText(form.Timestamp.Caption), "[ A&B & C ]  " + now());
 }
 
+TEST_F(TimeStamp, TwoAmpersandsInTheNameShowAsTwo) {
+    startWith(smallMarks());
+    form.CardName = "A&&B";
+    MakeTimeStamp(form);
+    const auto& stamp = form.Timestamp;
+    EXPECT_EQ(stamp.Caption, "[ A&&&&B ]  " + now());
+    EXPECT_EQ(toolkit::paintedText(stamp.Caption), "[ A&&B ]  " + now());
+    EXPECT_EQ(stamp.Width, toolkit::textWidth(stamp.Font, stamp.Caption));
+}
+
+TEST_F(TimeStamp, ItAndTheCreditArePlainTextThroughWhichTheCardShows) {
+    startWith(smallMarks());
+    for (const toolkit::Label* label : {&form.Timestamp, &form.CreditLabel}) {
+        EXPECT_EQ(label->Font.Name, "Arial");
+        EXPECT_FALSE(label->Font.Bold);
+        EXPECT_EQ(label->Alignment, toolkit::Alignment::Left);
+        EXPECT_EQ(label->BackStyle, toolkit::BackStyle::Transparent);
+    }
+}
+
+TEST_F(TimeStamp, EachEditMovesItsTime) {
+    startWith(fewFields());
+    const std::string before = now();
+    toolkit::overrideClock(1000003660);
+    ASSERT_NE(now(), before);
+    EXPECT_EQ(form.Timestamp.Caption, before);
+    clickMark(1);
+    EXPECT_EQ(form.Timestamp.Caption, now());
+}
+
 TEST_F(TimeStamp, DuringAZoomItKeepsItsText) {
     startWith(smallMarks());
     form.Timestamp.Caption = "as it was";

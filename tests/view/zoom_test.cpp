@@ -229,6 +229,15 @@ TEST_F(Zoom, ThePlayersNamelessCardKeepsItsEmptyNamesLine) {
     EXPECT_EQ(form.CardName, "");
 }
 
+TEST_F(Zoom, AnEmptyNamesLineTakesThePlayersName) {
+    startAtStep(5);
+    form.MyName = "Pat";
+    ASSERT_EQ(form.AText[form.NamesField].Caption, "");
+    zoomIn();
+    EXPECT_EQ(form.AText[form.NamesField].Caption, "Pat");
+    EXPECT_FALSE(form.CardModified);
+}
+
 TEST_F(Zoom, UnsavedChangesNameAndFlagComeThroughAndNoFileIsLeft) {
     writeCard("Jones", "'Program version: 2.0.0\r\n\"\",\"\"\r\n1\r\n1,0,0\r\n1\r\n1,\"\",0\r\n");
     writeOptions("Zoom=5\r\n");
