@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <memory>
 #include <utility>
 
 #include <QtCore/QDir>
@@ -29,6 +30,16 @@ constexpr double millimetresInAnInch = 25.4;
 /// Where Qt keeps what its dialog offers of the print service's own options.
 constexpr auto serviceOptions = QPrintEngine::PrintEnginePropertyKey(0xFE00);
 constexpr int monochrome = 1;
+
+/// Where Windows' dialog sends the page when its "Print to file" is checked. Our printer of that
+/// kind takes it then: what a printer's driver writes to a file, hardly anybody could open.
+constexpr QLatin1StringView windowsFilePort("FILE:");
+
+#ifdef Q_OS_WIN
+constexpr bool isWindows = true;
+#else
+constexpr bool isWindows = false;
+#endif
 
 PrinterChoice& answerInPlace() {
     static PrinterChoice answer;
@@ -67,18 +78,31 @@ void nameFilePrinter(QPrintDialog& dialog) {
     hideParts(dialog, {"lOutput", "filename", "fileBrowser"});
 }
 
-/// Windows' own dialog knows none but the system's printers, and doesn't come up for another one:
-/// it begins with the system's default, which the target is already.
-void setUpDevice(QPrinter& target, const Printer& present) {
-    if (present.DeviceName != printToPdfName) target.setPrinterName(qString(present.DeviceName));
-#ifndef Q_OS_WIN
+/// What the driver's own pages were told stays in the device, which Windows' dialog hands back.
+std::shared_ptr<QPrinter> deviceOf(const Printer& present) {
+    if (present.SystemDevice) return std::static_pointer_cast<QPrinter>(present.SystemDevice);
+    return std::make_shared<QPrinter>(QPrinter::HighResolution);
+}
+
+/// Windows' dialog doesn't come up for a printer that isn't the system's: it begins with the
+/// default one, which the target is already, and with "Print to file" checked.
+void beginWithFile(QPrinter& target) {
+    if (isWindows)
+        target.setOutputFileName(windowsFilePort);
     else
         target.setOutputFormat(QPrinter::PdfFormat);
-#endif
+}
+
+bool choosesFile(const QPrinter& target) {
+    return target.outputFormat() == QPrinter::PdfFormat ||
+           target.outputFileName() == windowsFilePort;
 }
 
 void setUp(QPrinter& target, const Printer& present) {
-    setUpDevice(target, present);
+    if (present.DeviceName == printToPdfName)
+        beginWithFile(target);
+    else if (!present.SystemDevice)
+        target.setPrinterName(qString(present.DeviceName));
     const bool isLandscape = present.Orientation == static_cast<int>(Orientation::Landscape);
     const auto paper = std::ranges::find(present.Papers, present.PaperSize, &Paper::code);
     if (paper != present.Papers.end()) {
@@ -135,8 +159,9 @@ void takeJobChoices(Printer& printer, const QPrinter& target) {
     }
 }
 
-Printer chosenPrinter(const QPrinter& target) {
-    const bool isFile = target.outputFormat() == QPrinter::PdfFormat;
+Printer chosenPrinter(const std::shared_ptr<QPrinter>& device) {
+    const QPrinter& target = *device;
+    const bool isFile = choosesFile(target);
     Printer printer =
         printerNamed(isFile ? std::string(printToPdfName) : ansiText(target.printerName()));
     const QPageLayout layout = target.pageLayout();
@@ -144,7 +169,9 @@ Printer chosenPrinter(const QPrinter& target) {
                                                                             : Orientation::Portrait;
     layOutPage(printer, paperLike(printer, layout.pageSize().size(QPageSize::Millimeter)),
                orientation);
-    if (!isFile) takeJobChoices(printer, target);
+    if (isFile) return printer;
+    takeJobChoices(printer, target);
+    if (isWindows) printer.SystemDevice = device;
     return printer;
 }
 
@@ -153,9 +180,9 @@ Printer chosenPrinter(const QPrinter& target) {
 std::optional<Printer> setUpOnScreen(const Printer& present) {
     updateWindow();
     if (answerInPlace()) return answerInPlace()(present);
-    QPrinter target(QPrinter::HighResolution);
-    setUp(target, present);
-    QPrintDialog dialog(&target, boxParent());
+    const auto target = deviceOf(present);
+    setUp(*target, present);
+    QPrintDialog dialog(target.get(), boxParent());
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintShowPageSize);
     dialog.setWindowTitle(QStringLiteral("Printer Setup"));
     nameButtons(dialog);

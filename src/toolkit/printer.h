@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -60,6 +61,8 @@ struct Printer {
     std::vector<Paper> Papers;
     std::vector<PaperTray> Trays;
     std::vector<JobOption> JobOptions;
+    /// What the system's dialog was told, where the system keeps it in a device of its own.
+    std::shared_ptr<void> SystemDevice{};
 };
 
 /// Computes all that follows from resolution, paper and orientation. A paper that the printer
