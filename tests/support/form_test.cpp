@@ -182,7 +182,7 @@ void FormTest::writeLayout(std::string_view content) {
 }
 
 void FormTest::writeCard(std::string_view name, std::string_view content) {
-    toolkit::writeFile(dataFolder / (std::string(name) + ".zev"), content);
+    toolkit::writeFile(dataFile(std::string(name) + ".zev"), content);
 }
 
 void FormTest::answer(toolkit::Answer answer) { answers_.push_back(answer); }
@@ -227,7 +227,9 @@ bool FormTest::traced(std::string_view line) const {
     });
 }
 
-fs::path FormTest::dataFile(std::string_view name) const { return dataFolder / name; }
+fs::path FormTest::dataFile(std::string_view name) const {
+    return dataFolder / std::u8string(name.begin(), name.end());
+}
 
 std::string FormTest::dataFileContent(std::string_view name) const {
     return toolkit::readFile(dataFile(name));

@@ -78,6 +78,7 @@ class FormTest : public testing::Test {
     /// Whether a line of the ring or the trace file is this text.
     [[nodiscard]] bool traced(std::string_view line) const;
 
+    /// The name is in UTF-8.
     [[nodiscard]] std::filesystem::path dataFile(std::string_view name) const;
     [[nodiscard]] std::string dataFileContent(std::string_view name) const;
 

@@ -12,6 +12,9 @@ TEST(PathText, ATextOfTheCodePageComesBackFromItsPath) {
 
 TEST(PathText, AFileNameBeyondTheCodePageHasNoText) {
     EXPECT_EQ(textFromPath(std::filesystem::path(u8"\u0141ukasz.zev")), std::nullopt);
+}
+
+TEST(PathText, AFileNameOfStrayBytesHasNoText) {
     EXPECT_EQ(textFromPath(std::filesystem::path("bad\xFFname")), std::nullopt);
 }
 

@@ -24,8 +24,9 @@ class TemporaryFolder {
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
+    /// The name is in UTF-8.
     [[nodiscard]] std::filesystem::path operator/(std::string_view name) const {
-        return path_ / name;
+        return path_ / std::u8string(name.begin(), name.end());
     }
 
   private:

@@ -179,7 +179,9 @@ TEST_F(TextPainter, ScaledPaintersDrawAtTheirOwnResolution) {
 
 TEST_F(TextPainter, WidgetsGetTheSameFace) {
     const QFont font = qtFont({.Name = "Arial Narrow", .Size = 11, .Bold = true});
-    EXPECT_EQ(QFontInfo(font).family(), "Liberation Sans Narrow");
+    // A system that has the font, or another one by its name, gives that.
+    const std::string family = QFontInfo(font).family().toStdString();
+    EXPECT_TRUE(family == "Arial Narrow" || family == "Liberation Sans Narrow") << family;
     EXPECT_TRUE(font.bold());
     EXPECT_FALSE(font.italic());
     EXPECT_FALSE(font.kerning());
