@@ -34,7 +34,7 @@ PPD = """*PPD-Adobe: "4.3"
 *DefaultColorSpace: {space}
 *FileSystem: False
 *cupsVersion: 2.3
-*cupsFilter2: "application/pdf application/pdf 0 -"
+*cupsFilter2: "{language} {language} 0 -"
 *DefaultResolution: 600dpi
 *Resolution 600dpi: "<</HWResolution[600 600]>>setpagedevice"
 *OpenUI *PageSize/Media Size: PickOne
@@ -62,6 +62,9 @@ PPD = """*PPD-Adobe: "4.3"
 *InputSlot Lower/Lower Tray: "<</MediaPosition 1>>setpagedevice"
 *CloseUI: *InputSlot
 """
+
+PDF = "application/pdf"
+POSTSCRIPT = "application/vnd.cups-postscript"
 
 DAEMON = """Listen 127.0.0.1:{port}
 Browsing Off
@@ -115,6 +118,8 @@ class PrintService:
             (self.folder / name).mkdir(parents=True)
         os.chmod(self.folder.parent, 0o755)
         os.chmod(self.jobs, 0o777)
+        # The service's filters run as a user of their own.
+        os.chmod(self.folder / "temp", 0o1777)
         self.port = free_port()
         self.address = f"127.0.0.1:{self.port}"
         self.make_programs()
@@ -144,9 +149,10 @@ class PrintService:
             raise RuntimeError((self.folder / "error.log").read_text())
         return b"is running" in self.command("lpstat", "-r").stdout
 
-    def add(self, name, color=True, default=False):
+    def add(self, name, color=True, default=False, language=PDF):
         ppd = self.folder / f"{name}.ppd"
-        ppd.write_text(PPD.format(name=name, color=color, space="RGB" if color else "Gray"))
+        ppd.write_text(PPD.format(name=name, color=color, space="RGB" if color else "Gray",
+                                  language=language))
         made = self.command("lpadmin", "-p", name, "-E", "-v", "keep:/", "-P", ppd)
         if made.returncode != 0:
             raise RuntimeError(made.stderr.decode())

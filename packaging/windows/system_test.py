@@ -1,0 +1,266 @@
+"""The Windows program among the services of its system, as Wine has them: printers, which are those of
+a print service of this test's own, the default printer, and the end of the session.
+
+    packaging/windows/system_test.py <Wine prefix> <folder of the program> <folder for what it makes>
+
+Must be run with a display.
+"""
+
+import pathlib
+import re
+import shutil
+import subprocess
+import sys
+import unittest
+
+import wine_home
+from wine_home import desktop
+
+sys.path.insert(0, str(desktop.ROOT / "tests" / "e2e"))
+import print_service  # noqa: E402
+
+CARD = "Two Over One"
+SETUP = 7  # row of the File menu
+QUESTION = "Unsaved changes"
+DOTS = 100  # per inch, at which pages are looked at
+STAMP = 0.74  # of the page's height: below it stands the time
+WINDOWS_SETTINGS = r"HKCU\Software\Microsoft\Windows NT\CurrentVersion"
+
+
+def ink_box(page):
+    """First and last column and row of a page that hold dark ink, above the time."""
+    rows = range(round(page.height * STAMP))
+
+    def is_dark(x, y):
+        return max(page.pixel(x, y)) < 100
+    columns = [x for x in range(page.width) if any(is_dark(x, y) for y in rows)]
+    lines = [y for y in rows if any(is_dark(x, y) for x in range(page.width))]
+    return columns[0], columns[-1], lines[0], lines[-1]
+
+
+class SystemTest(unittest.TestCase):
+    prefix = stage = results = None
+
+    def setUp(self):
+        self.home = wine_home.WineHome(self.prefix, self.stage)
+        self.home.forget()
+        self.programs = []
+        self.addCleanup(self.end_programs)
+
+    def end_programs(self):
+        if self.programs:
+            desktop.save_screenshot(self.results / f"{self._testMethodName}.png")
+        for program in self.programs:
+            program.kill()
+
+    def tearDown(self):
+        errors = [line for line in self.home.trace().splitlines() if line[9:].startswith("Error")]
+        self.assertEqual(errors, [])
+
+    def start(self, home):
+        """The program with the sample card in it."""
+        program = desktop.Program(home)
+        self.programs.append(program)
+        program.wait_for_title(r"\(unnamed\)$")
+        program.press("Escape")
+        program.press("ctrl+o")
+        program.answer_name(CARD)
+        program.wait_for_title(rf"\( {CARD} \)$")
+        return program
+
+
+class ServiceTest(SystemTest):
+    language = print_service.PDF
+
+    def setUp(self):
+        super().setUp()
+        self.service = print_service.PrintService(self.results / f"{self._testMethodName}.service")
+        self.addCleanup(self.service.stop)
+        self.service.add("Office", default=True, language=self.language)
+        self.home.environment["CUPS_SERVER"] = self.service.address
+
+    def wait_for_page(self):
+        """The file that the printer got."""
+        return desktop.wait_for("the printed page", self.service.pages)[-1]
+
+    def page(self, job):
+        """The page as a viewer draws it. Wine sends PostScript."""
+        pdf = job
+        if job.read_bytes().startswith(b"%!PS"):
+            pdf = job.with_suffix(".converted")
+            desktop.output_of("ps2pdf", str(job), str(pdf))
+        return desktop.Picture(
+            desktop.output_of("pdftoppm", "-r", str(DOTS), "-singlefile", str(pdf)))
+
+    def print_again(self, program):
+        """The next page from the program."""
+        count = len(self.service.pages())
+        program.press("ctrl+p")
+        desktop.wait_for("the next page", lambda: len(self.service.pages()) > count)
+        return self.wait_for_page()
+
+    def wait_for_set_up(self):
+        desktop.wait_for("the facts", lambda: b"User selected" in
+                         (self.home.data / "ZEV.Ini").read_bytes())
+
+
+class PrintersTest(ServiceTest):
+    def test_a_page_is_printed_as_this_systems_program_prints_it(self):
+        program = self.start(self.home)
+        windows = self.page(self.print_again(program))
+        program.close()
+        program.wait_for_end()
+        linux_home = desktop.Home(self.results / f"{self._testMethodName}.home")
+        self.addCleanup(shutil.rmtree, linux_home.folder)
+        linux_home.environment["CUPS_SERVER"] = self.service.address
+        linux = self.page(self.print_again(self.start(linux_home)))
+        self.assertEqual((windows.width, windows.height), (linux.width, linux.height))
+        for left, right in zip(ink_box(windows), ink_box(linux)):
+            self.assertAlmostEqual(left, right, delta=1)
+        # Viewers scale one picture and four tiles of it a little differently.
+        length = 3 * linux.width * round(linux.height * STAMP)
+        differences = sum(abs(a - b) for a, b in zip(windows.bytes[:length], linux.bytes[:length]))
+        ink = sum(255 - shade for shade in linux.bytes[:length])
+        self.assertLess(differences / ink, 0.25)
+
+    def default_printer(self):
+        _, told = self.home.run("reg", "query", WINDOWS_SETTINGS + r"\Windows", "/v", "Device")
+        return re.search(r"REG_SZ\s+([^,\s]*)", told)[1]
+
+    def make_default(self, name):
+        _, told = self.home.run("reg", "query", WINDOWS_SETTINGS + r"\Devices", "/v", name)
+        device = re.search(r"REG_SZ\s+(\S.*)", told)[1].strip()
+        self.home.run("reg", "add", WINDOWS_SETTINGS + r"\Windows", "/v", "Device",
+                      "/d", f"{name},{device}", "/f")
+
+    def test_the_default_printer_comes_back_when_the_dialog_has_changed_it(self):
+        self.service.add("Laser", color=False)
+        program = self.start(self.home)
+        program.choose_in_file_menu(SETUP)
+        box = program.wait_for_box("^Print$")
+        self.assertEqual(self.default_printer(), "Office")
+        self.make_default("Laser")
+        self.assertEqual(self.default_printer(), "Laser")
+        program.answer(box, "Escape")
+        program.close()
+        program.wait_for_end()
+        self.assertEqual(self.default_printer(), "Office")
+
+
+class SettingUpTest(ServiceTest):
+    """With a printer that takes what Wine sends as it comes, so that its choices can be read."""
+
+    language = print_service.POSTSCRIPT
+
+    def test_the_systems_dialog_sets_up_the_printer_that_is_used(self):
+        program = self.start(self.home)
+        before = self.page(self.print_again(program))
+        program.choose_in_file_menu(SETUP)
+        box = program.wait_for_box("^Print$")
+        program.focus(box)
+        desktop.xdotool("key", "alt+c", "type", "3")
+        program.answer(box, "Return")
+        self.wait_for_set_up()
+        job = self.print_again(program)
+        self.assertIn(b"*NumCopies 3", job.read_bytes())
+        after = self.page(job)
+        length = 3 * after.width * round(after.height * STAMP)
+        self.assertEqual(after.bytes[:length], before.bytes[:length])
+
+    def choose_in_list(self, program, place, key):
+        """In the list at a place of the set-up, which is told in parts of its height."""
+        box = program.wait_for_box("^Printer Setup$")
+        shell = desktop.xdotool("getwindowgeometry", "--shell", box)
+        width, height = (int(re.search(rf"{name}=(\d+)", shell)[1])
+                         for name in ("WIDTH", "HEIGHT"))
+        desktop.xdotool("mousemove", "--window", box, width // 2, round(height * place),
+                        "click", 1)
+        self.wait_until_painted()
+        desktop.xdotool("key", key, "Return")
+        self.wait_until_painted()
+
+    def wait_until_painted(self):
+        looks = [b""]
+
+        def is_calm():
+            looks.append(desktop.screenshot().bytes)
+            return looks[-1] == looks[-2]
+        desktop.wait_for("the screen to come to rest", is_calm)
+
+    def test_paper_and_tray_of_the_alternate_set_up_reach_the_job(self):
+        program = self.start(self.home)
+        program.close()
+        program.wait_for_end()
+        options = self.home.data / "ZEV.Ini"
+        options.write_bytes(options.read_bytes().replace(b"PrintAlt=0", b"PrintAlt=1"))
+        program = desktop.Program(self.home, self.home.opening(CARD))
+        self.programs.append(program)
+        program.wait_for_title(rf"\( {CARD} \)$")
+        program.choose_in_file_menu(SETUP)
+        self.choose_in_list(program, 0.32, "Down")  # A4 instead of Letter
+        self.choose_in_list(program, 0.5, "End")  # the lower tray instead of none
+        program.answer(program.wait_for_box("^Printer Setup$"), "Return")
+        self.wait_for_set_up()
+        job = self.print_again(program).read_bytes()
+        self.assertIn(b"*PageSize A4", job)
+        self.assertIn(b"*InputSlot Lower", job)
+
+
+class SessionTest(SystemTest):
+    def changed_card(self):
+        """The program with a mark that the file doesn't have."""
+        program = self.start(self.home)
+        card = desktop.Card(program)
+        self.marks = self.home.records(CARD)[0]
+        self.mark = min(card.marks)
+        card.click_mark(self.mark)
+        program.wait_for_title(r"\*$")
+        return program
+
+    def end_session(self):
+        """Tells of it to all programs; the command ends when they have answered."""
+        self.home.environment.setdefault("CUPS_SERVER", "127.0.0.1:1")
+        return subprocess.Popen(["wine", "wineboot", "--end-session"],
+                                env=self.home.usual_environment() | self.home.environment)
+
+    def test_refusing_to_lose_changes_keeps_program_and_session(self):
+        program = self.changed_card()
+        end = self.end_session()
+        program.answer(program.wait_for_box(QUESTION), "Escape")
+        self.assertEqual(end.wait(timeout=60), 1)
+        self.assertTrue(program.is_running())
+        self.assertRegex(program.title(), r"\*$")
+        self.assertEqual(self.home.records(CARD)[0], self.marks)
+
+    def test_changes_are_saved_before_the_session_ends(self):
+        program = self.changed_card()
+        end = self.end_session()
+        program.answer(program.wait_for_box(QUESTION), "alt+y")
+        program.wait_for_end()
+        self.assertEqual(end.wait(timeout=60), 0)
+        self.assertEqual(self.home.records(CARD)[0], self.marks ^ {self.mark})
+
+    def test_changes_are_dropped_where_the_player_says_so(self):
+        program = self.changed_card()
+        end = self.end_session()
+        program.answer(program.wait_for_box(QUESTION), "alt+n")
+        program.wait_for_end()
+        self.assertEqual(end.wait(timeout=60), 0)
+        self.assertEqual(self.home.records(CARD)[0], self.marks)
+
+    def test_without_changes_nothing_is_asked(self):
+        program = self.start(self.home)
+        end = self.end_session()
+        program.wait_for_end()
+        self.assertEqual(end.wait(timeout=60), 0)
+
+
+def main():
+    SystemTest.prefix, SystemTest.stage, SystemTest.results = (
+        pathlib.Path(argument).resolve() for argument in sys.argv[1:4])
+    SystemTest.results.mkdir(parents=True, exist_ok=True)
+    unittest.main(argv=sys.argv[:1] + sys.argv[4:], verbosity=2)
+
+
+if __name__ == "__main__":
+    main()
