@@ -21,6 +21,7 @@ import print_service  # noqa: E402
 
 CARD = "Two Over One"
 SETUP = 7  # row of the File menu
+PRINTERS, PAPERS, TRAYS = 0.13, 0.32, 0.5  # the lists of the alternate set-up, in parts of its height
 QUESTION = "Unsaved changes"
 DOTS = 100  # per inch, at which pages are looked at
 STAMP = 0.74  # of the page's height: below it stands the time
@@ -187,7 +188,7 @@ class SettingUpTest(ServiceTest):
             return looks[-1] == looks[-2]
         desktop.wait_for("the screen to come to rest", is_calm)
 
-    def test_paper_and_tray_of_the_alternate_set_up_reach_the_job(self):
+    def start_with_the_alternate_set_up(self):
         program = self.start(self.home)
         program.close()
         program.wait_for_end()
@@ -197,8 +198,25 @@ class SettingUpTest(ServiceTest):
         self.programs.append(program)
         program.wait_for_title(rf"\( {CARD} \)$")
         program.choose_in_file_menu(SETUP)
-        self.choose_in_list(program, 0.32, "Down")  # A4 instead of Letter
-        self.choose_in_list(program, 0.5, "End")  # the lower tray instead of none
+        return program
+
+    def test_the_alternate_set_up_offers_print_to_pdf(self):
+        program = self.start_with_the_alternate_set_up()
+        self.choose_in_list(program, PRINTERS, "End")
+        program.answer(program.wait_for_box("^Printer Setup$"), "Return")
+        self.wait_for_set_up()
+        page = self.results / "page.pdf"
+        page.unlink(missing_ok=True)
+        program.press("ctrl+p")
+        program.answer_prompt(self.home.named(page), "^Print to PDF$")
+        desktop.wait_for("the page", lambda: page.is_file() and
+                         page.read_bytes().endswith(b"%%EOF\n"))
+        self.assertEqual(self.service.pages(), [])
+
+    def test_paper_and_tray_of_the_alternate_set_up_reach_the_job(self):
+        program = self.start_with_the_alternate_set_up()
+        self.choose_in_list(program, PAPERS, "Down")  # A4 instead of Letter
+        self.choose_in_list(program, TRAYS, "End")  # the lower tray instead of none
         program.answer(program.wait_for_box("^Printer Setup$"), "Return")
         self.wait_for_set_up()
         job = self.print_again(program).read_bytes()
