@@ -183,17 +183,24 @@ class Program:
         environment |= {"CUPS_SERVER": "127.0.0.1:1"} | home.environment
         self.process = subprocess.Popen([*home.command(), *arguments], env=environment,
                                         cwd=home.folder)
+        try:
+            self.come_up(is_first, answers)
+        except Exception:
+            self.kill()
+            raise
+
+    def come_up(self, is_first, answers):
         if is_first:
             # Says that the player's files were moved to the data folder.
             self.answer(self.wait_for_box("^Zevlin$"), "Return")
         for title, key in answers:
             self.answer(self.wait_for_box(title), key)
-        self.window = wait_for("the program's window", lambda: self.windows(r"^Zevlin  \("))[0]
+        self.window = wait_for("the program's window", lambda: self.windows(r"^Zevlin  ?[-(]"))[0]
 
     def windows(self, title="."):
         if not self.is_running():
             raise RuntimeError(f"the program ended with code {self.process.returncode}")
-        found = subprocess.run(["xdotool", "search", "--onlyvisible", "--pid",
+        found = subprocess.run(["xdotool", "search", "--all", "--onlyvisible", "--pid",
                                 str(self.process.pid), "--name", title],
                                capture_output=True, timeout=20)
         return found.stdout.decode().split()
@@ -243,13 +250,23 @@ class Program:
         return [window for window in self.windows(title) if window != self.window]
 
     def wait_for_box(self, title="."):
-        def shown():
-            boxes = self.boxes(title)
-            if self.home.focuses_itself:
-                # A menu is a window there, but the keys don't go to it.
-                boxes = [box for box in boxes if box == window_in_focus()]
-            return boxes
-        return wait_for(f"a box {title}", shown)[0]
+        if self.home.focuses_itself:
+            return self.wait_for_focused_box(title)
+        return wait_for(f"a box {title}", lambda: self.boxes(title))[0]
+
+    def wait_for_focused_box(self, title):
+        """A menu is a window there, too, but the keys don't go to it."""
+        def focused():
+            now = window_in_focus()
+            return [box for box in self.boxes(title) if box == now]
+        for _ in range(3 * ATTEMPTS):
+            found = value_within(2, focused)
+            if found:
+                return found[0]
+            for box in self.boxes(title):
+                # Offered the focus where it was forgotten. It may be gone by then.
+                subprocess.run(["xdotool", "windowactivate", box], capture_output=True, timeout=20)
+        raise TimeoutError(f"waited in vain for a box {title} with the focus")
 
     def answer(self, box, key):
         """Presses a key in a box and waits until it is gone."""
