@@ -130,6 +130,17 @@ TEST_F(RecordTabs, EachFurtherPressLinksThePressedItems) {
     EXPECT_EQ(form.TabRecordPrev, 3);
 }
 
+TEST_F(RecordTabs, EachLinkIsAnUnsavedChangeOfTheDesign) {
+    recordFromNothing();
+    clickMark(1);
+    EXPECT_FALSE(form.DesignDirty);
+    clickMark(2);
+    EXPECT_TRUE(form.DesignDirty);
+    form.DesignDirty = false;
+    clickMark(3);
+    EXPECT_TRUE(form.DesignDirty);
+}
+
 TEST_F(RecordTabs, LaterRecordingSplicesIntoTheChain) {
     recordFromNothing();
     clickText(1);

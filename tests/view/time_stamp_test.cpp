@@ -78,6 +78,14 @@ TEST_F(TimeStamp, DuringAZoomItKeepsItsText) {
     EXPECT_EQ(form.Timestamp.Caption, "as it was");
 }
 
+TEST_F(TimeStamp, UnderTheTemporaryNameOfARebuildItKeepsItsText) {
+    startWith(smallMarks());
+    form.Timestamp.Caption = "as it was";
+    form.CardName = "$$Tempcard";
+    MakeTimeStamp(form);
+    EXPECT_EQ(form.Timestamp.Caption, "as it was");
+}
+
 TEST_F(TimeStamp, ItStandsInTheBottomRightCorner) {
     startWith(smallMarks());
     const auto& stamp = form.Timestamp;
