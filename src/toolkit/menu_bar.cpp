@@ -140,19 +140,21 @@ bool MenuBar::runShortcut(const QKeyEvent& event) {
 }
 
 bool MenuBar::choose(std::string_view captionPath) {
+    QAction* chosen = offeredRow(captionPath);
+    if (chosen != nullptr) chosen->trigger();
+    return chosen != nullptr;
+}
+
+QAction* MenuBar::offeredRow(std::string_view captionPath) {
     QList<QAction*> offered = actions();
-    if (!isEnabled()) return false;
+    if (!isEnabled()) return nullptr;
     for (;;) {
         const std::size_t end = captionPath.find('>');
-        QAction* chosen = offeredAction(offered, captionPath.substr(0, end));
-        if (chosen == nullptr) return false;
-        if (end == std::string_view::npos) {
-            chosen->trigger();
-            return true;
-        }
-        if (chosen->menu() == nullptr) return false;
-        Q_EMIT chosen->menu()->aboutToShow();
-        offered = chosen->menu()->actions();
+        QAction* row = offeredAction(offered, captionPath.substr(0, end));
+        if (row == nullptr || end == std::string_view::npos) return row;
+        if (row->menu() == nullptr) return nullptr;
+        Q_EMIT row->menu()->aboutToShow();
+        offered = row->menu()->actions();
         captionPath.remove_prefix(end + 1);
     }
 }

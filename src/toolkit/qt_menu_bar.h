@@ -28,6 +28,8 @@ class MenuBar : public QMenuBar {
     /// As if the player had opened the menus and chosen the row; captions without "&", joined by
     /// ">". False where it isn't shown or enabled.
     bool choose(std::string_view captionPath);
+    /// The row itself; nullptr where it isn't shown or enabled.
+    [[nodiscard]] QAction* offeredRow(std::string_view captionPath);
 
   private:
     /// A menu on the bar.

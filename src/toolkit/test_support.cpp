@@ -63,6 +63,12 @@ bool chooseMenu(std::string_view captionPath) {
     return chosen;
 }
 
+bool showsCheck(std::string_view captionPath) {
+    updateWindow();
+    const QAction* row = window().form().menuBar().offeredRow(captionPath);
+    return row != nullptr && row->isCheckable() && row->isChecked();
+}
+
 void resizeWindow(int wider, int higher) {
     updateWindow();
     QWidget& form = window().form();

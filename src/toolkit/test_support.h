@@ -59,6 +59,8 @@ void fillClipboard(std::string_view utf8);
 /// A menu item, as if the player had opened its menu and chosen it: captions without "&", joined by
 /// ">", as in "File>Save". False where it isn't shown or enabled.
 bool chooseMenu(std::string_view captionPath);
+/// Whether the player who opens its menu sees a check mark at it.
+[[nodiscard]] bool showsCheck(std::string_view captionPath);
 /// The player makes the window larger or shifts it, by pixels.
 void resizeWindow(int wider, int higher);
 void shiftWindow(int toTheRight, int down);

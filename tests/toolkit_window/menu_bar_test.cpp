@@ -77,6 +77,17 @@ TEST_F(MenuBar, ChoosingARowLeavesItsCheckToTheProgram) {
     EXPECT_TRUE(save.Checked);
 }
 
+TEST_F(MenuBar, RowShowsTheCheckThatTheProgramHasGivenIt) {
+    EXPECT_FALSE(test::showsCheck("File>Save"));
+    save.Checked = deep.Checked = true;
+    EXPECT_TRUE(test::showsCheck("File>Save"));
+    EXPECT_TRUE(test::showsCheck("File>More>Deep & far"));
+    EXPECT_TRUE(test::chooseMenu("File>Save"));
+    EXPECT_TRUE(test::showsCheck("File>Save"));
+    save.Checked = false;
+    EXPECT_FALSE(test::showsCheck("File>Save"));
+}
+
 TEST_F(MenuBar, ShortcutRunsTheRowInsteadOfTheControlsKeyDown) {
     openBox("abc");
     test::typeKey('S', shift::ctrl);
