@@ -35,7 +35,7 @@ CursorPosition cursorPosition() {
 
 void setCursorPosition(CursorPosition position) {
     const QPoint place = screenOrigin() + QPoint(position.x, position.y);
-    if (qGuiApp != nullptr) QCursor::setPos(place);
+    if (qGuiApp != nullptr && !pointerStays()) QCursor::setPos(place);
     assumeCursorAt(place);
 }
 

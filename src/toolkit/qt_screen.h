@@ -14,4 +14,7 @@ namespace toolkit {
 /// second screen isn't beyond the edge of the first.
 [[nodiscard]] QPoint screenOrigin();
 
+/// Whether a test wants the pointer to stay wherever the program would move it.
+[[nodiscard]] bool pointerStays();
+
 } // namespace toolkit

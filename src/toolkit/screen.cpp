@@ -49,6 +49,8 @@ QPoint screenOrigin() {
     return present == nullptr ? QPoint() : present->geometry().topLeft();
 }
 
+bool pointerStays() { return overridesInForce().pointerStays; }
+
 int twipsPerPixel() {
     const int overridden = overridesInForce().twipsPerPixel;
     return overridden > 0 ? overridden : measuredTwipsPerPixel();

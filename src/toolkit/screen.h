@@ -42,6 +42,7 @@ struct ScreenOverrides {
     float height = 0;
     TaskBar taskBar{};
     bool hasTaskBar = false;
+    bool pointerStays = false; ///< as on platforms that let no program move it
 };
 void overrideScreen(const ScreenOverrides& overrides);
 

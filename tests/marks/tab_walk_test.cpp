@@ -108,6 +108,19 @@ TEST_F(MarkWalk, TabJumpsAThirdOfTheWayIntoTheNextMarkWhereSpaceTogglesIt) {
     EXPECT_TRUE(form.AMark[2].Visible);
 }
 
+TEST_F(MarkWalk, TabGoesOnWhereNoProgramMayMoveThePointer) {
+    startSmall("1001,1002\r\n1002,1003\r\n1003,4\r\n", 1003);
+    toolkit::overrideScreen({.width = 24000, .height = 24000, .pointerStays = true});
+    clickMark(1);
+    for (const int mark : {2, 3}) {
+        typeKey(key::tab);
+        typeKey(key::space);
+        EXPECT_TRUE(form.AMark[mark].Visible) << mark;
+    }
+    typeKey(key::tab);
+    EXPECT_EQ(form.TIndex, 4);
+}
+
 TEST_F(MarkWalk, TabToAMarkTracesItsPlace) {
     startSmall();
     form.AMark[2].Move(3000, 1500, 300, 375);

@@ -1,0 +1,40 @@
+// The cursor's place where the platform lets no program move the pointer.
+#include <QtGui/QCursor>
+#include <gtest/gtest.h>
+
+#include "toolkit/screen.h"
+
+namespace toolkit {
+namespace {
+
+class PinnedPointer : public testing::Test {
+  protected:
+    PinnedPointer() {
+        QCursor::setPos(10, 20);
+        overrideScreen({.pointerStays = true});
+    }
+    ~PinnedPointer() override { overrideScreen({}); }
+    static void expectAt(int x, int y) {
+        EXPECT_EQ(cursorPosition().x, x);
+        EXPECT_EQ(cursorPosition().y, y);
+    }
+};
+
+TEST_F(PinnedPointer, PlaceThatWasAskedForCounts) {
+    setCursorPosition({123, 145});
+    EXPECT_EQ(QCursor::pos(), QPoint(10, 20));
+    expectAt(123, 145);
+    setCursorPosition({-5000, 7});
+    expectAt(-5000, 7);
+}
+
+TEST_F(PinnedPointer, PointerThatThePlayerMovesCountsFromThenOn) {
+    setCursorPosition({123, 145});
+    QCursor::setPos(11, 20);
+    expectAt(11, 20);
+    QCursor::setPos(10, 20);
+    expectAt(10, 20);
+}
+
+} // namespace
+} // namespace toolkit
