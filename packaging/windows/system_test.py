@@ -21,6 +21,7 @@ import print_service  # noqa: E402
 
 CARD = "Two Over One"
 SETUP = 7  # row of the File menu
+ALTERNATE = 7  # row of the Options menu
 PRINTERS, PAPERS, TRAYS = 0.13, 0.32, 0.5  # the lists of the alternate set-up, in parts of its height
 QUESTION = "Unsaved changes"
 DOTS = 100  # per inch, at which pages are looked at
@@ -200,11 +201,13 @@ class SettingUpTest(ServiceTest):
         program.choose_in_file_menu(SETUP)
         return program
 
-    def test_the_alternate_set_up_offers_print_to_pdf(self):
-        program = self.start_with_the_alternate_set_up()
+    def choose_print_to_pdf(self, program):
+        """In the alternate set-up."""
         self.choose_in_list(program, PRINTERS, "End")
         program.answer(program.wait_for_box("^Printer Setup$"), "Return")
         self.wait_for_set_up()
+
+    def check_that_a_file_is_printed(self, program):
         page = self.results / "page.pdf"
         page.unlink(missing_ok=True)
         program.press("ctrl+p")
@@ -212,6 +215,22 @@ class SettingUpTest(ServiceTest):
         desktop.wait_for("the page", lambda: page.is_file() and
                          page.read_bytes().endswith(b"%%EOF\n"))
         self.assertEqual(self.service.pages(), [])
+
+    def test_the_alternate_set_up_offers_print_to_pdf(self):
+        program = self.start_with_the_alternate_set_up()
+        self.choose_print_to_pdf(program)
+        self.check_that_a_file_is_printed(program)
+
+    def test_print_to_file_in_the_systems_dialog_is_print_to_pdf(self):
+        program = self.start_with_the_alternate_set_up()
+        self.choose_print_to_pdf(program)
+        program.press("alt+o", *["Down"] * ALTERNATE, "Return")
+        desktop.wait_for("the primary method", lambda: b"PrintAlt=0" in
+                         (self.home.data / "ZEV.Ini").read_bytes())
+        program.choose_in_file_menu(SETUP)
+        # It begins with the box checked, and Wine hands that back as it was.
+        program.answer(program.wait_for_box("^Print$"), "Return")
+        self.check_that_a_file_is_printed(program)
 
     def test_paper_and_tray_of_the_alternate_set_up_reach_the_job(self):
         program = self.start_with_the_alternate_set_up()
