@@ -18,11 +18,11 @@ from wine_home import desktop
 
 sys.path.insert(0, str(desktop.ROOT / "tests" / "e2e"))
 import print_service  # noqa: E402
+import printer_set_up  # noqa: E402
+from printer_set_up import choose_in_list  # noqa: E402
 
 CARD = "Two Over One"
-SETUP = 7  # row of the File menu
 ALTERNATE = 7  # row of the Options menu
-PRINTERS, PAPERS, TRAYS = 0.13, 0.32, 0.5  # the lists of the alternate set-up, in parts of its height
 QUESTION = "Unsaved changes"
 DOTS = 100  # per inch, at which pages are looked at
 STAMP = 0.74  # of the page's height: below it stands the time
@@ -101,10 +101,6 @@ class ServiceTest(SystemTest):
         desktop.wait_for("the next page", lambda: len(self.service.pages()) > count)
         return self.wait_for_page()
 
-    def wait_for_set_up(self):
-        desktop.wait_for("the facts", lambda: b"User selected" in
-                         (self.home.data / "ZEV.Ini").read_bytes())
-
 
 class PrintersTest(ServiceTest):
     def test_a_page_is_printed_as_this_systems_program_prints_it(self):
@@ -138,7 +134,7 @@ class PrintersTest(ServiceTest):
     def test_the_default_printer_comes_back_when_the_dialog_has_changed_it(self):
         self.service.add("Laser", color=False)
         program = self.start(self.home)
-        program.choose_in_file_menu(SETUP)
+        program.choose_in_file_menu(printer_set_up.ROW)
         box = program.wait_for_box("^Print$")
         self.assertEqual(self.default_printer(), "Office")
         self.make_default("Laser")
@@ -157,37 +153,17 @@ class SettingUpTest(ServiceTest):
     def test_the_systems_dialog_sets_up_the_printer_that_is_used(self):
         program = self.start(self.home)
         before = self.page(self.print_again(program))
-        program.choose_in_file_menu(SETUP)
+        program.choose_in_file_menu(printer_set_up.ROW)
         box = program.wait_for_box("^Print$")
         program.focus(box)
         desktop.xdotool("key", "alt+c", "type", "3")
         program.answer(box, "Return")
-        self.wait_for_set_up()
+        printer_set_up.wait_until_told(self.home)
         job = self.print_again(program)
         self.assertIn(b"*NumCopies 3", job.read_bytes())
         after = self.page(job)
         length = 3 * after.width * round(after.height * STAMP)
         self.assertEqual(after.bytes[:length], before.bytes[:length])
-
-    def choose_in_list(self, program, place, key):
-        """In the list at a place of the set-up, which is told in parts of its height."""
-        box = program.wait_for_box("^Printer Setup$")
-        shell = desktop.xdotool("getwindowgeometry", "--shell", box)
-        width, height = (int(re.search(rf"{name}=(\d+)", shell)[1])
-                         for name in ("WIDTH", "HEIGHT"))
-        desktop.xdotool("mousemove", "--window", box, width // 2, round(height * place),
-                        "click", 1)
-        self.wait_until_painted()
-        desktop.xdotool("key", key, "Return")
-        self.wait_until_painted()
-
-    def wait_until_painted(self):
-        looks = [b""]
-
-        def is_calm():
-            looks.append(desktop.screenshot().bytes)
-            return looks[-1] == looks[-2]
-        desktop.wait_for("the screen to come to rest", is_calm)
 
     def start_with_the_alternate_set_up(self):
         program = self.start(self.home)
@@ -198,14 +174,14 @@ class SettingUpTest(ServiceTest):
         program = desktop.Program(self.home, self.home.opening(CARD))
         self.programs.append(program)
         program.wait_for_title(rf"\( {CARD} \)$")
-        program.choose_in_file_menu(SETUP)
+        program.choose_in_file_menu(printer_set_up.ROW)
         return program
 
     def choose_print_to_pdf(self, program):
         """In the alternate set-up."""
-        self.choose_in_list(program, PRINTERS, "End")
+        choose_in_list(program, printer_set_up.PRINTERS, "End")
         program.answer(program.wait_for_box("^Printer Setup$"), "Return")
-        self.wait_for_set_up()
+        printer_set_up.wait_until_told(self.home)
 
     def check_that_a_file_is_printed(self, program):
         page = self.results / "page.pdf"
@@ -227,17 +203,17 @@ class SettingUpTest(ServiceTest):
         program.press("alt+o", *["Down"] * ALTERNATE, "Return")
         desktop.wait_for("the primary method", lambda: b"PrintAlt=0" in
                          (self.home.data / "ZEV.Ini").read_bytes())
-        program.choose_in_file_menu(SETUP)
+        program.choose_in_file_menu(printer_set_up.ROW)
         # It begins with the box checked, and Wine hands that back as it was.
         program.answer(program.wait_for_box("^Print$"), "Return")
         self.check_that_a_file_is_printed(program)
 
     def test_paper_and_tray_of_the_alternate_set_up_reach_the_job(self):
         program = self.start_with_the_alternate_set_up()
-        self.choose_in_list(program, PAPERS, "Down")  # A4 instead of Letter
-        self.choose_in_list(program, TRAYS, "End")  # the lower tray instead of none
+        choose_in_list(program, printer_set_up.PAPERS, "Down")  # A4 instead of Letter
+        choose_in_list(program, printer_set_up.TRAYS, "End")  # the lower tray instead of none
         program.answer(program.wait_for_box("^Printer Setup$"), "Return")
-        self.wait_for_set_up()
+        printer_set_up.wait_until_told(self.home)
         job = self.print_again(program).read_bytes()
         self.assertIn(b"*PageSize A4", job)
         self.assertIn(b"*InputSlot Lower", job)

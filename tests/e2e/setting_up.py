@@ -4,11 +4,12 @@ of the printer."""
 import re
 
 import print_service
+import printer_set_up
 import whole_program
+from printer_set_up import choose_in_list
 from whole_program import desktop
 
 CARD = "Two Over One"
-SETUP = 7  # row of the File menu
 
 
 class SettingUpTest(whole_program.WholeProgramTest):
@@ -34,32 +35,8 @@ class SettingUpTest(whole_program.WholeProgramTest):
                 desktop.xdotool("windowfocus", box)
             return desktop.window_in_focus() == box
         desktop.wait_for(f"the focus of {title}", has_focus)
-        self.wait_until_painted()
+        printer_set_up.wait_until_painted()
         desktop.xdotool("key", "--clearmodifiers", *keys)
-
-    def wait_until_painted(self):
-        """A box takes keys only once it is whole."""
-        looks = [b""]
-
-        def is_calm():
-            looks.append(desktop.screenshot().bytes)
-            return looks[-1] == looks[-2]
-        desktop.wait_for("the screen to come to rest", is_calm)
-
-    def choose_neighbour(self, program, place, key):
-        """In the list at a place of the set-up, which is told in parts of its height."""
-        box = program.wait_for_box("^Printer Setup$")
-        shell = desktop.xdotool("getwindowgeometry", "--shell", box)
-        width, height = (int(re.search(rf"{name}=(\d+)", shell)[1])
-                         for name in ("WIDTH", "HEIGHT"))
-        desktop.xdotool("mousemove", "--window", box, width // 2, round(height * place),
-                        "click", 1)
-        self.wait_until_painted()
-        desktop.xdotool("key", key, "Return")
-
-    def wait_for_set_up(self):
-        desktop.wait_for("the facts", lambda: "User selected" in
-                         (self.home.data / "ZEV.Ini").read_text("cp1252"))
 
     def page_and_options(self, program):
         """Width and height of the printed page in inches, and what the job asks for."""
@@ -71,7 +48,7 @@ class SettingUpTest(whole_program.WholeProgramTest):
 
     def test_what_the_systems_set_up_chooses_reaches_the_job(self):
         program = self.start_with_card()
-        program.choose_in_file_menu(SETUP)
+        program.choose_in_file_menu(printer_set_up.ROW)
         self.press_in(program, "^Printer Setup$", "alt+r")
         for keys in (("Tab", "Down", "Tab", "Tab", "Down"),  # A4, landscape
                      ("ctrl+shift+Tab",), ("shift+Tab", "shift+Tab", "Down"),  # the lower tray
@@ -79,7 +56,7 @@ class SettingUpTest(whole_program.WholeProgramTest):
             self.press_in(program, "^Printer Properties$", *keys)
         for keys in (("alt+o",), ("Tab", "Tab", "Tab", "Up", "Up", "Return")):  # three copies
             self.press_in(program, "^Printer Setup$", *keys)
-        self.wait_for_set_up()
+        printer_set_up.wait_until_told(self.home)
         (width, height), options = self.page_and_options(program)
         self.assertAlmostEqual(width, 11.69, delta=0.01)
         self.assertAlmostEqual(height, 8.27, delta=0.01)
@@ -92,12 +69,11 @@ class SettingUpTest(whole_program.WholeProgramTest):
         options_file = self.home.data / "ZEV.Ini"
         options_file.write_bytes(options_file.read_bytes().replace(b"PrintAlt=0", b"PrintAlt=1"))
         program = self.start_with_card()
-        program.choose_in_file_menu(SETUP)
-        self.choose_neighbour(program, 0.32, "Up")  # A4 instead of Letter
-        self.choose_neighbour(program, 0.5, "Down")  # the second tray instead of none
-        self.wait_until_painted()
+        program.choose_in_file_menu(printer_set_up.ROW)
+        choose_in_list(program, printer_set_up.PAPERS, "Up")  # A4 instead of Letter
+        choose_in_list(program, printer_set_up.TRAYS, "Down")  # the second tray instead of none
         desktop.xdotool("key", "Return")
-        self.wait_for_set_up()
+        printer_set_up.wait_until_told(self.home)
         (width, _), options = self.page_and_options(program)
         self.assertAlmostEqual(width, 8.27, delta=0.01)
         self.assertEqual(options["PageSize"], "A4")
