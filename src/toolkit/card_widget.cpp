@@ -40,7 +40,7 @@ void CardWidget::push() {
     if (isHidden() == parts_.card->Visible) setVisible(parts_.card->Visible);
 }
 
-/// Who zooms does so several times: until then each picture lies where the last but one did.
+/// Zooms come in a row: a picture's memory is kept a while for the next but one.
 void CardWidget::pushPicture() {
     const KeptPixelMemory kept;
     picture_ = parts_.card->Picture;

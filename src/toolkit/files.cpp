@@ -15,7 +15,7 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t chunkSize = 65536;
 
-// Of the file systems in use none has smaller ones, and each writes a block as a whole.
+// Most file systems write so much as a whole.
 constexpr std::size_t blockSize = 4096;
 
 // No text or picture of the program comes near; what is longer would only fill the memory.
@@ -89,28 +89,20 @@ bool grow(const fs::path& path, std::uintmax_t length, std::string_view content)
     }
 }
 
-/// A disk without room still takes what needs no more blocks than the file has.
+/// Where the file stands: a disk without room still takes what needs no more blocks than it has.
 bool overwrite(const fs::path& path, std::string_view content) {
     std::error_code error;
     const std::uintmax_t length = fs::file_size(path, error);
     if (error || !grow(path, length, content)) return false;
     writeContent(path, FileMode::Update, content);
-    fs::resize_file(path, content.size(), error);
+    if (content.size() < length) fs::resize_file(path, content.size(), error);
     return !error;
 }
 
-/// False, with the old content still there or not, if the file isn't one of a single block.
-bool overwriteBlock(const fs::path& path, std::string_view content) {
+bool isInOneBlock(const fs::path& path, std::string_view content) {
     std::error_code error;
     const std::uintmax_t length = fs::file_size(path, error);
-    if (error || length == 0 || length > blockSize || content.size() > blockSize) return false;
-    try {
-        writeContent(path, FileMode::Update, content);
-    } catch (const RunTimeError&) {
-        return false;
-    }
-    if (content.size() < length) fs::resize_file(path, content.size(), error);
-    return !error;
+    return !error && length > 0 && length <= blockSize && content.size() <= blockSize;
 }
 
 /// None where the folder takes no file beside the one that is replaced.
@@ -173,7 +165,12 @@ void writeFile(const fs::path& path, std::string_view content) {
 }
 
 void updateFile(const fs::path& path, std::string_view content) {
-    if (!overwriteBlock(path, content)) writeFile(path, content);
+    try {
+        if (isInOneBlock(path, content) && overwrite(path, content)) return;
+    } catch (const RunTimeError&) {
+        // The other way may do, or else tells why not.
+    }
+    writeFile(path, content);
 }
 
 void appendFile(const fs::path& path, std::string_view content) {

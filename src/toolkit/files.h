@@ -32,9 +32,9 @@ namespace toolkit {
 /// until the new one is whole beside it, so that a disk without room costs neither; only where the
 /// folder takes no other file is it gone from the start. Failures 52, 70, 75, 76, 61, 57.
 void writeFile(const std::filesystem::path& path, std::string_view content);
-/// The same for a small file that is written again and again: if old and new content both lie in
-/// one block of the disk it is overwritten where it stands, in one go. To put a new file in its
-/// place would make some systems wait for the disk.
+/// The same for a small file that is written again and again: where old and new content are no more
+/// than a disk writes as a whole, it is overwritten where it stands. To put a new file in its place
+/// makes some systems wait for the disk.
 void updateFile(const std::filesystem::path& path, std::string_view content);
 void appendFile(const std::filesystem::path& path, std::string_view content);
 

@@ -28,7 +28,7 @@ constexpr bool keepsPixelMemory = false;
 
 /// A large picture lies in large pages where the system has them: a job's pictures come and go, and
 /// to have their thousands of small pages made takes as long as to fill them. What is given back
-/// leaves the process at once. Fails with std::bad_alloc.
+/// leaves the process at once, but for what a KeptPixelMemory keeps. Fails with std::bad_alloc.
 [[nodiscard]] void* takePixelMemory(std::size_t bytes);
 void returnPixelMemory(void* memory, std::size_t bytes);
 

@@ -86,7 +86,8 @@ void RebuildScreenImage(Zevlin& form) {
     const bool designing = form.MShowShapes.Checked;
     trapped(form, "Error in RebuildScreenImage: #", [&] {
         form.TabActive = false;
-        if (!form.Initializing) StartPicture(form);
+        // What fails here fails again, and is told, where the picture is wanted.
+        if (!form.Initializing) ignoringFailures([&] { StartPicture(form); });
         // What design mode shows is neither to be saved nor to be lost.
         if (designing) MShowShapes_Click(form);
         IniWrite(form);

@@ -55,6 +55,16 @@ TEST(FullDisk, WhatFindsNoRoomLeavesTheOldContent) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / ""), {}), 1);
 }
 
+TEST(FullDisk, AnUpdateThatFindsNoRoomLeavesTheOldContent) {
+    const TemporaryFolder folder;
+    writeFile(folder / "f", std::string(500, 'o'));
+    const FileSizeLimit limit(1000);
+    EXPECT_EQ(failureOf([&] { updateFile(folder / "f", std::string(2000, 'x')); }), 57);
+    EXPECT_EQ(readFile(folder / "f"), std::string(500, 'o'));
+    updateFile(folder / "f", std::string(900, 'y'));
+    EXPECT_EQ(readFile(folder / "f"), std::string(900, 'y'));
+}
+
 TEST(FullDisk, WhatNeedsNoMoreBlocksIsStillWritten) {
     const TemporaryFolder folder;
     const test_system::SmallDisk disk(folder.path(), 64);
