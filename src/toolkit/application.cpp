@@ -1,5 +1,8 @@
+#include <cstdlib>
+
 #include <QtWidgets/QApplication>
 
+#include "toolkit/qt_program.h"
 #include "toolkit/qt_program_icon.h"
 #include "toolkit/qt_session_end.h"
 #include "toolkit/qt_window.h"
@@ -45,6 +48,8 @@ Application::~Application() = default;
 int Application::run() {
     updateWindow();
     const SessionEnd sessionEnd;
+    // Without its screen the platform ends the process from below the event loop.
+    std::atexit(prepareForEnd);
     return QApplication::exec();
 }
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QScopedValueRollback>
 #include <QtCore/QTimer>
 
 #include "toolkit/qt_program.h"
@@ -61,6 +62,8 @@ void Delivery::askToClose() {
 }
 
 void Delivery::askToEnd() {
+    // The very question that is being put.
+    if (isEnding_) return;
     endAsked_ = true;
     askToClose();
 }
@@ -72,7 +75,10 @@ bool Delivery::mayEnd() {
     }
     const bool isInWait = waits_ > 0;
     bool ends = false;
-    run([&] { ends = hooks_.end(); });
+    {
+        const QScopedValueRollback asking(isEnding_, true);
+        run([&] { ends = hooks_.end(); });
+    }
     // Only the wait was ended; the question comes again when its procedure has returned.
     if (isInWait) endAsked_ = closeAsked_ = true;
     return ends;

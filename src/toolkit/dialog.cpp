@@ -10,6 +10,7 @@
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPushButton>
 
 #include "toolkit/qt_answers.h"
 #include "toolkit/qt_delivery.h"
@@ -20,10 +21,9 @@ namespace toolkit {
 namespace {
 
 constexpr std::array qtButtons{
-    std::pair{Answer::Ok, QMessageBox::Ok},
-    std::pair{Answer::Cancel, QMessageBox::Cancel},
-    std::pair{Answer::Yes, QMessageBox::Yes},
-    std::pair{Answer::No, QMessageBox::No},
+    std::pair{Answer::Ok, QMessageBox::Ok},       std::pair{Answer::Cancel, QMessageBox::Cancel},
+    std::pair{Answer::Yes, QMessageBox::Yes},     std::pair{Answer::No, QMessageBox::No},
+    std::pair{Answer::SaveAs, QMessageBox::Save},
 };
 
 QMessageBox::StandardButton qButton(Answer answer) {
@@ -41,6 +41,8 @@ std::vector<Answer> answersOf(Buttons buttons) {
         return {Answer::Yes, Answer::No};
     case Buttons::YesNoCancel:
         return {Answer::Yes, Answer::No, Answer::Cancel};
+    case Buttons::YesNoSaveAs:
+        return {Answer::Yes, Answer::SaveAs, Answer::No};
     }
     return {};
 }
@@ -70,7 +72,10 @@ Answer showOnScreen(const MessageBox& box) {
     shown.setTextFormat(Qt::PlainText);
     shown.setText(qString(box.text));
     shown.setIcon(qIcon(box.icon));
-    for (const Answer answer : answers) shown.addButton(qButton(answer));
+    for (const Answer answer : answers) {
+        QPushButton* button = shown.addButton(qButton(answer));
+        if (answer == Answer::SaveAs) button->setText(QStringLiteral("Save &As"));
+    }
     shown.setDefaultButton(qButton(box.preset.value_or(answers.front())));
     const int pressed = shown.exec();
     const auto found = std::ranges::find(qtButtons, pressed, [](auto pair) { return pair.second; });

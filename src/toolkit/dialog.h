@@ -12,9 +12,9 @@
 
 namespace toolkit {
 
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel, YesNoSaveAs };
 enum class Icon { None, Exclamation, Question, Information };
-enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7 };
+enum class Answer : int { Ok = 1, Cancel = 2, Yes = 6, No = 7, SaveAs = 8 };
 
 struct MessageBox {
     std::string text{};

@@ -54,6 +54,10 @@ struct Form {
     std::function<bool()> QueryClose;
     /// The session ends, or another program asks this one to; true refuses.
     std::function<bool()> QueryEnd;
+    /// The process may end at once, whatever comes then: the system has asked for it, a procedure
+    /// ends it, or the screen is gone. Can come in the middle of a procedure, and more than once;
+    /// only files may be touched.
+    std::function<void()> Ending;
     /// A failure that no procedure trapped (none should).
     std::function<void(const RunTimeError&)> Unhandled;
 

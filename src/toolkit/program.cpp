@@ -46,12 +46,28 @@ void beep() {
     QApplication::beep();
 }
 
+void prepareForEnd() {
+    static bool isPreparing = false;
+    if (currentWindow() == nullptr || isPreparing) return;
+    const auto& ending = currentWindow()->parts().form->Ending;
+    if (!ending) return;
+    isPreparing = true;
+    try {
+        ending();
+    } catch (const std::exception&) {
+        // The end is not to be held up.
+    }
+    isPreparing = false;
+}
+
 void leaveProgram() {
+    prepareForEnd();
     if (programOverrides().throwAtEnd) throw ProgramEnded{};
     Application::quit();
 }
 
 void endProgram() {
+    prepareForEnd();
     if (programOverrides().throwAtEnd) throw ProgramEnded{};
     std::_Exit(EXIT_SUCCESS);
 }

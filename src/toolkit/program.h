@@ -32,6 +32,11 @@ void beep();
 /// where the system has none.
 [[nodiscard]] std::filesystem::path specialFolder(int identifier);
 
+/// The folder for what the program keeps from one run to the next beside the player's files:
+/// $XDG_STATE_HOME/zevlin, or .local/state/zevlin in the home folder; Zevlin in the local
+/// application data on Windows. It need not exist.
+[[nodiscard]] std::filesystem::path stateFolder();
+
 /// Opens the desktop's file manager with the file selected, else on its folder.
 void showInFileManager(const std::filesystem::path& file);
 
@@ -54,6 +59,7 @@ struct ProgramEnded {};
 struct ProgramOverrides {
     std::filesystem::path programFolder{};   ///< empty: the real one
     std::filesystem::path documentsFolder{}; ///< empty: the real one, unless noDocuments
+    std::filesystem::path stateFolder{};     ///< empty: the real one
     bool noDocuments = false;
     bool throwAtEnd = false;
     bool shortWaits = false;                   ///< wait() is over after one look at the events

@@ -55,6 +55,7 @@ class Delivery {
     int waits_ = 0; ///< procedures that wait for the player
     bool closeAsked_ = false;
     bool endAsked_ = false;
+    bool isEnding_ = false; ///< the form is being asked
 };
 
 } // namespace toolkit

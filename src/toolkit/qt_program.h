@@ -7,4 +7,7 @@ namespace toolkit {
 
 [[nodiscard]] ProgramOverrides& programOverrides();
 
+/// Lets the form bring to safety what must not be lost.
+void prepareForEnd();
+
 } // namespace toolkit

@@ -5,8 +5,8 @@
 
 namespace toolkit {
 
-/// While it lives, the system's wish that the program ends is put to the form first. Where it comes
-/// as a signal, a second one ends the program at once.
+/// While it lives, the system's wish that the program ends is put to the form, each time that it
+/// comes.
 class SessionEnd {
   public:
     SessionEnd();

@@ -8,6 +8,7 @@
 #include <QtCore/QSocketNotifier>
 
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_program.h"
 #include "toolkit/qt_session_end.h"
 #include "toolkit/qt_window.h"
 
@@ -30,7 +31,7 @@ void tellByPipe(int /*signal*/) {
 void takeOver(int signal) {
     struct sigaction action {};
     action.sa_handler = tellByPipe;
-    action.sa_flags = static_cast<int>(SA_RESETHAND) | SA_RESTART;
+    action.sa_flags = SA_RESTART;
     // Whoever started the program may have set it to be ignored.
     struct sigaction before {};
     sigaction(signal, nullptr, &before);
@@ -38,9 +39,11 @@ void takeOver(int signal) {
 }
 
 void askForm(int readEnd) {
-    char byte = 0;
-    if (read(readEnd, &byte, 1) == 1 && currentWindow() != nullptr)
-        currentWindow()->delivery().askToEnd();
+    std::array<char, 64> bytes{};
+    if (read(readEnd, bytes.data(), bytes.size()) < 1 || currentWindow() == nullptr) return;
+    // Whoever sent the signal may not wait for an answer.
+    prepareForEnd();
+    currentWindow()->delivery().askToEnd();
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_program.h"
 #include "toolkit/qt_session_end.h"
 #include "toolkit/qt_window.h"
 
@@ -16,6 +17,8 @@ struct SessionEnd::Implementation : QAbstractNativeEventFilter {
         if (message.message != WM_QUERYENDSESSION || currentWindow() == nullptr) return false;
         const auto own = reinterpret_cast<HWND>(currentWindow()->form().winId());
         if (message.hwnd != own) return false;
+        // A shut-down needn't wait for an answer.
+        prepareForEnd();
         *result = currentWindow()->delivery().mayEnd() ? TRUE : FALSE;
         return true;
     }

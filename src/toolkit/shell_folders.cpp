@@ -2,6 +2,7 @@
 #include <system_error>
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
 #include <QtCore/QFile>
 #include <QtCore/QStandardPaths>
 #include <QtCore/QUrl>
@@ -55,6 +56,19 @@ std::filesystem::path specialFolder(int identifier) {
     if (!folder.empty()) std::filesystem::create_directories(folder, failure);
     if (!std::filesystem::is_directory(folder, failure)) return {};
     return folder;
+}
+
+std::filesystem::path stateFolder() {
+    if (!programOverrides().stateFolder.empty()) return programOverrides().stateFolder;
+#ifdef _WIN32
+    return nativePath(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) /
+           "Zevlin";
+#else
+    const std::filesystem::path folder = qEnvironmentVariable("XDG_STATE_HOME").toStdU16String();
+    // By the standard a relative one doesn't count.
+    if (folder.is_absolute()) return folder / "zevlin";
+    return nativePath(QDir::homePath()) / ".local" / "state" / "zevlin";
+#endif
 }
 
 /// No desktop protocol for a selected file is common to all; each can show a folder.

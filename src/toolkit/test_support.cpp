@@ -149,6 +149,13 @@ void elapseCardTimers() {
     }
 }
 
+void elapseAlarms() {
+    for (QTimer* timer : qApp->findChildren<QTimer*>(QStringLiteral("alarm"))) {
+        QTimerEvent elapsed(timer->timerId());
+        QCoreApplication::sendEvent(timer, &elapsed);
+    }
+}
+
 CardPaints cardPaints() {
     const CardWidget::Painted painted = window().card().painted();
     return {painted.paints, painted.pixels};

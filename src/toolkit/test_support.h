@@ -76,6 +76,8 @@ void whenRunning(std::function<void()> act);
 void settle();
 /// The card's timers run out now.
 void elapseCardTimers();
+/// The program's alarms run out now.
+void elapseAlarms();
 
 /// What the card shows, at one pixel a pixel.
 [[nodiscard]] Bitmap grabCard();

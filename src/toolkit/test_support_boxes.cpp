@@ -32,6 +32,8 @@ QMessageBox::StandardButton qButton(Answer answer) {
         return QMessageBox::Yes;
     case Answer::No:
         return QMessageBox::No;
+    case Answer::SaveAs:
+        return QMessageBox::Save;
     }
     return QMessageBox::NoButton;
 }

@@ -58,6 +58,7 @@ FormTest::FormTest() : home(newFolder()) {
     toolkit::overrideProgram(
         {.programFolder = programFolder,
          .documentsFolder = home / "Documents",
+         .stateFolder = home / "state",
          .noDocuments = false,
          .throwAtEnd = true,
          .shortWaits = true,
@@ -79,6 +80,7 @@ FormTest::FormTest() : home(newFolder()) {
 
 FormTest::~FormTest() {
     window.reset();
+    form.Journal.lock.release();
     toolkit::answerDialogsWith({});
     toolkit::overrideProgram({});
     toolkit::overrideScreen({});

@@ -39,6 +39,9 @@ class SmallDisk {
         std::ofstream filler(folder_ / fillerName, std::ios::binary | std::ios::app);
         filler << std::string(free > room ? free - room : 0, 'x') << std::flush;
     }
+    void makeReadOnly() const {
+        mount("none", folder_.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr);
+    }
     void giveRoom() const { std::filesystem::remove(folder_ / fillerName); }
 
   private:
