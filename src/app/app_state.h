@@ -5,6 +5,7 @@
 #include <deque>
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include "toolkit/control.h"
 
@@ -23,6 +24,9 @@ struct AppState {
     bool TraceSetting = false;     ///< the option as it will be saved
     std::deque<std::string> Trace; ///< the last 100 lines, newest first
     TraceState traceState;
+
+    std::vector<std::string> FileFailures;     ///< still to be told, a line each
+    std::vector<std::string> FileFailuresTold; ///< by the last box, or none since then
 
     bool ProductionBuild = false;
     bool WheelHooked = false;

@@ -2,13 +2,16 @@
 
 #include <cstdlib>
 #include <string>
+#include <utility>
 
 #include "app/find_layout.h"
+#include "app/initialize_failure.h"
 #include "app/initialize_run.h"
 #include "app/mark_fields.h"
 #include "app/text_fields.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "card/document.h"
 #include "layout/calibration.h"
 #include "layout/read_comment.h"
 #include "text/set_sym.h"
@@ -82,15 +85,9 @@ void sizeSymbolTemplate(Zevlin& form) {
     unloadSymbols(form);
 }
 
-} // namespace
-
-void buildFields(Zevlin& form, InitializeRun& run) {
-    const auto file = findLayout(form, run);
-    run.step = 1480;
-    Traceit(form, "Initialize step 1480: about to open Definitions.Ini in " +
-                      toolkit::displayText(form.DataFolder));
+void buildFrom(Zevlin& form, InitializeRun& run, std::string content) {
     form.VersionSeen.clear();
-    LayoutReader layout(toolkit::readFile(file),
+    LayoutReader layout(std::move(content),
                         [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
     readEnvironment(form, run, layout);
     computeRatio(form, run);
@@ -103,6 +100,46 @@ void buildFields(Zevlin& form, InitializeRun& run) {
     layout.readTabTable(form.TabTable);
     run.step = 2400;
     sizeSymbolTemplate(form);
+}
+
+void buildFromFile(Zevlin& form, InitializeRun& run) {
+    const auto file = findLayout(form, run);
+    run.step = 1480;
+    Traceit(form, "Initialize step 1480: about to open Definitions.Ini in " +
+                      toolkit::displayText(form.DataFolder));
+    std::string content = toolkit::readFile(file);
+    buildFrom(form, run, content);
+    form.LayoutInMemory = std::move(content);
+}
+
+/// What is filled in must find its field again.
+void requireRoomForCard(const Zevlin& form) {
+    if (!hasRoomFor(form, form.Carried->document))
+        throw toolkit::RunTimeError(toolkit::Failure::SubscriptOutOfRange,
+                                    "It has too few fields for this card");
+}
+
+/// A file that is missing, unreadable or damaged leaves the fields where they were. So does a
+/// check-point: it is in memory, whether a file took it or not.
+void rebuildFields(Zevlin& form, InitializeRun& run) {
+    const std::string known = form.LayoutInMemory;
+    const bool built = getOver(form, run, layoutFailure, [&] {
+        if (form.LayoutSetAside) return static_cast<void>(findLayout(form, run));
+        buildFromFile(form, run);
+        requireRoomForCard(form);
+    });
+    if (built && !form.LayoutSetAside) return;
+    buildFrom(form, run, known);
+    form.LayoutInMemory = known;
+}
+
+} // namespace
+
+void buildFields(Zevlin& form, InitializeRun& run) {
+    if (form.Carried)
+        rebuildFields(form, run);
+    else
+        buildFromFile(form, run);
 }
 
 } // namespace zev

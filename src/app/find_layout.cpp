@@ -52,8 +52,9 @@ std::filesystem::path copyInstalledLayout(Zevlin& form, InitializeRun& run) {
     const std::string name = std::string(layoutFileName) + "." +
                              toolkit::numberText(installedLayout(form.TwipsPerPixel));
     const auto installed = toolkit::findFile(toolkit::programFolder(), name);
+    if (!installed && form.Carried) throw toolkit::RunTimeError(toolkit::Failure::FileNotFound);
     if (!installed) endWithoutLayout(name);
-    run.firstRun = true;
+    run.firstRun = !form.Carried;
     form.LayoutCopied = true;
     run.step = 1350;
     auto target = form.DataFolder / layoutFileName;

@@ -48,6 +48,9 @@ void checkTextFont(Zevlin& form) {
     form.Testtext.SetFontName(form.TextFontName);
     form.Testtext.SetFontSize(form.TextFontSize[1]);
     if (!isDefective(form)) return;
+    // Another size is no reason to take the program away from the card.
+    if (form.Carried)
+        return Traceit(form, "Error in Initialize step 1100: the text font is defective");
     toolkit::tell("The text font (" + form.TextFontName +
                       ") needed by ZEV is defective.  The program cannot run on this computer.",
                   toolkit::Icon::Exclamation);

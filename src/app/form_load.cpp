@@ -1,10 +1,13 @@
 #include "app/form_load.h"
 
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 
 #include "app/command_line.h"
 #include "app/data_folder.h"
+#include "app/file_failures.h"
 #include "app/hooks.h"
 #include "app/initialize.h"
 #include "app/options.h"
@@ -16,6 +19,7 @@
 #include "card/lifecycle.h"
 #include "card/load.h"
 #include "card/modified.h"
+#include "card/rescue.h"
 #include "design/pen.h"
 #include "help/help_page.h"
 #include "layout/check_point.h"
@@ -39,6 +43,7 @@ constexpr int documentsFolderIdentifier = 5;
 struct LoadRun {
     int step = 0;
     bool showHelp = false;
+    std::optional<Rescue> rescue; ///< what the player wants back of an earlier run
 };
 
 /// True on a first run: the data folder had no options file yet.
@@ -125,7 +130,6 @@ void prepareForm(Zevlin& form) {
     CheckIniUpdate(form);
     hidePrintColorItems(form);
     form.FormBackColor = form.BackColor;
-    deleteIfThere(form, std::string(temporaryCardName) + std::string(cardExtension));
     RestoreShapes(form);
     setFonts(form);
     setPen(form);
@@ -169,12 +173,14 @@ void showCard(Zevlin& form, const LoadRun& run) {
     form.SetFocus(form.THelp);
 }
 
-void finish(Zevlin& form) {
+void finish(Zevlin& form, LoadRun& run) {
     placeMenuHelp(form);
     ResetMod(form);
     form.DesignDirty = false;
     form.OrigIndex = 0;
+    if (run.rescue) openRescued(form, std::move(*run.rescue));
     toolkit::doEvents();
+    tellFileFailures(form);
 }
 
 void load(Zevlin& form, std::string_view commandLine, LoadRun& run) {
@@ -185,12 +191,13 @@ void load(Zevlin& form, std::string_view commandLine, LoadRun& run) {
     run.step = 2100;
     form.Top = 0;
     form.LastSchemeIndex = static_cast<std::int16_t>(form.mcolorscheme.size() - 1);
+    run.rescue = offerRescue(form);
     Initialize(form);
     MNew_Click(form);
     CreateBG(form, form.BGPat, 0, 0);
-    openFirstCard(form, commandLine);
+    if (!run.rescue) openFirstCard(form, commandLine);
     showCard(form, run);
-    finish(form);
+    finish(form, run);
 }
 
 std::string printerMissingText() {

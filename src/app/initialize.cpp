@@ -42,8 +42,6 @@ void begin(Zevlin& form) {
 }
 
 void readOptionsFile(Zevlin& form, InitializeRun& run) {
-    // An older state than the one in memory must not come back.
-    if (form.OptionsUnwritten) return;
     run.step = 200;
     const auto file = toolkit::findFile(form.DataFolder, optionsFileName);
     const auto folder = toolkit::displayText(form.DataFolder);
@@ -51,7 +49,7 @@ void readOptionsFile(Zevlin& form, InitializeRun& run) {
         run.step = 490;
         Traceit(form, "Initialize step 490: ZEV.Ini not found in " + folder);
         run.step = 500;
-        run.firstRun = true;
+        run.firstRun = !form.Carried;
         return;
     }
     run.step = 300;
@@ -63,6 +61,15 @@ void readOptionsFile(Zevlin& form, InitializeRun& run) {
     form.OptionsVersion = form.VersionSeen;
     form.mpopBold.Enabled = !form.mBold.Checked;
     run.firstRun = false;
+}
+
+/// In a rebuild the settings are in memory already, and there they stay if the file doesn't give
+/// them.
+void takeOptions(Zevlin& form, InitializeRun& run) {
+    if (!form.Carried) return readOptionsFile(form, run);
+    // An older state than the one in memory must not come back.
+    if (form.OptionsUnwritten) return;
+    getOver(form, run, optionsFailure, [&] { readOptionsFile(form, run); });
 }
 
 /// The printer of the alternate method comes back by its name.
@@ -111,16 +118,16 @@ void convertLayout(Zevlin& form) {
                      form.ZoomTable.at(static_cast<std::size_t>(form.ZoomLevel)),
                      Rescale::IfChanged);
     }
-    MSaveShapes_Click(form);
+    saveShapesUnasked(form);
     form.ZoomLevel = level;
     RestoreBackgroundPicture(form, Rescale::IfChanged);
 }
 
 void showForm(Zevlin& form, const InitializeRun& run) {
     // A rebuild paints once, when the card is whole again.
-    if (!form.NameBeforeRebuild) toolkit::doEvents();
+    if (!form.Carried) toolkit::doEvents();
     form.Visible = true;
-    if (!form.NameBeforeRebuild) toolkit::doEvents();
+    if (!form.Carried) toolkit::doEvents();
     if (!run.firstRun) return;
     form.MFitScreenWidth.Checked = false;
     MFitScreenWidth_Click(form);
@@ -137,7 +144,7 @@ void colorFields(Zevlin& form) {
 void runSteps(Zevlin& form, InitializeRun& run) {
     run.step = 100;
     begin(form);
-    readOptionsFile(form, run);
+    takeOptions(form, run);
     run.step = 550;
     choosePrinter(form);
     run.step = 600;
@@ -164,7 +171,11 @@ void Initialize(Zevlin& form) {
     try {
         runSteps(form, run);
     } catch (const std::exception&) {
-        endFailedInitialize(form, toolkit::currentFailure(), run.step);
+        const auto failure = toolkit::currentFailure();
+        if (!form.Carried) endFailedInitialize(form, failure, run.step);
+        // The boxes of the start would be wrong here, and the card needs the program.
+        traceFailedInitialize(form, failure, run.step);
+        form.Initializing = false;
     }
 }
 

@@ -88,9 +88,13 @@ void tellLayoutFailure(const Zevlin& form, int step) {
 
 } // namespace
 
-void endFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int step) {
+void traceFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int step) {
     traceFailure(form, "Error in Initialize ", failure,
                  ", after step " + toolkit::numberText(step));
+}
+
+void endFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int step) {
+    traceFailedInitialize(form, failure, step);
     if (step > 0 && step < firstStepBehindOptions) {
         offerToDelete(optionsAtFault(toolkit::displayText(currentFolder(form)), step),
                       {form.DataFolder, optionsFileName});

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/data_folder.h"
+#include "app/file_failures.h"
 #include "app/options_file.h"
 #include "app/services.h"
 #include "app/trace.h"
@@ -187,7 +188,7 @@ OptionsDocument documentOf(Zevlin& form) {
 
 void writeOptionsFile(Zevlin& form) {
     // A file that couldn't be written tells an old view.
-    form.OptionsUnwritten = !trapped(form, "Error in IniWrite ", [&] {
+    form.OptionsUnwritten = !trappedAndNoted(form, "Error in IniWrite ", optionsFailure, [&] {
         toolkit::updateFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
                             writeOptions(documentOf(form)));
     });

@@ -8,6 +8,7 @@
 #include "app/unload.h"
 #include "app/wire_panels.h"
 #include "app/zevlin.h"
+#include "card/journal.h"
 #include "design/drag_field.h"
 #include "design/undo.h"
 #include "help/help_page.h"
@@ -24,6 +25,7 @@ void wireForm(Zevlin& form) {
     form.KeyDown = run(form, Form_KeyDown);
     form.QueryClose = [&form] { return Form_Unload(form, unloadByPlayer); };
     form.QueryEnd = [&form] { return Form_Unload(form, unloadBySession); };
+    form.Ending = [&form] { flushJournal(form); };
     form.Unhandled = [&form](const toolkit::RunTimeError& failure) {
         traceFailure(form, "Error in an event: #", failure);
     };
@@ -43,6 +45,7 @@ void wireBoxes(Zevlin& form) {
     form.CText.GotFocus = run(form, CText_GotFocus);
     form.CText.LostFocus = run(form, CText_LostFocus);
     form.CText.KeyDown = run(form, CText_KeyDown);
+    form.CText.Change = run(form, noteChange);
     form.CText.KeyPress = run(form, CText_KeyPress);
     form.CText.KeyUp = run(form, CText_KeyUp);
     form.CText.MouseDown = run(form, CText_MouseDown);
@@ -50,6 +53,7 @@ void wireBoxes(Zevlin& form) {
     form.LText.GotFocus = run(form, LText_GotFocus);
     form.LText.LostFocus = run(form, LText_LostFocus);
     form.LText.KeyDown = run(form, Ltext_KeyDown);
+    form.LText.Change = run(form, noteChange);
     form.LText.KeyPress = run(form, Ltext_KeyPress);
     form.LText.KeyUp = run(form, Ltext_KeyUp);
     form.LText.MouseDown = run(form, Ltext_MouseDown);

@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <utility>
 
+#include "layout/skip_comment.h"
 #include "layout/version.h"
+#include "text/escapes.h"
 #include "toolkit/ansi.h"
 #include "toolkit/error.h"
 #include "toolkit/number_text.h"
@@ -34,6 +36,36 @@ void takeFlags(TextRecord& record) {
     record.switches = switchesOf(std::string_view(record.text).substr(split));
     record.style = TextRecord::Style::Suffix;
     record.text.resize(split);
+}
+
+/// Where the number's record goes in a list of so many.
+std::size_t placeOf(int number, std::size_t count) {
+    if (number < 1 || static_cast<std::size_t>(number) > count)
+        throw toolkit::RunTimeError(toolkit::Failure::SubscriptOutOfRange);
+    return static_cast<std::size_t>(number) - 1;
+}
+
+std::size_t readListSize(CardReader& card) {
+    return static_cast<std::size_t>(std::max(0, card.readCount()));
+}
+
+void readMarks(CardReader& card, CardDocument& document) {
+    document.marks.resize(readListSize(card));
+    for (std::size_t i = 0; i < document.marks.size(); ++i) {
+        const MarkRecord record = card.readMark();
+        document.marks[placeOf(record.number, document.marks.size())] = record.set;
+    }
+}
+
+void readTexts(CardReader& card, CardDocument& document) {
+    document.texts.resize(readListSize(card));
+    for (std::size_t i = 0; i < document.texts.size(); ++i) {
+        TextRecord record = card.readText();
+        AmpRem(record.text);
+        AmpAdd(record.text);
+        document.texts[placeOf(record.number, document.texts.size())] = {std::move(record.text),
+                                                                         record.switches};
+    }
 }
 
 } // namespace
@@ -83,6 +115,25 @@ TextRecord CardReader::readText() {
 }
 
 bool CardReader::hasSwitches() const { return !isBelow(versionSeen_, switchesVersion); }
+
+CardDocument readCard(std::string content) {
+    CardDocument document;
+    // A text may say "Program version:", too. It is the head that tells the format.
+    std::string version;
+    const auto takeFirst = [&version](toolkit::TextInput& input) {
+        std::string seen;
+        const bool ended = skipComments(input, seen);
+        if (version.empty()) version = seen;
+        return ended;
+    };
+    CardReader card(std::move(content), version, takeFirst);
+    document.partner.name = card.readPartnerName();
+    document.partner.number = card.readPartnerNumber();
+    document.programVersion = version;
+    readMarks(card, document);
+    readTexts(card, document);
+    return document;
+}
 
 bool truthValue(std::string_view state) {
     if (toolkit::equalWithoutCase(state, "true")) return true;

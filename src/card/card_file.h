@@ -42,6 +42,7 @@ struct MarkRecord {
 struct CardPartner {
     std::string name;
     std::string number;
+    friend bool operator==(const CardPartner&, const CardPartner&) = default;
 };
 
 /// Reads a card record by record, so that what was read stands when the next one fails. Failures
@@ -71,20 +72,27 @@ class CardReader {
 /// in any case; else failure 13.
 [[nodiscard]] bool truthValue(std::string_view state);
 
-/// What a card file holds. Texts have single ampersands and their own double quotes.
+/// The content of a card. In memory it is the truth about the card; a file may hold a copy.
 struct CardDocument {
     std::string cardName;
     std::string programVersion;
     CardPartner partner;
     std::vector<bool> marks; ///< element 0 is field 1
     struct Text {
-        std::string text;
+        std::string text; ///< raw, as in a field's Tag: ampersands doubled, suit escapes in it
         int switches = 0;
+        friend bool operator==(const Text&, const Text&) = default;
     };
     std::vector<Text> texts;
+    friend bool operator==(const CardDocument&, const CardDocument&) = default;
 };
 
-/// The whole file, byte for byte, with CR LF line ends.
+/// The whole file, byte for byte, with CR LF line ends. The format has no double quote inside a
+/// text and no runs of ampersands: they come back as load.h tells.
 [[nodiscard]] std::string writeCard(const CardDocument& document);
+
+/// Reads what writeCard wrote, whole or not at all; the name isn't part of it. Failures as those of
+/// CardReader, and 9 for a field number that isn't one of the counted.
+[[nodiscard]] CardDocument readCard(std::string content);
 
 } // namespace zev

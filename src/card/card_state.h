@@ -2,12 +2,41 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
+#include <optional>
 #include <string>
 
+#include "card/card_file.h"
+#include "card/file_state.h"
+#include "toolkit/alarm.h"
 #include "toolkit/control.h"
+#include "toolkit/file_lock.h"
 #include "toolkit/panel.h"
 
 namespace zev {
+
+/// What a rebuild of the screen carries.
+struct CarriedCard {
+    CardDocument document;
+    std::string name; ///< the card's own: meanwhile it goes by the temporary one
+    bool modified = false;
+};
+
+/// The file of a card as it was when the card was opened or saved last.
+struct SeenFile {
+    std::string cardName;
+    FileState state;
+};
+
+/// The file that holds the unsaved changes of this copy of the program.
+struct JournalState {
+    std::filesystem::path file; ///< empty until something is to be kept
+    toolkit::FileLock lock;
+    toolkit::Alarm alarm;
+    std::string written; ///< what stands in the file
+    bool failureTraced = false;
+    bool isHeld = false; ///< what the fields show for the moment isn't the player's
+};
 
 struct CardState {
     std::string CardName; ///< no folder, no extension; empty for an unnamed card
@@ -17,6 +46,9 @@ struct CardState {
     std::string PartnerNumber;
     std::string CardVersion; ///< version of the card loaded last
     bool CardModified = false;
+    std::optional<CarriedCard> Carried; ///< while the screen is rebuilt
+    std::optional<SeenFile> CardFileSeen;
+    JournalState Journal;
     std::int16_t NamesField = 0;      ///< the text field of the names line; 0 for none
     std::string FormTitle = "Zevlin"; ///< what every caption of the form begins with
 

@@ -7,6 +7,7 @@
 #include "app/zevlin.h"
 #include "card/card_file.h"
 #include "card/chooser.h"
+#include "card/file_seen.h"
 #include "card/load.h"
 #include "card/modified.h"
 #include "card/names_line.h"
@@ -54,6 +55,7 @@ void makeNewCard(Zevlin& form) {
     form.CardName.clear();
     form.PartnerName.clear();
     form.PartnerNumber.clear();
+    if (!form.Carried) form.CardFileSeen.reset();
     ShowNames(form, NamesUpdate::FillEmpty);
     ResetMod(form);
     if (showsTitle(form)) SetCaption(form);
@@ -79,7 +81,10 @@ void openCard(Zevlin& form) {
     announceOpening(form);
     form.CardName = GetFileNames(form);
     if (form.CardName.empty()) return SetCaption(form);
-    if (cardExists(form, form.CardName)) GetCardFile(form);
+    if (cardExists(form, form.CardName))
+        GetCardFile(form);
+    else
+        rememberNoFile(form);
     if (showsTitle(form)) SetCaption(form);
     form.P1.Move(0, 0);
 }
@@ -128,6 +133,8 @@ void saveUnderNewName(Zevlin& form) {
     if (name.empty()) return;
     if (isTaken(form, name) && !mayReplace()) return;
     form.CardName = name;
+    // Whether a file of this name may go was asked just now.
+    form.CardFileSeen.reset();
     if (keepPartner == toolkit::Answer::No) {
         form.PartnerName.clear();
         form.PartnerNumber.clear();

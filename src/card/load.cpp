@@ -2,18 +2,19 @@
 
 #include <filesystem>
 #include <string>
+#include <utility>
 
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/card_file.h"
 #include "card/card_names.h"
+#include "card/document.h"
+#include "card/file_seen.h"
 #include "card/modified.h"
 #include "card/names_line.h"
 #include "card/save.h"
 #include "layout/read_comment.h"
 #include "text/escapes.h"
-#include "text/fit_text.h"
-#include "text/set_sym.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
@@ -58,9 +59,7 @@ void loadText(Zevlin& form, const TextRecord& record) {
     std::string text = record.text;
     AmpRem(text);
     AmpAdd(text);
-    form.AText[record.number].Caption = text;
-    FitText(form, form.CText, record.number);
-    SetSym(form, record.number);
+    showText(form, record.number, text);
 }
 
 Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& path) {
@@ -83,6 +82,24 @@ Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& 
     return Loaded::Whole;
 }
 
+void loadFile(Zevlin& form, const std::filesystem::path& path) {
+    std::string content = toolkit::readFile(path);
+    if (path == cardPath(form)) rememberFile(form, path, content);
+    CardReader card(std::move(content), form.VersionSeen,
+                    [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
+    if (readRecords(form, card, path) == Loaded::Bad) return;
+    ShowNames(form, NamesUpdate::FillEmpty);
+    ResetMod(form);
+    form.CardVersion = form.VersionSeen;
+}
+
+/// The card that a rebuild carries is whole in memory, whatever became of its temporary file.
+void loadCarried(Zevlin& form) {
+    showDocument(form, form.Carried->document);
+    ResetMod(form);
+    form.CardVersion = form.VersionSeen = form.ProgramVersion;
+}
+
 void loadCard(Zevlin& form) {
     CreateBG(form, form.BGPat, 0, 0);
     form.VersionSeen.clear();
@@ -92,17 +109,12 @@ void loadCard(Zevlin& form) {
     ResetMod(form);
     form.OrigText.clear();
     form.OrigIndex = 0;
-    if (!form.CardInMemory && !std::filesystem::exists(path)) {
+    if (form.Carried) return loadCarried(form);
+    if (!std::filesystem::exists(path)) {
         form.CardName.clear();
         return;
     }
-    CardReader card(form.CardInMemory ? *form.CardInMemory : toolkit::readFile(path),
-                    form.VersionSeen,
-                    [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
-    if (readRecords(form, card, path) == Loaded::Bad) return;
-    ShowNames(form, NamesUpdate::FillEmpty);
-    ResetMod(form);
-    form.CardVersion = form.VersionSeen;
+    loadFile(form, path);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/card_file.h"
+#include "card/journal.h"
 #include "card/save.h"
 #include "text/edit_field.h"
 #include "toolkit/dialog.h"
@@ -61,6 +62,7 @@ void SetMod(Zevlin& form) {
     trapped(form, "Error in SetMod: #", [&] {
         form.CardModified = true;
         form.mpopUndo.Enabled = true;
+        noteChange(form);
         SetCaption(form);
     });
 }
@@ -70,6 +72,7 @@ void ResetMod(Zevlin& form) {
     trapped(form, "Error in ResetMod: #", [&] {
         if (form.Printing) return;
         form.CardModified = false;
+        if (!form.Carried) dropJournal(form);
         SetCaption(form);
         form.OrigIndex = 0;
         form.TIndex = 0;

@@ -79,7 +79,7 @@ void composeNamesLine(Zevlin& form, NamesUpdate update) {
     line.Caption = composedNames({.caption = before,
                                   .mine = playerLine({form.MyName, form.MyNumber}),
                                   .partner = playerLine({form.PartnerName, form.PartnerNumber}),
-                                  .cardName = form.NameBeforeRebuild.value_or(form.CardName)},
+                                  .cardName = form.Carried ? form.Carried->name : form.CardName},
                                  update);
     line.Font.Bold = true;
     line.Tag = line.Caption;

@@ -3,44 +3,23 @@
 #include <string>
 #include <utility>
 
+#include "app/file_failures.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
-#include "card/card_file.h"
+#include "card/document.h"
+#include "card/file_seen.h"
+#include "card/journal.h"
 #include "card/lifecycle.h"
 #include "card/modified.h"
 #include "text/edit_field.h"
-#include "text/escapes.h"
 #include "toolkit/ansi.h"
+#include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/program.h"
 #include "view/time_stamp.h"
 
 namespace zev {
 namespace {
-
-int switchesOf(const Zevlin& form, int index) {
-    const toolkit::Label& text = form.AText[index];
-    int switches = 0;
-    if (text.Font.Bold || form.mBold.Checked) switches |= text_switch::bold;
-    if (text.Font.Italic) switches |= text_switch::italic;
-    if (text.Alignment == toolkit::Alignment::Left) switches |= text_switch::left;
-    if (form.Highlight[index].Visible) switches |= text_switch::highlight;
-    return switches;
-}
-
-CardDocument documentOf(const Zevlin& form) {
-    CardDocument document;
-    document.cardName = form.CardName;
-    document.programVersion = form.ProgramVersion;
-    document.partner = {form.PartnerName, form.PartnerNumber};
-    for (int i = 1; i <= form.AMark.UBound(); ++i) document.marks.push_back(form.AMark[i].Visible);
-    for (int i = 1; i <= form.AText.UBound(); ++i) {
-        std::string text = form.AText[i].Tag;
-        AmpRem(text);
-        document.texts.push_back({std::move(text), switchesOf(form, i)});
-    }
-    return document;
-}
 
 void trimName(Zevlin& form) { form.CardName = std::string(toolkit::trim(form.CardName)); }
 
@@ -53,13 +32,22 @@ bool hasName(Zevlin& form) {
     return !form.CardName.empty();
 }
 
-void saveCard(Zevlin& form) {
-    commitOpenField(form);
-    if (!hasName(form)) return;
-    std::string content = writeCard(documentOf(form));
-    // Whatever cleans or syncs the folder must not take the player's work along.
-    if (form.NameBeforeRebuild) form.CardInMemory = content;
-    toolkit::writeFile(cardPath(form), content);
+/// The player decides between what they have made of the card and what another program has.
+enum class Decision { Overwrite, LeaveIt, SaveElsewhere };
+
+Decision askAboutChangedFile(const Zevlin& form) {
+    const auto answer =
+        toolkit::show({.text = form.CardName + " was changed by another program since you opened "
+                                               "it. Save yours over it?",
+                       .buttons = toolkit::Buttons::YesNoSaveAs,
+                       .icon = toolkit::Icon::Question,
+                       .title = {},
+                       .preset = {}});
+    if (answer == toolkit::Answer::Yes) return Decision::Overwrite;
+    return answer == toolkit::Answer::SaveAs ? Decision::SaveElsewhere : Decision::LeaveIt;
+}
+
+void finishSave(Zevlin& form) {
     ResetMod(form);
     form.OrigIndex = 0;
     form.OrigText.clear();
@@ -67,14 +55,51 @@ void saveCard(Zevlin& form) {
     if (!form.Printing && !form.Zooming) SetCaption(form);
 }
 
+/// The copy that a rebuild leaves in the folder for its own time. Nothing depends on it.
+void saveTemporary(Zevlin& form) {
+    toolkit::writeFile(cardPath(form), writeCard(documentOf(form)));
+    finishSave(form);
+}
+
+void writeToFile(Zevlin& form, const std::filesystem::path& file) {
+    const std::string content = writeCard(documentOf(form));
+    // The file could fail half way.
+    flushJournal(form);
+    toolkit::writeFile(file, content);
+    rememberFile(form, file, content);
+    finishSave(form);
+}
+
+void saveCard(Zevlin& form) {
+    commitOpenField(form);
+    if (!hasName(form)) return;
+    const auto file = cardPath(form);
+    const auto decision =
+        isChangedByAnother(form, file) ? askAboutChangedFile(form) : Decision::Overwrite;
+    if (decision == Decision::Overwrite) writeToFile(form, file);
+    if (decision == Decision::SaveElsewhere) MSaveAs_Click(form);
+}
+
+/// The program ends as soon as nothing is lost by that.
+void endAfterFailedSave(Zevlin& form) {
+    if (keepForNextStart(form)) toolkit::endProgram();
+    toolkit::tell("'" + form.CardName +
+                      "' could not be saved, and there is no room for a copy of it either.  Zevlin "
+                      "goes on, so that nothing is lost.  Please make room, or see to it that the "
+                      "folder '" +
+                      toolkit::displayText(form.DataFolder) + "' can be written, and save again.",
+                  toolkit::Icon::Exclamation);
+}
+
 } // namespace
 
 void MSave_Click(Zevlin& form) {
     Traceit(form, "MSave_Click");
-    if (trapped(form, "Error in MSave_Click ", [&] { saveCard(form); })) return;
-    if (!form.Printing) toolkit::endProgram();
-    // A job must not cost the card because its temporary file found no room.
-    form.CardInMemory = writeCard(documentOf(form));
+    if (form.Carried) {
+        trappedAndNoted(form, "Error in MSave_Click ", copyFailure, [&] { saveTemporary(form); });
+    } else if (!trapped(form, "Error in MSave_Click ", [&] { saveCard(form); })) {
+        endAfterFailedSave(form);
+    }
 }
 
 std::filesystem::path cardPath(const Zevlin& form) {

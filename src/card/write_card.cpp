@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "card/card_file.h"
+#include "text/escapes.h"
 #include "toolkit/ansi.h"
 #include "toolkit/number_text.h"
 
@@ -68,11 +69,17 @@ void appendMarks(std::string& file, const std::vector<bool>& marks) {
         file += fieldNumber(i) + (marks[i] ? ",1,0\r\n" : ",0,0\r\n");
 }
 
+std::string storedText(std::string raw) {
+    AmpRem(raw);
+    return quoted(std::move(raw));
+}
+
 void appendTexts(std::string& file, const std::vector<CardDocument::Text>& texts) {
     appendCount(file, textCountComment, texts.size());
     file += textsComment;
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        file += fieldNumber(i) + "," + quoted(texts[i].text) + "," + numberText(texts[i].switches);
+        file +=
+            fieldNumber(i) + "," + storedText(texts[i].text) + "," + numberText(texts[i].switches);
         file += lineEnd;
     }
 }

@@ -1,5 +1,9 @@
 #include "layout/check_point.h"
 
+#include <string>
+#include <utility>
+
+#include "app/file_failures.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "layout/save_layout.h"
@@ -10,26 +14,7 @@ namespace {
 
 constexpr const char* setAsideName = "$$TempDef.Ini";
 
-} // namespace
-
-void CheckPointShapes(Zevlin& form) {
-    Traceit(form, "CheckPointShapes");
-    // Without fields no layout would be written in place of the one set aside.
-    if (form.AMark.UBound() == 0 && form.AText.UBound() == 0) return;
-    trapped(form, "Error in CheckPointShapes ", [&] {
-        if (const auto old = toolkit::findFile(form.DataFolder, setAsideName)) {
-            toolkit::deleteFile(*old);
-        }
-        toolkit::renameFile(toolkit::resolveFile(form.DataFolder, layoutFileName),
-                            form.DataFolder / setAsideName);
-        form.LayoutUnwritten = false;
-        MSaveShapes_Click(form);
-        if (form.LayoutUnwritten) RestoreShapes(form);
-    });
-}
-
-void RestoreShapes(Zevlin& form) {
-    Traceit(form, "RestoreShapes");
+void restoreFile(Zevlin& form) {
     trapped(form, "Error in RestoreShapes: #", [&] {
         const auto setAside = toolkit::findFile(form.DataFolder, setAsideName);
         if (!setAside) return;
@@ -38,6 +23,39 @@ void RestoreShapes(Zevlin& form) {
         }
         toolkit::renameFile(*setAside, form.DataFolder / layoutFileName);
     });
+}
+
+void traceMissingLayout(Zevlin& form) {
+    traceFailure(form, "Error in CheckPointShapes ",
+                 toolkit::RunTimeError(toolkit::Failure::FileNotFound));
+}
+
+} // namespace
+
+void CheckPointShapes(Zevlin& form) {
+    Traceit(form, "CheckPointShapes");
+    // Without fields no layout would be written in place of the one set aside.
+    if (form.AMark.UBound() == 0 && form.AText.UBound() == 0) return;
+    // The rebuild goes by what is in memory, whatever becomes of the files.
+    if (!form.LayoutSetAside) form.LayoutSetAside = form.LayoutInMemory;
+    form.LayoutInMemory = layoutText(form);
+    const auto present = toolkit::findFile(form.DataFolder, layoutFileName);
+    // The rebuild brings the installed one.
+    if (!present) return traceMissingLayout(form);
+    const bool setAside = trappedAndNoted(form, "Error in CheckPointShapes ", layoutFailure, [&] {
+        if (const auto old = toolkit::findFile(form.DataFolder, setAsideName)) {
+            toolkit::deleteFile(*old);
+        }
+        toolkit::renameFile(*present, form.DataFolder / setAsideName);
+    });
+    if (setAside && !saveShapesUnasked(form)) restoreFile(form);
+}
+
+void RestoreShapes(Zevlin& form) {
+    Traceit(form, "RestoreShapes");
+    if (form.LayoutSetAside) form.LayoutInMemory = std::move(*form.LayoutSetAside);
+    form.LayoutSetAside.reset();
+    restoreFile(form);
 }
 
 } // namespace zev

@@ -3,6 +3,8 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "layout/tab_table.h"
@@ -31,7 +33,11 @@ struct LayoutState {
     std::vector<std::int16_t> TextSizes;
     zev::TabTable TabTable;
 
-    bool LayoutUnwritten = false; ///< its last writing failed in a job
+    /// The layout file's content as it was read or written last: by it the fields are built where
+    /// the file can't give it.
+    std::string LayoutInMemory;
+    /// What it is without the check-point in force; none while there is none.
+    std::optional<std::string> LayoutSetAside;
 
     float SavedLeft = 0; ///< the card's place before a zoom, twips
     float SavedTop = 0;

@@ -1,7 +1,9 @@
 #include "layout/save_layout.h"
 
 #include <algorithm>
+#include <functional>
 
+#include "app/file_failures.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
@@ -105,31 +107,42 @@ LayoutDocument documentOf(const Zevlin& form) {
 }
 
 void saveLayout(Zevlin& form) {
-    toolkit::writeFile(toolkit::resolveFile(form.DataFolder, layoutFileName),
-                       writeLayout(documentOf(form)));
+    form.LayoutInMemory = layoutText(form);
+    toolkit::writeFile(toolkit::resolveFile(form.DataFolder, layoutFileName), form.LayoutInMemory);
     ResetMod(form);
     form.DesignDirty = false;
     form.OrigIndex = 0;
 }
 
-void writeFields(Zevlin& form) {
-    if (trapped(form, "Error in MSaveShapes ", [&] { saveLayout(form); })) return;
-    // A job puts back the layout that it has set aside.
-    if (!form.Printing) toolkit::endProgram();
-    form.LayoutUnwritten = true;
+constexpr std::string_view trapHead = "Error in MSaveShapes ";
+
+/// `write` gets the fields as they are on a card, not as design mode shows them.
+void saveShapes(Zevlin& form, const std::function<void()>& write) {
+    Traceit(form, "MSaveShapes_Click");
+    // A layout is never written before the controls exist.
+    if (form.AMark.UBound() == 0 && form.AText.UBound() == 0) return;
+    const bool designing = form.MShowShapes.Checked;
+    if (designing) MShowShapes_Click(form);
+    write();
+    if (designing) MShowShapes_Click(form);
 }
 
 } // namespace
 
+std::string layoutText(const Zevlin& form) { return writeLayout(documentOf(form)); }
+
 void MSaveShapes_Click(Zevlin& form) {
-    Traceit(form, "MSaveShapes_Click");
-    // A layout is never written before the controls exist.
-    if (form.AMark.UBound() == 0 && form.AText.UBound() == 0) return;
-    // The fields are saved as they are on a card, not as design mode shows them.
-    const bool designing = form.MShowShapes.Checked;
-    if (designing) MShowShapes_Click(form);
-    writeFields(form);
-    if (designing) MShowShapes_Click(form);
+    saveShapes(form, [&form] {
+        if (!trapped(form, trapHead, [&] { saveLayout(form); })) toolkit::endProgram();
+    });
+}
+
+bool saveShapesUnasked(Zevlin& form) {
+    bool saved = true;
+    saveShapes(form, [&form, &saved] {
+        saved = trappedAndNoted(form, trapHead, layoutFailure, [&] { saveLayout(form); });
+    });
+    return saved;
 }
 
 } // namespace zev

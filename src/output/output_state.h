@@ -30,8 +30,6 @@ struct OutputState {
     bool PrintAlertShown = false; ///< the narrow page was told in this run
     /// The options file doesn't hold the present state: its last writing failed.
     bool OptionsUnwritten = false;
-    /// While the screen is rebuilt: the card, in case the file that carries it isn't there.
-    std::optional<std::string> CardInMemory;
 
     toolkit::PictureBox P2;    ///< stands for the card while a job runs
     toolkit::PictureBox PDisk; ///< the image of an export

@@ -2,9 +2,11 @@
 
 #include <utility>
 
+#include "app/file_failures.h"
 #include "app/options.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "card/journal.h"
 #include "layout/check_point.h"
 #include "layout/position.h"
 #include "output/blank_page.h"
@@ -60,6 +62,7 @@ bool refusesNarrowPage(Zevlin& form) {
 void commitEdits(Zevlin& form) {
     if (form.CText.Visible) CText_LostFocus(form);
     if (form.LText.Visible) LText_LostFocus(form);
+    flushJournal(form);
     IniWrite(form);
 }
 
@@ -164,8 +167,8 @@ void restore(Zevlin& form, const View& view) {
     form.P2.Picture.reset();
     form.MousePointer = toolkit::MousePointer::Default;
     form.MenusEnabled = view.menusEnabled;
-    form.CardInMemory.reset();
     form.Printing = false;
+    tellFileFailures(form);
 }
 
 } // namespace

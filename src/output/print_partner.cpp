@@ -4,6 +4,7 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "card/journal.h"
 #include "output/partner_line.h"
 #include "output/print_card.h"
 #include "text/edit_field.h"
@@ -32,6 +33,9 @@ void printPartner(Zevlin& form) {
     // An edit of the names line is part of the card and would cover what is printed.
     commitOpenField(form);
     if (form.NamesField == 0) return MPrint_Click(form);
+    // The line that is lent to the partner isn't the card's.
+    flushJournal(form);
+    form.Journal.isHeld = true;
     const toolkit::Label kept = form.AText[form.NamesField];
     toolkit::Label& line = form.AText[form.NamesField];
     line.Caption = lineForPartner(form, kept.Caption);
@@ -41,6 +45,7 @@ void printPartner(Zevlin& form) {
     setNamesLine(form, kept.Tag);
     form.AText[form.NamesField].Caption = kept.Caption;
     form.AText[form.NamesField].Tag = kept.Tag;
+    form.Journal.isHeld = false;
 }
 
 } // namespace

@@ -87,7 +87,7 @@ void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& s
                             .finished();
                     }};
     // Nobody looks at the card before its rebuild is through.
-    if (form.NameBeforeRebuild)
+    if (form.Carried)
         form.PictureRows = std::move(making.rows);
     else
         making.rows.finish();

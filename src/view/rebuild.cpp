@@ -1,13 +1,15 @@
 #include "view/rebuild.h"
 
 #include <string>
-#include <utility>
 
+#include "app/file_failures.h"
 #include "app/initialize.h"
 #include "app/options.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/card_file.h"
+#include "card/document.h"
+#include "card/journal.h"
 #include "card/lifecycle.h"
 #include "card/load.h"
 #include "card/modified.h"
@@ -29,36 +31,39 @@ void deleteTemporaryCard(Zevlin& form) {
     });
 }
 
-/// Name and changed flag for the time of a rebuild: whatever happens, they and the card come back.
+/// The card in memory for the time of a rebuild: whatever happens, content, name and star come
+/// back.
 class KeptCard {
   public:
-    explicit KeptCard(Zevlin& form)
-        : form_(form), name_(form.CardName), modified_(form.CardModified) {
-        form.NameBeforeRebuild = name_;
+    explicit KeptCard(Zevlin& form) : form_(form) {
+        form.Carried = CarriedCard{
+            .document = documentOf(form), .name = form.CardName, .modified = form.CardModified};
     }
     KeptCard(const KeptCard&) = delete;
     KeptCard& operator=(const KeptCard&) = delete;
     ~KeptCard() {
-        putBack();
+        if (!isShown_) ignoringFailures([&] { showDocument(form_, form_.Carried->document); });
+        if (form_.Carried) putBack();
         form_.PictureRows.finish();
         form_.P1.Visible = true;
     }
+    /// The fields show the card again.
+    void noteShown() { isShown_ = true; }
     void putBack() {
-        form_.CardName = name_;
-        form_.CardModified = modified_;
-        form_.NameBeforeRebuild.reset();
-        form_.CardInMemory.reset();
+        form_.CardName = form_.Carried->name;
+        form_.CardModified = form_.Carried->modified;
+        form_.Carried.reset();
     }
 
   private:
     Zevlin& form_;
-    std::string name_;
-    bool modified_;
+    bool isShown_ = false;
 };
 
 void carryThrough(Zevlin& form) {
     // An edit that is still open is part of the card and of its changed flag.
     commitOpenField(form);
+    flushJournal(form);
     KeptCard kept(form);
     deleteTemporaryCard(form);
     form.CardName = temporaryCardName;
@@ -71,12 +76,22 @@ void carryThrough(Zevlin& form) {
     Initialize(form);
     form.CardName = temporaryCardName;
     GetCardFile(form);
+    kept.noteShown();
     kept.putBack();
     SetCaption(form);
     deleteTemporaryCard(form);
     form.PictureRows.finish();
     form.P1.Visible = true;
     CreateBG(form, form.BGPat, 0, 0);
+}
+
+/// A rebuild in the middle of another one makes the fields anew once more; the card that the outer
+/// one carries stays with it.
+void rebuild(Zevlin& form) {
+    if (form.Carried)
+        Initialize(form);
+    else
+        carryThrough(form);
 }
 
 } // namespace
@@ -91,10 +106,12 @@ void RebuildScreenImage(Zevlin& form) {
         // What design mode shows is neither to be saved nor to be lost.
         if (designing) MShowShapes_Click(form);
         IniWrite(form);
-        if (!form.Initializing) carryThrough(form);
+        if (!form.Initializing) rebuild(form);
     });
     form.PictureStarted.reset();
     if (designing) MShowShapes_Click(form);
+    // A job tells when it is over.
+    if (!form.Printing && !form.Carried && !form.Initializing) tellFileFailures(form);
 }
 
 } // namespace zev

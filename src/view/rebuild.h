@@ -5,9 +5,9 @@ namespace zev {
 
 struct Zevlin;
 
-/// Carries the card through a temporary file around a new Initialize: the fields are made for one
-/// size only. Name, changed flag and content come back; while the program initializes only the
-/// options are written.
+/// Carries the card in memory around a new Initialize: the fields are made for one size only. Name,
+/// changed flag and content come back, whatever the data folder does meanwhile; what it didn't take
+/// or give is told at the end. While the program initializes only the options are written.
 void RebuildScreenImage(Zevlin& form);
 
 } // namespace zev

@@ -35,8 +35,6 @@ struct ViewState {
     std::optional<PictureAhead> PictureStarted; ///< by the rebuild, until SetImageSize takes it
     RowWork PictureRows;                        ///< of P1's picture, while the screen is rebuilt
     bool Zooming = false;
-    /// While the screen is rebuilt: the name that the card had before it took the temporary one.
-    std::optional<std::string> NameBeforeRebuild;
 
     std::int32_t ColorScheme = 0; ///< 0 ACBL, else a colour
     std::int16_t LastSchemeIndex = 1;

@@ -10,11 +10,16 @@ namespace zev {
 /// the player's own doing.
 template <typename Body>
 void runZoom(Zevlin& form, Body body) {
-    form.Zooming = true;
+    const struct Flag {
+        explicit Flag(bool& flag) : zooming(flag) { zooming = true; }
+        Flag(const Flag&) = delete;
+        Flag& operator=(const Flag&) = delete;
+        ~Flag() { zooming = false; }
+        bool& zooming;
+    } zooming(form.Zooming);
     PositionSave(form);
     body();
     PositionRestore(form);
-    form.Zooming = false;
 }
 
 } // namespace zev

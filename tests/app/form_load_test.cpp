@@ -84,12 +84,6 @@ TEST_F(FormLoad, ThePrintColourItemsNeverShow) {
     EXPECT_FALSE(form.z21.Visible);
 }
 
-TEST_F(FormLoad, ALeftOverTemporaryCardIsDeleted) {
-    writeCard("$$Tempcard", "left over");
-    start();
-    EXPECT_FALSE(fs::exists(dataFile("$$Tempcard.zev")));
-}
-
 TEST_F(FormLoad, ALayoutThatACrashLeftSetAsideComesBack) {
     toolkit::writeFile(dataFile("$$TempDef.Ini"), fewFields());
     start();

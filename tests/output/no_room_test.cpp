@@ -33,6 +33,13 @@ class NoRoom : public PrintTest {
                                   "Error in MSaveShapes ", "Error in PrintPictureBox at step "})
             announceError(error);
     }
+    /// Behind the job's own box, what else found no room.
+    void expectToldOnce(const std::string& job) {
+        ASSERT_EQ(boxes.size(), 2U);
+        EXPECT_TRUE(boxes[0].text.starts_with(job)) << boxes[0].text;
+        EXPECT_NE(boxes[1].text.find("The settings (ZEV.Ini): Device I/O error"), std::string::npos)
+            << boxes[1].text;
+    }
     void expectNextPrintWorks() {
         boxes.clear();
         EXPECT_EQ(print().pixelsAcross, 2396);
@@ -49,8 +56,7 @@ TEST_F(NoRoom, FromTheStartThePageIsRefusedOrToldAndTheCardStays) {
         const FullDisk full;
         EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
     }
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].text, "Device I/O error Printer Error #57");
+    expectToldOnce("Device I/O error Printer Error #57");
     EXPECT_FALSE(std::filesystem::exists(home / "page.pdf"));
     EXPECT_EQ(dataFileContent("Definitions.Ini"), layout);
     expectUnharmed();
@@ -66,8 +72,7 @@ TEST_F(NoRoom, FromTheQuestionOnThePageIsToldAndTheCardStays) {
     EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
     full.reset();
     whileAsking = {};
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].text, "Device I/O error Printer Error #57");
+    expectToldOnce("Device I/O error Printer Error #57");
     EXPECT_EQ(dataFileContent("Definitions.Ini"), layout);
     expectUnharmed();
     expectNextPrintWorks();
@@ -80,8 +85,7 @@ TEST_F(NoRoom, AnExportIsToldAndTheCardStays) {
         const FullDisk full;
         EXPECT_TRUE(toolkit::test::chooseMenu("File>Export Partner Image to file as..>PNG"));
     }
-    ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_TRUE(boxes[0].text.starts_with("Could not save card image."));
+    expectToldOnce("Could not save card image.");
     expectUnharmed();
     expectNextPrintWorks();
 }

@@ -164,27 +164,5 @@ TEST_F(Rebuild, ATemporaryCardThatVanishesInBetweenTakesNothingAlong) {
 }
 #endif
 
-TEST_F(Rebuild, AFolderThatTakesNoMoreFilesEndsTheProgramWithTheCardAsItWas) {
-    startWithContent();
-    announceError("Error in IniWrite ");
-    announceError("Error in MSave_Click ");
-    announceError("Error in Traceit: #76, Path not found");
-    fs::rename(dataFolder, home / "gone");
-    EXPECT_TRUE(endsProgram([&] { RebuildScreenImage(form); }));
-    EXPECT_TRUE(form.CardModified);
-    EXPECT_EQ(form.CardName, "");
-    EXPECT_TRUE(form.AMark[1].Visible);
-    EXPECT_TRUE(boxes.empty());
-}
-
-TEST_F(Rebuild, ALayoutThatBecameUnreadableEndsTheProgramAndLeavesTheCardInItsFile) {
-    startWithContent();
-    announceError("Error in Initialize ");
-    writeLayout("bad\r\n");
-    answer(toolkit::Answer::Cancel);
-    EXPECT_TRUE(endsProgram([&] { RebuildScreenImage(form); }));
-    EXPECT_TRUE(hasTemporaryCard());
-}
-
 } // namespace
 } // namespace zev::test

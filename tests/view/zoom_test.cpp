@@ -229,12 +229,13 @@ TEST_F(Zoom, ThePlayersNamelessCardKeepsItsEmptyNamesLine) {
     EXPECT_EQ(form.CardName, "");
 }
 
-TEST_F(Zoom, AnEmptyNamesLineTakesThePlayersName) {
+TEST_F(Zoom, AnEmptyNamesLineStaysEmpty) {
     startAtStep(5);
     form.MyName = "Pat";
     ASSERT_EQ(form.AText[form.NamesField].Caption, "");
     zoomIn();
-    EXPECT_EQ(form.AText[form.NamesField].Caption, "Pat");
+    EXPECT_EQ(form.AText[form.NamesField].Caption, "");
+    EXPECT_EQ(form.AText[form.NamesField].Tag, "");
     EXPECT_FALSE(form.CardModified);
 }
 

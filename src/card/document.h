@@ -1,0 +1,27 @@
+// The card between the controls that show it and the document that it is.
+#pragma once
+
+#include "card/card_file.h"
+
+namespace zev {
+
+struct Zevlin;
+
+/// The card as the controls hold it now.
+[[nodiscard]] CardDocument documentOf(const Zevlin& form);
+
+/// The same with what the player has typed so far into the field that is open.
+[[nodiscard]] CardDocument documentWithTyping(const Zevlin& form);
+
+/// Gives the fields their marks, texts and styles, and the card its partner. Fields that the
+/// document doesn't know stay as they are; what it knows of fields that aren't there is passed
+/// over.
+void showDocument(Zevlin& form, const CardDocument& document);
+
+/// Puts a raw text with doubled ampersands into its field, fitted and with its suit symbols.
+void showText(Zevlin& form, int index, const std::string& raw);
+
+/// Whether the layout has a field for everything that is filled in.
+[[nodiscard]] bool hasRoomFor(const Zevlin& form, const CardDocument& document);
+
+} // namespace zev

@@ -1,0 +1,22 @@
+// The card's file as this program knows it: what another program has made of it meanwhile.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace zev {
+
+struct Zevlin;
+
+/// Notes that the file of the present card, as opened or saved now, has this content.
+void rememberFile(Zevlin& form, const std::filesystem::path& file, std::string_view content);
+
+/// Notes that the present card has no file.
+void rememberNoFile(Zevlin& form);
+
+/// Whether another program has changed, made or removed the file since then. Never for a card that
+/// has just got its name.
+[[nodiscard]] bool isChangedByAnother(const Zevlin& form, const std::filesystem::path& file);
+
+} // namespace zev

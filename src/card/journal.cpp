@@ -1,0 +1,90 @@
+#include "card/journal.h"
+
+#include <string>
+#include <system_error>
+#include <utility>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/document.h"
+#include "card/rescue.h"
+#include "card/rescue_file.h"
+#include "text/escapes.h"
+#include "toolkit/files.h"
+
+namespace zev {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Milliseconds from a change to its writing: half a second is left for the writing itself.
+constexpr int journalDelay = 1500;
+
+/// A job or a rebuild has the card in its hands: what the controls hold isn't the player's card.
+bool isCardAway(const Zevlin& form) {
+    return form.Printing || form.Carried || form.Journal.isHeld;
+}
+
+std::string journalText(const Zevlin& form) {
+    RescuedCard card;
+    card.name = form.CardName;
+    if (form.CardFileSeen && form.CardFileSeen->cardName == form.CardName)
+        card.file = form.CardFileSeen->state;
+    card.document = documentWithTyping(form);
+    return writeRescue(card);
+}
+
+bool hasUnsavedChanges(const Zevlin& form) {
+    // What design mode shows isn't a card.
+    if (form.MShowShapes.Checked) return false;
+    return form.CardModified || documentWithTyping(form) != documentOf(form);
+}
+
+void writeJournal(Zevlin& form) {
+    std::string text = journalText(form);
+    if (text == form.Journal.written) return;
+    openJournal(form);
+    toolkit::writeFile(form.Journal.file, text);
+    form.Journal.written = std::move(text);
+}
+
+/// A journal that can't be written is told to the trace once; the program works on.
+bool tryToWrite(Zevlin& form) {
+    try {
+        writeJournal(form);
+        return true;
+    } catch (const std::exception&) {
+        const auto failure = toolkit::currentFailure();
+        if (!std::exchange(form.Journal.failureTraced, true))
+            traceFailure(form, "Error in the journal: #", failure);
+        return false;
+    }
+}
+
+void ring(Zevlin& form) {
+    if (isCardAway(form)) return noteChange(form);
+    flushJournal(form);
+}
+
+} // namespace
+
+void noteChange(Zevlin& form) {
+    form.Journal.alarm.set(journalDelay, [&form] { ring(form); });
+}
+
+void flushJournal(Zevlin& form) {
+    if (isCardAway(form)) return;
+    form.Journal.alarm.cancel();
+    if (hasUnsavedChanges(form)) static_cast<void>(tryToWrite(form));
+}
+
+bool keepForNextStart(Zevlin& form) { return isCardAway(form) || tryToWrite(form); }
+
+void dropJournal(Zevlin& form) {
+    form.Journal.alarm.cancel();
+    form.Journal.written.clear();
+    std::error_code ignored;
+    if (!form.Journal.file.empty()) fs::remove(form.Journal.file, ignored);
+}
+
+} // namespace zev

@@ -1,0 +1,192 @@
+#include "card/rescue.h"
+
+#include <algorithm>
+#include <string>
+#include <system_error>
+#include <utility>
+#include <vector>
+
+#include "app/trace.h"
+#include "app/zevlin.h"
+#include "card/document.h"
+#include "card/journal.h"
+#include "card/modified.h"
+#include "toolkit/ansi.h"
+#include "toolkit/dialog.h"
+#include "toolkit/files.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view namePrefix = "changes-";
+constexpr std::string_view lockExtension = ".lock";
+
+fs::path fileOf(int number) {
+    return toolkit::stateFolder() /
+           (std::string(namePrefix) + toolkit::numberText(number) + std::string(cardExtension));
+}
+
+fs::path lockOf(fs::path file) { return file.replace_extension(lockExtension); }
+
+/// What stands in it is the player's alone.
+void makeStateFolder() {
+    const fs::path folder = toolkit::stateFolder();
+    std::error_code ignored;
+    if (fs::is_directory(folder, ignored)) return;
+    fs::create_directories(folder, ignored);
+    fs::permissions(folder, fs::perms::owner_all, ignored);
+}
+
+bool isThere(const fs::path& path) {
+    std::error_code ignored;
+    return fs::exists(path, ignored);
+}
+
+/// The lock's own file can be gone, with the folder or by a cleaning.
+bool holdsLock(const JournalState& journal) {
+    return journal.lock.isHeld() && isThere(lockOf(journal.file));
+}
+
+struct Journals {
+    std::vector<Rescue> dead; ///< not read yet
+    bool hasTraces = false;   ///< any copy, living or dead, keeps or kept a journal
+    bool hasLivingCopies = false;
+};
+
+std::vector<fs::path> journalFiles() {
+    std::vector<fs::path> files;
+    const fs::path folder = toolkit::stateFolder();
+    for (const std::string_view extension : {cardExtension, lockExtension}) {
+        for (const std::string& name : toolkit::listFiles(folder, extension)) {
+            if (!name.starts_with(namePrefix)) continue;
+            const fs::path file = (folder / name).replace_extension(cardExtension);
+            if (std::ranges::find(files, file) == files.end()) files.push_back(file);
+        }
+    }
+    return files;
+}
+
+fs::file_time_type timeOf(const fs::path& file) {
+    std::error_code ignored;
+    return fs::last_write_time(file, ignored);
+}
+
+Journals findJournals() {
+    Journals journals;
+    for (const fs::path& file : journalFiles()) {
+        journals.hasTraces = true;
+        Rescue rescue{.card = {}, .file = file, .lock = {}};
+        if (!rescue.lock.take(lockOf(file)))
+            journals.hasLivingCopies = true;
+        else if (isThere(file))
+            journals.dead.push_back(std::move(rescue));
+    }
+    std::ranges::sort(journals.dead, {}, [](const Rescue& rescue) { return timeOf(rescue.file); });
+    return journals;
+}
+
+/// What can't be read is put aside: it can't be offered, but is nobody's to throw away.
+bool read(Zevlin& form, Rescue& rescue) {
+    return trapped(form, "Error in a journal: #", [&] {
+        try {
+            rescue.card = readRescue(toolkit::readFile(rescue.file));
+        } catch (...) {
+            std::error_code ignored;
+            fs::rename(rescue.file, fs::path(rescue.file).replace_extension(".damaged"), ignored);
+            throw;
+        }
+    });
+}
+
+toolkit::Answer ask(const RescuedCard& card) {
+    const std::string name = card.name.empty() ? "(unnamed)" : card.name;
+    return toolkit::show({.text = "Zevlin ended before your changes to '" + name +
+                                  "' were saved. Do you want them back?",
+                          .buttons = toolkit::Buttons::YesNoCancel,
+                          .icon = toolkit::Icon::Question,
+                          .title = "Unsaved changes",
+                          .preset = toolkit::Answer::Yes});
+}
+
+void discard(const fs::path& file) {
+    std::error_code ignored;
+    fs::remove(file, ignored);
+}
+
+/// What can't be read isn't blank: it is put aside with the others of its kind.
+bool isBlank(const std::string& content) {
+    bool isFilledIn = true;
+    ignoringFailures([&] {
+        const CardDocument card = readCard(content);
+        const auto isWritten = [](const auto& text) { return !text.text.empty(); };
+        isFilledIn = card.partner != CardPartner{} ||
+                     std::ranges::find(card.marks, true) != card.marks.end() ||
+                     std::ranges::any_of(card.texts, isWritten);
+    });
+    return !isFilledIn;
+}
+
+/// A temporary card that lies about where no journal does is all that is left of a card. It becomes
+/// a journal, which a rebuild doesn't overwrite.
+void adoptTemporaryCard(Zevlin& form, Journals& journals) {
+    const auto file = toolkit::findFile(form.DataFolder, std::string(temporaryCardName) +
+                                                             std::string(cardExtension));
+    if (!file || journals.hasLivingCopies) return;
+    ignoringFailures([&] {
+        const std::string content = toolkit::readFile(*file);
+        if (!content.empty() && !journals.hasTraces && !isBlank(content)) {
+            openJournal(form);
+            toolkit::writeFile(form.Journal.file, content);
+            journals.dead.push_back({.card = {},
+                                     .file = std::exchange(form.Journal.file, {}),
+                                     .lock = std::exchange(form.Journal.lock, {})});
+        }
+        toolkit::deleteFile(*file);
+    });
+}
+
+} // namespace
+
+void openJournal(Zevlin& form) {
+    if (holdsLock(form.Journal)) return;
+    makeStateFolder();
+    constexpr int mostCopies = 1000;
+    for (int number = 1; number <= mostCopies; ++number) {
+        const fs::path file = fileOf(number);
+        if (isThere(file) || !form.Journal.lock.take(lockOf(file))) continue;
+        form.Journal.file = file;
+        // Another copy may have come and gone between the two.
+        if (!isThere(file)) return;
+    }
+    throw toolkit::RunTimeError(toolkit::Failure::PermissionDenied);
+}
+
+std::optional<Rescue> offerRescue(Zevlin& form) {
+    Journals journals = findJournals();
+    adoptTemporaryCard(form, journals);
+    for (Rescue& rescue : journals.dead) {
+        if (!read(form, rescue)) continue;
+        const auto answer = ask(rescue.card);
+        if (answer == toolkit::Answer::Yes) return std::move(rescue);
+        if (answer == toolkit::Answer::No) discard(rescue.file);
+    }
+    return std::nullopt;
+}
+
+void openRescued(Zevlin& form, Rescue rescue) {
+    form.CardName = rescue.card.name;
+    form.CardFileSeen = SeenFile{.cardName = form.CardName, .state = rescue.card.file};
+    showDocument(form, rescue.card.document);
+    SetMod(form);
+    // Where the layout has no field for a part of it the file stays, to be offered again.
+    if (!hasRoomFor(form, rescue.card.document)) return;
+    form.Journal.file = std::move(rescue.file);
+    form.Journal.lock = std::move(rescue.lock);
+    form.Journal.written.clear();
+}
+
+} // namespace zev

@@ -1,0 +1,141 @@
+#include "card/file_seen.h"
+
+#include "card_form_test.h"
+#include "toolkit/files.h"
+
+namespace zev::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+class FileSeen : public CardFormTest {
+  protected:
+    FileSeen() {
+        // Made by the other program while the card is open.
+        theirs_ = cardFile({.marks = {"3,1,0"}});
+    }
+    void openAndChange() {
+        start();
+        openCard("Jones", {.marks = {"1,1,0"}});
+        clickMark(2);
+    }
+    void changeBehindTheProgramsBack() const { toolkit::writeFile(dataFile("Jones.zev"), theirs_); }
+    [[nodiscard]] const std::string& theirs() const { return theirs_; }
+    void expectQuestion() const {
+        ASSERT_EQ(boxes.size(), 1U);
+        EXPECT_EQ(boxes[0].text, "Jones was changed by another program since you opened it. Save "
+                                 "yours over it?");
+        EXPECT_EQ(boxes[0].buttons, toolkit::Buttons::YesNoSaveAs);
+    }
+
+  private:
+    std::string theirs_;
+};
+
+TEST_F(FileSeen, ASaveWithoutSuchAChangeIsNeverAsked) {
+    openAndChange();
+    choose("File>Save");
+    clickMark(2);
+    choose("File>Save");
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_FALSE(form.CardModified);
+}
+
+TEST_F(FileSeen, YesSavesOverIt) {
+    openAndChange();
+    changeBehindTheProgramsBack();
+    answer(toolkit::Answer::Yes);
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_NE(dataFileContent("Jones.zev").find("2,1,0"), std::string::npos);
+    EXPECT_FALSE(form.CardModified);
+    clickMark(3);
+    choose("File>Save");
+    EXPECT_EQ(boxes.size(), 1U);
+}
+
+TEST_F(FileSeen, NoLeavesBothAsTheyAre) {
+    openAndChange();
+    changeBehindTheProgramsBack();
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_TRUE(form.AMark[2].Visible);
+}
+
+TEST_F(FileSeen, SaveAsSavesUnderAnotherName) {
+    openAndChange();
+    changeBehindTheProgramsBack();
+    answer(toolkit::Answer::SaveAs);
+    answerName("Mine");
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    EXPECT_NE(dataFileContent("Mine.zev").find("2,1,0"), std::string::npos);
+    EXPECT_EQ(form.CardName, "Mine");
+    EXPECT_FALSE(form.CardModified);
+}
+
+TEST_F(FileSeen, ARemovedFileIsAChange) {
+    openAndChange();
+    fs::remove(dataFile("Jones.zev"));
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_FALSE(fs::exists(dataFile("Jones.zev")));
+}
+
+TEST_F(FileSeen, AFileThatCameMeanwhileIsAChange) {
+    start();
+    openNamed("Jones");
+    clickMark(1);
+    changeBehindTheProgramsBack();
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+}
+
+TEST_F(FileSeen, LeavingWithNoToTheQuestionStays) {
+    openAndChange();
+    changeBehindTheProgramsBack();
+    answer(toolkit::Answer::Yes);
+    answer(toolkit::Answer::No);
+    EXPECT_FALSE(endsProgram([&] { choose("File>Exit"); }));
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+}
+
+TEST_F(FileSeen, SurvivesAZoom) {
+    openAndChange();
+    changeBehindTheProgramsBack();
+    choose("View>Zoom In (Bigger)                   Ctrl +");
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    expectQuestion();
+}
+
+TEST_F(FileSeen, OverwritingByNameIsAskedOnce) {
+    openAndChange();
+    changeBehindTheProgramsBack();
+    answerName("Jones");
+    answer(toolkit::Answer::Yes);
+    choose("File>Save As...");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].title, "Overwrite existing file?");
+}
+
+TEST_F(FileSeen, ABadCardIsOverwrittenWithoutAQuestion) {
+    start();
+    announceError("Error in GetCardFile");
+    writeCard("Jones", "\"a\",\"b\"\r\nbad\r\n");
+    openNamed("Jones");
+    clickMark(1);
+    choose("File>Save");
+    EXPECT_TRUE(boxes.empty());
+}
+
+} // namespace
+} // namespace zev::test
