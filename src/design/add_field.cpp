@@ -45,11 +45,17 @@ char chosenSymbol(const Zevlin& form) {
     return form.mFillIn.Checked ? mark_symbol::square : mark_symbol::check;
 }
 
+void holdAdded(Zevlin& form, DesignField field) {
+    form.UndoIndex = toolkit::toInteger16(field.index);
+    form.UndoIsText = field.kind == FieldKind::Text;
+    form.FieldAdded = field;
+    form.FieldAddedHeld = true;
+}
+
 void addMark(Zevlin& form, const toolkit::MouseArguments& mouse) {
     form.DesignDirty = true;
     const std::int16_t index = toolkit::toInteger16(form.AMark.UBound() + 1);
     toolkit::Label& mark = form.AMark.Load(index);
-    form.UndoIsText = false;
     const std::size_t size = chosenSize(form);
     store(form.MarkSizes, index, static_cast<std::int16_t>(size));
     mark.Font = {.Name = form.MarkFontName,
@@ -65,7 +71,7 @@ void addMark(Zevlin& form, const toolkit::MouseArguments& mouse) {
               form.Testtext.TextHeight(mark.Caption));
     mark.Visible = true;
     form.P1Stack.bringToFront(mark);
-    form.UndoIndex = index;
+    holdAdded(form, {FieldKind::Mark, index});
 }
 
 std::string newTextHead(int index) { return toolkit::numberText(index) + " My "; }
@@ -92,13 +98,13 @@ void addText(Zevlin& form, const toolkit::MouseArguments& mouse) {
     const std::int16_t index = toolkit::toInteger16(form.AText.UBound() + 1);
     toolkit::Label& text = form.AText.Load(index);
     form.Highlight.Load(index);
-    form.UndoIsText = true;
     dressNewText(form, text, index);
     form.Testtext.Font = text.Font;
     text.Move(mouse.X, mouse.Y, form.Testtext.TextWidth("abc"), form.Testtext.TextHeight("["));
     text.Visible = true;
     form.P1Stack.bringToFront(text);
-    form.UndoIndex = form.TIndex = index;
+    form.TIndex = index;
+    holdAdded(form, {FieldKind::Text, index});
     SetTextBox(form, form.CText, index);
     SetTextBox(form, form.LText, index);
 }
@@ -106,6 +112,7 @@ void addText(Zevlin& form, const toolkit::MouseArguments& mouse) {
 } // namespace
 
 void pressDesign(Zevlin& form, const toolkit::MouseArguments& mouse) {
+    form.FieldAddedHeld = false;
     if (mouse.Button == toolkit::button::left) {
         form.P1.MousePointer = toolkit::MousePointer::Hand;
         form.LastX = mouse.X;
@@ -122,23 +129,28 @@ void pressDesign(Zevlin& form, const toolkit::MouseArguments& mouse) {
 }
 
 void shapeNewField(Zevlin& form, const toolkit::MouseArguments& mouse) {
-    const bool isText = form.MText.Checked;
-    auto& fields = isText ? form.AText : form.AMark;
-    if (fields.UBound() == 0) return;
-    toolkit::Label& field = fields[fields.UBound()];
+    if (!form.FieldAddedHeld) return;
+    toolkit::Label& field = labelOf(form, form.FieldAdded);
     form.DesignDirty = true;
-    if (!isText) return field.Move(mouse.X, mouse.Y);
+    if (form.FieldAdded.kind == FieldKind::Mark) return field.Move(mouse.X, mouse.Y);
     if (mouse.X > field.Left) field.Width = mouse.X - field.Left;
     form.P1Stack.bringToFront(field);
 }
 
-void finishNewText(Zevlin& form) {
-    if (form.AText.UBound() == 0) return;
-    toolkit::Label& text = form.AText[form.AText.UBound()];
+void letGoOfNewField(Zevlin& form) {
+    if (!form.FieldAddedHeld) return;
+    form.FieldAddedHeld = false;
+    if (form.FieldAdded.kind == FieldKind::Mark) return;
+    toolkit::Label& text = labelOf(form, form.FieldAdded);
     text.Alignment = toolkit::Alignment::Center;
-    text.Caption = widthPattern(newTextHead(form.AText.UBound()));
+    text.Caption = widthPattern(newTextHead(form.FieldAdded.index));
     text.BackColor = toolkit::qbColor(palette::white);
     text.BackStyle = toolkit::BackStyle::Transparent;
+}
+
+void keepAddedField(Zevlin& form) {
+    form.FieldAdded = {};
+    form.FieldAddedHeld = false;
 }
 
 } // namespace zev

@@ -11,10 +11,14 @@ struct Zevlin;
 /// card itself.
 void pressDesign(Zevlin& form, const toolkit::MouseArguments& mouse);
 
-/// While the right button is down: a new mark follows the pointer, a new text field is widened.
+/// While the right button that added a field is down: a new mark follows the pointer, a new text
+/// field is widened.
 void shapeNewField(Zevlin& form, const toolkit::MouseArguments& mouse);
 
-/// The right button is let go: a new text field gets its final look.
-void finishNewText(Zevlin& form);
+/// That button is let go: a new text field gets its final look.
+void letGoOfNewField(Zevlin& form);
+
+/// What was added belongs to the layout from now on.
+void keepAddedField(Zevlin& form);
 
 } // namespace zev

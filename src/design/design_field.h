@@ -16,6 +16,7 @@ enum class FieldKind { Mark = 1, Text = 2 };
 struct DesignField {
     FieldKind kind = FieldKind::Mark;
     int index = 0;
+    bool operator==(const DesignField&) const = default;
 };
 
 /// A field that doesn't exist is failure 340.

@@ -9,6 +9,7 @@
 #include "card/lifecycle.h"
 #include "card/modified.h"
 #include "card/save.h"
+#include "design/add_field.h"
 #include "design/design_field.h"
 #include "text/set_sym.h"
 #include "toolkit/dialog.h"
@@ -102,6 +103,9 @@ void switchMode(Zevlin& form, bool designing) {
     // SPACE would hide a field for as long as the mode lasts.
     form.TabActive = false;
     form.FieldHeld = false;
+    // What can be taken back is what was done since.
+    form.UndoIndex = 0;
+    keepAddedField(form);
     form.MCoord.Visible = designing;
     form.MCoord.Caption.clear();
 }

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "design/design_field.h"
 #include "toolkit/control.h"
 
 namespace zev {
@@ -17,6 +18,11 @@ struct DesignState {
     float DragTop = 0;
     float TextDragX = 0; ///< twips in the text field; the pointer's last place over it
     float TextDragY = 0;
+
+    /// Added since the mode was entered and not taken away again; index 0 for none. Any other field
+    /// is the layout's and stays.
+    DesignField FieldAdded;
+    bool FieldAddedHeld = false; ///< the press that added it isn't over: a move shapes it
 
     bool UndoValid = false;     ///< what can be undone began with a press on a field
     std::int16_t UndoIndex = 0; ///< the field concerned; below 1 nothing can be undone

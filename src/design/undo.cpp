@@ -2,6 +2,7 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "design/add_field.h"
 #include "design/design_field.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
@@ -21,18 +22,23 @@ void unloadLastText(Zevlin& form) {
     const int last = form.AText.UBound() - 1;
     form.AText.UnloadAbove(last);
     form.Highlight.UnloadAbove(last);
-    if (form.NamesField > last) form.NamesField = 0;
     if (form.TIndex > last) form.TIndex = 0;
 }
 
-/// The field that was added last is the last of its kind.
+/// The last of its kind, where that was added. A field of the layout never goes: card files know
+/// the others by their numbers.
 void unloadLast(Zevlin& form) {
     form.UndoIndex = 0;
-    if (form.MText.Checked) {
-        if (form.AText.UBound() > 0) unloadLastText(form);
-    } else if (form.AMark.UBound() > 0) {
-        form.AMark.UnloadAbove(form.AMark.UBound() - 1);
+    const DesignField last = form.MText.Checked ? DesignField{FieldKind::Text, form.AText.UBound()}
+                                                : DesignField{FieldKind::Mark, form.AMark.UBound()};
+    if (form.FieldAdded != last || last.index == 0) {
+        toolkit::beep();
+    } else if (last.kind == FieldKind::Text) {
+        unloadLastText(form);
+    } else {
+        form.AMark.UnloadAbove(last.index - 1);
     }
+    keepAddedField(form);
     form.SetFocus(form.P1);
 }
 

@@ -91,8 +91,7 @@ void P1_MouseUp(Zevlin& form, toolkit::MouseArguments& mouse) {
     trapped(form, "Error in P1_MouseUp: #", [&] {
         form.P1.MousePointer = toolkit::MousePointer::Default;
         form.MarkHitPending = false;
-        const bool added = form.MShowShapes.Checked && mouse.Button == toolkit::button::right;
-        if (added && form.MText.Checked) finishNewText(form);
+        if (mouse.Button == toolkit::button::right) letGoOfNewField(form);
     });
 }
 

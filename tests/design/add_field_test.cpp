@@ -240,6 +240,77 @@ TEST_F(AddField, WithTheHelpOpenAPressOnlyDismissesIt) {
     EXPECT_FALSE(form.THelp.Visible);
 }
 
+/// The right button is still down while the help goes, and the pointer seldom stands still.
+TEST_F(AddField, APressThatDismissesTheHelpMovesNoFieldEither) {
+    design();
+    const toolkit::Label last = form.AMark[4];
+    typeKey(toolkit::key::f1);
+    form.THelp.Move(0, 1000 * pixel);
+    form.DesignDirty = false;
+    addField(25, -30);
+    EXPECT_EQ(form.AMark[4].Left, last.Left);
+    EXPECT_EQ(form.AMark[4].Top, last.Top);
+    EXPECT_FALSE(form.DesignDirty);
+}
+
+TEST_F(AddField, APressThatDismissesTheHelpWidensAndDressesNoText) {
+    design();
+    choose("Design>Text");
+    const toolkit::Label last = form.AText[4];
+    typeKey(toolkit::key::f1);
+    form.THelp.Move(0, 1000 * pixel);
+    form.DesignDirty = false;
+    addField(120, 0);
+    EXPECT_EQ(form.AText[4].Width, last.Width);
+    EXPECT_EQ(form.AText[4].Caption, last.Caption);
+    EXPECT_EQ(form.AText[4].Alignment, last.Alignment);
+    EXPECT_FALSE(form.DesignDirty);
+}
+
+TEST_F(AddField, TakenBackWhileItIsHeldAMarkLeavesTheOthersWhereTheyAre) {
+    design();
+    const toolkit::Label last = form.AMark[4];
+    moveMouse(addedX, addedY);
+    pressMouse(addedX, addedY, right);
+    ASSERT_EQ(form.AMark.UBound(), 5);
+    undo();
+    ASSERT_EQ(form.AMark.UBound(), 4);
+    moveMouse(addedX + 25 * pixel, addedY, right);
+    releaseMouse(addedX + 25 * pixel, addedY, right);
+    EXPECT_EQ(form.AMark[4].Left, last.Left);
+    EXPECT_EQ(form.AMark[4].Top, last.Top);
+}
+
+TEST_F(AddField, TakenBackWhileItIsHeldATextLeavesTheOthersAsTheyAre) {
+    design();
+    choose("Design>Text");
+    const toolkit::Label last = form.AText[4];
+    moveMouse(addedX, addedY);
+    pressMouse(addedX, addedY, right);
+    ASSERT_EQ(form.AText.UBound(), 5);
+    undo();
+    ASSERT_EQ(form.AText.UBound(), 4);
+    moveMouse(addedX + 120 * pixel, addedY, right);
+    releaseMouse(addedX + 120 * pixel, addedY, right);
+    EXPECT_EQ(form.AText[4].Width, last.Width);
+    EXPECT_EQ(form.AText[4].Caption, last.Caption);
+    EXPECT_EQ(form.AText[4].Alignment, last.Alignment);
+}
+
+/// The key leaves the mode in the middle of the press, and coming back changes nothing.
+TEST_F(AddField, AFieldIsNotHeldAcrossTwoTurnsInTheMode) {
+    design();
+    moveMouse(addedX, addedY);
+    pressMouse(addedX, addedY, right);
+    const float place = form.AMark[5].Left;
+    pressDesignKey();
+    pressDesignKey();
+    ASSERT_EQ(form.AMark.UBound(), 5);
+    moveMouse(addedX + 25 * pixel, addedY, right);
+    releaseMouse(addedX + 25 * pixel, addedY, right);
+    EXPECT_EQ(form.AMark[5].Left, place);
+}
+
 /// A new field may be the first of its kind.
 TEST_F(AddField, OnALayoutWithoutFieldsTheFirstIsNumberOne) {
     writeLayout(smallLayout({}, {}));

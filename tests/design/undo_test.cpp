@@ -129,19 +129,73 @@ TEST_F(UndoDesign, AFailureIsTracedOnce) {
     EXPECT_EQ(beeps, 1);
 }
 
-/// A press with the middle button makes it look as if a field had been added; the names line goes
-/// with the last text field.
-TEST_F(UndoDesign, TheNamesLineIsForgottenWhenItsFieldGoes) {
-    writeLayout(smallLayout({{100, 100, 0, 0, 1, 2}}, {{100, 300, 300, 0, 1, 3}}));
+/// A press with the middle button makes it look as if a field had been added: of the layout's own
+/// none goes.
+TEST_F(UndoDesign, AfterAMiddlePressNoFieldOfTheLayoutGoes) {
     design();
-    ASSERT_EQ(form.NamesField, 1);
-    choose("Design>Text");
-    form.UndoIndex = 1;
+    for (const char* shape : {"Checkmark", "Circle", "Text"}) {
+        choose("Design>" + std::string(shape));
+        const toolkit::Label& last =
+            form.MText.Checked ? form.AText[form.AText.UBound()] : form.AMark[form.AMark.UBound()];
+        dragLabel(last, 5, 0);
+        dragLabel(last, 0, 0, toolkit::button::middle);
+        undo();
+        EXPECT_EQ(form.AMark.UBound(), 4) << shape;
+        EXPECT_EQ(form.AText.UBound(), 4) << shape;
+        EXPECT_EQ(form.UndoIndex, 0) << shape;
+    }
+    EXPECT_EQ(beeps, 3);
+    EXPECT_EQ(form.ActiveControl, &form.P1);
+}
+
+TEST_F(UndoDesign, AfterAMiddlePressTheFieldThatWasAddedStillGoes) {
+    design();
+    addField();
+    dragLabel(form.AMark[1], 0, 0, toolkit::button::middle);
     undo();
-    EXPECT_EQ(form.AText.UBound(), 0);
-    EXPECT_EQ(form.NamesField, 0);
+    EXPECT_EQ(form.AMark.UBound(), 4);
+    EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(UndoDesign, WhatWasAddedIsNotTakenAwayInALaterTurn) {
+    design();
+    addField();
     pressDesignKey();
-    EXPECT_FALSE(form.MShowShapes.Checked);
+    pressDesignKey();
+    undo();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(form.AMark.UBound(), 5);
+}
+
+/// Saving leaves the mode and comes back to it: from then on the field is the layout's.
+TEST_F(UndoDesign, WhatIsSavedIsNotTakenAway) {
+    design();
+    addField();
+    choose("Design>Save Design");
+    undo();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(form.AMark.UBound(), 5);
+}
+
+TEST_F(UndoDesign, ADragIsNotTakenBackInALaterTurn) {
+    design();
+    dragLabel(form.AMark[2], 30, 20);
+    const float left = form.AMark[2].Left;
+    pressDesignKey();
+    pressDesignKey();
+    undo();
+    EXPECT_EQ(beeps, 1);
+    EXPECT_EQ(form.AMark[2].Left, left);
+}
+
+TEST_F(UndoDesign, AZoomForgetsWhatWasAdded) {
+    design();
+    addField();
+    choose("View>Zoom In (Bigger)                   Ctrl +");
+    ASSERT_EQ(form.AMark.UBound(), 4);
+    dragLabel(form.AMark[4], 0, 0, toolkit::button::middle);
+    undo();
+    EXPECT_EQ(form.AMark.UBound(), 4);
 }
 
 } // namespace
