@@ -50,6 +50,17 @@ void traceKeys(Zevlin& form, toolkit::KeyArguments& key) {
     }
 }
 
+/// A text that is being edited has the key for itself, whatever the menu would do at it. The other
+/// shortcuts of the menu mean nothing to a text. True if it was the key.
+bool selectAllByKey(Zevlin& form, const toolkit::KeyArguments& key) {
+    if (key.KeyCode != 'A' || key.Shift != toolkit::shift::ctrl) return false;
+    toolkit::TextBox& box = form.LText.Visible ? form.LText : form.CText;
+    if (!box.Visible) return false;
+    box.SelStart = 0;
+    box.SelLength = static_cast<int>(box.Text.size());
+    return true;
+}
+
 void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
     form.ShiftHeld = (key.Shift & toolkit::shift::shift) != 0;
     form.CursorPos = toolkit::cursorPosition();
@@ -60,7 +71,7 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
     if (key.KeyCode == toolkit::key::f1) {
         consume(key);
         MHelp_Click(form);
-    } else if (moveCardByKey(form, key.KeyCode, key.Shift)) {
+    } else if (selectAllByKey(form, key) || moveCardByKey(form, key.KeyCode, key.Shift)) {
         consume(key);
     }
 }

@@ -92,6 +92,21 @@ TEST_F(DesignMode, ControlASwitchesTheModeWhileTheMenuIsShown) {
     EXPECT_TRUE(form.MShowShapes.Checked);
 }
 
+TEST_F(DesignMode, InAnOpenTextControlASelectsAllOfIt) {
+    design();
+    typeKey('A', toolkit::shift::ctrl);
+    clickText(1);
+    typeText("abc");
+    typeKey('A', toolkit::shift::ctrl);
+    EXPECT_FALSE(form.MShowShapes.Checked);
+    EXPECT_TRUE(boxes.empty());
+    ASSERT_TRUE(isEditing());
+    EXPECT_EQ(openBox().SelStart, 0);
+    EXPECT_EQ(openBox().SelLength, 3);
+    typeText("x");
+    EXPECT_EQ(shownText(openBox()), "x");
+}
+
 TEST_F(DesignMode, AllMarksAreShownAndTextsTellTheirNumbers) {
     design();
     EXPECT_EQ(visibleMarks(), 4);
