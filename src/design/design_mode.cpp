@@ -99,6 +99,8 @@ void switchMode(Zevlin& form, bool designing) {
     form.MShowShapes.Checked = designing;
     enable(form, designItems, designing);
     enable(form, cardItems, !designing);
+    // The scheme that was left behind comes back: another one chosen meanwhile would be lost.
+    for (auto& scheme : form.mcolorscheme) scheme.Enabled = !designing;
     form.TabRecordPrev = 0;
     // SPACE would hide a field for as long as the mode lasts.
     form.TabActive = false;

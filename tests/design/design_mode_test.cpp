@@ -289,6 +289,23 @@ TEST_F(DesignMode, DesigningIsDoneInTheLayoutsOwnColours) {
     EXPECT_EQ(form.AMark[2].ForeColor, toolkit::rgb(1, 2, 3));
 }
 
+TEST_F(DesignMode, NoColourForTheCardCanBeChosen) {
+    start();
+    takeCustomColor();
+    pressDesignKey();
+    for (const char* item : {"ACBL Compliant", "Custom..."})
+        EXPECT_FALSE(chooseMenu("Options>Color Management>" + std::string(item))) << item;
+    EXPECT_FALSE(form.ColorPic.Visible);
+    EXPECT_EQ(checkedSchemes(), "X.");
+    choose("Design>Save Design");
+    EXPECT_FALSE(chooseMenu("Options>Color Management>Custom..."));
+    pressDesignKey();
+    EXPECT_EQ(checkedSchemes(), ".X");
+    choose("Options>Color Management>ACBL Compliant");
+    EXPECT_EQ(checkedSchemes(), "X.");
+    EXPECT_EQ(form.ColorScheme, 0);
+}
+
 TEST_F(DesignMode, NothingIsWalkedOrToggledByKey) {
     start();
     clickMark(2);
