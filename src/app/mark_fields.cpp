@@ -7,6 +7,7 @@
 #include "app/initialize_run.h"
 #include "app/zevlin.h"
 #include "layout/calibration.h"
+#include "layout/field.h"
 #include "layout/layout_file.h"
 #include "layout/version.h"
 
@@ -78,7 +79,11 @@ void buildMark(Zevlin& form, const InitializeRun& run, LayoutReader& layout, int
     cellOf(form.MarkSizes, record.number) = static_cast<std::int16_t>(record.size);
     const MarkDress dress = dressOf(form, run, record, symbol, index);
     // A record out of sequence leaves a hole: the other fields keep their numbers.
-    if (record.number == index) fillMark(form, record, symbol, dress);
+    if (record.number == index) {
+        fillMark(form, record, symbol, dress);
+    } else {
+        makeHole(form.AMark, index);
+    }
     const toolkit::Label& mark = form.AMark[index];
     if (index == form.FirstLargeMark) {
         form.LargeMarkBottom = mark.Top + mark.Height - 8 * static_cast<float>(form.TwipsPerPixel);

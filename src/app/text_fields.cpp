@@ -7,6 +7,7 @@
 #include "app/initialize_run.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "layout/field.h"
 #include "layout/layout_file.h"
 #include "toolkit/number_text.h"
 
@@ -121,7 +122,9 @@ void buildText(Zevlin& form, const InitializeRun& run, LayoutReader& layout, int
     cellOf(form.TextSizes, record.number) = static_cast<std::int16_t>(record.size);
     const TextDress dress = dressOf(form, run, record.size, index);
     // A record out of sequence leaves a hole: the other fields keep their numbers.
-    if (record.number == index) fillText(form, record, dress);
+    if (record.number == index) return fillText(form, record, dress);
+    makeHole(form.AText, index);
+    makeHole(form.Highlight, index);
 }
 
 /// From the back: highlights, texts, marks, so that a set mark wins over a text area.
@@ -146,7 +149,7 @@ void buildTexts(Zevlin& form, InitializeRun& run, LayoutReader& layout) {
     for (int i = 1; i <= count; ++i) buildText(form, run, layout, i);
     sendHighlightsToBack(form);
     // The names line needs a live field: a number out of sequence would name a hole.
-    const bool live = form.FirstBigText > 0 && form.AText[form.FirstBigText].Visible;
+    const bool live = form.FirstBigText > 0 && isField(form.AText[form.FirstBigText]);
     form.NamesField = live ? form.FirstBigText : std::int16_t{0};
 }
 

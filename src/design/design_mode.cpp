@@ -11,6 +11,7 @@
 #include "card/save.h"
 #include "design/add_field.h"
 #include "design/design_field.h"
+#include "layout/field.h"
 #include "text/set_sym.h"
 #include "toolkit/dialog.h"
 #include "toolkit/number_text.h"
@@ -77,22 +78,22 @@ bool letsGoOfCard(Zevlin& form) {
 }
 
 void showAllFields(Zevlin& form) {
-    for (int i = 1; i <= form.AMark.UBound(); ++i) form.AMark[i].Visible = true;
+    forEachField(form.AMark, [&](int i) { form.AMark[i].Visible = true; });
     // Symbols belong to a text that isn't shown any more.
     unloadSymbols(form);
-    for (int i = 1; i <= form.AText.UBound(); ++i) {
+    forEachField(form.AText, [&](int i) {
         form.AText[i].Caption = "[ " + toolkit::numberText(i) + " " + widthPattern("] ");
         form.AText[i].Wraps = true;
-    }
+    });
 }
 
 void hideAllFields(Zevlin& form) {
-    for (int i = 1; i <= form.AMark.UBound(); ++i) form.AMark[i].Visible = false;
-    for (int i = 1; i <= form.AText.UBound(); ++i) {
+    forEachField(form.AMark, [&](int i) { form.AMark[i].Visible = false; });
+    forEachField(form.AText, [&](int i) {
         form.AText[i].Caption.clear();
         form.AText[i].Wraps = false;
         placeHighlight(form, i);
-    }
+    });
 }
 
 void switchMode(Zevlin& form, bool designing) {

@@ -2,6 +2,7 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "layout/field.h"
 #include "marks/marks_state.h"
 #include "toolkit/screen.h"
 
@@ -44,9 +45,9 @@ bool isAny(const toolkit::Label& /*field*/) { return true; }
 
 void moveAll(toolkit::ControlArray<toolkit::Label>& fields, bool (*belongs)(const toolkit::Label&),
              const Step& step) {
-    for (int i = 1; i <= fields.UBound(); ++i) {
+    forEachField(fields, [&](int i) {
         if (belongs(fields[i])) moveLabel(fields[i], step);
-    }
+    });
 }
 
 void moveKind(Zevlin& form, const Step& step) {

@@ -1,5 +1,7 @@
 #include "marks/hit_test.h"
 
+#include "layout/field.h"
+
 namespace zev {
 
 bool hitsMark(const toolkit::Label& mark, float x, float y, int twipsPerPixel) {
@@ -12,7 +14,7 @@ bool hitsMark(const toolkit::Label& mark, float x, float y, int twipsPerPixel) {
 std::optional<int> markAt(const toolkit::ControlArray<toolkit::Label>& marks, float x, float y,
                           int twipsPerPixel) {
     for (int i = 1; i <= marks.UBound(); ++i) {
-        if (hitsMark(marks[i], x, y, twipsPerPixel)) return i;
+        if (isField(marks[i]) && hitsMark(marks[i], x, y, twipsPerPixel)) return i;
     }
     return std::nullopt;
 }

@@ -6,6 +6,7 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/modified.h"
+#include "layout/field.h"
 #include "marks/mark_clicks.h"
 #include "marks/move_card.h"
 #include "text/edit_field.h"
@@ -34,6 +35,37 @@ std::string walkTrace(const Zevlin& form) {
            numberText(form.TabTable[form.TabCode]) + ", Cursor: " + numberText(form.CursorPos.x) +
            ", " + numberText(form.CursorPos.y) + " | " + numberText(form.TabCursorX) + ", " +
            numberText(form.TabCursorY);
+}
+
+bool isHole(const Zevlin& form, int item) {
+    const auto& fields = item >= firstMarkItem ? form.AMark : form.AText;
+    const int index = item >= firstMarkItem ? item - firstMarkItem : item;
+    return fields.exists(index) && !isField(fields[index]);
+}
+
+/// The next item in one direction, past holes; 0 where the walk ends. A sequence of holes alone
+/// may go round.
+template <typename Step>
+int nextItem(const Zevlin& form, int from, Step step) {
+    int item = step(from);
+    for (int turns = form.TabTable.UBound(); item > 0 && isHole(form, item); --turns) {
+        if (turns == 0) return 0;
+        item = step(item);
+    }
+    return item;
+}
+
+int itemAfter(const Zevlin& form, int from) {
+    return nextItem(form, from, [&](int item) {
+        // A hole may lie beyond the table; where the walk starts it is a failure.
+        const bool ends = item != from && item > form.TabTable.UBound();
+        return ends ? 0 : int{form.TabTable[item]};
+    });
+}
+
+int itemBefore(const Zevlin& form, int from) {
+    return nextItem(form, from,
+                    [&](int item) { return form.TabTable.predecessor(item).value_or(0); });
 }
 
 void goToText(Zevlin& form, int item) {
@@ -113,13 +145,7 @@ void blinkMark(Zevlin& form, int index) {
 
 void walkFromText(Zevlin& form, bool backward) {
     const int from = form.TIndex;
-    if (backward) {
-        const auto before = form.TabTable.predecessor(from);
-        if (!before) return;
-        traceFromText(form, from, *before);
-        return goFromText(form, *before);
-    }
-    const int next = form.TabTable[from];
+    const int next = backward ? itemBefore(form, from) : itemAfter(form, from);
     if (next <= 0) return;
     traceFromText(form, from, next);
     goFromText(form, next);
@@ -130,10 +156,9 @@ void walkFromMark(Zevlin& form, int shift) {
     const bool still = cursorIsStill(form);
     Traceit(form, walkTrace(form));
     if (!still) return;
-    const int next = form.TabTable[form.TabCode];
-    if (next <= 0) return;
-    if (shift == 0) return goFromMark(form, next);
-    if (const auto before = form.TabTable.predecessor(form.TabCode)) goFromMark(form, *before);
+    if (form.TabTable[form.TabCode] <= 0) return;
+    const int next = shift == 0 ? itemAfter(form, form.TabCode) : itemBefore(form, form.TabCode);
+    if (next > 0) goFromMark(form, next);
 }
 
 void toggleTabbedMark(Zevlin& form) {

@@ -8,6 +8,7 @@
 #include "app/zevlin.h"
 #include "card/journal.h"
 #include "layout/check_point.h"
+#include "layout/field.h"
 #include "layout/position.h"
 #include "output/blank_page.h"
 #include "output/gray.h"
@@ -115,7 +116,7 @@ void blacken(Zevlin& form) {
     MakeGray(form, form.P1);
     form.Timestamp.ForeColor = toolkit::black;
     for (auto* labels : {&form.AMark, &form.AText, &form.SText})
-        for (int i = 1; i <= labels->UBound(); ++i) (*labels)[i].ForeColor = toolkit::black;
+        forEachField(*labels, [&](int i) { (*labels)[i].ForeColor = toolkit::black; });
     TestBlankPage(form, "mPrint_Click after MakeGray for P1", form.P1);
 }
 

@@ -6,6 +6,7 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "layout/field.h"
 #include "text/escapes.h"
 #include "toolkit/number_text.h"
 #include "view/colors.h"
@@ -118,6 +119,7 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
 void layOver(Zevlin& form, int index) {
     toolkit::Label& label = form.AText[index];
     label.Tag = label.Caption;
+    if (!isField(label)) return;
     BlankedText blanked = blankEscapes(label.Caption);
     label.Caption = blanked.caption;
     AmpRem(blanked.scanBuffer);

@@ -1,12 +1,12 @@
 #include "view/colors.h"
 
-#include <algorithm>
 #include <string>
 #include <vector>
 
 #include "app/options.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "layout/field.h"
 #include "toolkit/number_text.h"
 #include "view/color_panel.h"
 
@@ -17,12 +17,14 @@ using Labels = toolkit::ControlArray<toolkit::Label>;
 using Colors = std::vector<toolkit::Color>;
 
 void paintOwn(Labels& labels, const Colors& colors) {
-    const int count = std::min(labels.UBound(), static_cast<int>(colors.size()) - 1);
-    for (int i = 1; i <= count; ++i) labels[i].ForeColor = colors[static_cast<std::size_t>(i)];
+    forEachField(labels, [&](int i) {
+        const auto cell = static_cast<std::size_t>(i);
+        if (cell < colors.size()) labels[i].ForeColor = colors[cell];
+    });
 }
 
 void paintAll(Labels& labels, toolkit::Color color) {
-    for (int i = 1; i <= labels.UBound(); ++i) labels[i].ForeColor = color;
+    forEachField(labels, [&](int i) { labels[i].ForeColor = color; });
 }
 
 Colors colorsOf(const Labels& labels) {

@@ -9,6 +9,7 @@
 #include "card/modified.h"
 #include "design/design_mode.h"
 #include "layout/check_point.h"
+#include "layout/field.h"
 #include "text/set_sym.h"
 #include "view/rebuild.h"
 
@@ -75,10 +76,10 @@ void toggleBold(Zevlin& form) {
     form.mBold.Checked = !form.mBold.Checked;
     IniWrite(form);
     form.mpopBold.Enabled = !form.mBold.Checked;
-    for (int i = 1; i <= form.AText.UBound(); ++i) {
+    forEachField(form.AText, [&](int i) {
         form.AText[i].Font.Bold = form.mBold.Checked;
         layOutAnew(form, i);
-    }
+    });
     form.CText.Font.Bold = form.LText.Font.Bold = form.mBold.Checked;
 }
 
@@ -86,10 +87,10 @@ void toggleLeftJustify(Zevlin& form) {
     form.mLeftJustify.Checked = !form.mLeftJustify.Checked;
     const auto alignment =
         form.mLeftJustify.Checked ? toolkit::Alignment::Left : toolkit::Alignment::Center;
-    for (int i = 1; i <= form.AText.UBound(); ++i) {
+    forEachField(form.AText, [&](int i) {
         form.AText[i].Alignment = alignment;
         layOutAnew(form, i);
-    }
+    });
 }
 
 } // namespace

@@ -54,7 +54,7 @@ TEST_F(TextFields, HaveTheColoursOfTheLayout) {
 }
 
 TEST_F(TextFields, TheFirstLargeOneIsTheNamesLine) {
-    startWith(smallLayout({}, {{.size = 1}, {.size = 3}, {.size = 3}}));
+    startWith(smallLayout({}, {{.size = 1}, {.width = 100, .size = 3}, {.width = 100, .size = 3}}));
     EXPECT_EQ(form.FirstBigText, 2);
     EXPECT_EQ(form.NamesField, 2);
 }
