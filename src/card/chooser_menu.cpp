@@ -27,6 +27,11 @@ std::filesystem::path pathOf(const Zevlin& form, const std::string& name) {
     return toolkit::resolveFile(form.DataFolder, name + std::string(cardExtension));
 }
 
+/// Whether the card on the screen is this file, whose name may be written in another case.
+bool isCurrentCard(const Zevlin& form, const std::filesystem::path& path) {
+    return !form.CardName.empty() && path == cardPath(form);
+}
+
 void removeEntry(toolkit::ListBox& list) {
     list.List.erase(list.List.begin() + list.ListIndex);
     list.ListIndex = -1;
@@ -34,8 +39,7 @@ void removeEntry(toolkit::ListBox& list) {
 
 void deleteSelected(Zevlin& form) {
     const auto path = pathOf(form, selectedName(form));
-    // A card of that name may be written in another case.
-    const bool isCurrent = !form.CardName.empty() && path == cardPath(form);
+    const bool isCurrent = isCurrentCard(form, path);
     if (std::filesystem::exists(path)) toolkit::deleteFile(path);
     removeEntry(form.FileList);
     if (isCurrent) {
@@ -56,14 +60,20 @@ void tellNotRenamed(const toolkit::RunTimeError& failure) {
                   toolkit::Icon::Exclamation);
 }
 
-/// The same file in another case is itself no other card.
+/// The same file in another case is itself no other card. The card on the screen goes along, or the
+/// next save would bring the old name back as a second card.
 void renameCard(Zevlin& form, const std::string& name, const std::string& newName) {
     const auto path = pathOf(form, name);
     const auto target = pathOf(form, newName);
     const bool changesCase = target == path && newName != name;
     const auto newPath =
         form.DataFolder / toolkit::pathFromText(newName + std::string(cardExtension));
+    const bool isCurrent = isCurrentCard(form, path);
     toolkit::renameFile(path, changesCase ? newPath : target);
+    if (isCurrent) {
+        form.CardName = newName;
+        SetCaption(form);
+    }
     PopulateFileList(form);
     if (form.TSaveAs.Text != name) return;
     form.TSaveAs.Text = newName;

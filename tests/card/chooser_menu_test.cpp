@@ -183,14 +183,77 @@ TEST_F(ChooserMenu, RenameOfAVanishedFileTellsTheErrorTwice) {
     EXPECT_EQ(boxes[1].text, "Program error 53.  File has not been changed");
 }
 
-TEST_F(ChooserMenu, RenamingTheCurrentCardLeavesItsName) {
+TEST_F(ChooserMenu, RenamingTheCurrentCardGivesTheCardOnScreenTheNewName) {
     openNamed("Brown");
+    clickMark(1);
+    answerChooser([&] {
+        rename(1, "Baker");
+        EXPECT_EQ(form.CardName, "Baker");
+        leave();
+    });
+    choose("File>Save As...");
+    EXPECT_EQ(form.Caption, "Zevlin  ( Baker ) *");
+    EXPECT_TRUE(form.AMark[1].Visible);
+    choose("File>Save");
+    EXPECT_FALSE(form.CardModified);
+    EXPECT_TRUE(exists("Baker"));
+    EXPECT_FALSE(exists("Brown"));
+}
+
+#ifndef _WIN32
+TEST_F(ChooserMenu, TheCardOnScreenFollowsAlsoTheCaseOfItsName) {
+    openNamed("Brown");
+    clickMark(1);
+    answerChooser([&] {
+        rename(1, "BROWN");
+        leave();
+    });
+    choose("File>Save As...");
+    EXPECT_EQ(form.Caption, "Zevlin  ( BROWN ) *");
+    choose("File>Save");
+    EXPECT_TRUE(exists("BROWN"));
+    EXPECT_FALSE(exists("Brown"));
+}
+
+TEST_F(ChooserMenu, TheCardOnScreenFollowsAFileInAnotherCaseThanItsName) {
+    openNamed("bROWN");
     answerChooser([&] {
         rename(1, "Baker");
         leave();
     });
     choose("File>Save As...");
+    EXPECT_EQ(form.CardName, "Baker");
+}
+#endif
+
+TEST_F(ChooserMenu, RenamingAnotherCardLeavesTheNameOfTheOneOnScreen) {
+    openNamed("Brown");
+    answerChooser([&] {
+        rename(0, "Baker");
+        leave();
+    });
+    choose("File>Save As...");
     EXPECT_EQ(form.CardName, "Brown");
+}
+
+TEST_F(ChooserMenu, ARenameThatFailsLeavesTheNameOfTheCardOnScreen) {
+    openNamed("Brown");
+    announceError("Error in mpopRename_Click: #");
+    answerChooser([&] {
+        rename(1, "Clark");
+        leave();
+    });
+    choose("File>Save As...");
+    EXPECT_EQ(form.CardName, "Brown");
+}
+
+TEST_F(ChooserMenu, RenameRefusesTheTemporaryCardsName) {
+    inChooser([&] {
+        rename(1, "$$TempCard");
+        EXPECT_TRUE(boxes.at(0).text.starts_with("'$$TempCard' is an invalid file name."));
+        leave();
+    });
+    EXPECT_TRUE(exists("Brown"));
 }
 
 TEST_F(ChooserMenu, ACardThatVanishesBehindTheChooserOpensBlankUnderItsName) {
