@@ -16,6 +16,8 @@
 #include "app/trace.h"
 #include "app/zevlin.h"
 #include "card/card_file.h"
+#include "card/card_names.h"
+#include "card/chooser.h"
 #include "card/lifecycle.h"
 #include "card/load.h"
 #include "card/modified.h"
@@ -140,7 +142,8 @@ void prepareForm(Zevlin& form) {
 
 void openNamedCard(Zevlin& form, std::string_view commandLine) {
     form.CardName = cardNameOf(commandLine);
-    if (!toolkit::findFile(form.DataFolder, form.CardName + std::string(cardExtension))) {
+    if (isTemporaryCard(form.CardName) ||
+        !toolkit::findFile(form.DataFolder, form.CardName + std::string(cardExtension))) {
         // The blank card stays, and it has no name.
         form.CardName.clear();
         return;
@@ -154,8 +157,7 @@ void openNamedCard(Zevlin& form, std::string_view commandLine) {
 
 void openFirstCard(Zevlin& form, std::string_view commandLine) {
     if (!commandLine.empty()) return openNamedCard(form, commandLine);
-    const bool hasCards = !toolkit::listFiles(form.DataFolder, cardExtension).empty();
-    if (hasCards && !form.THelp.Visible) MOpen_Click(form);
+    if (!listCards(form).empty() && !form.THelp.Visible) MOpen_Click(form);
 }
 
 void placeMenuHelp(Zevlin& form) {

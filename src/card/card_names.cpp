@@ -19,6 +19,10 @@ bool hasForbiddenCharacter(std::string_view name) {
     return name.find_first_of("/\\:*?<>\"") != std::string_view::npos;
 }
 
+bool isTemporaryCard(std::string_view name) {
+    return toolkit::equalWithoutCase(cleanedCardName(name), temporaryCardName);
+}
+
 PlayerId splitPlayerId(std::string_view answer) {
     const std::string_view whole = toolkit::trim(answer);
     const std::size_t blank = whole.rfind(' ');

@@ -12,6 +12,9 @@ namespace zev {
 /// Whether one of / \ : * ? < > or the double quote stands in the name.
 [[nodiscard]] bool hasForbiddenCharacter(std::string_view name);
 
+/// Whether a card of this name would be the temporary one, which no player has made.
+[[nodiscard]] bool isTemporaryCard(std::string_view name);
+
 struct PlayerId {
     std::string name;
     std::string number;

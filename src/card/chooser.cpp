@@ -88,7 +88,7 @@ std::string chosenName(Zevlin& form) {
 } // namespace
 
 bool checkCardName(const std::string& name) {
-    if (!hasForbiddenCharacter(name) &&
+    if (!hasForbiddenCharacter(name) && !isTemporaryCard(name) &&
         toolkit::isPossibleFileName(name + std::string(cardExtension)))
         return true;
     toolkit::tell("'" + name +
@@ -98,10 +98,16 @@ bool checkCardName(const std::string& name) {
     return false;
 }
 
+std::vector<std::string> listCards(const Zevlin& form) {
+    auto names = toolkit::listFiles(form.DataFolder, cardExtension);
+    for (std::string& name : names) name.resize(name.size() - cardExtension.size());
+    std::erase_if(names, isTemporaryCard);
+    return names;
+}
+
 void PopulateFileList(Zevlin& form) {
     Traceit(form, "PopulateFileList");
-    form.FileList.List = toolkit::listFiles(form.DataFolder, cardExtension);
-    for (std::string& name : form.FileList.List) name.resize(name.size() - cardExtension.size());
+    form.FileList.List = listCards(form);
     form.FileList.ListIndex = -1;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace zev {
 
@@ -10,6 +11,9 @@ struct Zevlin;
 /// Shows the panel and waits for the player. The name that they chose, trimmed; empty for cancel or
 /// a name that no file can have.
 [[nodiscard]] std::string GetFileNames(Zevlin& form);
+
+/// The names of the player's cards in the data folder.
+[[nodiscard]] std::vector<std::string> listCards(const Zevlin& form);
 
 /// Lists the cards of the data folder by name, none of them selected.
 void PopulateFileList(Zevlin& form);

@@ -174,6 +174,20 @@ TEST_F(FormLoad, WithoutCardsTheBlankCardStandsAtOnce) {
     expectBlankCard();
 }
 
+#ifndef _WIN32
+/// Of two left-overs whose names differ in case only one is cleared away at the start.
+TEST_F(FormLoad, ATemporaryCardIsNoCardThatOpensOrShowsTheChooser) {
+    for (const char* commandLine : {"", "$$TEMPCARD", "/somewhere/$$TEMPCARD.ZEV"}) {
+        writeCard("$$Tempcard", "");
+        writeCard("$$TEMPCARD", "");
+        start(commandLine);
+        ASSERT_TRUE(std::filesystem::exists(dataFile("$$TEMPCARD.zev")));
+        EXPECT_TRUE(choosers.empty());
+        expectBlankCard();
+    }
+}
+#endif
+
 TEST_F(FormLoad, TheMenuHelpTakesAQuarterOfTheForm) {
     wireOnly();
     form.PopHelp.Height = 300;

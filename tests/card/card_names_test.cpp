@@ -31,6 +31,13 @@ TEST(ForbiddenCharacter, IsNoOther) {
     EXPECT_FALSE(hasForbiddenCharacter(""));
 }
 
+TEST(TemporaryCard, IsToldByItsNameInAnyCase) {
+    for (const char* name : {"$$Tempcard", "$$TEMPCARD", "$$tempcard.zev", "/$$Tempcard"})
+        EXPECT_TRUE(isTemporaryCard(name)) << name;
+    for (const char* name : {"", "Tempcard", "$$Tempcard 2", "$Tempcard"})
+        EXPECT_FALSE(isTemporaryCard(name)) << name;
+}
+
 TEST(SplitPlayerId, TakesALastWordThatIsANumber) {
     EXPECT_EQ(splitPlayerId("Joe 12345"), (PlayerId{"Joe", "12345"}));
     EXPECT_EQ(splitPlayerId("  Joe Smith   12345 "), (PlayerId{"Joe Smith", "12345"}));

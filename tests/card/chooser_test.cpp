@@ -225,6 +225,92 @@ TEST_F(Chooser, RefusesEachForbiddenCharacter) {
     EXPECT_EQ(boxes[0].title, "");
 }
 
+TEST_F(Chooser, RefusesTheTemporaryCardsNameInAnyCase) {
+    start();
+    for (const std::string name : {"$$Tempcard", "$$TEMPCARD", "$$tempcard.zev"}) {
+        EXPECT_EQ(take(name), "");
+        ASSERT_FALSE(boxes.empty());
+        EXPECT_EQ(boxes.back().text, "'" + name + invalidTail);
+    }
+    EXPECT_EQ(boxes.size(), 3U);
+    EXPECT_EQ(take("$$Tempcard 2"), "$$Tempcard 2");
+}
+
+TEST_F(Chooser, NoCardIsSavedAsTheTemporaryOne) {
+    start();
+    clickMark(1);
+    answerName("$$tempCARD");
+    choose("File>Save As...");
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(form.CardName, "");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_FALSE(std::filesystem::exists(dataFile("$$tempCARD.zev")));
+}
+
+TEST_F(Chooser, DoesNotListTheTemporaryCard) {
+    start();
+    writeCard("$$tempCard", "");
+    writeCard("Jones", "");
+    inChooser([&] {
+        EXPECT_EQ(form.FileList.List, std::vector<std::string>{"Jones"});
+        leave();
+    });
+}
+
+TEST_F(Chooser, ATemporaryCardAloneIsAnEmptyFolder) {
+    start();
+    writeCard("$$Tempcard", "");
+    inChooser([&] {
+        EXPECT_FALSE(toolkit::test::isShown(form.FileList));
+        leave();
+    });
+}
+
+/// Files come and go while the list is shown.
+TEST_F(Chooser, ACardThatAppearsBehindItOpensByItsName) {
+    start();
+    writeCard("Adams", cardFile({}));
+    answerChooser([&] {
+        writeCard("Brown", cardFile({.marks = {"1,1,0"}}));
+        typeText("Brown");
+        typeKey(toolkit::key::enter);
+    });
+    choose("File>Open...");
+    EXPECT_EQ(form.CardName, "Brown");
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(Chooser, ACardThatAppearsBehindItIsNotReplacedUnasked) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::No);
+    answerChooser([&] {
+        writeCard("Brown", "theirs");
+        typeText("Brown");
+        typeKey(toolkit::key::enter);
+    });
+    choose("File>Save As...");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "File already exists. Do you want to replace it?");
+    EXPECT_EQ(dataFileContent("Brown.zev"), "theirs");
+    EXPECT_EQ(form.CardName, "");
+}
+
+TEST_F(Chooser, ACardThatVanishesBehindItIsSavedAnew) {
+    start();
+    writeCard("Brown", cardFile({}));
+    clickMark(1);
+    answer(toolkit::Answer::Yes);
+    answerChooser([&] {
+        std::filesystem::remove(dataFile("Brown.zev"));
+        clickRow(0);
+        clickOn(form.BOK);
+    });
+    choose("File>Save As...");
+    EXPECT_EQ(form.CardName, "Brown");
+    EXPECT_TRUE(std::filesystem::exists(dataFile("Brown.zev")));
+}
+
 TEST_F(Chooser, ARefusedNameEndsTheCommandLikeACancel) {
     start();
     answerName("a/b");
