@@ -40,7 +40,10 @@ struct AppState {
 
     std::string VersionSeen;    ///< last version that SkipComment found
     std::string OptionsVersion; ///< of the options file
-    std::string LayoutVersion;  ///< of the layout file
+    bool OptionsRead = false;   ///< in this run
+    /// The first run brought the options along from an older installation.
+    bool OptionsCarriedOver = false;
+    std::string LayoutVersion; ///< of the layout file
 
     std::int16_t TwipsPerPixel = 15;
     std::int16_t ScreenWidthPixels = 0;

@@ -9,6 +9,7 @@
 #include "app/settings.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "card/card_file.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
@@ -20,19 +21,39 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A program folder that holds it is a developer's and keeps its files.
-constexpr const char* developmentFile = "zevlin.frm";
+/// A program folder that holds it is shared, by players or with a developer, and keeps its files.
+constexpr const char* sharedFile = "zevlin.frm";
 
 struct Move {
     fs::path source;
     fs::path target;
+    std::string name;
     std::string lowerCaseName;
+    bool isShared = false;
 };
 
-/// A folder of that name is no target: copying over it fails, and the player is told.
+/// A folder of that name is no target: copying over it fails, and the player is told. What all
+/// players have in the program folder replaces nothing of this one's.
 bool hasGoodTarget(const Move& move) {
-    return fs::is_regular_file(move.target) &&
+    if (!fs::is_regular_file(move.target)) return false;
+    return move.isShared ||
            isGoodTarget(toolkit::fileTime(move.source), toolkit::fileTime(move.target));
+}
+
+/// Before an installed card replaces one of the player's, that one gets the next free number.
+void keepReplacedCard(const Move& move) {
+    if (!move.lowerCaseName.ends_with(cardExtension) || !fs::is_regular_file(move.target)) return;
+    const std::string content = toolkit::readFile(move.target);
+    if (content == toolkit::readFile(move.source)) return;
+    const auto stem = move.name.substr(0, move.name.size() - cardExtension.size());
+    for (int number = 2;; ++number) {
+        const fs::path kept = toolkit::resolveFile(move.target.parent_path(),
+                                                   stem + " (" + toolkit::numberText(number) + ")" +
+                                                       std::string(cardExtension));
+        if (!fs::exists(kept)) return toolkit::copyFile(move.target, kept);
+        // Kept already, by a former first run.
+        if (fs::is_regular_file(kept) && toolkit::readFile(kept) == content) return;
+    }
 }
 
 bool isVerified(const Move& move) {
@@ -41,10 +62,12 @@ bool isVerified(const Move& move) {
            toolkit::fileLength(move.source) == toolkit::fileLength(move.target);
 }
 
-void moveFile(const Move& move, const fs::path& programFolder) {
-    if (!hasGoodTarget(move)) toolkit::copyFile(move.source, move.target);
-    if (isReadme(move.lowerCaseName) || !isVerified(move)) return;
-    if (toolkit::findFile(programFolder, developmentFile)) return;
+void moveFile(const Move& move) {
+    if (!hasGoodTarget(move)) {
+        keepReplacedCard(move);
+        toolkit::copyFile(move.source, move.target);
+    }
+    if (move.isShared || isReadme(move.lowerCaseName) || !isVerified(move)) return;
     ignoringFailures([&] { toolkit::deleteFile(move.source); });
 }
 
@@ -62,14 +85,22 @@ void moveFiles(const fs::path& source, const fs::path& sink) {
     requireFolder(source);
     requireFolder(sink);
     if (isSameFolder(source, sink)) return;
+    const bool isShared = toolkit::findFile(source, sharedFile).has_value();
     for (const std::string& name : toolkit::listFiles(source, "")) {
         const std::string lowerCaseName = toolkit::lowerCase(name);
         if (!isPlayersFile(lowerCaseName)) continue;
         moveFile({.source = source / toolkit::pathFromText(name),
                   .target = toolkit::resolveFile(sink, name),
-                  .lowerCaseName = lowerCaseName},
-                 source);
+                  .name = name,
+                  .lowerCaseName = lowerCaseName,
+                  .isShared = isShared});
     }
+}
+
+/// Options that came along from an older installation and that nobody has read yet: the player's,
+/// while those in memory are none.
+bool hasUnreadOptions(const Zevlin& form) {
+    return !form.OptionsRead && toolkit::findFile(form.DataFolder, optionsFileName).has_value();
 }
 
 void hideMenuItem(Zevlin& form) {
@@ -125,7 +156,8 @@ void mDocsFolder_Click(Zevlin& form) {
         showNewFolder(form);
         tellMoved(form);
         Traceit(form, "mDocFolder_Click success");
-        IniWrite(form);
+        form.OptionsCarriedOver = hasUnreadOptions(form);
+        if (!form.OptionsCarriedOver) IniWrite(form);
     } catch (const std::exception&) {
         tellFailed(form, source, toolkit::currentFailure());
     }

@@ -14,7 +14,8 @@ constexpr const char* dataFolderName = "ZEV";
 [[nodiscard]] std::filesystem::path GetSpecialFolder(Zevlin& form, int identifier);
 
 /// Makes the data folder and moves the installation's files for the player into it: a newer file
-/// there is never replaced, and a source goes only after its copy was verified.
+/// there is never replaced, a card of other content only after a copy of it, and where the program
+/// folder is shared nothing is; a source goes only after its copy was verified.
 void mDocsFolder_Click(Zevlin& form);
 
 /// The folder that relative names mean: the data folder, or where it can't be used the process's.

@@ -129,8 +129,10 @@ void showForm(Zevlin& form, const InitializeRun& run) {
     form.Visible = true;
     if (!form.Carried) toolkit::doEvents();
     if (!run.firstRun) return;
-    form.MFitScreenWidth.Checked = false;
-    MFitScreenWidth_Click(form);
+    if (!form.OptionsCarriedOver) {
+        form.MFitScreenWidth.Checked = false;
+        MFitScreenWidth_Click(form);
+    }
     IniWrite(form);
     HelpCreate(form);
     MHelp_Click(form);

@@ -197,6 +197,7 @@ void writeOptionsFile(Zevlin& form) {
 } // namespace
 
 void readOptions(Zevlin& form, std::string content) {
+    form.OptionsRead = true;
     form.VersionSeen.clear();
     toolkit::TextInput input(std::move(content));
     while (!SkipComment(form, input)) {

@@ -32,6 +32,14 @@ class DataFolder : public FormTest {
         return "Your ZEV files have been moved to " + dataFolder.string() +
                " .  This option is no longer needed and will be hidden from now on.";
     }
+    static constexpr std::string_view oldOptions =
+        "Name=Joe Smith\r\nNumber=1234567\r\nZoom=6\r\nFit=0\r\nFontSize=2\r\nBold=1\r\n"
+        "ColorScheme=65280\r\n";
+    void expectOldOptions() const {
+        for (const char* setting : {"Name=Joe Smith", "Number=1234567", "Zoom=6", "Fit=0",
+                                    "FontSize=2", "Bold=1", "ColorScheme=65280"})
+            EXPECT_NE(dataFileContent("ZEV.Ini").find(setting), std::string::npos) << setting;
+    }
     void expectMovedBox() const {
         ASSERT_FALSE(boxes.empty());
         EXPECT_EQ(boxes[0].text, movedText());
@@ -166,6 +174,80 @@ TEST_F(DataFolder, ADevelopmentFolderLosesNothing) {
     EXPECT_EQ(dataFileContent("Sample.zev"), "sample");
     EXPECT_TRUE(isInstalled("Sample.zev"));
     EXPECT_FALSE(fs::exists(dataFile("zevlin.frm")));
+}
+
+TEST_F(DataFolder, WhereTheProgramFolderIsSharedNothingOfThePlayersIsReplaced) {
+    install("zevlin.frm", "");
+    install("Card.gif", "theirs");
+    install("Definitions.Ini", "theirs");
+    install("New.zev", "new");
+    keep("Sample.zev", "mine", 10s);
+    keep("Card.gif", "mine", 10s);
+    keep("Definitions.Ini", fewFields(), 10s);
+    answerName("");
+    start();
+    EXPECT_EQ(dataFileContent("Sample.zev"), "mine");
+    EXPECT_EQ(dataFileContent("Card.gif"), "mine");
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), fewFields());
+    EXPECT_EQ(dataFileContent("New.zev"), "new");
+    EXPECT_FALSE(fs::exists(dataFile("Sample (2).zev")));
+}
+
+TEST_F(DataFolder, ACardOfThePlayersIsKeptBesideTheOneThatReplacesIt) {
+    keep("Sample.zev", "mine", 10s);
+    const auto time = fs::last_write_time(dataFile("Sample.zev"));
+    start();
+    EXPECT_EQ(dataFileContent("Sample.zev"), "sample");
+    EXPECT_EQ(dataFileContent("Sample (2).zev"), "mine");
+    EXPECT_EQ(fs::last_write_time(dataFile("Sample (2).zev")), time);
+    EXPECT_FALSE(isInstalled("Sample.zev"));
+}
+
+TEST_F(DataFolder, ACardIsKeptUnderTheNextFreeNumberInAnyCase) {
+    keep("Sample.zev", "mine", 10s);
+    toolkit::writeFile(dataFile("SAMPLE (2).ZEV"), "second");
+    fs::create_directories(dataFile("Sample (3).zev"));
+    start();
+    EXPECT_EQ(dataFileContent("SAMPLE (2).ZEV"), "second");
+    EXPECT_EQ(dataFileContent("Sample (4).zev"), "mine");
+}
+
+TEST_F(DataFolder, ACardOfTheSameContentNeedsNoOtherName) {
+    keep("Sample.zev", "sample", 10s);
+    start();
+    EXPECT_FALSE(fs::exists(dataFile("Sample (2).zev")));
+}
+
+TEST_F(DataFolder, ACardThatIsKeptAlreadyIsNotKeptTwice) {
+    keep("Sample.zev", "mine", 10s);
+    toolkit::writeFile(dataFile("Sample (2).zev"), "mine");
+    start();
+    EXPECT_EQ(dataFileContent("Sample.zev"), "sample");
+    EXPECT_FALSE(fs::exists(dataFile("Sample (3).zev")));
+}
+
+TEST_F(DataFolder, OldOptionsThatAreCarriedOverKeepTheirSettings) {
+    install("ZEV.Ini", oldOptions);
+    fs::create_directories(dataFolder);
+    writeLayout(fewFields());
+    answerName("");
+    start();
+    expectOldOptions();
+    EXPECT_FALSE(isInstalled("ZEV.Ini"));
+    EXPECT_EQ(form.MyName, "Joe Smith");
+    EXPECT_EQ(form.ZoomLevel, 6);
+}
+
+/// Without a layout the first run goes on in building the form, which fits the card and writes.
+TEST_F(DataFolder, OldOptionsOutliveTheRestOfAFirstRun) {
+    install("ZEV.Ini", oldOptions);
+    start();
+    EXPECT_TRUE(form.THelp.Visible);
+    expectOldOptions();
+    EXPECT_EQ(form.MyNumber, "1234567");
+    EXPECT_EQ(form.ZoomLevel, 6);
+    EXPECT_FALSE(form.MFitScreenWidth.Checked);
+    EXPECT_TRUE(form.mLargerTextFont.Checked);
 }
 
 TEST_F(DataFolder, OtherFilesStayWhereTheyWereInstalled) {
