@@ -7,7 +7,9 @@
 #include "app/zevlin.h"
 #include "card/modified.h"
 #include "text/edit_field.h"
+#include "text/escapes.h"
 #include "text/fit_text.h"
+#include "text/set_sym.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 
@@ -72,19 +74,33 @@ void changePartnerId(Zevlin& form) {
     if (!form.CardModified) SetMod(form);
 }
 
+std::string lineToShow(const Zevlin& form, NamesUpdate update) {
+    // During a rebuild the temporary name is nobody's.
+    std::string text =
+        composedNames({.caption = form.AText[form.NamesField].Tag,
+                       .mine = playerLine({form.MyName, form.MyNumber}),
+                       .partner = playerLine({form.PartnerName, form.PartnerNumber}),
+                       .cardName = form.Carried ? form.Carried->name : form.CardName},
+                      update);
+    AmpAdd(text);
+    return text;
+}
+
 void composeNamesLine(Zevlin& form, NamesUpdate update) {
     toolkit::Label& line = form.AText[form.NamesField];
-    const std::string before = line.Caption;
-    // During a rebuild the temporary name is nobody's.
-    line.Caption = composedNames({.caption = before,
-                                  .mine = playerLine({form.MyName, form.MyNumber}),
-                                  .partner = playerLine({form.PartnerName, form.PartnerNumber}),
-                                  .cardName = form.Carried ? form.Carried->name : form.CardName},
-                                 update);
+    const std::string text = lineToShow(form, update);
+    const bool changes = text != line.Tag;
+    const std::string shown = line.Caption;
+    const toolkit::FontSpec font = line.Font;
     line.Font.Bold = true;
-    line.Tag = line.Caption;
+    line.Caption = text;
     FitText(form, form.CText, form.NamesField);
-    if (line.Caption != before) SetMod(form);
+    // The suits of a line that stands as it was are laid already.
+    if (changes || (!text.empty() && line.Font != font))
+        SetSym(form, form.NamesField);
+    else
+        line.Caption = shown;
+    if (changes) SetMod(form);
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "output/partner_line.h"
 #include "output/print_card.h"
 #include "text/edit_field.h"
+#include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/set_sym.h"
 
@@ -21,12 +22,14 @@ void setNamesLine(Zevlin& form, const std::string& text) {
     SetSym(form, form.NamesField);
 }
 
-std::string lineForPartner(const Zevlin& form, const std::string& caption) {
-    return partnerCaption({.partnerName = form.PartnerName,
-                           .partnerNumber = form.PartnerNumber,
-                           .myName = form.MyName,
-                           .cardName = form.CardName,
-                           .caption = caption});
+std::string lineForPartner(const Zevlin& form, const std::string& ownLine) {
+    std::string text = partnerCaption({.partnerName = form.PartnerName,
+                                       .partnerNumber = form.PartnerNumber,
+                                       .myName = form.MyName,
+                                       .cardName = form.CardName,
+                                       .caption = ownLine});
+    AmpAdd(text);
+    return text;
 }
 
 void printPartner(Zevlin& form) {
@@ -37,10 +40,7 @@ void printPartner(Zevlin& form) {
     flushJournal(form);
     form.Journal.isHeld = true;
     const toolkit::Label kept = form.AText[form.NamesField];
-    toolkit::Label& line = form.AText[form.NamesField];
-    line.Caption = lineForPartner(form, kept.Caption);
-    // A rebuild carries the tag, which holds the escapes, not the caption.
-    line.Tag = line.Caption == kept.Caption ? kept.Tag : line.Caption;
+    setNamesLine(form, lineForPartner(form, kept.Tag));
     trapped(form, "Error in MPrintPartner_Click: #", [&] { MPrint_Click(form); });
     setNamesLine(form, kept.Tag);
     form.AText[form.NamesField].Caption = kept.Caption;

@@ -195,11 +195,82 @@ TEST_F(NamesLineTest, AnEmptyLineShowsThePartnerOrElseTheCard) {
     EXPECT_EQ(line(), "Smith");
 }
 
-TEST_F(NamesLineTest, TheTagTakesWhatTheLineShows) {
+TEST_F(NamesLineTest, ALoadedLineKeepsItsEscapes) {
     start();
     openCard("Jones", {.texts = {"3,\"a^h\",0"}});
     EXPECT_EQ(line(), "a\xA0\xA0\xA0");
-    EXPECT_EQ(form.AText[3].Tag, "a\xA0\xA0\xA0");
+    EXPECT_EQ(form.AText[3].Tag, "a^h");
+    EXPECT_FALSE(form.CardModified);
+}
+
+TEST_F(NamesLineTest, ATypedLineComesThroughWhateverHappensToTheCard) {
+    writeOptions("Zoom=5\r\nName=Me\r\n");
+    start();
+    typeInto(3, "Joe & Ann^h");
+    answerName("Pair");
+    choose("File>Save");
+    const std::string saved = dataFileContent("Pair.zev");
+    EXPECT_NE(saved.find("3,\"Joe & Ann^h\",1\r\n"), std::string::npos) << saved;
+    openNamed("Pair");
+    answerFile(home / "page.pdf");
+    for (const auto* item :
+         {"View>Zoom In (Bigger)                   Ctrl +", "Options>Font size>Larger",
+          "File>Copy to Clipboard", "File>Print card"}) {
+        choose(item);
+        EXPECT_EQ(form.AText[3].Tag, "Joe && Ann^h") << item;
+    }
+    choose("File>Save");
+    EXPECT_EQ(dataFileContent("Pair.zev"), saved);
+}
+
+TEST_F(NamesLineTest, ItsSuitStandsWhereTheLinesFontPutsIt) {
+    start();
+    openCard("Jones", {.texts = {"3,\"Joe and Ann ^h\",0"}});
+    const float left = form.SText[form.ShownSymbols.at(3).at(0)].Left;
+    openCard("Smith", {.texts = {"3,\"Joe and Ann ^h\",1"}});
+    EXPECT_EQ(left, form.SText[form.ShownSymbols.at(3).at(0)].Left);
+}
+
+TEST_F(NamesLineTest, AnAmpersandInANameReadsSo) {
+    start();
+    enterMine("Bob & Sue 7");
+    EXPECT_EQ(line(), "Bob && Sue #7");
+    EXPECT_EQ(form.AText[3].Tag, "Bob && Sue #7");
+    enterPartner("A&B");
+    EXPECT_EQ(line(), "Bob && Sue #7 && A&&B");
+}
+
+TEST_F(NamesLineTest, ACardsNameWithAnAmpersandReadsSo) {
+    start();
+    openCard("Joe & Ann", {});
+    EXPECT_EQ(line(), "Joe && Ann");
+}
+
+TEST_F(NamesLineTest, ASuitInANameIsShownAndKept) {
+    start();
+    enterMine("Joe ^h");
+    EXPECT_EQ(line(), "Joe \xA0\xA0\xA0");
+    EXPECT_EQ(form.AText[3].Tag, "Joe ^h");
+    EXPECT_EQ(form.ShownSymbols.at(3).size(), 1U);
+}
+
+TEST_F(NamesLineTest, NoOldSuitLiesOverANewLine) {
+    start();
+    typeInto(3, "we^h");
+    ASSERT_EQ(form.ShownSymbols.at(3).size(), 1U);
+    const int symbol = form.ShownSymbols.at(3).at(0);
+    enterMine("Joe");
+    EXPECT_FALSE(form.SText[symbol].Visible);
+    EXPECT_TRUE(form.ShownSymbols.at(3).empty());
+}
+
+TEST_F(NamesLineTest, TheNameThatTheLineShowsAlreadyChangesNothing) {
+    start();
+    enterMine("Joe ^h");
+    form.CardModified = false;
+    enterMine("Joe ^h");
+    EXPECT_EQ(form.AText[3].Tag, "Joe ^h");
+    EXPECT_FALSE(form.CardModified);
 }
 
 TEST_F(NamesLineTest, ALongLineIsFitted) {

@@ -64,6 +64,38 @@ TEST_F(PrintPartner, EscapesOfTheOwnLineComeBack) {
     EXPECT_EQ(form.SText.UBound(), symbols);
 }
 
+TEST_F(PrintPartner, AnAmpersandInANameReadsSo) {
+    startAs("Smith", "Jones");
+    form.PartnerName = "Bob & Sue";
+    EXPECT_EQ(printed(), "Bob && Sue && Smith");
+}
+
+TEST_F(PrintPartner, WithoutAnyNameTheOwnLineIsPrintedWithItsSuits) {
+    start();
+    clickText(2);
+    toolkit::test::typeText("we ^h");
+    toolkit::test::typeKey(27);
+    std::string tag;
+    answerFile({});
+    whileAsking = [&] { tag = form.AText[2].Tag; };
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print Partner's card"));
+    EXPECT_EQ(tag, "we ^h");
+    EXPECT_EQ(form.AText[2].Tag, "we ^h");
+}
+
+TEST_F(PrintPartner, NoSuitOfTheOwnLineLiesOverThePartners) {
+    startAs("Smith", "Jones");
+    clickText(2);
+    toolkit::test::typeText("^h ");
+    toolkit::test::typeKey(27);
+    std::size_t suits = 0;
+    answerFile({});
+    whileAsking = [&] { suits = form.ShownSymbols.at(2).size(); };
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print Partner's card"));
+    EXPECT_EQ(suits, 0U);
+    EXPECT_EQ(form.ShownSymbols.at(2).size(), 1U);
+}
+
 TEST_F(PrintPartner, AnEditOfTheNamesLineIsCommittedFirst) {
     startAs("Smith", "Jones");
     clickText(2);
