@@ -89,10 +89,23 @@ toolkit::TextBox& showOpenBox(Zevlin& form, int index) {
     return box;
 }
 
-toolkit::TextBox& showClosedField(Zevlin& form, int index) {
+void placeCaret(Zevlin& form, toolkit::TextBox& box, float x) {
+    form.Testtext.Font = box.Font;
+    const bool centered = box.Alignment == toolkit::Alignment::Center;
+    const float offset = centered ? (box.Width - form.Testtext.TextWidth(box.Text)) / 2 : 0;
+    const int caret = caretAt(box.Text, x, offset,
+                              [&](std::string_view text) { return form.Testtext.TextWidth(text); });
+    box.SelStart = std::min(caret, static_cast<int>(box.Text.size()));
+    box.SelLength = 0;
+}
+
+/// With the caret where it was clicked: a pop-up that opens at once pastes there.
+toolkit::TextBox& showClosedField(Zevlin& form, int index, float x) {
     commitFormerField(form);
     takeOpeningState(form, index);
-    return showBox(form, index);
+    toolkit::TextBox& box = showBox(form, index);
+    placeCaret(form, box, x);
+    return box;
 }
 
 /// A right click opens the pop-up menu at once.
@@ -104,7 +117,7 @@ void passPress(toolkit::TextBox& box, const FieldClick& click) {
 
 void openField(Zevlin& form, int index, const FieldClick& click) {
     const bool open = isOpen(form, index);
-    passPress(open ? showOpenBox(form, index) : showClosedField(form, index), click);
+    passPress(open ? showOpenBox(form, index) : showClosedField(form, index, click.x), click);
     // The pop-up may have changed the alignment, and with it the box.
     toolkit::TextBox& box = form.LText.Visible ? form.LText : form.CText;
     PositionTextCursor(form, box, click.x);
@@ -134,16 +147,6 @@ void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
     form.mpopHilite.Checked = form.Highlight[index].Visible;
     if (!form.ClipText.empty()) form.mpopPaste.Enabled = true;
     form.mpopUndo.Enabled = false;
-}
-
-void placeCaret(Zevlin& form, toolkit::TextBox& box, float x) {
-    form.Testtext.Font = box.Font;
-    const bool centered = box.Alignment == toolkit::Alignment::Center;
-    const float offset = centered ? (box.Width - form.Testtext.TextWidth(box.Text)) / 2 : 0;
-    const int caret = caretAt(box.Text, x, offset,
-                              [&](std::string_view text) { return form.Testtext.TextWidth(text); });
-    box.SelStart = std::min(caret, static_cast<int>(box.Text.size()));
-    box.SelLength = 0;
 }
 
 void takeOverText(Zevlin& form, toolkit::TextBox& box) {

@@ -61,11 +61,10 @@ void highlightByKey(Zevlin& form, int& KeyAscii) {
     form.SetFocus(form.P1);
 }
 
-/// Without a private copy the box pastes what the system's clipboard holds.
-void pasteByKey(Zevlin& form, int& KeyAscii) {
-    if (!form.mpopPaste.Enabled) return;
+/// Key and menu are one path; the box itself does nothing more.
+void clipByKey(Zevlin& form, int& KeyAscii, void (*procedure)(Zevlin&)) {
     KeyAscii = 0;
-    mpopPaste_Click(form);
+    procedure(form);
 }
 
 void actOnKey(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
@@ -80,11 +79,10 @@ void actOnKey(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
         return toggleItalic(form, box, KeyAscii);
     case control_key::l:
         return toggleJustification(form, KeyAscii);
-    // The box goes on and copies its selection to the system's clipboard.
     case control_key::c:
-        return mpopCopy_Click(form);
+        return clipByKey(form, KeyAscii, mpopCopy_Click);
     case control_key::v:
-        return pasteByKey(form, KeyAscii);
+        return clipByKey(form, KeyAscii, mpopPaste_Click);
     case control_key::g:
         return highlightByKey(form, KeyAscii);
     case control_key::z:
@@ -95,30 +93,11 @@ void actOnKey(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
 }
 
 /// F5 to F8 put a suit in front of the selection.
-void insertSuit(std::string& text, int& start, int keyCode) {
+void insertSuit(toolkit::TextBox& box, int keyCode) {
     if (keyCode < toolkit::key::f5 || keyCode > toolkit::key::f8) return;
     const auto letter = suitLetters[static_cast<std::size_t>(keyCode - toolkit::key::f5)];
-    text.insert(static_cast<std::size_t>(start), {'^', letter});
-    start += 2;
-}
-
-void takeOverTyping(Zevlin& form, toolkit::TextBox& box, int keyCode) {
-    std::string text = box.Text;
-    int start = box.SelStart;
-    insertSuit(text, start, keyCode);
-    box.Text = text;
-    AmpAdd(text);
-    toolkit::Label& field = form.AText[form.TIndex];
-    if (text != field.Caption) {
-        SetMod(form);
-        field.Caption = text;
-    }
-    FitText(form, box, form.TIndex);
-    // A shrinking field makes the box shrink with it.
-    box.Font.Name = field.Font.Name;
-    box.Font.Size = field.Font.Size;
-    box.BaseLine = field.BaseLine;
-    box.SelStart = start;
+    box.Text.insert(static_cast<std::size_t>(box.SelStart), {'^', letter});
+    box.SelStart += 2;
 }
 
 std::string mouseTrace(const Zevlin& form, const toolkit::MouseArguments& mouse) {
@@ -143,14 +122,31 @@ void reopenBox(Zevlin& form, int caret) {
 void openPopup(Zevlin& form, toolkit::TextBox& box, const toolkit::MouseArguments& mouse) {
     if (mouse.Button != toolkit::button::right) return;
     const int caret = box.SelStart;
+    const std::string text = box.Text;
     form.SetFocus(box);
     toolkit::MouseArguments press = mouse;
     press.Shift = 0;
     xText_MouseDown(form, box, press);
-    reopenBox(form, caret);
+    // What was pasted stands before the caret.
+    reopenBox(form, box.Text == text ? caret : box.SelStart);
 }
 
 } // namespace
+
+void takeOverTyping(Zevlin& form, toolkit::TextBox& box) {
+    std::string text = box.Text;
+    AmpAdd(text);
+    toolkit::Label& field = form.AText[form.TIndex];
+    if (text != field.Caption) {
+        SetMod(form);
+        field.Caption = text;
+    }
+    FitText(form, box, form.TIndex);
+    // A shrinking field makes the box shrink with it.
+    box.Font.Name = field.Font.Name;
+    box.Font.Size = field.Font.Size;
+    box.BaseLine = field.BaseLine;
+}
 
 void xText_GotFocus(Zevlin& form, toolkit::TextBox& box) {
     Traceit(form, focusTrace(form, box));
@@ -188,7 +184,8 @@ void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key
             key.KeyCode = 0;
             return;
         }
-        takeOverTyping(form, box, key.KeyCode);
+        insertSuit(box, key.KeyCode);
+        takeOverTyping(form, box);
     });
 }
 

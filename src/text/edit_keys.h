@@ -13,6 +13,9 @@ void xText_KeyPress(Zevlin& form, toolkit::TextBox& box, int& KeyAscii);
 void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key);
 void xText_MouseDown(Zevlin& form, toolkit::TextBox& box, toolkit::MouseArguments& mouse);
 
+/// What stands in the box after an edit goes into the label behind it, which is fitted.
+void takeOverTyping(Zevlin& form, toolkit::TextBox& box);
+
 // The boxes' own events trace their names and pass on.
 void CText_GotFocus(Zevlin& form);
 void CText_KeyDown(Zevlin& form, toolkit::KeyArguments& key);

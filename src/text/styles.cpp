@@ -1,5 +1,6 @@
 #include "text/styles.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -77,21 +78,30 @@ void pressKey(Zevlin& form, std::string_view name, int key) {
     });
 }
 
-std::string copiedText(const Zevlin& form) {
-    const toolkit::Label& field = form.AText[form.TIndex];
-    const bool centered = field.Alignment == toolkit::Alignment::Center;
-    const toolkit::TextBox& box = centered ? form.CText : form.LText;
-    if (box.SelLength > 0) {
-        return box.Text.substr(static_cast<std::size_t>(box.SelStart),
-                               static_cast<std::size_t>(box.SelLength));
-    }
-    std::string text = field.Caption;
-    AmpRem(text);
-    return text;
+/// The selection in the box, empty if nothing is selected.
+std::string selectedText(const toolkit::TextBox& box) {
+    if (box.SelLength <= 0) return {};
+    return box.Text.substr(static_cast<std::size_t>(box.SelStart),
+                           static_cast<std::size_t>(box.SelLength));
 }
 
-void paste(Zevlin& form) {
-    if (form.MShowShapes.Checked || !isEditing(form)) return;
+void copy(Zevlin& form) {
+    const toolkit::Label& field = form.AText[form.TIndex];
+    const toolkit::TextBox& box = openBox(form);
+    const std::string selected = selectedText(box);
+    form.ClipText = selected.empty() ? field.Caption : selected;
+    if (selected.empty()) AmpRem(form.ClipText);
+    // The caption may have blanks for its suits; others get the text that is edited.
+    const std::string& given = selected.empty() ? box.Text : selected;
+    if (!given.empty()) toolkit::setClipboardText(given);
+}
+
+/// The private copy counts only as long as nothing else has been copied anywhere.
+bool takesCopy(const Zevlin& form) {
+    return form.mpopPaste.Enabled && !form.ClipText.empty() && toolkit::holdsClipboardText();
+}
+
+void pasteCopy(Zevlin& form) {
     toolkit::Label& field = form.AText[form.TIndex];
     AmpAdd(form.ClipText);
     field.Caption = form.ClipText;
@@ -101,6 +111,26 @@ void paste(Zevlin& form) {
     SetMod(form);
     FitText(form, form.CText, form.TIndex);
     FitText(form, form.LText, form.TIndex);
+}
+
+void pasteAtCaret(Zevlin& form) {
+    toolkit::TextBox& box = openBox(form);
+    const auto start = std::min(static_cast<std::size_t>(box.SelStart), box.Text.size());
+    const std::string before = box.Text.substr(0, start);
+    const std::string after =
+        box.Text.substr(std::min(start + static_cast<std::size_t>(box.SelLength), box.Text.size()));
+    const std::string pasted = toolkit::clipboardText({.before = before, .after = after});
+    if (pasted.empty()) return;
+    box.Text = before + pasted + after;
+    box.SelStart = static_cast<int>(start + pasted.size());
+    box.SelLength = 0;
+    takeOverTyping(form, box);
+}
+
+void paste(Zevlin& form) {
+    if (form.MShowShapes.Checked || !isEditing(form)) return;
+    if (takesCopy(form)) return pasteCopy(form);
+    pasteAtCaret(form);
 }
 
 } // namespace
@@ -169,9 +199,7 @@ void mpopHilite_Click(Zevlin& form) {
 void mpopCopy_Click(Zevlin& form) {
     Traceit(form, "mpopCopy_Click");
     trapped(form, "Error in mpopCopy_Click: #", [&] {
-        if (!isEditing(form)) return;
-        form.ClipText = copiedText(form);
-        toolkit::setClipboardText(form.ClipText);
+        if (isEditing(form)) copy(form);
     });
 }
 
@@ -187,6 +215,8 @@ void openTextMenu(Zevlin& form) {
                                  .shortcut = std::move(shortcut),
                                  .Click = [&form, procedure] { procedure(form); }};
     };
+    toolkit::MenuItem pasteItem = form.mpopPaste;
+    pasteItem.Enabled = takesCopy(form) || toolkit::hasClipboardText();
     const std::vector<toolkit::PopupRow> rows{
         row(form.mpopUndo, "Ctrl+Z", mpopUndo_Click),
         {},
@@ -196,7 +226,7 @@ void openTextMenu(Zevlin& form) {
         row(form.mpopHilite, "Ctrl+G", mpopHilite_Click),
         {},
         row(form.mpopCopy, "Ctrl+C", mpopCopy_Click),
-        row(form.mpopPaste, "Ctrl+V", mpopPaste_Click),
+        row(pasteItem, "Ctrl+V", mpopPaste_Click),
     };
     toolkit::popupMenu(rows);
 }

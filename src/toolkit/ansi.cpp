@@ -16,30 +16,6 @@ constexpr std::array<char16_t, 32> specialCharacters{
 constexpr unsigned firstSpecial = 0x80;
 constexpr unsigned pastSpecial = firstSpecial + specialCharacters.size();
 
-std::string_view suitEscape(char32_t value) {
-    switch (value) {
-    case 0x2663:
-    case 0x2667:
-        return "^c";
-    case 0x2666:
-    case 0x2662:
-        return "^d";
-    case 0x2665:
-    case 0x2661:
-        return "^h";
-    case 0x2660:
-    case 0x2664:
-        return "^s";
-    default:
-        return {};
-    }
-}
-
-bool isControl(char32_t value) { return value < 0x20 || (value >= 0x7F && value < 0xA0); }
-
-// Suit signs come with these from keyboards that would rather send the coloured picture.
-bool isVariationSelector(char32_t value) { return value >= 0xFE00 && value <= 0xFE0F; }
-
 } // namespace
 
 char32_t unicodeOf(char character) {
@@ -66,18 +42,6 @@ std::string utf8FromAnsi(std::string_view text) {
 std::string ansiFromUtf8(std::string_view utf8) {
     std::string text;
     while (const auto value = takeUtf8(utf8)) text += ansiOf(*value).value_or('?');
-    return text;
-}
-
-std::string ansiFromTyped(std::string_view utf8) {
-    std::string text;
-    while (const auto value = takeUtf8(utf8)) {
-        if (isControl(*value) || isVariationSelector(*value)) continue;
-        if (const auto escape = suitEscape(*value); !escape.empty())
-            text += escape;
-        else
-            text += ansiOf(*value).value_or('?');
-    }
     return text;
 }
 

@@ -27,10 +27,6 @@ constexpr unsigned char code(char character) { return static_cast<unsigned char>
 /// Characters that the code page lacks become "?"; malformed UTF-8 too.
 [[nodiscard]] std::string ansiFromUtf8(std::string_view utf8);
 
-/// As ansiFromUtf8, but the four suit signs become ^c ^d ^h ^s and control characters are dropped:
-/// what typing or pasting into a text area gives.
-[[nodiscard]] std::string ansiFromTyped(std::string_view utf8);
-
 /// Lower case of ASCII and Latin letters of the code page.
 [[nodiscard]] char lowerCase(char character);
 [[nodiscard]] std::string lowerCase(std::string_view text);

@@ -16,6 +16,7 @@
 #include "toolkit/qt_delivery.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/qt_window.h"
+#include "toolkit/typed_text.h"
 
 namespace toolkit {
 namespace {
@@ -88,7 +89,8 @@ std::string askOnScreen(const InputBox& box) {
     shown.setLabelText(qString(box.prompt));
     shown.setTextValue(qString(box.preset));
     for (QLabel* label : shown.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
-    return shown.exec() == QDialog::Accepted ? ansiText(shown.textValue()) : std::string();
+    return shown.exec() == QDialog::Accepted ? ansiFromTyped(shown.textValue().toStdString())
+                                             : std::string();
 }
 
 std::filesystem::path askForFileOnScreen(const FileQuestion& question) {

@@ -3,14 +3,17 @@
 #include <algorithm>
 
 #include <QtGui/QFontMetricsF>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>
 
+#include "toolkit/qt_clipboard.h"
 #include "toolkit/qt_input.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/screen.h"
+#include "toolkit/typed_text.h"
 
 namespace toolkit {
 namespace {
@@ -148,9 +151,31 @@ void EditBox::convertTyped() {
     setCursorPosition(static_cast<int>(before.size()));
 }
 
+/// What goes out is not what the box holds, so the clipboard isn't left to the line edit.
+void EditBox::copySelection(QClipboard::Mode mode) {
+    if (hasSelectedText()) putText(ansiText(selectedText()), mode);
+}
+
+void EditBox::pasteFrom(QClipboard::Mode mode) {
+    const std::string shown = ansiText(text());
+    const Selection place = shownSelection();
+    const std::string_view all = shown;
+    const std::string pasted =
+        takeText(mode, {.before = all.substr(0, static_cast<std::size_t>(place.start)),
+                        .after = all.substr(static_cast<std::size_t>(place.start + place.length))});
+    if (!pasted.empty()) insert(qString(pasted));
+}
+
 /// The box's own undo is out of the game: Ctrl+Z is the field's.
 void EditBox::takeKey(QKeyEvent& event) {
     if (event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo)) return;
+    if (event.matches(QKeySequence::Copy)) return copySelection(QClipboard::Clipboard);
+    if (event.matches(QKeySequence::Paste)) return pasteFrom(QClipboard::Clipboard);
+    if (event.matches(QKeySequence::Cut)) {
+        copySelection(QClipboard::Clipboard);
+        if (hasSelectedText()) insert({});
+        return;
+    }
     keyPressEvent(&event);
 }
 
@@ -173,11 +198,22 @@ void EditBox::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void EditBox::mouseReleaseEvent(QMouseEvent* event) {
-    if (mouse_.isEnabled() && event->button() != Qt::RightButton)
-        QLineEdit::mouseReleaseEvent(event);
+    if (mouse_.isEnabled()) releaseOwn(*event);
     mouse_.release(*this, *event);
     if (rect().contains(pixelUnder(*event, *this))) mouse_.send(&Control::Click);
     event->accept();
+}
+
+/// Where the system has a selection beside the clipboard, the middle button pastes it.
+void EditBox::releaseOwn(QMouseEvent& event) {
+    const bool hasSelection = QGuiApplication::clipboard()->supportsSelection();
+    if (event.button() == Qt::MiddleButton) {
+        deselect();
+        if (hasSelection) pasteFrom(QClipboard::Selection);
+    } else if (event.button() != Qt::RightButton) {
+        QLineEdit::mouseReleaseEvent(&event);
+        if (hasSelection) copySelection(QClipboard::Selection);
+    }
 }
 
 void EditBox::inputMethodEvent(QInputMethodEvent* event) {

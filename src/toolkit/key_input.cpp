@@ -4,10 +4,11 @@
 
 #include <QtGui/QKeyEvent>
 
+#include "toolkit/ansi.h"
 #include "toolkit/control.h"
 #include "toolkit/key.h"
 #include "toolkit/qt_input.h"
-#include "toolkit/qt_text.h"
+#include "toolkit/typed_text.h"
 
 namespace toolkit {
 namespace {
@@ -119,7 +120,7 @@ int keyCodeOf(const QKeyEvent& event) {
     return code == unknownKey && isAtPlaceOfZero(event) ? key::digit0 : code;
 }
 
-/// The control characters that TAB and Delete bring as their texts are dropped with all others.
+/// The control characters that TAB and Delete bring as their texts are no characters to type.
 int characterOf(const QKeyEvent& event) {
     const int qtKey = event.key();
     switch (qtKey) {
@@ -135,6 +136,8 @@ int characterOf(const QKeyEvent& event) {
     }
     const int held = shiftOf(event.modifiers());
     if ((held & shift::ctrl) != 0 && (held & shift::alt) == 0) return controlCharacterOf(qtKey);
+    if (!event.text().isEmpty() && event.text().front().category() == QChar::Other_Control)
+        return 0;
     const std::string text = ansiFromTyped(event.text().toStdString());
     return text.empty() ? 0 : code(text.front());
 }

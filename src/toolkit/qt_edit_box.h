@@ -1,6 +1,7 @@
 // An edit box over the card or on a panel. Internal to the toolkit's sources.
 #pragma once
 
+#include <QtGui/QClipboard>
 #include <QtWidgets/QLineEdit>
 
 #include "toolkit/qt_control_looks.h"
@@ -50,6 +51,9 @@ class EditBox : public QLineEdit {
     void pushBaseLine(int line);
     void convertTyped();
     void noteEdit();
+    void copySelection(QClipboard::Mode mode);
+    void pasteFrom(QClipboard::Mode mode);
+    void releaseOwn(QMouseEvent& event);
 
     TextBox& box_;
     Delivery& delivery_;

@@ -339,9 +339,16 @@ TEST_F(Chooser, TakesALongNameWithDotsAndOneLikeADevice) {
 #endif
 }
 
-TEST_F(Chooser, CharactersOutsideTheCodePageBecomeQuestionMarksAndAreRefused) {
+TEST_F(Chooser, LettersOutsideTheCodePageBecomeTheirBaseLetters) {
     start();
     EXPECT_EQ(take("Ku\xC4\x8D"
+                   "era"),
+              "Kucera");
+}
+
+TEST_F(Chooser, CharactersOutsideTheCodePageBecomeQuestionMarksAndAreRefused) {
+    start();
+    EXPECT_EQ(take("Ku\xD0\x96"
                    "era"),
               "");
     EXPECT_EQ(boxes.at(0).text, std::string("'Ku?era") + invalidTail);

@@ -114,13 +114,13 @@ TEST_F(EditKeys, FieldWithSymbolsIsModifiedByTheFirstKeyRelease) {
     EXPECT_TRUE(form.CardModified);
 }
 
-TEST_F(EditKeys, CharactersOutsideTheCodePageBecomeQuestionMarksAndSuitsEscapes) {
+TEST_F(EditKeys, LettersOutsideTheCodePageBecomeBaseLettersAndSuitsEscapes) {
     startSmall();
     clickText(1);
     typeText("\xC4\x8D\xE2\x99\xA5\xC3\xA9"); // c with caron, heart, e with acute
-    EXPECT_EQ(shownText(form.CText), "?^h\xE9");
+    EXPECT_EQ(shownText(form.CText), "c^h\xE9");
     typeKey(toolkit::key::escape);
-    EXPECT_EQ(form.AText[1].Tag, "?^h\xE9");
+    EXPECT_EQ(form.AText[1].Tag, "c^h\xE9");
 }
 
 TEST_F(EditKeys, PastedSuitSignsBecomeEscapes) {
@@ -128,8 +128,8 @@ TEST_F(EditKeys, PastedSuitSignsBecomeEscapes) {
     openWith("1");
     fillClipboard("\xE2\x99\xA0\xE2\x99\xA6\xE2\x99\xA3");
     typeKey('V', toolkit::shift::ctrl);
-    EXPECT_EQ(shownText(form.CText), "1^s^d^c");
-    EXPECT_EQ(form.AText[1].Caption, "1^s^d^c");
+    EXPECT_EQ(shownText(form.CText), "1^s ^d ^c");
+    EXPECT_EQ(form.AText[1].Caption, "1^s ^d ^c");
 }
 
 TEST_F(EditKeys, CtrlASelectsTheText) {

@@ -59,18 +59,6 @@ TEST_F(StylesMenu, CopyRightAfterOpeningLosesTheSuitsAndAfterAKeyDoesNot) {
     EXPECT_EQ(form.ClipText, "4^h");
 }
 
-TEST_F(StylesMenu, PasteIsGreyUntilTheNextOpeningAfterACopy) {
-    startSmall();
-    enter(1, "North");
-    EXPECT_FALSE(chooseOf(1, pasteRow));
-    EXPECT_TRUE(chooseOf(1, copyRow));
-    EXPECT_FALSE(form.mpopPaste.Enabled);
-    EXPECT_TRUE(chooseOf(2, pasteRow));
-    EXPECT_EQ(shownText(form.CText), "North");
-    EXPECT_EQ(form.AText[2].Tag, "North");
-    EXPECT_TRUE(form.CardModified);
-}
-
 TEST_F(StylesMenu, PastedSuitsShowOnlyAfterTheCommit) {
     startSmall();
     enter(1, "^s");
@@ -81,13 +69,6 @@ TEST_F(StylesMenu, PastedSuitsShowOnlyAfterTheCommit) {
     EXPECT_TRUE(form.ShownSymbols.size() <= 2 || form.ShownSymbols[2].empty());
     typeKey(toolkit::key::escape);
     EXPECT_EQ(form.ShownSymbols.at(2).size(), 1U);
-}
-
-TEST_F(StylesMenu, PasteFitsALongTextIntoANarrowField) {
-    startSmall();
-    form.ClipText = "a long text that no narrow field can hold";
-    EXPECT_TRUE(chooseOf(4, pasteRow));
-    EXPECT_LT(form.AText[4].Font.Size, form.TextFontSize[1]);
 }
 
 TEST_F(StylesMenu, UndoIsGreyUntilTheFirstChangeAndThenBringsAllBackButTheHighlight) {
@@ -121,19 +102,6 @@ TEST_F(StylesMenu, StylesGoIntoTheCardFile) {
     answerName("Jones");
     EXPECT_TRUE(chooseMenu("File>Save"));
     EXPECT_NE(dataFileContent("Jones.zev").find("1,\"North\",11"), std::string::npos);
-}
-
-TEST_F(StylesMenu, FailuresOfCopyAndPasteAreTraced) {
-    startSmall();
-    form.ClipText = "x";
-    clickText(1);
-    form.TIndex = 99;
-    announceError("Error in mpop");
-    mpopCopy_Click(form);
-    mpopPaste_Click(form);
-    EXPECT_TRUE(traced("Error in mpopCopy_Click: #340, Control array element '99' doesn't exist"));
-    EXPECT_TRUE(traced("Error in mpopPaste_Click: #340, Control array element '99' doesn't exist"));
-    form.TIndex = 1;
 }
 
 } // namespace

@@ -59,25 +59,6 @@ TEST(Ansi, MalformedUtf8BecomesQuestionMarks) {
     EXPECT_EQ(ansiFromUtf8("\xC3z"), "?z");
 }
 
-TEST(Ansi, TypedSuitSignsBecomeEscapes) {
-    EXPECT_EQ(ansiFromTyped("1\u2663 2\u2666 3\u2665 4\u2660"), "1^c 2^d 3^h 4^s");
-    EXPECT_EQ(ansiFromTyped("\u2667\u2662\u2661\u2664"), "^c^d^h^s");
-}
-
-TEST(Ansi, TypedSuitSignsFromAPictureKeyboardLeaveNothingBehind) {
-    EXPECT_EQ(ansiFromTyped("\u2665\uFE0F!"), "^h!");
-}
-
-TEST(Ansi, TypedControlCharactersAreDropped) {
-    EXPECT_EQ(ansiFromTyped("a\tb\r\nc\x7F\u0085"
-                            "d"),
-              "abcd");
-}
-
-TEST(Ansi, TypedTextKeepsWhatTheCodePageHas) {
-    EXPECT_EQ(ansiFromTyped("\u00E9\u20AC\u00A0\u0141"), "\xE9\x80\xA0?");
-}
-
 TEST(Ansi, LowerCaseCoversTheLettersOfTheCodePage) {
     EXPECT_EQ(lowerCase("ABZ019[@`"), "abz019[@`");
     EXPECT_EQ(lowerCase('\xC9'), '\xE9');

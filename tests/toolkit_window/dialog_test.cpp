@@ -46,10 +46,9 @@ TEST_F(Dialog, TextIsPlain) {
     EXPECT_TRUE(seen.plain);
 }
 
-TEST_F(Dialog, InputBoxGivesWhatWasTypedWithoutControlCharacters) {
-    test::fillNextInputBox("caf\u00e9\tbar", seen);
-    EXPECT_EQ(ask({.prompt = "Name?", .title = "My Name", .preset = "x"}), "caf\xe9"
-                                                                           "bar");
+TEST_F(Dialog, InputBoxGivesWhatWasTypedAsATextAreaDoes) {
+    test::fillNextInputBox("caf\u00e9\t\u0141ar\x01 \u2665", seen);
+    EXPECT_EQ(ask({.prompt = "Name?", .title = "My Name", .preset = "x"}), "caf\xe9 Lar ^h");
     EXPECT_EQ(seen.title, "My Name");
     EXPECT_EQ(seen.text, "Name?");
     EXPECT_TRUE(seen.plain);

@@ -46,14 +46,14 @@ TEST_F(EditBox, SuitSignsBecomeEscapesAndTheCaretStandsBehind) {
     EXPECT_EQ(box.Text, "x^sy");
     EXPECT_EQ(box.SelStart, 3);
     test::typeText("\u2663\u2666\u2665");
-    EXPECT_EQ(box.Text, "x^s^c^d^hy");
-    EXPECT_EQ(box.SelStart, 9);
+    EXPECT_EQ(box.Text, "x^s ^c ^d ^hy");
+    EXPECT_EQ(box.SelStart, 12);
 }
 
-TEST_F(EditBox, CharacterOutsideTheCodePageBecomesAQuestionMark) {
+TEST_F(EditBox, CharacterOutsideTheCodePageBecomesItsBaseLetterOrAQuestionMark) {
     openBox("");
     test::typeText("\u0141\u4e2d");
-    EXPECT_EQ(box.Text, "??");
+    EXPECT_EQ(box.Text, "L?");
 }
 
 TEST_F(EditBox, PastedTextIsConvertedAsATypedOne) {
@@ -61,15 +61,58 @@ TEST_F(EditBox, PastedTextIsConvertedAsATypedOne) {
     select(1, 0);
     test::fillClipboard("1\u2660\t\u0141\u00e9");
     test::typeKey('V', shift::ctrl);
-    EXPECT_EQ(box.Text, "[1^s?\xe9]");
-    EXPECT_EQ(box.SelStart, 6);
+    EXPECT_EQ(box.Text, "[1^s L\xe9]");
+    EXPECT_EQ(box.SelStart, 7);
 }
 
 TEST_F(EditBox, ComposedTextIsConvertedAsATypedOne) {
     openBox("ab");
     select(1, 0);
     test::compose("", "\u2665\u0141");
-    EXPECT_EQ(box.Text, "a^h?b");
+    EXPECT_EQ(box.Text, "a^hLb");
+}
+
+TEST_F(EditBox, LetterThatAnInputMethodMakesOfACircumflexIsTheEscapeThatWasMeant) {
+    openBox("");
+    test::compose("^", "");
+    test::compose("", "\u0125");
+    EXPECT_EQ(box.Text, "^h");
+    test::compose("", "d\u0302");
+    EXPECT_EQ(box.Text, "^h ^d");
+    EXPECT_EQ(box.SelStart, 5);
+}
+
+TEST_F(EditBox, SignPastedBesideAnEscapeIsKeptApart) {
+    openBox("^c^s");
+    select(2, 0);
+    test::fillClipboard("\u2665");
+    test::typeKey('V', shift::ctrl);
+    EXPECT_EQ(box.Text, "^c ^h ^s");
+}
+
+TEST_F(EditBox, CutAndPasteByTheOtherKeysGiveOutSuitSignsAndKeepEscapes) {
+    openBox("1^H^s");
+    select(1, 4);
+    test::typeKey(key::deleteKey, shift::shift);
+    EXPECT_EQ(box.Text, "1");
+    EXPECT_EQ(test::clipboardText(), "\u2665\u2660");
+    constexpr int insert = 45;
+    test::typeKey(insert, shift::shift);
+    EXPECT_EQ(box.Text, "1^H^s");
+    select(1, 2);
+    test::typeKey(insert, shift::ctrl);
+    EXPECT_EQ(test::clipboardText(), "\u2665");
+    EXPECT_EQ(box.Text, "1^H^s");
+}
+
+TEST_F(EditBox, PasteOfNothingLeavesTheSelection) {
+    openBox("abc");
+    select(1, 1);
+    test::fillClipboard("");
+    test::typeKey('V', shift::ctrl);
+    EXPECT_EQ(box.Text, "abc");
+    test::typeText("-");
+    EXPECT_EQ(box.Text, "a-c");
 }
 
 TEST_F(EditBox, TextIsNotTouchedWhileAnInputMethodComposes) {

@@ -68,9 +68,10 @@ TEST_F(KeyInput, NamedKeysHaveTheirCodes) {
                                      "KeyUp " + std::to_string(code) + "/0"}));
 }
 
-TEST_F(KeyInput, CharacterOutsideTheCodePageIsAQuestionMark) {
+TEST_F(KeyInput, CharacterOutsideTheCodePageIsItsBaseLetterOrAQuestionMark) {
     openBox("");
-    test::typeText("\u0141");
+    test::typeText("\u0141\u4e2d");
+    EXPECT_EQ(times("box.KeyPress 76"), 1);
     EXPECT_EQ(times("box.KeyPress 63"), 1);
 }
 
