@@ -184,7 +184,8 @@ void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key
             key.KeyCode = 0;
             return;
         }
-        insertSuit(box, key.KeyCode);
+        // Where a held key is released over and over, the first release counts.
+        if (!toolkit::isKeyRepeat()) insertSuit(box, key.KeyCode);
         takeOverTyping(form, box);
     });
 }

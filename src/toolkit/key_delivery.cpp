@@ -24,7 +24,27 @@ bool belongsToMenuBar(const QKeyEvent& event) {
     return altOnly && event.key() < Qt::Key_Escape;
 }
 
+/// The place on the keyboard, as far as it is known: with Shift the same key has another name.
+quint32 placeOf(const QKeyEvent& event) {
+    return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<quint32>(event.key());
+}
+
 } // namespace
+
+bool HeldKeys::press(const QKeyEvent& event) {
+    const quint32 key = placeOf(event);
+    const Release before = std::exchange(last_, {});
+    const bool atItsRelease =
+        before.time != 0 && before.key == key && before.time == event.timestamp();
+    if (event.isAutoRepeat() || atItsRelease) return true;
+    down_.insert(key);
+    return false;
+}
+
+bool HeldKeys::release(const QKeyEvent& event) {
+    last_ = {placeOf(event), event.timestamp()};
+    return down_.erase(last_.key) == 0;
+}
 
 bool isKeyRepeat() { return repeating(); }
 
@@ -65,7 +85,7 @@ Control& KeyDelivery::target() const {
 }
 
 void KeyDelivery::press(QKeyEvent& event) {
-    const bool outer = std::exchange(repeating(), event.isAutoRepeat());
+    const bool outer = std::exchange(repeating(), held_.press(event));
     Control& control = target();
     if (passes(parts_.form->KeyDown, event) && !shortcuts_(event) &&
         passes(control.KeyDown, event) && passesAsCharacter(control, event))
@@ -75,8 +95,10 @@ void KeyDelivery::press(QKeyEvent& event) {
 
 void KeyDelivery::release(const QKeyEvent& event) {
     if (event.isAutoRepeat()) return;
+    const bool outer = std::exchange(repeating(), held_.release(event));
     // Whether the handler takes the release matters to no one.
     (void)passes(target().KeyUp, event);
+    repeating() = outer;
 }
 
 bool KeyDelivery::passes(const std::function<void(KeyArguments&)>& slot, const QKeyEvent& event) {

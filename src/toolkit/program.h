@@ -21,7 +21,8 @@ void waitForPlayer(const std::function<bool()>& isOver);
 /// A system beep.
 void beep();
 
-/// The keys are free to repeat: whether this key event is one that a held key repeats.
+/// The keys are free to repeat: whether this press is one that a held key repeats, or this release
+/// not the first since the key went down.
 [[nodiscard]] bool isKeyRepeat();
 
 /// The folder with the installed data (numbered layouts, readme, sample cards): "zevlin-files"

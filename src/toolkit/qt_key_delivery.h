@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <map>
+#include <set>
 
 #include <QtCore/QObject>
 
@@ -13,6 +14,25 @@ class QKeyEvent;
 class QWidget;
 
 namespace toolkit {
+
+/// Tells the repetitions of a key that is held down. The platform's own flag misses some of them on
+/// a busy machine: there a release comes with the press at the same time behind it.
+class HeldKeys {
+  public:
+    /// Whether the press is a repetition.
+    [[nodiscard]] bool press(const QKeyEvent& event);
+    /// Whether the key was released before since it went down.
+    [[nodiscard]] bool release(const QKeyEvent& event);
+
+  private:
+    struct Release {
+        quint32 key = 0;
+        quint64 time = 0; ///< milliseconds of the system; 0 for none
+    };
+
+    std::set<quint32> down_; ///< pressed, and not released since
+    Release last_;           ///< the event before, if it was one
+};
 
 /// Sees every key that reaches the form or one of its controls: first the form, then the shortcuts
 /// of the menu, then the control in focus, and only then the widget that shows the control.
@@ -43,6 +63,7 @@ class KeyDelivery : public QObject {
     Delivery& delivery_;
     Shortcuts shortcuts_;
     std::map<const Control*, OwnHandling> own_;
+    HeldKeys held_;
 };
 
 } // namespace toolkit

@@ -47,6 +47,9 @@ void releaseKey(int keyCode, int shift = 0);
 void pressAtPlaceOfZero(std::string_view character, int shift);
 /// One repetition of a key that is held down.
 void repeatKey(int keyCode, int shift = 0);
+/// The two halves of a stroke with the system's time of each, in milliseconds above 0.
+void pressKeyAt(unsigned time, int keyCode, int shift = 0);
+void releaseKeyAt(unsigned time, int keyCode, int shift = 0);
 /// Press and release.
 void typeKey(int keyCode, int shift = 0, std::string_view text = {});
 /// Each character of a UTF-8 text as a key of its own, pressed and released.

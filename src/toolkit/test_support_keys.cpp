@@ -17,13 +17,14 @@ QWidget& focusWidget() {
     return widget == nullptr ? window().form() : *widget;
 }
 
-void sendKey(QEvent::Type type, KeyStroke stroke, const QString& text) {
+void sendKey(QEvent::Type type, KeyStroke stroke, const QString& text, unsigned time = 0) {
     QWidget& widget = focusWidget();
     if (type == QEvent::KeyPress) {
         QKeyEvent before(QEvent::ShortcutOverride, stroke.key, stroke.modifiers, text);
         send(widget, before);
     }
     QKeyEvent event(type, stroke.key, stroke.modifiers, text, stroke.repeated);
+    event.setTimestamp(time);
     send(widget, event);
 }
 
@@ -68,6 +69,14 @@ void repeatKey(int keyCode, int shift) {
     stroke.repeated = true;
     sendKey(QEvent::KeyRelease, stroke, {});
     sendKey(QEvent::KeyPress, stroke, textOf(keyCode, shift));
+}
+
+void pressKeyAt(unsigned time, int keyCode, int shift) {
+    sendKey(QEvent::KeyPress, keyStrokeOf(keyCode, shift), textOf(keyCode, shift), time);
+}
+
+void releaseKeyAt(unsigned time, int keyCode, int shift) {
+    sendKey(QEvent::KeyRelease, keyStrokeOf(keyCode, shift), {}, time);
 }
 
 bool isClaimed(int keyCode, int shift) {

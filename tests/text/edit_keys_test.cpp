@@ -80,6 +80,70 @@ TEST_F(EditKeys, HeldSuitKeyInsertsOneSuit) {
     EXPECT_EQ(shownText(form.CText), "^c");
 }
 
+/// Not every system tells that a press is a repetition.
+class UntoldRepetition : public EditKeys {
+  protected:
+    static void hold(int key, int shift = 0) {
+        pressKeyAt(1000, key, shift);
+        for (unsigned time = 1500; time < 1509; ++time) {
+            releaseKeyAt(time, key, shift);
+            pressKeyAt(time, key, shift);
+        }
+        releaseKeyAt(1600, key, shift);
+    }
+};
+
+TEST_F(UntoldRepetition, OfASuitKeyInsertsOneSuit) {
+    startSmall();
+    clickText(1);
+    for (int key = toolkit::key::f5; key <= toolkit::key::f8; ++key) hold(key);
+    EXPECT_EQ(shownText(form.CText), "^c^d^h^s");
+    hold(toolkit::key::f5);
+    EXPECT_EQ(shownText(form.CText), "^c^d^h^s^c");
+}
+
+TEST_F(UntoldRepetition, OfALetterTypesOn) {
+    startSmall();
+    clickText(1);
+    hold('A');
+    EXPECT_EQ(shownText(form.CText), std::string(10, 'a'));
+    EXPECT_EQ(form.AText[1].Caption, std::string(10, 'a'));
+}
+
+TEST_F(UntoldRepetition, OfTabGoesOneFieldOn) {
+    startSmall("1,2\r\n2,3\r\n3,4\r\n", 3);
+    clickText(1);
+    hold(toolkit::key::tab);
+    EXPECT_EQ(form.TIndex, 2);
+    hold(toolkit::key::tab);
+    EXPECT_EQ(form.TIndex, 3);
+    hold(toolkit::key::tab, toolkit::shift::shift);
+    EXPECT_EQ(form.TIndex, 2);
+}
+
+TEST_F(UntoldRepetition, OfEnterGoesOneFieldOn) {
+    startSmall("1,2\r\n2,3\r\n3,4\r\n", 3);
+    clickText(1);
+    hold(toolkit::key::enter);
+    EXPECT_EQ(form.TIndex, 2);
+}
+
+TEST_F(UntoldRepetition, OfSpaceTurnsAMarkOnce) {
+    startSmall();
+    clickMark(1);
+    hold(toolkit::key::space);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    hold(toolkit::key::space);
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(UntoldRepetition, OfTabOnAMarkGoesOneMarkOn) {
+    startSmall("1001,1002\r\n1002,1003\r\n", 1002);
+    clickMark(1);
+    hold(toolkit::key::tab);
+    EXPECT_EQ(form.TabCode, 1002);
+}
+
 TEST_F(EditKeys, LabelBehindTheBoxFollowsTheTypingWithRawEscapes) {
     startSmall();
     openWith("4^h&");

@@ -64,6 +64,48 @@ TEST_F(KeyDelivery, RepetitionIsToldAndReleasesNothing) {
     EXPECT_FALSE(isKeyRepeat());
 }
 
+TEST_F(KeyDelivery, PressAtTheTimeOfTheReleaseBeforeItIsARepetition) {
+    card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
+    card.KeyUp = [this](KeyArguments&) { note(isKeyRepeat() ? "released again" : "released"); };
+    test::pressKeyAt(1000, 'A');
+    for (unsigned time = 1500; time < 1510; ++time) {
+        test::releaseKeyAt(time, 'A');
+        test::pressKeyAt(time, 'A');
+    }
+    test::releaseKeyAt(1600, 'A');
+    EXPECT_EQ(times("pressed"), 1);
+    EXPECT_EQ(times("repeated"), 10);
+    EXPECT_EQ(times("released"), 1);
+    EXPECT_EQ(times("released again"), 10);
+    EXPECT_FALSE(isKeyRepeat());
+}
+
+TEST_F(KeyDelivery, ToldAndUntoldRepetitionsOfOneHoldMix) {
+    card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
+    card.KeyUp = [this](KeyArguments&) { note(isKeyRepeat() ? "released again" : "released"); };
+    test::pressKeyAt(1000, 'A');
+    test::repeatKey('A');
+    test::releaseKeyAt(1500, 'A');
+    test::pressKeyAt(1500, 'A');
+    test::repeatKey('A');
+    test::releaseKeyAt(1600, 'A');
+    EXPECT_EQ(times("pressed"), 1);
+    EXPECT_EQ(times("repeated"), 3);
+    EXPECT_EQ(times("released"), 1);
+    EXPECT_EQ(times("released again"), 1);
+}
+
+TEST_F(KeyDelivery, StrokesInAHurryAreNoRepetitions) {
+    card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
+    test::pressKeyAt(1000, 'A');
+    test::releaseKeyAt(1001, 'A');
+    test::pressKeyAt(1002, 'A');
+    test::releaseKeyAt(1003, 'A');
+    test::pressKeyAt(1003, 'B');
+    test::pressKeyAt(1003, 'A');
+    EXPECT_EQ(times("pressed"), 4);
+}
+
 TEST_F(KeyDelivery, KeyReachesItsHandlersOnce) {
     openBox("");
     // No box takes Escape or Enter by itself; neither may climb to the card behind.
