@@ -47,6 +47,7 @@ void makeNewCard(Zevlin& form) {
     // The indexes go first: hiding the boxes must commit nothing into the new card.
     form.OrigIndex = 0;
     form.TIndex = 0;
+    form.TabActive = false;
     hideTextBox(form, form.LText);
     hideTextBox(form, form.CText);
     RestoreBackgroundPicture(form, Rescale::IfChanged);

@@ -110,6 +110,25 @@ TEST_F(NewCard, YesSavesUnderTheGivenNameAndClears) {
     EXPECT_EQ(form.CardName, "");
 }
 
+TEST_F(NewCard, SpaceTurnsNoMarkThatTheFormerCardHad) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::No);
+    choose("File>New");
+    toolkit::test::typeKey(toolkit::key::space);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.CardModified);
+}
+
+TEST_F(NewCard, KeepsTheMarkInFocusWhereCancelKeepsAll) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::Cancel);
+    choose("File>New");
+    toolkit::test::typeKey(toolkit::key::space);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
 TEST_F(NewCard, CommitsNothingIntoTheNewCard) {
     start();
     typeInOpenField(1, "old");
@@ -216,6 +235,16 @@ TEST_F(OpenCard, AVanishedFileLeavesABlankCardWithThatName) {
     EXPECT_FALSE(traced("GetCardFile"));
     choose("File>Save");
     EXPECT_TRUE(std::filesystem::exists(dataFile("Gone.zev")));
+}
+
+TEST_F(OpenCard, SpaceTurnsNoMarkThatTheFormerCardHad) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::No);
+    openCard("Jones", {.marks = {"1,1,0"}});
+    toolkit::test::typeKey(toolkit::key::space);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.CardModified);
 }
 
 TEST_F(OpenCard, MovesTheCardBackToItsPlace) {
