@@ -121,6 +121,8 @@ void openField(Zevlin& form, int index, const FieldClick& click) {
     // The pop-up may have changed the alignment, and with it the box.
     toolkit::TextBox& box = form.LText.Visible ? form.LText : form.CText;
     PositionTextCursor(form, box, click.x);
+    // A centred text that is longer than its field begins left of it.
+    if (click.index == 0) box.SelStart = 0;
     box.Height = form.AText[index].Height - boxLower * static_cast<float>(form.TwipsPerPixel);
 }
 

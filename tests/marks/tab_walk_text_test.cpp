@@ -28,6 +28,36 @@ TEST_F(TextWalk, TabCommitsAndOpensTheNextTextAtItsStart) {
     EXPECT_TRUE(traced("  xText_LostFocus TabTo 2, from 1"));
 }
 
+TEST_F(TextWalk, TextLongerThanItsFieldIsShownFromItsStart) {
+    startSmall("3,4\r\n", 4);
+    const std::string text =
+        "iiiiiiiiiiiiiiiiiiii WWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWWW";
+    enter(4, text);
+    clickText(3);
+    typeKey(key::tab);
+    ASSERT_EQ(form.TIndex, 4);
+    EXPECT_EQ(form.CText.SelStart, 0);
+    EXPECT_EQ(form.CText.SelLength, 0);
+    const auto shown = grabCard();
+    typeKey(key::home);
+    const auto start = grabCard();
+    // But for the caret, which blinks.
+    const auto left = static_cast<int>(form.CText.Left / pixel) + 4;
+    for (int x = left; x < left + 30; ++x) {
+        for (int y = 590; y < 620; ++y) ASSERT_EQ(shown.pixel(x, y), start.pixel(x, y));
+    }
+    typeText("x");
+    EXPECT_EQ(shownText(form.CText), "x" + text);
+}
+
+TEST_F(TextWalk, ClickIntoATextLongerThanItsFieldPutsTheCaretThere) {
+    startSmall("3,4\r\n", 4);
+    enter(4, std::string(60, 'W'));
+    clickText(4);
+    EXPECT_GT(form.CText.SelStart, 20);
+    EXPECT_LT(form.CText.SelStart, 40);
+}
+
 TEST_F(TextWalk, EnterTakesOneStepAndLeavesTheNextFieldOpen) {
     startSmall();
     clickText(1);
