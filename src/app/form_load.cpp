@@ -142,7 +142,7 @@ void prepareForm(Zevlin& form) {
 
 void openNamedCard(Zevlin& form, std::string_view commandLine) {
     form.CardName = cardNameOf(commandLine);
-    if (isTemporaryCard(form.CardName) ||
+    if (form.CardName.empty() || isTemporaryCard(form.CardName) ||
         !toolkit::findFile(form.DataFolder, form.CardName + std::string(cardExtension))) {
         // The blank card stays, and it has no name.
         form.CardName.clear();

@@ -41,7 +41,7 @@ constexpr unsigned char code(char character) { return static_cast<unsigned char>
 /// The text as a file name or path of the platform.
 [[nodiscard]] std::filesystem::path pathFromText(std::string_view text);
 
-/// The file name as a text; none where the code page can't hold it.
+/// The file name as a text, letters with their accents; none where the code page can't hold it.
 [[nodiscard]] std::optional<std::string> textFromPath(const std::filesystem::path& path);
 
 } // namespace toolkit

@@ -76,7 +76,8 @@ class Application {
     int run();
     /// Lets run() return.
     static void quit();
-    /// The words behind the program's name, without the platform's own switches, joined by blanks.
+    /// The words behind the program's name, without the platform's own switches, joined by blanks;
+    /// in UTF-8, since a path may hold any character.
     [[nodiscard]] std::string commandLine() const;
 
   private:

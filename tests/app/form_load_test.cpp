@@ -147,6 +147,26 @@ TEST_F(FormLoad, ANameOnTheCommandLineLosesAllFromItsFirstDotOn) {
     EXPECT_TRUE(form.AMark[1].Visible);
 }
 
+TEST_F(FormLoad, ANameOnTheCommandLineMayHoldLettersBeyondAscii) {
+    writeCard("M\u00FCller", cardWithMark);
+    start("/a/\u0141/M\u00FCller.zev");
+    EXPECT_EQ(form.CardName, "M\xFCller");
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(FormLoad, ANameOnTheCommandLineFindsACardWhoseFileIsNamedDecomposed) {
+    writeCard("Mu\u0308ller", cardWithMark);
+    start("M\u00FCller");
+    EXPECT_EQ(form.CardName, "M\xFCller");
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(FormLoad, ANameBeyondTheCodePageOpensNothing) {
+    for (const char* name : {"?", "L", ""}) writeCard(name, cardWithMark);
+    start("\u0141.zev");
+    expectBlankCard();
+}
+
 TEST_F(FormLoad, ACardThatIsNotThereLeavesTheBlankCardUnnamed) {
     start("Nobody.zev");
     expectBlankCard();

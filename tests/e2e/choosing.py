@@ -41,6 +41,26 @@ class Choosing(whole_program.WholeProgramTest):
         program.wait_for_title(r"\(unnamed\)$")
         self.assertFalse(self.home.card("").exists())
 
+    def test_a_card_named_beyond_ascii_opens_from_the_command_line(self):
+        self.leave(self.start_for_the_first_time())
+        content = self.home.card("Standard American").read_bytes()
+        for name in ("Müller", "Soe\u0301"):
+            self.home.card(name).write_bytes(content)
+        for argument, title in (("Müller", "Müller"), ("/any/Łódź/Müller.zev", "Müller"),
+                                ("mu\u0308LLER.zev", "müLLER"), ("Soé", "Soé")):
+            program = self.start(argument)
+            program.wait_for_title(rf"\( {title} \)$")
+            self.leave(program)
+
+    def test_a_name_that_no_card_can_have_opens_nothing(self):
+        self.leave(self.start_for_the_first_time())
+        content = self.home.card("Standard American").read_bytes()
+        for name in ("Łódź Müller", "Lodz Müller", "?ód? Müller", ""):
+            self.home.card(name).write_bytes(content)
+        program = self.start("/any/where/Łódź Müller.zev")
+        program.wait_for_title(r"\(unnamed\)$")
+        self.leave(program)
+
     def test_a_card_is_renamed_from_its_pop_up_and_opened_again(self):
         program = self.start_for_the_first_time()
         card = desktop.Card(program)
