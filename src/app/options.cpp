@@ -187,10 +187,15 @@ OptionsDocument documentOf(Zevlin& form) {
 }
 
 void writeOptionsFile(Zevlin& form) {
+    // However a job ends, no start is to find its view: the rebuild takes it from memory.
+    if (form.HasJobView) {
+        form.OptionsUnwritten = true;
+        return;
+    }
     // A file that couldn't be written tells an old view.
     form.OptionsUnwritten = !trappedAndNoted(form, "Error in IniWrite ", optionsFailure, [&] {
-        toolkit::updateFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
-                            writeOptions(documentOf(form)));
+        toolkit::writeFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
+                           writeOptions(documentOf(form)));
     });
 }
 

@@ -28,7 +28,8 @@ struct OutputState {
     bool PrinterSetUp = false; ///< the player has been through the set-up
     bool Printing = false;
     bool PrintAlertShown = false; ///< the narrow page was told in this run
-    /// The options file doesn't hold the present state: its last writing failed.
+    bool HasJobView = false;      ///< zoom and fit are a job's, not the player's
+    /// The options file doesn't hold the present state: its last writing failed, or isn't due.
     bool OptionsUnwritten = false;
 
     toolkit::PictureBox P2;    ///< stands for the card while a job runs

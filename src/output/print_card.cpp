@@ -96,6 +96,7 @@ void rebuildAtWorkingScale(Zevlin& form) {
     form.ZoomTable[0] = scale;
     form.MFitScreenWidth.Checked = false;
     form.MFitScreenHeight.Checked = false;
+    form.HasJobView = true;
     IniWrite(form);
     CheckPointShapes(form);
     SetImageSize(form, form.P1, form.PBase, scale, Rescale::Always);
@@ -141,6 +142,7 @@ void putViewBack(Zevlin& form, const View& view) {
     form.ZoomLevel = view.zoomLevel;
     form.MFitScreenWidth.Checked = view.fitsWidth;
     form.MFitScreenHeight.Checked = view.fitsHeight;
+    form.HasJobView = false;
 }
 
 /// A fit that came out otherwise has given the card and its fields another size.

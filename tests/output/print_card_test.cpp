@@ -271,6 +271,16 @@ TEST_F(PrintCard, AReadOnlyOptionsFileDoesNotChangeTheScaleOfThePage) {
     EXPECT_TRUE(form.AMark[1].Visible);
 }
 
+TEST_F(PrintCard, NoMomentOfAJobLeavesItsViewInTheOptionsFile) {
+    startWithContent();
+    ASSERT_TRUE(toolkit::test::chooseMenu("View>Fit to screen height"));
+    const std::string before = settings();
+    ASSERT_NE(before.find("Fit=2 "), std::string::npos);
+    whileAsking = [&] { EXPECT_EQ(settings(), before); };
+    EXPECT_EQ(print().pixelsAcross, 2396);
+    EXPECT_EQ(settings(), before);
+}
+
 TEST_F(PrintCard, ATemporaryCardThatCantBeWrittenLosesNothing) {
     startWithContent();
     announceError("Error in MSave_Click ");
