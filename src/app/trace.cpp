@@ -43,15 +43,18 @@ std::string memoryLines(Zevlin& form) {
                    "ZEV's Peak Memory usage:  ", toolkit::groupedText(peak), lineEnd});
 }
 
-std::filesystem::path ringFile(const Zevlin& form) {
+std::filesystem::path dataFile(const Zevlin& form) {
     return toolkit::resolveFile(form.DataFolder, traceFileName);
 }
 
-/// The data folder, or where it can't be used the program folder, so that a trace can be written.
-std::filesystem::path directFile(const Zevlin& form) {
-    const auto folder =
-        toolkit::isFolderWritable(form.DataFolder) ? form.DataFolder : toolkit::programFolder();
-    return toolkit::resolveFile(folder, traceFileName);
+/// In the data folder, or where that fails in the program folder, so that a trace can be written.
+template <typename Write>
+void inTraceFolder(const Zevlin& form, Write write) {
+    try {
+        write(dataFile(form));
+    } catch (const toolkit::RunTimeError&) {
+        write(toolkit::resolveFile(toolkit::programFolder(), traceFileName));
+    }
 }
 
 bool isErrorLine(std::string_view text) { return toolkit::lowerCase(text.substr(0, 5)) == "error"; }
@@ -63,7 +66,7 @@ void dumpRing(Zevlin& form) {
         block += lineEnd;
     });
     block += memoryLines(form);
-    toolkit::appendFile(ringFile(form), block);
+    toolkit::appendFile(dataFile(form), block);
     form.Trace.clear();
 }
 
@@ -93,11 +96,11 @@ std::string dimensions(Zevlin& form) {
 }
 
 void traceToFile(Zevlin& form, std::string_view text) {
-    const auto file = directFile(form);
     if (!form.traceState.headerWritten) {
         form.traceState.headerWritten = true;
-        toolkit::writeFile(file, joined({headerLine(form), "Current path: ",
-                                         toolkit::displayText(form.DataFolder), lineEnd}));
+        const std::string header = joined(
+            {headerLine(form), "Current path: ", toolkit::displayText(form.DataFolder), lineEnd});
+        inTraceFolder(form, [&](const auto& file) { toolkit::writeFile(file, header); });
     }
     std::string block;
     if (form.AText.UBound() > 0 && !form.traceState.dimensionsWritten) {
@@ -106,7 +109,7 @@ void traceToFile(Zevlin& form, std::string_view text) {
     }
     block += timedLine(text);
     block += lineEnd;
-    toolkit::appendFile(file, block);
+    inTraceFolder(form, [&](const auto& file) { toolkit::appendFile(file, block); });
 }
 
 void traceUntrapped(Zevlin& form, std::string_view text) {

@@ -1,6 +1,7 @@
 #include "app/trace.h"
 
 #include <algorithm>
+#include <chrono>
 #include <sstream>
 
 #include "app/layouts.h"
@@ -153,6 +154,24 @@ TEST_F(Trace, ADataFolderThatCannotBeWrittenLeavesTheProgramFolder) {
     const std::string file = toolkit::readFile(programFolder / "Trace.txt");
     EXPECT_NE(file.find("Current path: /proc/self/fdinfo\r\n"), std::string::npos);
     EXPECT_TRUE(file.ends_with(" line\r\n"));
+}
+
+TEST_F(Trace, TurnedOnALineTouchesNothingButItsFile) {
+    form.TraceOn = true;
+    Traceit(form, "one");
+    const auto before = fs::last_write_time(dataFolder) - std::chrono::hours(1);
+    fs::last_write_time(dataFolder, before);
+    Traceit(form, "two");
+    EXPECT_TRUE(traceFile().ends_with(" two\r\n"));
+    EXPECT_EQ(fs::last_write_time(dataFolder), before) << "an entry was made or removed";
+}
+
+TEST_F(Trace, ATraceFileThatCannotBeWrittenLeavesTheProgramFolder) {
+    fs::create_directory(dataFile("Trace.txt"));
+    form.TraceOn = true;
+    Traceit(form, "line");
+    EXPECT_TRUE(toolkit::readFile(programFolder / "Trace.txt").ends_with(" line\r\n"));
+    fs::remove(dataFile("Trace.txt"));
 }
 
 TEST_F(Trace, ARingThatCannotBeWrittenIsKeptWithItsOwnFailure) {
