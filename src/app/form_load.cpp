@@ -65,6 +65,7 @@ void prepare(Zevlin& form, LoadRun& run) {
     ignoringFailures(
         [&] { form.TwipsPerPixel = static_cast<std::int16_t>(toolkit::twipsPerPixel()); });
     ignoringFailures([&] { run.showHelp = findDataFolder(form); });
+    toolkit::deleteLeftOvers(form.DataFolder);
     ignoringFailures([&] { AppVersion(form); });
     ignoringFailures([&] { HelpCreate(form); });
     ignoringFailures([&] {

@@ -4,22 +4,13 @@
 #include <utility>
 
 #include "toolkit/error.h"
+#include "toolkit/file_calls.h"
 
 namespace toolkit {
 namespace {
 
 /// Of a file, on all platforms; some just say that a longer one isn't there.
 constexpr std::size_t longestName = 255;
-
-std::FILE* openFile(const std::filesystem::path& path, FileMode mode) {
-#ifdef _WIN32
-    constexpr const wchar_t* modes[] = {L"rb", L"wb", L"ab", L"r+b"};
-    return _wfopen(path.c_str(), modes[static_cast<int>(mode)]);
-#else
-    constexpr const char* modes[] = {"rb", "wb", "ab", "r+b"};
-    return std::fopen(path.c_str(), modes[static_cast<int>(mode)]);
-#endif
-}
 
 } // namespace
 
@@ -35,25 +26,55 @@ void failFile(const std::filesystem::path& path, int errorCode) {
     throw fileFailure(errorCode);
 }
 
-FileHandle::FileHandle(std::filesystem::path path, FileMode mode)
-    : path_(std::move(path)), file_(openFile(path_, mode)) {
-    if (file_ == nullptr) failFile(path_, errno);
+void checkFile(const std::filesystem::path& path, const std::error_code& error) {
+    if (!error) return;
+    const auto condition = error.default_error_condition();
+    failFile(path, condition.category() == std::generic_category() ? condition.value() : EIO);
 }
 
+FileHandle::FileHandle(std::filesystem::path path, FileMode mode)
+    : path_(std::move(path)), file_(file_calls::openFile(path_, mode)) {
+    if (file_ != -1) return;
+    const int error = errno;
+    if (mode == FileMode::Beside && error == EWOULDBLOCK)
+        throw RunTimeError(Failure::FileAlreadyOpen);
+    failFile(path_, error);
+}
+
+FileHandle::~FileHandle() {
+    if (file_ != -1) file_calls::closeFile(file_);
+}
+
+FileHandle::FileHandle(FileHandle&& other) noexcept
+    : path_(std::move(other.path_)), file_(std::exchange(other.file_, -1)) {}
+
 std::string_view FileHandle::read(std::span<char> buffer) {
-    const std::size_t length = std::fread(buffer.data(), 1, buffer.size(), file_.get());
-    if (std::ferror(file_.get()) != 0) failFile(path_, errno);
-    return {buffer.data(), length};
+    const int length = file_calls::readSome(file_, buffer);
+    if (length < 0) failFile(path_, errno);
+    return {buffer.data(), static_cast<std::size_t>(length)};
 }
 
 void FileHandle::write(std::string_view content) {
-    if (std::fwrite(content.data(), 1, content.size(), file_.get()) != content.size())
-        failFile(path_, errno);
+    while (!content.empty()) {
+        const int length = file_calls::writeSome(file_, content);
+        // A device that takes nothing and doesn't say why would be asked for ever.
+        if (length <= 0) failFile(path_, length < 0 ? errno : EIO);
+        content.remove_prefix(static_cast<std::size_t>(length));
+    }
+}
+
+void FileHandle::sync() {
+    if (!file_calls::syncFile(file_)) failFile(path_, errno);
 }
 
 void FileHandle::close() {
-    if (std::fflush(file_.get()) != 0) failFile(path_, errno);
-    if (std::fclose(file_.release()) != 0) failFile(path_, errno);
+    if (!file_calls::closeFile(std::exchange(file_, -1))) failFile(path_, errno);
 }
+
+std::error_code FileHandle::renameOver(const std::filesystem::path& target) {
+    return file_calls::renameOpenFile(file_, path_, target);
+}
+
+void FileHandle::discard() { file_calls::removeOpenFile(std::exchange(file_, -1), path_); }
 
 } // namespace toolkit

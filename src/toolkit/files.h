@@ -28,30 +28,45 @@ namespace toolkit {
 /// way, 57, and 7 above 256 MiB.
 [[nodiscard]] std::string readFile(const std::filesystem::path& path);
 
-/// Replaces the file; returns only when flush and close were seen to succeed. The old content stays
-/// until the new one is whole beside it, so that a disk without room costs neither; only where the
-/// folder takes no other file is it gone from the start. Failures 52, 70, 75, 76, 61, 57.
+/// Replaces the file: writes a new one beside it ("$$NAME.part"), waits until its content is on the
+/// disk, renames it over the old one, and waits for the folder. So whenever the program, the system
+/// or the disk fails, and wherever another program looks, the file is the old one or the new one,
+/// whole. Mode and links are kept. After a failure nothing is left beside.
+///
+/// Not by Qt's QSaveFile: Qt 6.4's ignores a sync that fails, doesn't sync the folder, and hides
+/// which failure it was.
+///
+/// Only where the folder takes no other file, or lets none take this one's place, but the file
+/// itself can be written, and for devices, it is written where it stands, and synced; a disk
+/// without room leaves the old content there, too, but a cut in the middle may cost both.
+///
+/// Failures 52, 70, 75, 76, 61, 57. Where the folder alone can't be synced, the new content stands
+/// although the call fails.
 void writeFile(const std::filesystem::path& path, std::string_view content);
-/// The same for a small file that is written again and again: where old and new content are no more
-/// than a disk writes as a whole, it is overwritten where it stands. To put a new file in its place
-/// makes some systems wait for the disk.
-void updateFile(const std::filesystem::path& path, std::string_view content);
+/// Writes a file that nobody reads after a crash: where it stands, and without waiting for the
+/// disk. A half-written one is removed before the failure is raised.
+void writeTemporaryFile(const std::filesystem::path& path, std::string_view content);
+/// Adds to the file, which is made where it isn't there. Doesn't wait for the disk.
 void appendFile(const std::filesystem::path& path, std::string_view content);
 
-/// Copies the content and the modification time, not the mode: a new copy is writable. A
-/// half-written copy is removed before the failure is raised. A copy onto itself is failure 70.
+/// Copies the content and the modification time, not the mode: a new copy is writable. The copy is
+/// written as writeFile does: it is whole or not there. A copy onto itself is failure 70; content
+/// above 256 MiB is 7.
 void copyFile(const std::filesystem::path& source, const std::filesystem::path& target);
 
 /// Renames; an existing target is failure 58.
 void renameFile(const std::filesystem::path& source, const std::filesystem::path& target);
+/// Renames in one step over the target, which may be there or not, and waits until the folder is on
+/// the disk. Failures 53, 70, 75 for a folder, 76, 57. The content isn't synced here.
+void replaceByRename(const std::filesystem::path& source, const std::filesystem::path& target);
 /// Failures 53, 70, 75 for a folder.
 void deleteFile(const std::filesystem::path& path);
+/// Deletes what replacing left beside a file when the program was killed in the middle of it; not
+/// what another running program is writing. What can't be deleted stays.
+void deleteLeftOvers(const std::filesystem::path& folder);
 
 /// Modification time in whole seconds. Failure 53.
 [[nodiscard]] std::time_t fileTime(const std::filesystem::path& path);
 [[nodiscard]] std::uintmax_t fileLength(const std::filesystem::path& path);
-
-/// Whether a file can be made or replaced in the folder.
-[[nodiscard]] bool isFolderWritable(const std::filesystem::path& folder);
 
 } // namespace toolkit

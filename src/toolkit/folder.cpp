@@ -1,11 +1,8 @@
 // Names in a folder. They are compared without regard to case, as the platform of the first data
 // folders did, so a folder that was copied from there is read as it was.
 #include <algorithm>
-#include <cerrno>
 
 #include "toolkit/ansi.h"
-#include "toolkit/error.h"
-#include "toolkit/file_handle.h"
 #include "toolkit/files.h"
 
 namespace toolkit {
@@ -60,18 +57,6 @@ std::vector<std::string> listFiles(const fs::path& folder, std::string_view endi
     }
     std::ranges::sort(names, {}, [](const std::string& name) { return lowerCase(name); });
     return names;
-}
-
-bool isFolderWritable(const fs::path& folder) {
-    const fs::path probe = openable(folder) / ".zevlin-probe";
-    try {
-        FileHandle(probe, FileMode::Append).close();
-    } catch (const RunTimeError&) {
-        return false;
-    }
-    std::error_code ignored;
-    fs::remove(probe, ignored);
-    return true;
 }
 
 } // namespace toolkit

@@ -84,6 +84,14 @@ TEST_F(FormLoad, ThePrintColourItemsNeverShow) {
     EXPECT_FALSE(form.z21.Visible);
 }
 
+TEST_F(FormLoad, WhatARunThatWasKilledLeftHalfWrittenIsDeleted) {
+    for (const char* name : {"$$ZEV.Ini.part", "$$A card.zev.part"})
+        toolkit::writeTemporaryFile(dataFile(name), "half");
+    start();
+    EXPECT_FALSE(fs::exists(dataFile("$$ZEV.Ini.part")));
+    EXPECT_FALSE(fs::exists(dataFile("$$A card.zev.part")));
+}
+
 TEST_F(FormLoad, ALayoutThatACrashLeftSetAsideComesBack) {
     toolkit::writeFile(dataFile("$$TempDef.Ini"), fewFields());
     start();

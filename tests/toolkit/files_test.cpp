@@ -1,7 +1,6 @@
 #include "toolkit/files.h"
 
 #include <chrono>
-#include <iterator>
 
 #include <gtest/gtest.h>
 
@@ -33,60 +32,6 @@ TEST(Files, WritingReplacesAndAppendingAdds) {
     EXPECT_EQ(readFile(folder / "f"), "new and more");
     appendFile(folder / "g", "made");
     EXPECT_EQ(readFile(folder / "g"), "made");
-}
-
-TEST(Files, ReplacingKeepsModeAndLinkAndLeavesNothingBeside) {
-    const TemporaryFolder folder;
-    fs::create_directory(folder / "d");
-    writeFile(folder / "d/f", "old");
-    fs::permissions(folder / "d/f", fs::perms::owner_read | fs::perms::owner_write);
-    fs::create_symlink(folder / "d/f", folder / "link");
-    writeFile(folder / "link", "new");
-    EXPECT_TRUE(fs::is_symlink(folder / "link"));
-    EXPECT_EQ(readFile(folder / "d/f"), "new");
-    EXPECT_EQ(fs::status(folder / "d/f").permissions(),
-              fs::perms::owner_read | fs::perms::owner_write);
-    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "d"), {}), 1);
-}
-
-TEST(Files, ABlockIsWrittenOverWhereItStands) {
-    const TemporaryFolder folder;
-    writeFile(folder / "f", "a longer line");
-    std::filesystem::create_hard_link(folder / "f", folder / "same");
-    updateFile(folder / "f", "short");
-    EXPECT_EQ(readFile(folder / "same"), "short");
-    updateFile(folder / "f", std::string(4096, 'x'));
-    EXPECT_EQ(readFile(folder / "same"), std::string(4096, 'x'));
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder / ""), {}), 2);
-}
-
-TEST(Files, MoreThanABlockTakesThePlaceOfWhatWasThere) {
-    const TemporaryFolder folder;
-    updateFile(folder / "f", "new");
-    EXPECT_EQ(readFile(folder / "f"), "new");
-    for (const std::size_t length : {std::size_t{4097}, std::size_t{3}}) {
-        std::filesystem::remove(folder / "before");
-        std::filesystem::create_hard_link(folder / "f", folder / "before");
-        const std::string before = readFile(folder / "f");
-        updateFile(folder / "f", std::string(length, 'x'));
-        EXPECT_EQ(readFile(folder / "f"), std::string(length, 'x'));
-        EXPECT_EQ(readFile(folder / "before"), before);
-    }
-}
-
-TEST(Files, WhatCantBeUpdatedFailsLikeWhatCantBeWritten) {
-    const TemporaryFolder folder;
-    std::filesystem::create_directory(folder / "d");
-    EXPECT_EQ(failureOf([&] { updateFile(folder / "d", "x"); }), 75);
-    EXPECT_EQ(failureOf([&] { updateFile(folder / "no" / "f", "x"); }), 76);
-}
-
-TEST(Files, ANameThatLeavesNoRoomForAnotherBesideItIsWrittenOver) {
-    const TemporaryFolder folder;
-    const std::string name(250, 'n');
-    writeFile(folder / name, "old");
-    writeFile(folder / name, "new");
-    EXPECT_EQ(readFile(folder / name), "new");
 }
 
 TEST(Files, AMissingFileIsFailure53) {
@@ -158,6 +103,16 @@ TEST(Files, ACopyReplacesItsTarget) {
     EXPECT_EQ(readFile(folder / "to"), "new");
 }
 
+TEST(Files, ACopyTakesItsTargetsPlaceAndIsNeverHalfThere) {
+    const TemporaryFolder folder;
+    writeFile(folder / "from", "new");
+    writeFile(folder / "to", "old");
+    fs::create_hard_link(folder / "to", folder / "before");
+    copyFile(folder / "from", folder / "to");
+    EXPECT_EQ(readFile(folder / "to"), "new");
+    EXPECT_EQ(readFile(folder / "before"), "old");
+}
+
 TEST(Files, ACopyOntoItselfFailsAndKeepsTheContent) {
     const TemporaryFolder folder;
     writeFile(folder / "f", "content");
@@ -180,6 +135,31 @@ TEST(Files, RenamingOntoAnExistingFileFailsAndKeepsBoth) {
     EXPECT_EQ(failureOf([&] { renameFile(folder / "from", folder / "to"); }), 58);
     EXPECT_EQ(readFile(folder / "to"), "old");
     EXPECT_EQ(readFile(folder / "from"), "new");
+}
+
+TEST(Files, ReplacingByRenameTakesTheTargetsPlaceOrMakesIt) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "d");
+    writeFile(folder / "from", "new");
+    writeFile(folder / "to", "old and longer");
+    replaceByRename(folder / "from", folder / "to");
+    EXPECT_EQ(readFile(folder / "to"), "new");
+    EXPECT_FALSE(fs::exists(folder / "from"));
+    replaceByRename(folder / "to", folder / "d/elsewhere");
+    EXPECT_EQ(readFile(folder / "d/elsewhere"), "new");
+    EXPECT_FALSE(fs::exists(folder / "to"));
+}
+
+TEST(Files, ReplacingByRenameThatFailsKeepsBoth) {
+    const TemporaryFolder folder;
+    fs::create_directory(folder / "d");
+    writeFile(folder / "f", "content");
+    EXPECT_EQ(failureOf([&] { replaceByRename(folder / "none", folder / "f"); }), 53);
+    EXPECT_EQ(failureOf([&] { replaceByRename(folder / "f", folder / "d"); }), 75);
+    EXPECT_EQ(failureOf([&] { replaceByRename(folder / "d", folder / "f"); }), 75);
+    EXPECT_EQ(failureOf([&] { replaceByRename(folder / "f", folder / "none/f"); }), 76);
+    EXPECT_EQ(readFile(folder / "f"), "content");
+    EXPECT_TRUE(fs::is_directory(folder / "d"));
 }
 
 TEST(Files, DeletingRemovesTheFileOnly) {

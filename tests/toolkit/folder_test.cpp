@@ -86,15 +86,5 @@ TEST(Folder, AnUnreadableFolderListsNothing) {
     EXPECT_EQ(listFiles(folder / "f", ""), Names{});
 }
 
-TEST(Folder, IsWritableWhereAFileCanBeMadeAndLeavesNoneBehind) {
-    const TemporaryFolder folder;
-    EXPECT_TRUE(isFolderWritable(folder.path()));
-    EXPECT_TRUE(fs::is_empty(folder.path()));
-    writeFile(folder / "f", "x");
-    EXPECT_FALSE(isFolderWritable(folder / "f"));
-    EXPECT_FALSE(isFolderWritable(folder / "none"));
-    EXPECT_FALSE(isFolderWritable("/proc"));
-}
-
 } // namespace
 } // namespace toolkit

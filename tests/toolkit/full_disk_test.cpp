@@ -55,29 +55,35 @@ TEST(FullDisk, WhatFindsNoRoomLeavesTheOldContent) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / ""), {}), 1);
 }
 
-TEST(FullDisk, AnUpdateThatFindsNoRoomLeavesTheOldContent) {
+TEST(FullDisk, WhatFindsNoRoomWhereItStandsLeavesTheOldContent) {
     const TemporaryFolder folder;
-    writeFile(folder / "f", std::string(500, 'o'));
+    // Too long for another one beside it.
+    const auto file = folder / std::string(250, 'n');
+    writeFile(file, std::string(500, 'o'));
     const FileSizeLimit limit(1000);
-    EXPECT_EQ(failureOf([&] { updateFile(folder / "f", std::string(2000, 'x')); }), 57);
-    EXPECT_EQ(readFile(folder / "f"), std::string(500, 'o'));
-    updateFile(folder / "f", std::string(900, 'y'));
-    EXPECT_EQ(readFile(folder / "f"), std::string(900, 'y'));
+    EXPECT_EQ(failureOf([&] { writeFile(file, std::string(2000, 'x')); }), 57);
+    EXPECT_EQ(readFile(file), std::string(500, 'o'));
+    writeFile(file, std::string(900, 'y'));
+    EXPECT_EQ(readFile(file), std::string(900, 'y'));
+    const auto other = folder / std::string(251, 'n');
+    EXPECT_EQ(failureOf([&] { writeFile(other, std::string(2000, 'x')); }), 57);
+    EXPECT_FALSE(fs::exists(other));
 }
 
-TEST(FullDisk, WhatNeedsNoMoreBlocksIsStillWritten) {
+TEST(FullDisk, NothingIsWrittenOverNotEvenWhatNeedsNoMoreBlocks) {
     const TemporaryFolder folder;
     const test_system::SmallDisk disk(folder.path(), 64);
     if (!disk.isThere()) GTEST_SKIP() << "no disk can be made here: " << disk.refusal();
     writeFile(folder / "f", std::string(6000, 'x'));
     disk.fill();
-    writeFile(folder / "f", std::string(5000, 'y'));
-    EXPECT_EQ(readFile(folder / "f"), std::string(5000, 'y'));
-    EXPECT_EQ(failureOf([&] { writeFile(folder / "f", std::string(9000, 'z')); }), 61);
-    EXPECT_EQ(readFile(folder / "f"), std::string(5000, 'y'));
-    writeFile(folder / "f", std::string(8000, 'w')); // within the same blocks
-    EXPECT_EQ(readFile(folder / "f"), std::string(8000, 'w'));
+    for (const std::size_t length : {5000U, 6000U, 8000U, 9000U, 1U}) {
+        EXPECT_EQ(failureOf([&] { writeFile(folder / "f", std::string(length, 'y')); }), 61);
+        EXPECT_EQ(readFile(folder / "f"), std::string(6000, 'x'));
+        EXPECT_FALSE(fs::exists(folder / "$$f.part"));
+    }
     EXPECT_EQ(failureOf([&] { writeFile(folder / "g", "new"); }), 61);
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "g"); }), 61);
+    EXPECT_EQ(failureOf([&] { writeTemporaryFile(folder / "g", "new"); }), 61);
     EXPECT_FALSE(fs::exists(folder / "g"));
     disk.giveRoom();
     writeFile(folder / "f", std::string(9000, 'z'));
@@ -96,13 +102,17 @@ TEST(FullDisk, AnEndlessSourceIsFailure7) {
     EXPECT_EQ(failureOf([] { (void)readFile("/dev/zero"); }), 7);
 }
 
-TEST(FullDisk, AHalfWrittenCopyIsRemoved) {
+TEST(FullDisk, AHalfWrittenCopyIsRemovedAndItsTargetStays) {
     const TemporaryFolder folder;
     writeFile(folder / "from", std::string(300000, 'x'));
     const FileSizeLimit limit(100000);
     EXPECT_EQ(failureOf([&] { copyFile(folder / "from", folder / "to"); }), 57);
     EXPECT_FALSE(fs::exists(folder / "to"));
     EXPECT_TRUE(fs::exists(folder / "from"));
+    writeFile(folder / "to", "old");
+    EXPECT_EQ(failureOf([&] { copyFile(folder / "from", folder / "to"); }), 57);
+    EXPECT_EQ(readFile(folder / "to"), "old");
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / ""), {}), 2);
 }
 
 } // namespace
