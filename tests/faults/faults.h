@@ -1,0 +1,34 @@
+// Runs of a scenario in each of which one file operation fails, or all from one on.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace test_faults {
+
+enum class Kind {
+    DiskFull,        ///< ENOSPC once
+    DiskStaysFull,   ///< ENOSPC from there on
+    Refused,         ///< EACCES once
+    Fails,           ///< EIO once
+    FolderGone,      ///< the folder is renamed away
+    FolderComesBack, ///< and back a few operations later
+};
+
+/// What may fail, and what must hold afterwards.
+struct FaultRuns {
+    std::filesystem::path home;   ///< operations on files below it are counted
+    std::filesystem::path folder; ///< the one that vanishes
+    std::function<void()> scenario;
+    /// Runs after the scenario with everything working again, the folder in its place.
+    std::function<void(Kind)> check;
+};
+
+/// Runs the scenario with the n-th operation failing, for n = 1, 2, ... and each kind, until it
+/// runs through untouched. Each run is a process of its own, forked from this one, in a home that
+/// is as it was at the call; a check that fails there fails the test here. Returns the number of
+/// runs.
+int forEveryFault(const FaultRuns& runs);
+
+} // namespace test_faults
