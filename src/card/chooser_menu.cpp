@@ -60,6 +60,14 @@ void tellNotRenamed(const toolkit::RunTimeError& failure) {
                   toolkit::Icon::Exclamation);
 }
 
+/// The title goes on to say what the chooser was opened for.
+void nameCurrentCard(Zevlin& form, const std::string& name) {
+    const std::string shown = "( " + form.CardName + " )";
+    if (const auto at = form.Caption.find(shown); at != std::string::npos)
+        form.Caption.replace(at, shown.size(), "( " + name + " )");
+    form.CardName = name;
+}
+
 /// The same file in another case is itself no other card. The card on the screen goes along, or the
 /// next save would bring the old name back as a second card.
 void renameCard(Zevlin& form, const std::string& name, const std::string& newName) {
@@ -70,10 +78,7 @@ void renameCard(Zevlin& form, const std::string& name, const std::string& newNam
         form.DataFolder / toolkit::pathFromText(newName + std::string(cardExtension));
     const bool isCurrent = isCurrentCard(form, path);
     toolkit::renameFile(path, changesCase ? newPath : target);
-    if (isCurrent) {
-        form.CardName = newName;
-        SetCaption(form);
-    }
+    if (isCurrent) nameCurrentCard(form, newName);
     PopulateFileList(form);
     if (form.TSaveAs.Text != name) return;
     form.TSaveAs.Text = newName;

@@ -106,8 +106,13 @@ std::string chosenNameToSave(Zevlin& form) {
     if (shown) form.Caption = title + " - Save this card";
     const std::string cardName = form.CardName;
     std::string name = GetFileNames(form);
-    // Unless the chooser has deleted the card: then its name is gone from the title too.
-    if (shown && form.CardName == cardName) form.Caption = title;
+    if (!shown) return name;
+    // The chooser may have deleted or renamed the card.
+    if (form.CardName != cardName) {
+        SetCaption(form);
+    } else {
+        form.Caption = title;
+    }
     return name;
 }
 

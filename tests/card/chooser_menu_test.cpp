@@ -226,6 +226,29 @@ TEST_F(ChooserMenu, TheCardOnScreenFollowsAFileInAnotherCaseThanItsName) {
 }
 #endif
 
+TEST_F(ChooserMenu, TheTitleGoesOnToSayWhatTheChooserIsFor) {
+    openNamed("Brown");
+    clickMark(1);
+    answer(toolkit::Answer::No);
+    answerChooser([&] {
+        rename(1, "Baker");
+        EXPECT_EQ(form.Caption, "Zevlin  ( Baker ) * - Save this card");
+        clickRow(0);
+        clickOn(form.BOK);
+    });
+    choose("File>Save As...");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(form.Caption, "Zevlin  ( Baker ) *");
+    choose("File>Save");
+    answerChooser([&] {
+        rename(1, "Brown");
+        EXPECT_EQ(form.Caption, "Zevlin  - Open an existing card file");
+        leave();
+    });
+    choose("File>Open...");
+    EXPECT_EQ(form.Caption, "Zevlin  (unnamed)");
+}
+
 TEST_F(ChooserMenu, RenamingAnotherCardLeavesTheNameOfTheOneOnScreen) {
     openNamed("Brown");
     answerChooser([&] {
