@@ -159,10 +159,11 @@ void EditBox::copySelection(QClipboard::Mode mode) {
 void EditBox::pasteFrom(QClipboard::Mode mode) {
     const std::string shown = ansiText(text());
     const Selection place = shownSelection();
+    const auto start = static_cast<std::size_t>(place.start);
+    const auto length = static_cast<std::size_t>(place.length);
     const std::string_view all = shown;
     const std::string pasted =
-        takeText(mode, {.before = all.substr(0, static_cast<std::size_t>(place.start)),
-                        .after = all.substr(static_cast<std::size_t>(place.start + place.length))});
+        takeText(mode, {.before = all.substr(0, start), .after = all.substr(start + length)});
     if (!pasted.empty()) insert(qString(pasted));
 }
 
