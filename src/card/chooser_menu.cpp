@@ -9,6 +9,7 @@
 #include "card/card_file.h"
 #include "card/chooser.h"
 #include "card/chooser_events.h"
+#include "card/journal.h"
 #include "card/modified.h"
 #include "card/save.h"
 #include "toolkit/ansi.h"
@@ -66,6 +67,9 @@ void nameCurrentCard(Zevlin& form, const std::string& name) {
     if (const auto at = form.Caption.find(shown); at != std::string::npos)
         form.Caption.replace(at, shown.size(), "( " + name + " )");
     form.CardName = name;
+    if (form.CardFileSeen) form.CardFileSeen->cardName = name;
+    // Unsaved changes belong to the new name.
+    noteChange(form);
 }
 
 /// The same file in another case is itself no other card. The card on the screen goes along, or the

@@ -166,6 +166,7 @@ void openJournal(Zevlin& form) {
 }
 
 std::optional<Rescue> offerRescue(Zevlin& form) {
+    toolkit::deleteLeftOvers(toolkit::stateFolder());
     Journals journals = findJournals();
     adoptTemporaryCard(form, journals);
     for (Rescue& rescue : journals.dead) {

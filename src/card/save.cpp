@@ -57,7 +57,7 @@ void finishSave(Zevlin& form) {
 
 /// The copy that a rebuild leaves in the folder for its own time. Nothing depends on it.
 void saveTemporary(Zevlin& form) {
-    toolkit::writeFile(cardPath(form), writeCard(documentOf(form)));
+    toolkit::writeTemporaryFile(cardPath(form), writeCard(documentOf(form)));
     finishSave(form);
 }
 

@@ -18,10 +18,7 @@ void restoreFile(Zevlin& form) {
     trapped(form, "Error in RestoreShapes: #", [&] {
         const auto setAside = toolkit::findFile(form.DataFolder, setAsideName);
         if (!setAside) return;
-        if (const auto present = toolkit::findFile(form.DataFolder, layoutFileName)) {
-            toolkit::deleteFile(*present);
-        }
-        toolkit::renameFile(*setAside, form.DataFolder / layoutFileName);
+        toolkit::replaceByRename(*setAside, toolkit::resolveFile(form.DataFolder, layoutFileName));
     });
 }
 
