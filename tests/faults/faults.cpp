@@ -1,6 +1,5 @@
 #include "faults/faults.h"
 
-#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <fstream>
@@ -18,12 +17,23 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array kinds = {std::pair{Kind::DiskFull, "disk full"},
-                              std::pair{Kind::DiskStaysFull, "disk stays full"},
-                              std::pair{Kind::Refused, "access refused"},
-                              std::pair{Kind::Fails, "disk fails"},
-                              std::pair{Kind::FolderGone, "folder gone"},
-                              std::pair{Kind::FolderComesBack, "folder comes back"}};
+const char* nameOf(Kind kind) {
+    switch (kind) {
+    case Kind::DiskFull:
+        return "disk full";
+    case Kind::DiskStaysFull:
+        return "disk stays full";
+    case Kind::Refused:
+        return "access refused";
+    case Kind::Fails:
+        return "disk fails";
+    case Kind::FolderGone:
+        return "folder gone";
+    case Kind::FolderComesBack:
+        return "folder comes back";
+    }
+    return "";
+}
 
 // No run takes nearly as long, not under the sanitizers either.
 constexpr unsigned int longestRun = 60; // seconds
@@ -45,11 +55,16 @@ bool needsRights(Call call) {
            call == Call::Remove || call == Call::MakeFolder || call == Call::Change;
 }
 
+/// What a file that is open already doesn't need.
+bool needsFolder(Call call) {
+    return call != Call::Read && call != Call::Write && call != Call::Sync && call != Call::Close;
+}
+
 /// Fails as told at the n-th of the operations that can fail so.
 class Fault {
   public:
-    Fault(Kind kind, int number, fs::path folder)
-        : kind_(kind), number_(number), folder_(std::move(folder)) {}
+    Fault(const FaultRuns& runs, Kind kind, int number)
+        : kind_(kind), number_(number), folder_(runs.folder), countsLooks_(runs.countsLooks) {}
 
     int operator()(Call call) {
         if (!concerns(call)) return 0;
@@ -72,24 +87,28 @@ class Fault {
         fs::rename(folder_, away(), ignored);
         return 0;
     }
-    /// What the program has made in the vanished folder's place stays, unless nothing is in it.
+    /// What the program has made in the vanished folder's place makes room.
     void comeBack() const {
         std::error_code ignored;
-        fs::remove(folder_, ignored);
+        if (!fs::exists(away(), ignored)) return;
+        fs::rename(folder_, folder_.string() + ".made", ignored);
         fs::rename(away(), folder_, ignored);
     }
     [[nodiscard]] bool happened() const { return count_ >= number_; }
 
   private:
     [[nodiscard]] bool concerns(Call call) const {
+        if (call == Call::Look && !countsLooks_) return false;
         switch (kind_) {
         case Kind::DiskFull:
         case Kind::DiskStaysFull:
             return needsRoom(call);
         case Kind::Refused:
             return needsRights(call);
+        case Kind::Fails:
+            return call != Call::Close;
         default:
-            return true;
+            return needsFolder(call);
         }
     }
     [[nodiscard]] fs::path away() const { return folder_.string() + ".away"; }
@@ -97,12 +116,12 @@ class Fault {
     Kind kind_;
     int number_;
     fs::path folder_;
+    bool countsLooks_;
     int count_ = 0;
 };
 
-/// Whether the fault happened.
-bool run(const FaultRuns& runs, Kind kind, int number) {
-    Fault fault(kind, number, runs.folder);
+ExitCode run(const FaultRuns& runs, Kind kind, int number) {
+    Fault fault(runs, kind, number);
     {
         const Watch watch(runs.home,
                           [&](Call call, const std::string& /*path*/) { return fault(call); });
@@ -110,28 +129,28 @@ bool run(const FaultRuns& runs, Kind kind, int number) {
     }
     fault.comeBack();
     runs.check(kind);
-    return fault.happened();
+    return fault.happened() ? passed : untouched;
 }
 
-/// Nothing gets from here to those who called the test.
-[[noreturn]] void runInChild(const FaultRuns& runs, Kind kind, int number) {
-    alarm(longestRun);
-    int code = failed;
-    try {
-        code = run(runs, kind, number) ? passed : untouched;
-    } catch (const std::exception& failure) {
-        ADD_FAILURE() << failure.what();
-    }
-    std::fflush(nullptr);
-    _exit(testing::Test::HasFailure() ? failed : code);
-}
-
-int exitCodeOf(const FaultRuns& runs, Kind kind, int number) {
+/// Does it in a process of its own, forked from this one: nothing gets from there to those who
+/// called the test.
+int exitCodeOf(const std::function<ExitCode()>& act) {
     std::fflush(nullptr);
     const pid_t child = fork();
-    if (child == 0) runInChild(runs, kind, number);
+    if (child == 0) {
+        alarm(longestRun);
+        ExitCode code = failed;
+        try {
+            code = act();
+        } catch (const std::exception& failure) {
+            ADD_FAILURE() << failure.what();
+        }
+        std::fflush(nullptr);
+        _exit(testing::Test::HasFailure() ? failed : code);
+    }
     int status = 0;
     waitpid(child, &status, 0);
+    if (WIFSIGNALED(status)) std::fprintf(stderr, "ended by signal %d\n", WTERMSIG(status));
     return WIFEXITED(status) ? WEXITSTATUS(status) : failed;
 }
 
@@ -156,21 +175,34 @@ class Home {
 
 } // namespace
 
+Files filesAfter(const FaultRuns& runs) {
+    const Home home(runs.home);
+    const int code = exitCodeOf([&] {
+        runs.scenario();
+        return passed;
+    });
+    EXPECT_EQ(code, passed);
+    Files files = filesIn(runs.home);
+    home.putBack();
+    return files;
+}
+
 int forEveryFault(const FaultRuns& runs) {
     const Home home(runs.home);
     int count = 0;
     // Told at the end: a process that begins with a failure would tell it as its own.
     std::vector<std::string> failures;
-    for (const auto& [kind, name] : kinds) {
+    for (const Kind kind : runs.kinds) {
         int failuresOfKind = 0;
         for (int number = 1; failuresOfKind < mostFailures; ++number) {
             home.putBack();
-            const int code = exitCodeOf(runs, kind, number);
+            const int code = exitCodeOf([&] { return run(runs, kind, number); });
             ++count;
             if (code == untouched) break;
             if (code == passed) continue;
             ++failuresOfKind;
-            failures.push_back(std::string(name) + " at operation " + std::to_string(number));
+            failures.push_back(std::string(nameOf(kind)) + " at operation " +
+                               std::to_string(number));
         }
     }
     home.putBack();

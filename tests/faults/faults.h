@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <vector>
+
+#include "faults/power_cut.h"
 
 namespace test_faults {
 
@@ -16,6 +19,10 @@ enum class Kind {
     FolderComesBack, ///< and back a few operations later
 };
 
+inline const std::vector<Kind> everyKind = {Kind::DiskFull,   Kind::DiskStaysFull,
+                                            Kind::Refused,    Kind::Fails,
+                                            Kind::FolderGone, Kind::FolderComesBack};
+
 /// What may fail, and what must hold afterwards.
 struct FaultRuns {
     std::filesystem::path home;   ///< operations on files below it are counted
@@ -23,6 +30,8 @@ struct FaultRuns {
     std::function<void()> scenario;
     /// Runs after the scenario with everything working again, the folder in its place.
     std::function<void(Kind)> check;
+    std::vector<Kind> kinds = everyKind;
+    bool countsLooks = true; ///< whether asking for size, time and kind may fail, too
 };
 
 /// Runs the scenario with the n-th operation failing, for n = 1, 2, ... and each kind, until it
@@ -30,5 +39,8 @@ struct FaultRuns {
 /// is as it was at the call; a check that fails there fails the test here. Returns the number of
 /// runs.
 int forEveryFault(const FaultRuns& runs);
+
+/// The files below the home after a run in which nothing fails; the home is as it was afterwards.
+[[nodiscard]] Files filesAfter(const FaultRuns& runs);
 
 } // namespace test_faults

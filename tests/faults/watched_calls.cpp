@@ -245,142 +245,141 @@ using namespace test_faults;
 
 extern "C" {
 
-int open(const char* path, int flags, ...) {
+// One of the library's names for their arguments is a word of the language.
+int watchedRename(const char* from, const char* to) asm("rename");
+int watchedRenameat(int fromFolder, const char* from, int toFolder, const char* to) asm("renameat");
+int watchedRenameat2(int fromFolder, const char* from, int toFolder, const char* to,
+                     unsigned int flags) asm("renameat2");
+
+int open(const char* file, int oflag, ...) {
     va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
+    va_start(arguments, oflag);
+    const mode_t mode = modeOf(oflag, arguments);
     va_end(arguments);
-    return openWatched(AT_FDCWD, path, flags, [&] { return NEXT(open)(path, flags, mode); });
+    return openWatched(AT_FDCWD, file, oflag, [&] { return NEXT(open)(file, oflag, mode); });
 }
-int open64(const char* path, int flags, ...) {
+int open64(const char* file, int oflag, ...) {
     va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
+    va_start(arguments, oflag);
+    const mode_t mode = modeOf(oflag, arguments);
     va_end(arguments);
-    return openWatched(AT_FDCWD, path, flags, [&] { return NEXT(open64)(path, flags, mode); });
+    return openWatched(AT_FDCWD, file, oflag, [&] { return NEXT(open64)(file, oflag, mode); });
 }
-int openat(int folder, const char* path, int flags, ...) {
+int openat(int fd, const char* file, int oflag, ...) {
     va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
+    va_start(arguments, oflag);
+    const mode_t mode = modeOf(oflag, arguments);
     va_end(arguments);
-    return openWatched(folder, path, flags,
-                       [&] { return NEXT(openat)(folder, path, flags, mode); });
+    return openWatched(fd, file, oflag, [&] { return NEXT(openat)(fd, file, oflag, mode); });
 }
-int openat64(int folder, const char* path, int flags, ...) {
+int openat64(int fd, const char* file, int oflag, ...) {
     va_list arguments;
-    va_start(arguments, flags);
-    const mode_t mode = modeOf(flags, arguments);
+    va_start(arguments, oflag);
+    const mode_t mode = modeOf(oflag, arguments);
     va_end(arguments);
-    return openWatched(folder, path, flags,
-                       [&] { return NEXT(openat64)(folder, path, flags, mode); });
+    return openWatched(fd, file, oflag, [&] { return NEXT(openat64)(fd, file, oflag, mode); });
 }
-FILE* fopen(const char* path, const char* mode) {
-    return openStream(path, mode, [&] { return NEXT(fopen)(path, mode); });
+FILE* fopen(const char* filename, const char* modes) {
+    return openStream(filename, modes, [&] { return NEXT(fopen)(filename, modes); });
 }
-FILE* fopen64(const char* path, const char* mode) {
-    return openStream(path, mode, [&] { return NEXT(fopen64)(path, mode); });
+FILE* fopen64(const char* filename, const char* modes) {
+    return openStream(filename, modes, [&] { return NEXT(fopen64)(filename, modes); });
 }
-DIR* opendir(const char* path) {
-    if (!isWatching()) return NEXT(opendir)(path);
+DIR* opendir(const char* name) {
+    if (!isWatching()) return NEXT(opendir)(name);
     const std::lock_guard lock(mutex);
-    const auto name = watched(AT_FDCWD, path);
-    return name && isRefused(Call::Open, *name) ? nullptr : NEXT(opendir)(path);
+    const auto found = watched(AT_FDCWD, name);
+    return found && isRefused(Call::Open, *found) ? nullptr : NEXT(opendir)(name);
 }
 
-ssize_t read(int file, void* buffer, size_t length) {
-    return onFile(Call::Read, file, [&] { return NEXT(read)(file, buffer, length); });
+ssize_t read(int fd, void* buf, size_t nbytes) {
+    return onFile(Call::Read, fd, [&] { return NEXT(read)(fd, buf, nbytes); });
 }
-ssize_t write(int file, const void* content, size_t length) {
-    return writeWatched(file, content, std::nullopt,
-                        [&] { return NEXT(write)(file, content, length); });
+ssize_t write(int fd, const void* buf, size_t n) {
+    return writeWatched(fd, buf, std::nullopt, [&] { return NEXT(write)(fd, buf, n); });
 }
-ssize_t pwrite(int file, const void* content, size_t length, off_t at) {
-    return writeWatched(file, content, at, [&] { return NEXT(pwrite)(file, content, length, at); });
+ssize_t pwrite(int fd, const void* buf, size_t n, off_t offset) {
+    return writeWatched(fd, buf, offset, [&] { return NEXT(pwrite)(fd, buf, n, offset); });
 }
-ssize_t pwrite64(int file, const void* content, size_t length, off64_t at) {
-    return writeWatched(file, content, at,
-                        [&] { return NEXT(pwrite64)(file, content, length, at); });
+ssize_t pwrite64(int fd, const void* buf, size_t n, off64_t offset) {
+    return writeWatched(fd, buf, offset, [&] { return NEXT(pwrite64)(fd, buf, n, offset); });
 }
-int fsync(int file) {
-    return syncWatched(file, [&] { return NEXT(fsync)(file); });
+int fsync(int fd) {
+    return syncWatched(fd, [&] { return NEXT(fsync)(fd); });
 }
-int fdatasync(int file) {
-    return syncWatched(file, [&] { return NEXT(fdatasync)(file); });
+int fdatasync(int fildes) {
+    return syncWatched(fildes, [&] { return NEXT(fdatasync)(fildes); });
 }
-int close(int file) {
-    return closeWatched(file, [&] { return NEXT(close)(file); });
+int close(int fd) {
+    return closeWatched(fd, [&] { return NEXT(close)(fd); });
 }
 
-int ftruncate(int file, off_t length) noexcept {
-    return truncateWatched([&] { return pathOf(file); }, length,
-                           [&] { return NEXT(ftruncate)(file, length); });
+int ftruncate(int fd, off_t length) noexcept {
+    return truncateWatched([&] { return pathOf(fd); }, length,
+                           [&] { return NEXT(ftruncate)(fd, length); });
 }
-int ftruncate64(int file, off64_t length) noexcept {
-    return truncateWatched([&] { return pathOf(file); }, length,
-                           [&] { return NEXT(ftruncate64)(file, length); });
+int ftruncate64(int fd, off64_t length) noexcept {
+    return truncateWatched([&] { return pathOf(fd); }, length,
+                           [&] { return NEXT(ftruncate64)(fd, length); });
 }
-int truncate(const char* path, off_t length) noexcept {
-    return truncateWatched([&] { return watched(AT_FDCWD, path); }, length,
-                           [&] { return NEXT(truncate)(path, length); });
+int truncate(const char* file, off_t length) noexcept {
+    return truncateWatched([&] { return watched(AT_FDCWD, file); }, length,
+                           [&] { return NEXT(truncate)(file, length); });
 }
-int truncate64(const char* path, off64_t length) noexcept {
-    return truncateWatched([&] { return watched(AT_FDCWD, path); }, length,
-                           [&] { return NEXT(truncate64)(path, length); });
+int truncate64(const char* file, off64_t length) noexcept {
+    return truncateWatched([&] { return watched(AT_FDCWD, file); }, length,
+                           [&] { return NEXT(truncate64)(file, length); });
 }
 
-int rename(const char* from, const char* to) noexcept {
+int watchedRename(const char* from, const char* to) {
     return renameWatched(AT_FDCWD, from, AT_FDCWD, to, [&] { return NEXT(rename)(from, to); });
 }
-int renameat(int fromFolder, const char* from, int toFolder, const char* to) noexcept {
+int watchedRenameat(int fromFolder, const char* from, int toFolder, const char* to) {
     return renameWatched(fromFolder, from, toFolder, to,
                          [&] { return NEXT(renameat)(fromFolder, from, toFolder, to); });
 }
-int renameat2(int fromFolder, const char* from, int toFolder, const char* to,
-              unsigned int flags) noexcept {
+int watchedRenameat2(int fromFolder, const char* from, int toFolder, const char* to,
+                     unsigned int flags) {
     return renameWatched(fromFolder, from, toFolder, to,
                          [&] { return NEXT(renameat2)(fromFolder, from, toFolder, to, flags); });
 }
-int unlink(const char* path) noexcept {
-    return onPath(Call::Remove, AT_FDCWD, path, [&] { return NEXT(unlink)(path); });
+int unlink(const char* name) noexcept {
+    return onPath(Call::Remove, AT_FDCWD, name, [&] { return NEXT(unlink)(name); });
 }
-int unlinkat(int folder, const char* path, int flags) noexcept {
-    return onPath(Call::Remove, folder, path, [&] { return NEXT(unlinkat)(folder, path, flags); });
+int unlinkat(int fd, const char* name, int flag) noexcept {
+    return onPath(Call::Remove, fd, name, [&] { return NEXT(unlinkat)(fd, name, flag); });
 }
-int remove(const char* path) noexcept {
-    return onPath(Call::Remove, AT_FDCWD, path, [&] { return NEXT(remove)(path); });
+int remove(const char* filename) noexcept {
+    return onPath(Call::Remove, AT_FDCWD, filename, [&] { return NEXT(remove)(filename); });
 }
 int mkdir(const char* path, mode_t mode) noexcept {
     return onPath(Call::MakeFolder, AT_FDCWD, path, [&] { return NEXT(mkdir)(path, mode); });
 }
 
-int stat(const char* path, struct stat* facts) noexcept {
-    return onPath(Call::Look, AT_FDCWD, path, [&] { return NEXT(stat)(path, facts); });
+int stat(const char* file, struct stat* buf) noexcept {
+    return onPath(Call::Look, AT_FDCWD, file, [&] { return NEXT(stat)(file, buf); });
 }
-int stat64(const char* path, struct stat64* facts) noexcept {
-    return onPath(Call::Look, AT_FDCWD, path, [&] { return NEXT(stat64)(path, facts); });
+int stat64(const char* file, struct stat64* buf) noexcept {
+    return onPath(Call::Look, AT_FDCWD, file, [&] { return NEXT(stat64)(file, buf); });
 }
-int lstat(const char* path, struct stat* facts) noexcept {
-    return onPath(Call::Look, AT_FDCWD, path, [&] { return NEXT(lstat)(path, facts); });
+int lstat(const char* file, struct stat* buf) noexcept {
+    return onPath(Call::Look, AT_FDCWD, file, [&] { return NEXT(lstat)(file, buf); });
 }
-int lstat64(const char* path, struct stat64* facts) noexcept {
-    return onPath(Call::Look, AT_FDCWD, path, [&] { return NEXT(lstat64)(path, facts); });
+int lstat64(const char* file, struct stat64* buf) noexcept {
+    return onPath(Call::Look, AT_FDCWD, file, [&] { return NEXT(lstat64)(file, buf); });
 }
-int statx(int folder, const char* path, int flags, unsigned int mask,
-          struct statx* facts) noexcept {
-    return onPath(Call::Look, folder, path,
-                  [&] { return NEXT(statx)(folder, path, flags, mask, facts); });
+int statx(int dirfd, const char* path, int flags, unsigned int mask, struct statx* buf) noexcept {
+    return onPath(Call::Look, dirfd, path,
+                  [&] { return NEXT(statx)(dirfd, path, flags, mask, buf); });
 }
-int access(const char* path, int rights) noexcept {
-    return onPath(Call::Look, AT_FDCWD, path, [&] { return NEXT(access)(path, rights); });
+int access(const char* name, int type) noexcept {
+    return onPath(Call::Look, AT_FDCWD, name, [&] { return NEXT(access)(name, type); });
 }
-int fchmodat(int folder, const char* path, mode_t mode, int flags) noexcept {
-    return onPath(Call::Change, folder, path,
-                  [&] { return NEXT(fchmodat)(folder, path, mode, flags); });
+int fchmodat(int fd, const char* file, mode_t mode, int flag) noexcept {
+    return onPath(Call::Change, fd, file, [&] { return NEXT(fchmodat)(fd, file, mode, flag); });
 }
-int utimensat(int folder, const char* path, const timespec* times, int flags) noexcept {
-    return onPath(Call::Change, folder, path,
-                  [&] { return NEXT(utimensat)(folder, path, times, flags); });
+int utimensat(int fd, const char* path, const timespec* times, int flags) noexcept {
+    return onPath(Call::Change, fd, path, [&] { return NEXT(utimensat)(fd, path, times, flags); });
 }
 
 } // extern "C"
