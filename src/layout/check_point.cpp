@@ -1,5 +1,6 @@
 #include "layout/check_point.h"
 
+#include <filesystem>
 #include <string>
 #include <utility>
 
@@ -22,9 +23,9 @@ void restoreFile(Zevlin& form) {
     });
 }
 
-void traceMissingLayout(Zevlin& form) {
-    traceFailure(form, "Error in CheckPointShapes ",
-                 toolkit::RunTimeError(toolkit::Failure::FileNotFound));
+/// There is nothing to set aside.
+void traceNoFile(Zevlin& form, toolkit::Failure failure) {
+    traceFailure(form, "Error in CheckPointShapes ", toolkit::RunTimeError(failure));
 }
 
 } // namespace
@@ -38,7 +39,9 @@ void CheckPointShapes(Zevlin& form) {
     form.LayoutInMemory = layoutText(form);
     const auto present = toolkit::findFile(form.DataFolder, layoutFileName);
     // The rebuild brings the installed one.
-    if (!present) return traceMissingLayout(form);
+    if (!present) return traceNoFile(form, toolkit::Failure::FileNotFound);
+    if (std::filesystem::is_directory(*present))
+        return traceNoFile(form, toolkit::Failure::PathFileAccess);
     const bool setAside = trappedAndNoted(form, "Error in CheckPointShapes ", layoutFailure, [&] {
         if (const auto old = toolkit::findFile(form.DataFolder, setAsideName)) {
             toolkit::deleteFile(*old);
