@@ -37,8 +37,10 @@ class Program {
             toolkit::writeFile(data / "Definitions.Ini", layout);
         toolkit::writeFile(data / "ZEV.Ini", "Zoom=5\r\n");
         toolkit::overrideScreen(screen);
-        toolkit::overrideProgram(
-            {.programFolder = ZEVLIN_CARD_FOLDER, .documentsFolder = home_, .beep = [] {}});
+        toolkit::overrideProgram({.programFolder = ZEVLIN_CARD_FOLDER,
+                                  .documentsFolder = home_,
+                                  .stateFolder = home_ / "state",
+                                  .beep = [] {}});
         toolkit::answerDialogsWith(
             {.message = [](const toolkit::MessageBox&) { return toolkit::Answer::No; },
              .input = [](const toolkit::InputBox&) { return std::string(); },

@@ -1,32 +1,38 @@
 #include "toolkit/file_lock.h"
 
-#include <QtCore/QLockFile>
-#include <QtCore/QString>
+#include <utility>
+
+#include "toolkit/error.h"
+#include "toolkit/file_handle.h"
 
 namespace toolkit {
 
-struct FileLock::Implementation {
-    explicit Implementation(const std::filesystem::path& path)
-        : file(QString::fromStdU16String(path.generic_u16string())) {
-        // However old it is: only whether its process lives counts.
-        file.setStaleLockTime(0);
-    }
-    QLockFile file;
-};
-
 FileLock::FileLock() = default;
-FileLock::~FileLock() = default;
+
+FileLock::~FileLock() { release(); }
+
 FileLock::FileLock(FileLock&&) noexcept = default;
-FileLock& FileLock::operator=(FileLock&&) noexcept = default;
+
+FileLock& FileLock::operator=(FileLock&& other) noexcept {
+    release();
+    file_ = std::move(other.file_);
+    return *this;
+}
 
 bool FileLock::take(const std::filesystem::path& file) {
-    implementation_ = std::make_unique<Implementation>(file);
-    if (!implementation_->file.tryLock(0)) implementation_.reset();
+    release();
+    try {
+        file_ = std::make_unique<FileHandle>(file, FileMode::Beside);
+    } catch (const RunTimeError&) {
+        // Another's, or nobody's.
+    }
     return isHeld();
 }
 
-bool FileLock::isHeld() const { return implementation_ != nullptr; }
+bool FileLock::isHeld() const { return file_ != nullptr; }
 
-void FileLock::release() { implementation_.reset(); }
+void FileLock::release() {
+    if (const auto file = std::exchange(file_, nullptr)) file->discard();
+}
 
 } // namespace toolkit

@@ -6,25 +6,28 @@
 
 namespace toolkit {
 
-/// The lock is a file of its own. It goes with the process that holds it, however that ends; what a
-/// dead process left behind can be taken over.
+class FileHandle;
+
+/// The lock is a file of its own, which the system holds for the process: however that ends, the
+/// lock is free then, and its file can be taken by another. Where a file system knows no locks,
+/// each process takes it.
 class FileLock {
   public:
     FileLock();
+    /// Gives it back.
     ~FileLock();
     FileLock(FileLock&&) noexcept;
     FileLock& operator=(FileLock&&) noexcept;
 
-    /// Takes the lock, unless a living process has it or its file can't be made; true if this one
-    /// holds it now. The folder must exist.
+    /// Takes the lock, unless another holder has it or its file can't be made; true if this one has
+    /// it now. The folder must exist.
     [[nodiscard]] bool take(const std::filesystem::path& file);
     [[nodiscard]] bool isHeld() const;
     /// Gives it back; its file goes.
     void release();
 
   private:
-    struct Implementation;
-    std::unique_ptr<Implementation> implementation_;
+    std::unique_ptr<FileHandle> file_;
 };
 
 } // namespace toolkit

@@ -139,6 +139,24 @@ TEST_F(Delivery, QueuedCloseWaitsForAProcedureThatBeganMeanwhile) {
     EXPECT_EQ(times("asked"), 1);
 }
 
+TEST_F(Delivery, TheFormIsToldBeforeEachEnd) {
+    overrideProgram({.throwAtEnd = true});
+    form.Ending = [this] { note("ending"); };
+    card.Click = [] { endProgram(); };
+    EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
+    EXPECT_EQ(times("ending"), 1);
+    card.Click = [] { leaveProgram(); };
+    EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
+    EXPECT_EQ(times("ending"), 2);
+}
+
+TEST_F(Delivery, WhatFailsBeforeAnEndDoesntHoldItUp) {
+    overrideProgram({.throwAtEnd = true});
+    form.Ending = [] { throw RunTimeError(Failure::DiskFull); };
+    card.Click = [] { endProgram(); };
+    EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
+}
+
 TEST_F(Delivery, EndInTheQuestionReachesTheTest) {
     overrideProgram({.throwAtEnd = true});
     form.QueryClose = []() -> bool { endProgram(); };

@@ -51,6 +51,60 @@ TEST_F(SessionEndTest, ARefusalKeepsTheProgramRunning) {
     EXPECT_EQ(log.back(), "still running");
 }
 
+/// By default the second one would kill: the question that was cancelled had been the only one.
+TEST_F(SessionEndTest, EachSignalAsksAnew) {
+    int asked = 0;
+    form.QueryEnd = [&] {
+        if (++asked < 3) test::whenRunning([] { std::raise(SIGTERM); });
+        return asked < 3;
+    };
+    EXPECT_EQ(runWith(SIGTERM), 0);
+    EXPECT_EQ(asked, 3);
+}
+
+TEST_F(SessionEndTest, ASignalDuringTheQuestionIsThatQuestion) {
+    form.QueryEnd = [this] {
+        note("end");
+        std::raise(SIGTERM);
+        wait(1);
+        test::whenRunning([] { Application::quit(); });
+        return true;
+    };
+    EXPECT_EQ(runWith(SIGTERM), 0);
+    EXPECT_EQ(times("end"), 1);
+}
+
+TEST_F(SessionEndTest, TheFormIsToldBeforeItIsAsked) {
+    form.Ending = [this] { note("ending"); };
+    form.QueryEnd = [this] {
+        note("end");
+        return false;
+    };
+    EXPECT_EQ(runWith(SIGTERM), 0);
+    ASSERT_GE(log.size(), 2U);
+    EXPECT_LT(std::ranges::find(log, "ending"), std::ranges::find(log, "end"));
+}
+
+/// The answer may never come.
+TEST_F(SessionEndTest, InTheMiddleOfAProcedureTheFormIsToldAtOnceAndAskedLater) {
+    form.Ending = [this] { note("ending"); };
+    form.QueryEnd = [this] {
+        note("end");
+        return false;
+    };
+    card.Click = [this] {
+        std::raise(SIGTERM);
+        wait(1);
+        note("procedure over");
+    };
+    test::whenRunning([] { test::click(px(300), px(200)); });
+    EXPECT_EQ(application->run(), 0);
+    const auto at = [this](const char* line) { return std::ranges::find(log, line); };
+    EXPECT_LT(at("ending"), at("procedure over"));
+    EXPECT_LT(at("procedure over"), at("end"));
+    EXPECT_NE(at("end"), log.end());
+}
+
 } // namespace
 } // namespace window_test
 

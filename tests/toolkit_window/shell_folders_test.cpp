@@ -1,7 +1,10 @@
 // Folders of the program and of the desktop, and what is opened there.
 #include "fixture.h"
 
+#include <cstdlib>
 #include <filesystem>
+
+#include "support/system.h"
 
 namespace window_test {
 namespace {
@@ -26,6 +29,29 @@ TEST_F(ShellFolders, DocumentsFolderIsMadeWhenAbsent) {
     std::filesystem::remove_all(folder.parent_path());
     overrideProgram({.noDocuments = true});
     EXPECT_TRUE(specialFolder(5).empty());
+}
+
+#ifndef _WIN32
+TEST_F(ShellFolders, TheStateFolderIsThatOfTheDesktop) {
+    const auto folderWith = [](const char* state) {
+        test_system::setVariable("XDG_STATE_HOME", state);
+        auto folder = stateFolder();
+        test_system::clearVariable("XDG_STATE_HOME");
+        return folder;
+    };
+    EXPECT_EQ(folderWith("/some/state"), "/some/state/zevlin");
+    const std::filesystem::path home = std::getenv("HOME");
+    EXPECT_EQ(stateFolder(), home / ".local/state/zevlin");
+    // By the standard only a whole path counts.
+    EXPECT_EQ(folderWith("state"), home / ".local/state/zevlin");
+    EXPECT_EQ(folderWith(""), home / ".local/state/zevlin");
+}
+#endif
+
+TEST_F(ShellFolders, TheStateFolderForTestsIsGivenAndNotMade) {
+    overrideProgram({.stateFolder = "/nowhere/state"});
+    EXPECT_EQ(stateFolder(), "/nowhere/state");
+    EXPECT_FALSE(std::filesystem::exists("/nowhere"));
 }
 
 TEST_F(ShellFolders, LaunchesAreToldToATest) {
