@@ -21,9 +21,7 @@ namespace fs = std::filesystem;
 constexpr int journalDelay = 1500;
 
 /// A job or a rebuild has the card in its hands: what the controls hold isn't the player's card.
-bool isCardAway(const Zevlin& form) {
-    return form.Printing || form.Carried || form.Journal.isHeld;
-}
+bool isCardAway(const Zevlin& form) { return form.Printing || form.Carried || form.Journal.isHeld; }
 
 std::string journalText(const Zevlin& form) {
     RescuedCard card;

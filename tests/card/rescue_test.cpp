@@ -61,6 +61,25 @@ TEST_F(RescueTest, BringsTheCardBackWithNameContentAndStar) {
     EXPECT_TRUE(fs::exists(journal()));
 }
 
+TEST_F(RescueTest, KnowsWhatAnotherProgramHasMadeOfTheFileMeanwhile) {
+    start();
+    openCard("Jones", {});
+    clickMark(2);
+    kill();
+    answer(toolkit::Answer::Yes);
+    SecondRun run(window);
+    const std::string theirs = cardFile({.marks = {"3,1,0"}});
+    writeCard("Jones", theirs);
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    EXPECT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs);
+    writeCard("Jones", cardFile({}));
+    choose("File>Save");
+    EXPECT_EQ(boxes.size(), 2U);
+    EXPECT_NE(dataFileContent("Jones.zev").find("2,1,0"), std::string::npos);
+}
+
 TEST_F(RescueTest, IsAskedBeforeThePlayerSeesAnythingElse) {
     leave(1, "Jones", "text");
     bool wasShown = true;
