@@ -7,7 +7,7 @@ namespace {
 
 class FileFailures : public FormTest {
   protected:
-    FileFailures() { form.DataFolder = "/home/kim/ZEV"; }
+    FileFailures() { form.DataFolder = dataFolder; }
     void note(std::string_view what, toolkit::Failure failure) {
         noteFileFailure(form, what, toolkit::RunTimeError(failure));
     }
@@ -19,10 +19,11 @@ TEST_F(FileFailures, AreToldInOneBoxALineEach) {
     tellFileFailures(form);
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].text,
-              "Zevlin could not use its folder '/home/kim/ZEV' as it should:\n"
-              "\n    The settings (ZEV.Ini): Disk full"
-              "\n    A temporary copy of the card ($$Tempcard.zev): Permission denied"
-              "\n\nYour card is not affected.  Zevlin keeps it, and goes on.");
+              "Zevlin could not use its folder '" + dataFolder.string() +
+                  "' as it should:\n"
+                  "\n    The settings (ZEV.Ini): Disk full"
+                  "\n    A temporary copy of the card ($$Tempcard.zev): Permission denied"
+                  "\n\nYour card is not affected.  Zevlin keeps it, and goes on.");
     EXPECT_EQ(boxes[0].icon, toolkit::Icon::Exclamation);
 }
 
