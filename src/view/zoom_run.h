@@ -6,17 +6,23 @@
 
 namespace zev {
 
+/// Zooming for as long as it lives.
+class ZoomFlag {
+  public:
+    explicit ZoomFlag(Zevlin& form) : form_(form) { form_.Zooming = true; }
+    ZoomFlag(const ZoomFlag&) = delete;
+    ZoomFlag& operator=(const ZoomFlag&) = delete;
+    ~ZoomFlag() { form_.Zooming = false; }
+
+  private:
+    Zevlin& form_;
+};
+
 /// Does `body` as a zoom: the open editor is committed first, and what it reaches can tell it from
 /// the player's own doing.
 template <typename Body>
 void runZoom(Zevlin& form, Body body) {
-    const struct Flag {
-        explicit Flag(bool& flag) : zooming(flag) { zooming = true; }
-        Flag(const Flag&) = delete;
-        Flag& operator=(const Flag&) = delete;
-        ~Flag() { zooming = false; }
-        bool& zooming;
-    } zooming(form.Zooming);
+    const ZoomFlag zooming(form);
     PositionSave(form);
     body();
     PositionRestore(form);
