@@ -52,21 +52,23 @@ bool isEditing(const Zevlin& form) {
     return form.TIndex > 0 && (form.CText.Visible || form.LText.Visible);
 }
 
+toolkit::TextBox& openBox(Zevlin& form) { return form.LText.Visible ? form.LText : form.CText; }
+
 void changeAlignment(Zevlin& form, toolkit::Alignment alignment) {
     const bool center = alignment == toolkit::Alignment::Center;
     toolkit::TextBox& from = center ? form.LText : form.CText;
     toolkit::TextBox& to = center ? form.CText : form.LText;
+    // The Tag is older than what was typed, and the box that is open need not be the field's: all
+    // fields may have been justified since.
+    const std::string typed = openBox(form).Text;
     form.AText[form.TIndex].Alignment = alignment;
     SetTextBox(form, to, form.TIndex);
-    // The Tag is older than what was typed.
-    to.Text = from.Text;
+    to.Text = typed;
     to.Visible = true;
     // The focus moves on before the box goes, and nothing of the field is committed yet.
     from.Visible = false;
     form.ActiveControl = &to;
 }
-
-toolkit::TextBox& openBox(Zevlin& form) { return form.LText.Visible ? form.LText : form.CText; }
 
 /// A menu command and its key are one path.
 void pressKey(Zevlin& form, std::string_view name, int key) {

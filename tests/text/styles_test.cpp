@@ -62,6 +62,15 @@ TEST_F(Styles, CtrlLTurnsTheAlignmentAndKeepsWhatWasTyped) {
     EXPECT_FALSE(form.mpopLeft.Checked);
 }
 
+TEST_F(Styles, CtrlLKeepsWhatWasTypedWhereAllFieldsWereJustifiedMeanwhile) {
+    startSmall();
+    openWith("North");
+    ASSERT_TRUE(toolkit::test::chooseMenu("Options>Left-Justify all text"));
+    ctrl('L');
+    EXPECT_EQ(form.AText[1].Tag, "North");
+    EXPECT_EQ(form.AText[1].Alignment, toolkit::Alignment::Center);
+}
+
 TEST_F(Styles, CtrlGHighlightsTheFieldAndClosesIt) {
     startSmall();
     openWith("North");
