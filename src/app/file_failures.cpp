@@ -26,6 +26,12 @@ void noteFileFailure(Zevlin& form, std::string_view what, const toolkit::RunTime
         form.FileFailures.push_back(std::move(line));
 }
 
+void forgetFileFailure(Zevlin& form, std::string_view what) {
+    const std::string head = std::string(what) + ": ";
+    std::erase_if(form.FileFailures,
+                  [&head](const std::string& line) { return line.starts_with(head); });
+}
+
 void tellFileFailures(Zevlin& form) {
     const auto failures = std::exchange(form.FileFailures, {});
     if (failures == std::exchange(form.FileFailuresTold, failures) || failures.empty()) return;

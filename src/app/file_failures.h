@@ -17,6 +17,9 @@ constexpr std::string_view copyFailure = "A temporary copy of the card ($$Tempca
 
 void noteFileFailure(Zevlin& form, std::string_view what, const toolkit::RunTimeError& failure);
 
+/// What was noted of it and isn't told yet has been done since.
+void forgetFileFailure(Zevlin& form, std::string_view what);
+
 /// Shows what was noted, unless that very box was the last one and nothing has succeeded since.
 void tellFileFailures(Zevlin& form);
 

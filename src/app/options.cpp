@@ -197,6 +197,8 @@ void writeOptionsFile(Zevlin& form) {
         toolkit::writeFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
                            writeOptions(documentOf(form)));
     });
+    // Whatever failed before, by the time it is told the settings stand in the file.
+    if (!form.OptionsUnwritten) forgetFileFailure(form, optionsFailure);
 }
 
 } // namespace

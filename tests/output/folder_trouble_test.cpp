@@ -301,6 +301,16 @@ TEST_F(FolderTroubleTest, IsToldAgainAfterItWasMended) {
     }
 }
 
+TEST_F(FolderTroubleTest, IsNotToldOfSettingsThatWereWrittenSince) {
+    startWithChangedCard();
+    fs::rename(dataFolder, home / "gone");
+    EXPECT_TRUE(toolkit::test::chooseMenu("Options>Boldface"));
+    fs::rename(home / "gone", dataFolder);
+    run(works[0]);
+    EXPECT_TRUE(told().empty()) << told().front();
+    EXPECT_NE(dataFileContent("ZEV.Ini").find("\r\nBold=1"), std::string::npos);
+}
+
 TEST_F(FolderTroubleTest, SettingsThatCantBeReadStayInMemory) {
     startWithChangedCard();
     form.MyName = "Someone";
