@@ -42,6 +42,7 @@ class SmallDisk {
     void makeReadOnly() const {
         mount("none", folder_.c_str(), nullptr, MS_REMOUNT | MS_RDONLY, nullptr);
     }
+    void makeWritable() const { mount("none", folder_.c_str(), nullptr, MS_REMOUNT, nullptr); }
     void giveRoom() const { std::filesystem::remove(folder_ / fillerName); }
 
   private:

@@ -1,0 +1,195 @@
+// The monkey's home, its dice, and the course of its events.
+#include "monkey/monkey.h"
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+
+#include "toolkit/clock.h"
+#include "toolkit/files.h"
+#include "toolkit/gif_file.h"
+#include "toolkit/indexed_picture.h"
+#include "toolkit/print_dialog.h"
+#include "toolkit/printer.h"
+#include "toolkit/screen.h"
+
+namespace zev::test {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A small card is made anew in a moment.
+toolkit::IndexedPicture smallPicture() {
+    constexpr int width = 900;
+    constexpr int height = 930;
+    toolkit::IndexedPicture picture{width, height, {0xFFFFFFFFU, 0xFF203040U}, {}};
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
+            picture.indices.push_back(x % 100 == 0 || y % 90 == 0 ? 1 : 0);
+    return picture;
+}
+
+/// Marks and texts with much room between them, and a walk through all of them.
+std::string smallCard() {
+    std::vector<SmallField> marks;
+    for (int i = 0; i < 12; ++i)
+        marks.push_back({.left = static_cast<float>(60 + 180 * (i % 6)),
+                         .top = static_cast<float>(60 + 120 * (i / 6)),
+                         .width = 30,
+                         .height = 30,
+                         .color = 1 + i % 3,
+                         .size = 3,
+                         .symbol = i % 4 == 3 ? 161 : 252});
+    std::vector<SmallField> texts;
+    for (int i = 0; i < 6; ++i)
+        texts.push_back({.left = static_cast<float>(60 + 560 * (i % 2)),
+                         .top = static_cast<float>(330 + 90 * (i / 2)),
+                         .width = 420,
+                         .height = 24,
+                         .color = 1 + i % 3,
+                         .size = i == 5 ? 3 : 1 + i % 2});
+    return smallLayout(marks, texts,
+                       "1,1001\r\n1001,1002\r\n1002,2\r\n2,3\r\n3,1005\r\n1005,1006\r\n1006,4\r\n"
+                       "4,5\r\n5,6\r\n6,1012\r\n1012,1\r\n",
+                       1012);
+}
+
+/// A fit beyond the picture's full size isn't shown, and leaving it leaves the fields behind.
+constexpr float screenTwips = 12900;
+constexpr double clockStart = 1795000000;
+
+} // namespace
+
+Monkey::Monkey() {
+    toolkit::overrideScreen({.width = screenTwips, .height = screenTwips});
+    toolkit::overrideClock(clockStart);
+    toolkit::answerDialogsWith(
+        {.message = [this](const toolkit::MessageBox& box) { return answerBox(box); },
+         .input = [this](const toolkit::InputBox& box) { return answerInputBox(box); },
+         .popup = [this](std::span<const toolkit::PopupRow> rows) { answerPopupMenu(rows); },
+         .file = [this](const toolkit::FileQuestion&) { return answerFileQuestion(); }});
+}
+
+Monkey::~Monkey() {
+    toolkit::answerPrinterSetupWith({});
+    window.reset();
+    zevlin_.reset();
+    secondCopy_.reset();
+    troubles_.reset();
+}
+
+std::size_t Monkey::pick(std::size_t count) { return random_() % count; }
+
+void Monkey::draw(std::span<const Choice> choices) {
+    int weights = 0;
+    for (const Choice& choice : choices) weights += choice.weight;
+    auto drawn = static_cast<int>(pick(static_cast<std::size_t>(weights)));
+    for (const Choice& choice : choices) {
+        drawn -= choice.weight;
+        if (drawn < 0) return (this->*choice.act)();
+    }
+}
+
+void Monkey::setUpHome(const Course& course) {
+    troubles_ = std::make_unique<Troubles>(dataFolder, home / "state");
+    baseLayout_ = course.onInstalledLayout ? toolkit::readFile(programFolder / "Definitions.Ini.15")
+                                           : smallCard();
+    if (!course.onInstalledLayout) {
+        toolkit::writeFile(programFolder / "Definitions.Ini.15", baseLayout_);
+        toolkit::writeFile(dataFolder / "Convention card.gif", toolkit::gifFile(smallPicture()));
+    }
+    writeLayout(baseLayout_);
+    writeOptions("Zoom=5\r\nName=Kim\r\n");
+}
+
+void Monkey::run(const Course& course) {
+    random_.seed(course.seed);
+    setUpHome(course);
+    startAgain();
+    baseMarks_ = zevlin().AMark.UBound();
+    baseTexts_ = zevlin().AText.UBound();
+    while (events_ < course.events && !HasFailure()) step();
+    std::cout << "seed " << course.seed << ": " << events_ << " events, " << saves_ << " saves, "
+              << jobs_ << " jobs, " << troubleCount_ << " troubles, " << deaths_ << " deaths, "
+              << rescues_ << " rescues, digest " << digest_ << std::endl;
+    if (!HasFailure()) return;
+    std::string last;
+    for (const std::string& event : history_) last += "\n  " + event;
+    ADD_FAILURE() << "seed " << course.seed << " at event " << events_
+                  << ", the last ones:" << last;
+}
+
+void Monkey::step() {
+    ++events_;
+    asked_.clear();
+    chosen_.clear();
+    doing_.clear();
+    mayKill_ = badTarget_ = badCard_ = adoptNow_ = isSettled_ = false;
+    popupRow_ = -1;
+    try {
+        act();
+        toolkit::test::settle();
+    } catch (const Killed&) {
+        noteKilled();
+    } catch (const toolkit::ProgramEnded&) {
+        noteEnded();
+    } catch (const std::exception& failure) {
+        ADD_FAILURE() << "an exception escaped: " << failure.what();
+    }
+    if (!HasFailure()) check();
+    constexpr std::size_t told = 25;
+    for (const Asked& asked : asked_)
+        doing_ += " | " + asked.text.substr(0, told) + ": " +
+                  std::to_string(static_cast<int>(asked.answer));
+    for (const Chosen& chosen : chosen_) doing_ += " | chosen '" + chosen.name + "'";
+    history_.push_back(doing_);
+    if (history_.size() > told) history_.pop_front();
+}
+
+void Monkey::act() {
+    if (zevlin().THelp.Visible) return doAnything();
+    if (zevlin().MShowShapes.Checked) return design();
+    constexpr auto inBox = std::to_array<Choice>({{30, &Monkey::typeSome},
+                                                  {12, &Monkey::editByKey},
+                                                  {6, &Monkey::typeSuit},
+                                                  {8, &Monkey::leaveField},
+                                                  {5, &Monkey::styleByKey},
+                                                  {4, &Monkey::undoTyping},
+                                                  {4, &Monkey::copySome},
+                                                  {4, &Monkey::pasteSome}});
+    if (isInBox() && chance(50)) return draw(inBox);
+    constexpr auto everywhere = std::to_array<Choice>({{160, &Monkey::clickAMark},
+                                                       {140, &Monkey::clickAText},
+                                                       {20, &Monkey::styleByPopup},
+                                                       {40, &Monkey::walkByKey},
+                                                       {40, &Monkey::spaceOnCard},
+                                                       {60, &Monkey::doAnything},
+                                                       {30, &Monkey::moveCard},
+                                                       {22, &Monkey::zoomSome},
+                                                       {12, &Monkey::changeTextOptions},
+                                                       {5, &Monkey::chooseColor},
+                                                       {10, &Monkey::nameSomebody},
+                                                       {8, &Monkey::makeNew},
+                                                       {20, &Monkey::saveIt},
+                                                       {5, &Monkey::saveItAs},
+                                                       {12, &Monkey::openOne},
+                                                       {5, &Monkey::printOrExport},
+                                                       {2, &Monkey::setUpPrinter},
+                                                       {2, &Monkey::showHelp},
+                                                       {3, &Monkey::copyElsewhere},
+                                                       {2, &Monkey::exchangePrinters},
+                                                       {20, &Monkey::passTime},
+                                                       {2, &Monkey::shiftTheWindow},
+                                                       {1, &Monkey::switchTrace},
+                                                       {5, &Monkey::enterDesign},
+                                                       {8, &Monkey::bringTrouble},
+                                                       {14, &Monkey::mendTrouble},
+                                                       {6, &Monkey::workBehind},
+                                                       {3, &Monkey::runSecondCopy},
+                                                       {3, &Monkey::endSecondCopy},
+                                                       {6, &Monkey::killIt},
+                                                       {3, &Monkey::exitIt}});
+    draw(everywhere);
+}
+
+} // namespace zev::test
