@@ -104,13 +104,35 @@ class Leaving(whole_program.WholeProgramTest):
         program.process.send_signal(signal.SIGTERM)
         self.assertEqual(program.wait_for_end(), 0)
 
-    def test_a_second_signal_ends_it_in_the_middle_of_a_question(self):
+    def test_a_second_signal_while_the_question_is_up_asks_it_no_second_time(self):
         program = self.changed_card()
         program.process.send_signal(signal.SIGTERM)
-        program.wait_for_box(QUESTION)
+        box = program.wait_for_box(QUESTION)
         program.process.send_signal(signal.SIGTERM)
-        self.assertEqual(program.wait_for_end(), -signal.SIGTERM)
+        # What was sent after it has been dealt with, so the signal has.
+        program.focus(box)
+        before = desktop.screenshot().bytes
+        desktop.xdotool("key", "Tab")
+        desktop.wait_for("another button with the focus",
+                         lambda: desktop.screenshot().bytes != before)
+        self.assertEqual(program.boxes(), [box])
+        program.answer(box, "Escape")
+        self.assertRegex(program.title(), r"\( Two Over One \) \*$")
         self.assertEqual(self.home.records("Two Over One")[0], self.marks)
+        # No second box is in the way.
+        program.press("ctrl+s")
+        program.wait_for_title(r"\( Two Over One \)$")
+
+    def test_each_signal_after_a_cancelled_question_asks_anew(self):
+        program = self.changed_card()
+        for ending in (signal.SIGTERM, signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
+            program.process.send_signal(ending)
+            program.answer(program.wait_for_box(QUESTION), "Escape")
+            self.assertRegex(program.title(), r"\( Two Over One \) \*$")
+        program.process.send_signal(signal.SIGTERM)
+        program.answer(program.wait_for_box(QUESTION), "alt+y")
+        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(self.home.records("Two Over One")[0], self.marks ^ {self.mark})
 
     def test_a_lost_screen_ends_it_without_a_crash(self):
         self.leave(self.start_for_the_first_time())
