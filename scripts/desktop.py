@@ -167,8 +167,8 @@ def layout_fields(home):
 
 class Program:
     """The program in a home, from its start to its end. A start without a card's name must be the
-    first one in its home; later ones ask for a card. `answers` are the titles of the boxes that come
-    before the window, each with the key that answers it."""
+    first one in its home, or get a card back; others ask for a card. `answers` are the titles of the
+    boxes that come before the window, each with what answers it."""
 
     def __init__(self, home, *arguments, dots_per_inch=96, magnified=1, answers=()):
         self.home = home
@@ -193,8 +193,8 @@ class Program:
         if is_first:
             # Says that the player's files were moved to the data folder.
             self.answer(self.wait_for_box("^Zevlin$"), "Return")
-        for title, key in answers:
-            self.answer(self.wait_for_box(title), key)
+        for title, keys in answers:
+            self.answer(self.wait_for_box(title), keys)
         self.window = wait_for("the program's window", lambda: self.windows(r"^Zevlin  ?[-(]"))[0]
 
     def windows(self, title="."):
@@ -268,12 +268,15 @@ class Program:
                 subprocess.run(["xdotool", "windowactivate", box], capture_output=True, timeout=20)
         raise TimeoutError(f"waited in vain for a box {title} with the focus")
 
-    def answer(self, box, key):
-        """Presses a key in a box and waits until it is gone."""
+    def answer(self, box, keys):
+        """Presses a key, or one after the other of several, in a box and waits until it is gone."""
+        keys = [keys] if isinstance(keys, str) else list(keys)
         self.focus(box)
         if self.home.focuses_itself:
-            return self.answer_holding(box, key)
-        xdotool("key", "--clearmodifiers", key)
+            for key in keys[:-1]:
+                xdotool("key", key)
+            return self.answer_holding(box, keys[-1])
+        xdotool("key", "--clearmodifiers", *keys)
         self.wait_until_gone(box)
 
     def answer_holding(self, box, key):

@@ -1,10 +1,10 @@
 """Leaving the program with and without unsaved changes: by its window, by its menu, and because the
 session ends."""
 
-import os
 import signal
 import subprocess
 
+import virtual_screen
 import whole_program
 from whole_program import desktop
 
@@ -136,37 +136,13 @@ class Leaving(whole_program.WholeProgramTest):
 
     def test_a_lost_screen_ends_it_without_a_crash(self):
         self.leave(self.start_for_the_first_time())
-        with Screen() as screen:
+        with virtual_screen.Screen() as screen:
             self.home.environment = {"DISPLAY": screen.name}
             program = subprocess.Popen([*self.home.command(), "Two Over One"], cwd=self.home.folder,
                                        env=self.home.usual_environment() | self.home.environment)
             screen.wait_for_window(program)
         self.assertEqual(program.wait(timeout=30), 1)
         self.assertTrue(self.home.card("Two Over One").exists())
-
-
-class Screen:
-    """A screen that goes away with its server."""
-
-    def __enter__(self):
-        reading, writing = os.pipe()
-        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(writing), "-nolisten", "tcp"],
-                                       pass_fds=[writing], stderr=subprocess.DEVNULL)
-        os.close(writing)
-        with os.fdopen(reading) as numbers:
-            self.name = f":{numbers.readline().strip()}"
-        return self
-
-    def wait_for_window(self, program):
-        command = ["xdotool", "search", "--onlyvisible", "--pid", str(program.pid), "--name",
-                   r"^Zevlin  \("]
-        environment = os.environ | {"DISPLAY": self.name}
-        desktop.wait_for("the window", lambda: subprocess.run(
-            command, env=environment, capture_output=True, timeout=20).stdout)
-
-    def __exit__(self, *failure):
-        self.server.kill()
-        self.server.wait(timeout=10)
 
 
 if __name__ == "__main__":
