@@ -6,6 +6,7 @@
 #include "app/options.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "card/journal.h"
 #include "card/modified.h"
 #include "design/design_mode.h"
 #include "layout/check_point.h"
@@ -81,6 +82,7 @@ void toggleBold(Zevlin& form) {
         layOutAnew(form, i);
     });
     form.CText.Font.Bold = form.LText.Font.Bold = form.mBold.Checked;
+    noteChange(form);
 }
 
 void toggleLeftJustify(Zevlin& form) {
@@ -91,6 +93,7 @@ void toggleLeftJustify(Zevlin& form) {
         form.AText[i].Alignment = alignment;
         layOutAnew(form, i);
     });
+    noteChange(form);
 }
 
 } // namespace

@@ -54,6 +54,19 @@ TEST_F(Journal, HoldsTheCardsNamePartnerTextsAndStyles) {
     EXPECT_EQ(content().file.size, fs::file_size(dataFile("Jones.zev")));
 }
 
+/// They are no change by themselves, but part of what would be saved.
+TEST_F(Journal, OfAChangedCardHoldsTheStylesThatAllFieldsGot) {
+    start();
+    clickMark(1);
+    toolkit::test::elapseAlarms();
+    choose("Options>Left-Justify all text");
+    toolkit::test::elapseAlarms();
+    EXPECT_EQ(content().document.texts[0].switches, text_switch::left);
+    choose("Options>Boldface");
+    toolkit::test::elapseAlarms();
+    EXPECT_EQ(content().document.texts[0].switches, text_switch::left | text_switch::bold);
+}
+
 TEST_F(Journal, HoldsWhatIsTypedIntoAnOpenField) {
     start();
     typeInOpenField(1, "half a wor");

@@ -63,7 +63,8 @@ void Monkey::workBehind() {
 }
 
 void Monkey::runSecondCopy() {
-    if (secondCopy_ || troubles_->hindersJournal()) return;
+    // Where the folder was emptied the first copy's number is free, and it may still use it.
+    if (secondCopy_ || journalDoubtful_) return;
     doing_ = "a second copy";
     secondCopy_ = std::make_unique<Zevlin>();
     Zevlin& copy = *secondCopy_;
