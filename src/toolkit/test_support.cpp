@@ -112,6 +112,8 @@ void settle() {
     rethrowKept();
 }
 
+void endEvent() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+
 Bitmap grabCard() { return grab(window().card()); }
 Bitmap grabCardAt(double pixelRatio) { return grab(window().card(), pixelRatio); }
 Bitmap grabWindow() { return grab(window().form()); }

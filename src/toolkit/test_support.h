@@ -77,6 +77,9 @@ void endSession();
 void whenRunning(std::function<void()> act);
 /// Lets everything that waits in the queue run.
 void settle();
+/// Deletes what waits for its end until the event loop has come round, as between two events of the
+/// running program.
+void endEvent();
 /// The card's timers run out now.
 void elapseCardTimers();
 /// The program's alarms run out now.

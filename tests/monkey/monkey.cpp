@@ -5,10 +5,10 @@
 #include <array>
 #include <iostream>
 
+#include "monkey/small_card.h"
 #include "toolkit/clock.h"
 #include "toolkit/files.h"
 #include "toolkit/gif_file.h"
-#include "toolkit/indexed_picture.h"
 #include "toolkit/print_dialog.h"
 #include "toolkit/printer.h"
 #include "toolkit/screen.h"
@@ -17,42 +17,6 @@ namespace zev::test {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A small card is made anew in a moment.
-toolkit::IndexedPicture smallPicture() {
-    constexpr int width = 900;
-    constexpr int height = 930;
-    toolkit::IndexedPicture picture{width, height, {0xFFFFFFFFU, 0xFF203040U}, {}};
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            picture.indices.push_back(x % 100 == 0 || y % 90 == 0 ? 1 : 0);
-    return picture;
-}
-
-/// Marks and texts with much room between them, and a walk through all of them.
-std::string smallCard() {
-    std::vector<SmallField> marks;
-    for (int i = 0; i < 12; ++i)
-        marks.push_back({.left = static_cast<float>(60 + 180 * (i % 6)),
-                         .top = static_cast<float>(60 + 120 * (i / 6)),
-                         .width = 30,
-                         .height = 30,
-                         .color = 1 + i % 3,
-                         .size = 3,
-                         .symbol = i % 4 == 3 ? 161 : 252});
-    std::vector<SmallField> texts;
-    for (int i = 0; i < 6; ++i)
-        texts.push_back({.left = static_cast<float>(60 + 560 * (i % 2)),
-                         .top = static_cast<float>(330 + 90 * (i / 2)),
-                         .width = 420,
-                         .height = 24,
-                         .color = 1 + i % 3,
-                         .size = i == 5 ? 3 : 1 + i % 2});
-    return smallLayout(marks, texts,
-                       "1,1001\r\n1001,1002\r\n1002,2\r\n2,3\r\n3,1005\r\n1005,1006\r\n1006,4\r\n"
-                       "4,5\r\n5,6\r\n6,1012\r\n1012,1\r\n",
-                       1012);
-}
 
 /// A fit beyond the picture's full size isn't shown, and leaving it leaves the fields behind.
 constexpr float screenTwips = 12900;
@@ -129,6 +93,7 @@ void Monkey::step() {
     try {
         act();
         toolkit::test::settle();
+        toolkit::test::endEvent();
     } catch (const Killed&) {
         noteKilled();
     } catch (const toolkit::ProgramEnded&) {

@@ -1,0 +1,41 @@
+// How much memory this process uses, by the C library's count and by the system's.
+#pragma once
+
+#include <cstddef>
+#include <fstream>
+#include <string>
+
+#include <malloc.h>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#endif
+
+namespace test_system {
+
+/// Bytes that were taken from the heap and not given back.
+inline std::size_t heapInUse() {
+#ifdef __SANITIZE_ADDRESS__
+    return __sanitizer_get_current_allocated_bytes();
+#else
+    const auto info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+#endif
+}
+
+/// Bytes that the process has in memory. The C library keeps what was given back to it, as much as
+/// happens to lie between what is in use: it is asked to give that to the system before.
+inline std::size_t residentMemory() {
+    malloc_trim(0);
+    std::ifstream status("/proc/self/status");
+    constexpr std::size_t bytes = 1024;
+    for (std::string word; status >> word;) {
+        if (word != "VmRSS:") continue;
+        std::size_t kilobytes = 0;
+        status >> kilobytes;
+        return kilobytes * bytes;
+    }
+    return 0;
+}
+
+} // namespace test_system

@@ -1,0 +1,80 @@
+// The program goes on for hours: what it does over and over keeps no memory. A longer run is the
+// benchmark "soak".
+#include "monkey/heap.h"
+#include "monkey/small_card.h"
+#include "support/form_test.h"
+#include "toolkit/clock.h"
+#include "toolkit/files.h"
+#include "toolkit/gif_file.h"
+#include "toolkit/key.h"
+
+namespace zev::test {
+namespace {
+
+class Soak : public FormTest {
+  protected:
+    /// Half a walk down the ladder of sizes and back.
+    void zoom(int steps) {
+        for (int i = 0; i < steps; ++i) {
+            toolkit::test::typeKey(i % 10 < 5 ? toolkit::key::minus : toolkit::key::plus,
+                                   toolkit::shift::ctrl);
+            toolkit::test::endEvent();
+        }
+    }
+    void saveAndOpen(int times) {
+        for (int i = 0; i < times; ++i) {
+            clickMark(1 + i % 5);
+            choose("File>Save");
+            answerChooser([this] {
+                const auto point = toolkit::test::pointOnRow(form.FileList, 0);
+                toolkit::test::doubleClick(point.x, point.y);
+            });
+            choose("File>Open...");
+        }
+    }
+    void print(int times) {
+        for (int i = 0; i < times; ++i) {
+            answerFile(home / "page.pdf");
+            choose("File>Print card");
+        }
+    }
+    /// As much of everything.
+    void work(int times) {
+        zoom(20 * times);
+        saveAndOpen(3 * times);
+        print(times);
+        // The test's own notes.
+        fileQuestions = {};
+        choosers = {};
+    }
+    static void choose(std::string_view item) {
+        EXPECT_TRUE(toolkit::test::chooseMenu(item));
+        toolkit::test::endEvent();
+    }
+};
+
+TEST_F(Soak, NothingThatIsDoneOverAndOverKeepsMemory) {
+    toolkit::overrideClock(1795000000);
+    writeOptions("Zoom=9\r\n");
+    writeLayout(smallCard());
+    toolkit::writeFile(dataFile("Convention card.gif"), toolkit::gifFile(smallPicture()));
+    start();
+    clickText(3);
+    toolkit::test::typeText("2^h & more");
+    answerName("Jones");
+    choose("File>Save");
+    // What is made once: fonts of each size, pictures, the lines of the trace.
+    constexpr int warmUp = 4;
+    constexpr int rounds = 15;
+    work(warmUp);
+    const std::size_t before = test_system::heapInUse();
+    work(rounds);
+    const std::size_t after = test_system::heapInUse();
+    // Lines of the trace and histories of boxes have their ups and downs; a field lost at each zoom
+    // would be more than this.
+    constexpr std::size_t tolerance = 32768;
+    EXPECT_LE(after, before + tolerance) << "of " << before;
+}
+
+} // namespace
+} // namespace zev::test
