@@ -40,7 +40,7 @@ struct AppState {
 
     std::string VersionSeen;    ///< last version that SkipComment found
     std::string OptionsVersion; ///< of the options file
-    bool OptionsRead = false;   ///< in this run
+    bool OptionsRead = false;   ///< or made by this run: the file's settings are in memory
     /// The first run brought the options along from an older installation.
     bool OptionsCarriedOver = false;
     std::string LayoutVersion; ///< of the layout file

@@ -50,7 +50,7 @@ void keepReplacedCard(const Move& move) {
         const fs::path kept = toolkit::resolveFile(move.target.parent_path(),
                                                    stem + " (" + toolkit::numberText(number) + ")" +
                                                        std::string(cardExtension));
-        if (!fs::exists(kept)) return toolkit::copyFile(move.target, kept);
+        if (!fs::exists(kept)) return toolkit::copyNewFile(move.target, kept);
         // Kept already, by a former first run.
         if (fs::is_regular_file(kept) && toolkit::readFile(kept) == content) return;
     }
@@ -62,11 +62,24 @@ bool isVerified(const Move& move) {
            toolkit::fileLength(move.source) == toolkit::fileLength(move.target);
 }
 
-void moveFile(const Move& move) {
-    if (!hasGoodTarget(move)) {
-        keepReplacedCard(move);
-        toolkit::copyFile(move.source, move.target);
+/// A file that turns up meanwhile is the player's, and stays.
+void copyWhereNoneIs(const Move& move) {
+    try {
+        toolkit::copyNewFile(move.source, move.target);
+    } catch (const toolkit::RunTimeError& failure) {
+        if (failure.failure() != toolkit::Failure::FileAlreadyExists) throw;
     }
+}
+
+/// Replaces only a file that was seen to be older.
+void copyToTarget(const Move& move) {
+    if (!fs::is_regular_file(move.target)) return copyWhereNoneIs(move);
+    keepReplacedCard(move);
+    toolkit::copyFile(move.source, move.target);
+}
+
+void moveFile(const Move& move) {
+    if (!hasGoodTarget(move)) copyToTarget(move);
     if (move.isShared || isReadme(move.lowerCaseName) || !isVerified(move)) return;
     ignoringFailures([&] { toolkit::deleteFile(move.source); });
 }
@@ -95,12 +108,6 @@ void moveFiles(const fs::path& source, const fs::path& sink) {
                   .lowerCaseName = lowerCaseName,
                   .isShared = isShared});
     }
-}
-
-/// Options that came along from an older installation and that nobody has read yet: the player's,
-/// while those in memory are none.
-bool hasUnreadOptions(const Zevlin& form) {
-    return !form.OptionsRead && toolkit::findFile(form.DataFolder, optionsFileName).has_value();
 }
 
 void hideMenuItem(Zevlin& form) {

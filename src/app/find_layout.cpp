@@ -47,6 +47,22 @@ constexpr std::string_view screenFontsQuestion =
     toolkit::endProgram();
 }
 
+bool isFolder(const std::filesystem::path& path) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(path, ignored);
+}
+
+/// False if there is one by now: the player's own, which was out of sight for a moment.
+bool copyWhereNoneIs(const std::filesystem::path& source, const std::filesystem::path& target) {
+    try {
+        toolkit::copyNewFile(source, target);
+        return true;
+    } catch (const toolkit::RunTimeError& failure) {
+        if (failure.failure() != toolkit::Failure::FileAlreadyExists) throw;
+        return false;
+    }
+}
+
 std::filesystem::path copyInstalledLayout(Zevlin& form, InitializeRun& run) {
     run.step = 1300;
     const std::string name = std::string(layoutFileName) + "." +
@@ -54,12 +70,12 @@ std::filesystem::path copyInstalledLayout(Zevlin& form, InitializeRun& run) {
     const auto installed = toolkit::findFile(toolkit::programFolder(), name);
     if (!installed && form.Carried) throw toolkit::RunTimeError(toolkit::Failure::FileNotFound);
     if (!installed) endWithoutLayout(name);
-    run.firstRun = !form.Carried;
-    form.LayoutCopied = true;
     run.step = 1350;
     auto target = form.DataFolder / layoutFileName;
     Traceit(form, "Initialize step 1350: creating " + toolkit::displayText(target));
-    toolkit::copyFile(*installed, target);
+    if (!copyWhereNoneIs(*installed, target)) return target;
+    run.firstRun = !form.Carried;
+    form.LayoutCopied = true;
     return target;
 }
 
@@ -85,6 +101,8 @@ std::filesystem::path findLayout(Zevlin& form, InitializeRun& run) {
         return *file;
     }
     Traceit(form, "Initialize step 1280: Definitions.Ini not found in " + folder);
+    if (form.Carried && !isFolder(form.DataFolder))
+        throw toolkit::RunTimeError(toolkit::Failure::PathNotFound);
     return copyInstalledLayout(form, run);
 }
 

@@ -9,7 +9,8 @@ struct Zevlin;
 struct InitializeRun;
 
 /// The layout in the data folder. A missing one is copied from the program folder, by the screen's
-/// resolution; where that is missing too, a box says so and the program ends.
+/// resolution, but never over one that turns up meanwhile; where that is missing too, a box says so
+/// and the program ends. In a rebuild that is failure 53, and a folder out of sight 76.
 [[nodiscard]] std::filesystem::path findLayout(Zevlin& form, InitializeRun& run);
 
 /// Asks once in a run, when the layout was made at another resolution, whether to take the

@@ -128,7 +128,7 @@ void showForm(Zevlin& form, const InitializeRun& run) {
     if (!form.Carried) toolkit::doEvents();
     form.Visible = true;
     if (!form.Carried) toolkit::doEvents();
-    if (!run.firstRun) return;
+    if (!run.firstRun || hasUnreadOptions(form)) return;
     if (!form.OptionsCarriedOver) {
         form.MFitScreenWidth.Checked = false;
         MFitScreenWidth_Click(form);
@@ -172,6 +172,8 @@ void Initialize(Zevlin& form) {
     InitializeRun run;
     try {
         runSteps(form, run);
+        // The player's options were out of sight for a moment: this is no first run.
+        if (run.firstRun && hasUnreadOptions(form)) runSteps(form, run = {});
     } catch (const std::exception&) {
         const auto failure = toolkit::currentFailure();
         if (!form.Carried) endFailedInitialize(form, failure, run.step);

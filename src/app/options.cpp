@@ -186,6 +186,18 @@ OptionsDocument documentOf(Zevlin& form) {
     return document;
 }
 
+/// A first run's file. One that turned up since the program looked for it is the player's.
+void writeFirstOptions(Zevlin& form, const std::filesystem::path& file,
+                       const std::string& content) {
+    try {
+        toolkit::writeNewFile(file, content);
+        form.OptionsRead = true;
+    } catch (const toolkit::RunTimeError& failure) {
+        if (failure.failure() != toolkit::Failure::FileAlreadyExists) throw;
+        Traceit(form, "IniWrite: ZEV.Ini is there and hasn't been read, so it stays as it is");
+    }
+}
+
 void writeOptionsFile(Zevlin& form) {
     // However a job ends, no start is to find its view: the rebuild takes it from memory.
     if (form.HasJobView) {
@@ -194,14 +206,22 @@ void writeOptionsFile(Zevlin& form) {
     }
     // A file that couldn't be written tells an old view.
     form.OptionsUnwritten = !trappedAndNoted(form, "Error in IniWrite ", optionsFailure, [&] {
-        toolkit::writeFile(toolkit::resolveFile(form.DataFolder, optionsFileName),
-                           writeOptions(documentOf(form)));
+        const auto file = toolkit::resolveFile(form.DataFolder, optionsFileName);
+        const std::string content = writeOptions(documentOf(form));
+        if (form.OptionsRead)
+            toolkit::writeFile(file, content);
+        else
+            writeFirstOptions(form, file, content);
     });
     // Whatever failed before, by the time it is told the settings stand in the file.
     if (!form.OptionsUnwritten) forgetFileFailure(form, optionsFailure);
 }
 
 } // namespace
+
+bool hasUnreadOptions(const Zevlin& form) {
+    return !form.OptionsRead && toolkit::findFile(form.DataFolder, optionsFileName).has_value();
+}
 
 void readOptions(Zevlin& form, std::string content) {
     form.OptionsRead = true;

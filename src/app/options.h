@@ -12,8 +12,12 @@ constexpr const char* optionsFileName = "ZEV.Ini";
 /// Applies an options file's content line by line; unknown keys are passed over.
 void readOptions(Zevlin& form, std::string content);
 
-/// Rewrites the options file from the present state. A failure is traced only. Where the printer
-/// isn't known yet, the file is written again when it is.
+/// Whether there is an options file that this run hasn't read: the player's, while the settings in
+/// memory are none.
+[[nodiscard]] bool hasUnreadOptions(const Zevlin& form);
+
+/// Rewrites the options file from the present state, but not one that this run hasn't read. A
+/// failure is traced only. Where the printer isn't known yet, the file is written again when it is.
 void IniWrite(Zevlin& form);
 
 /// At the program's end: what IniWrite couldn't tell yet of the printer.

@@ -26,9 +26,15 @@ bool closeFile(int file);
 /// Renames in one step, also over a file that is there.
 [[nodiscard]] std::error_code renameOver(const std::filesystem::path& source,
                                          const std::filesystem::path& target);
+/// Renames in one step where no file stands; EEXIST for one that is there.
+[[nodiscard]] std::error_code renameToNew(const std::filesystem::path& source,
+                                          const std::filesystem::path& target);
+/// What becomes of a file that is in the way.
+enum class Existing { Replaced, Kept };
 /// The same for an open file. Where the system renames no open file, it is closed before and -1.
 [[nodiscard]] std::error_code renameOpenFile(int& file, const std::filesystem::path& source,
-                                             const std::filesystem::path& target);
+                                             const std::filesystem::path& target,
+                                             Existing existing);
 /// Removes a file that is open or -1, and closes it.
 void removeOpenFile(int file, const std::filesystem::path& path);
 /// Waits until the names in the folder are on the disk, where a system has that and the player may

@@ -67,6 +67,8 @@ int openFile(const std::filesystem::path& path, FileMode mode) {
         return openWith(path, O_WRONLY | O_CREAT | O_APPEND);
     case FileMode::Update:
         return openWith(path, O_WRONLY);
+    case FileMode::New:
+        return openWith(path, O_WRONLY | O_CREAT | O_EXCL);
     case FileMode::Beside:
         return openBeside(path);
     }
@@ -98,10 +100,20 @@ std::error_code renameOver(const std::filesystem::path& source,
     return std::rename(source.c_str(), target.c_str()) == 0 ? std::error_code() : lastError();
 }
 
+std::error_code renameToNew(const std::filesystem::path& source,
+                            const std::filesystem::path& target) {
+    if (::renameat2(AT_FDCWD, source.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0)
+        return {};
+    if (errno != EINVAL && errno != ENOSYS) return lastError();
+    // A file system that doesn't know the flag: a link never replaces, either.
+    if (::link(source.c_str(), target.c_str()) != 0) return lastError();
+    return ::unlink(source.c_str()) == 0 ? std::error_code() : lastError();
+}
+
 // Closed any earlier, another program could take it for a dead one's and empty it.
 std::error_code renameOpenFile(int& /*file*/, const std::filesystem::path& source,
-                               const std::filesystem::path& target) {
-    return renameOver(source, target);
+                               const std::filesystem::path& target, Existing existing) {
+    return existing == Existing::Kept ? renameToNew(source, target) : renameOver(source, target);
 }
 
 void removeOpenFile(int file, const std::filesystem::path& path) {

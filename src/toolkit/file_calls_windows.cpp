@@ -31,10 +31,18 @@ int flagsOf(FileMode mode) {
         return _O_WRONLY | _O_CREAT | _O_TRUNC;
     case FileMode::Append:
         return _O_WRONLY | _O_CREAT | _O_APPEND;
+    case FileMode::New:
+        return _O_WRONLY | _O_CREAT | _O_EXCL;
     case FileMode::Update:
         break;
     }
     return _O_WRONLY;
+}
+
+std::error_code move(const std::filesystem::path& source, const std::filesystem::path& target,
+                     DWORD flags) {
+    if (MoveFileExW(source.c_str(), target.c_str(), flags) != 0) return {};
+    return {static_cast<int>(GetLastError()), std::system_category()};
 }
 
 } // namespace
@@ -63,15 +71,18 @@ bool closeFile(int file) { return _close(file) == 0; }
 
 std::error_code renameOver(const std::filesystem::path& source,
                            const std::filesystem::path& target) {
-    constexpr DWORD inOneStep = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (MoveFileExW(source.c_str(), target.c_str(), inOneStep) != 0) return {};
-    return {static_cast<int>(GetLastError()), std::system_category()};
+    return move(source, target, MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+}
+
+std::error_code renameToNew(const std::filesystem::path& source,
+                            const std::filesystem::path& target) {
+    return move(source, target, MOVEFILE_WRITE_THROUGH);
 }
 
 std::error_code renameOpenFile(int& file, const std::filesystem::path& source,
-                               const std::filesystem::path& target) {
+                               const std::filesystem::path& target, Existing existing) {
     if (!closeFile(std::exchange(file, -1))) return {errno, std::generic_category()};
-    return renameOver(source, target);
+    return existing == Existing::Kept ? renameToNew(source, target) : renameOver(source, target);
 }
 
 void removeOpenFile(int file, const std::filesystem::path& path) {

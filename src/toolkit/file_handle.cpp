@@ -72,7 +72,11 @@ void FileHandle::close() {
 }
 
 std::error_code FileHandle::renameOver(const std::filesystem::path& target) {
-    return file_calls::renameOpenFile(file_, path_, target);
+    return file_calls::renameOpenFile(file_, path_, target, file_calls::Existing::Replaced);
+}
+
+std::error_code FileHandle::renameToNew(const std::filesystem::path& target) {
+    return file_calls::renameOpenFile(file_, path_, target, file_calls::Existing::Kept);
 }
 
 void FileHandle::discard() { file_calls::removeOpenFile(std::exchange(file_, -1), path_); }

@@ -8,9 +8,9 @@
 
 namespace toolkit {
 
-/// Update writes over a file from its start and keeps what lies behind. Beside empties or makes a
-/// file that no other running program writes at the same time.
-enum class FileMode { Read, Replace, Append, Update, Beside };
+/// Update writes over a file from its start and keeps what lies behind. New makes a file that isn't
+/// there. Beside empties or makes a file that no other running program writes at the same time.
+enum class FileMode { Read, Replace, Append, Update, New, Beside };
 
 /// A failure of the call that has just set errno, for this path: a folder in the place of the file
 /// is 75, a missing folder on the way 76, whatever the platform says.
@@ -38,6 +38,8 @@ class FileHandle {
     void close();
     /// Puts the file into another's place in one step; nothing is written to it any more.
     [[nodiscard]] std::error_code renameOver(const std::filesystem::path& target);
+    /// The same where no file stands; the error of one that is there is EEXIST's.
+    [[nodiscard]] std::error_code renameToNew(const std::filesystem::path& target);
     /// Removes the file.
     void discard();
 

@@ -58,6 +58,12 @@ void copyFile(const fs::path& source, const fs::path& target) {
     copyTime(source, target);
 }
 
+void copyNewFile(const fs::path& source, const fs::path& target) {
+    requireFile(source);
+    writeNewFile(target, readFile(source));
+    copyTime(source, target);
+}
+
 void renameFile(const fs::path& source, const fs::path& target) {
     std::error_code error;
     if (!fs::exists(fs::symlink_status(source, error))) failFile(source, ENOENT);

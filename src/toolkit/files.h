@@ -54,6 +54,12 @@ void appendFile(const std::filesystem::path& path, std::string_view content);
 /// above 256 MiB is 7.
 void copyFile(const std::filesystem::path& source, const std::filesystem::path& target);
 
+/// Writes a file that isn't there yet: as writeFile, but never over one that is there by then,
+/// however shortly: failure 58, or 75 for a folder. Links aren't followed.
+void writeNewFile(const std::filesystem::path& path, std::string_view content);
+/// The same with the content and the modification time of another file.
+void copyNewFile(const std::filesystem::path& source, const std::filesystem::path& target);
+
 /// Renames; an existing target is failure 58.
 void renameFile(const std::filesystem::path& source, const std::filesystem::path& target);
 /// Renames in one step over the target, which may be there or not, and waits until the folder is on

@@ -41,7 +41,8 @@ bool isRefusal(const RunTimeError& failure) {
 
 bool isRefusal(const std::error_code& error) {
     return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
-           error == std::errc::device_or_resource_busy || error == std::errc::cross_device_link;
+           error == std::errc::device_or_resource_busy || error == std::errc::cross_device_link ||
+           error == std::errc::operation_not_supported;
 }
 
 void removeHalfWritten(const fs::path& path) {
@@ -83,12 +84,18 @@ class Part {
         file_.sync();
     }
     [[nodiscard]] std::error_code moveTo(const fs::path& place) {
-        const std::error_code error = file_.renameOver(place);
+        return moved(file_.renameOver(place));
+    }
+    [[nodiscard]] std::error_code moveToNew(const fs::path& place) {
+        return moved(file_.renameToNew(place));
+    }
+
+  private:
+    std::error_code moved(const std::error_code& error) {
         isThere_ = static_cast<bool>(error);
         return error;
     }
 
-  private:
     fs::path path_;
     FileHandle file_;
     bool isThere_ = true;
@@ -118,6 +125,18 @@ bool exchangeContent(const fs::path& place, std::string_view content) {
     return true;
 }
 
+/// False if the folder takes no file that way.
+bool moveInAsNew(const fs::path& place, std::string_view content) {
+    auto part = openBeside(place);
+    if (!part) return false;
+    part->fill(place, content);
+    const std::error_code error = part->moveToNew(place);
+    if (error && isRefusal(error)) return false;
+    checkFile(place, error);
+    checkFile(place, file_calls::syncFolder(place.parent_path()));
+    return true;
+}
+
 void writeContent(const fs::path& path, FileMode mode, std::string_view content) {
     FileHandle file(path, mode);
     file.write(content);
@@ -131,7 +150,7 @@ void writeAndSync(const fs::path& path, FileMode mode, std::string_view content)
     file.close();
 }
 
-void writeNewFile(const fs::path& path, std::string_view content) {
+void writeNewOrDevice(const fs::path& path, std::string_view content) {
     std::error_code ignored;
     const bool wasThere = fs::exists(fs::symlink_status(path, ignored));
     try {
@@ -156,7 +175,7 @@ void grow(const fs::path& path, std::uintmax_t length, std::string_view content)
 
 void writeWhereItStands(const fs::path& path, std::string_view content) {
     std::error_code error;
-    if (!fs::is_regular_file(path, error)) return writeNewFile(path, content);
+    if (!fs::is_regular_file(path, error)) return writeNewOrDevice(path, content);
     const std::uintmax_t length = fileLength(path);
     grow(path, length, content);
     FileHandle file(path, FileMode::Update);
@@ -182,6 +201,23 @@ void writeFile(const fs::path& path, std::string_view content) {
     const auto place = replaceablePlace(path);
     if (place && exchangeContent(*place, content)) return;
     writeWhereItStands(place.value_or(path), content);
+}
+
+void writeNewFile(const fs::path& path, std::string_view content) {
+    std::error_code ignored;
+    // Found out before anything is written; it may still turn up until the end.
+    if (fs::exists(fs::symlink_status(path, ignored))) failFile(path, EEXIST);
+    if (moveInAsNew(path, content)) return;
+    // From here on the file is this program's.
+    FileHandle file(path, FileMode::New);
+    try {
+        file.write(content);
+        file.sync();
+        file.close();
+    } catch (...) {
+        file.discard();
+        throw;
+    }
 }
 
 void writeTemporaryFile(const fs::path& path, std::string_view content) {

@@ -1,4 +1,7 @@
 // Every operation on files fails once, in each way.
+#include <cerrno>
+#include <fstream>
+
 #include <gtest/gtest.h>
 
 #include "faults/faults.h"
@@ -68,6 +71,55 @@ TEST_F(FileFaults, AReplacedFileIsTheOldOrTheNewOne) {
 
 TEST_F(FileFaults, ACopyIsTheOldOrTheNewOne) {
     runWith([&] { toolkit::copyFile(folder / "from", path); });
+}
+
+/// What another program does just before the last step.
+class LastMoment : public FileFaults {
+  protected:
+    /// The failure of a new file's writing, 0 for none.
+    int failureOfWriting(const std::function<int()>& atRename) {
+        const Watch watch(folder.path(), [&](Call call, const std::string& /*path*/) {
+            return call == Call::Rename ? atRename() : 0;
+        });
+        try {
+            toolkit::writeNewFile(target, content);
+            return 0;
+        } catch (const toolkit::RunTimeError& failure) {
+            return failure.number();
+        }
+    }
+    int turnUp() const {
+        std::ofstream(target) << "theirs";
+        return 0;
+    }
+    const fs::path target = data / "new";
+};
+
+TEST_F(LastMoment, AFileThatTurnsUpIsNotReplacedByANewOne) {
+    EXPECT_EQ(failureOfWriting([&] { return turnUp(); }), 58);
+    EXPECT_EQ(filesIn(data).at(target.string()), "theirs");
+    EXPECT_EQ(filesIn(data).size(), 2U);
+}
+
+TEST_F(LastMoment, AFileSystemThatCanOnlyReplaceGetsALink) {
+    EXPECT_EQ(failureOfWriting([] { return EINVAL; }), 0);
+    EXPECT_EQ(filesIn(data).at(target.string()), content);
+    EXPECT_EQ(filesIn(data).size(), 2U);
+}
+
+TEST_F(LastMoment, NorDoesALinkReplaceAFileThatTurnsUp) {
+    EXPECT_EQ(failureOfWriting([&] { return turnUp() + EINVAL; }), 58);
+    EXPECT_EQ(filesIn(data).at(target.string()), "theirs");
+    EXPECT_EQ(filesIn(data).size(), 2U);
+}
+
+TEST_F(LastMoment, AFolderThatTakesNoLinkEitherGetsTheFileWhereItIsToStand) {
+    EXPECT_EQ(failureOfWriting([] { return EPERM; }), 0);
+    EXPECT_EQ(filesIn(data).at(target.string()), content);
+    EXPECT_EQ(filesIn(data).size(), 2U);
+    fs::remove(target);
+    EXPECT_EQ(failureOfWriting([&] { return turnUp() + EPERM; }), 58);
+    EXPECT_EQ(filesIn(data).at(target.string()), "theirs");
 }
 
 } // namespace

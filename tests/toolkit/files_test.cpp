@@ -34,6 +34,21 @@ TEST(Files, WritingReplacesAndAppendingAdds) {
     EXPECT_EQ(readFile(folder / "g"), "made");
 }
 
+TEST(Files, ANewFileNeverReplacesOneThatIsThere) {
+    const TemporaryFolder folder;
+    writeNewFile(folder / "f", "first");
+    EXPECT_EQ(failureOf([&] { writeNewFile(folder / "f", "second"); }), 58);
+    EXPECT_EQ(failureOf([&] { copyNewFile(folder / "f", folder / "f"); }), 58);
+    EXPECT_EQ(readFile(folder / "f"), "first");
+    copyNewFile(folder / "f", folder / "g");
+    EXPECT_EQ(readFile(folder / "g"), "first");
+    EXPECT_EQ(fileTime(folder / "g"), fileTime(folder / "f"));
+    fs::create_directory(folder / "d");
+    EXPECT_EQ(failureOf([&] { writeNewFile(folder / "d", "x"); }), 75);
+    EXPECT_EQ(failureOf([&] { writeNewFile(folder / "none" / "f", "x"); }), 76);
+    EXPECT_EQ(listFiles(folder.path(), "").size(), 2U);
+}
+
 TEST(Files, AMissingFileIsFailure53) {
     const TemporaryFolder folder;
     EXPECT_EQ(failureOf([&] { (void)readFile(folder / "none"); }), 53);
