@@ -13,6 +13,7 @@
 #include "app/zevlin.h"
 #include "card/document.h"
 #include "layout/calibration.h"
+#include "layout/check_point.h"
 #include "layout/read_comment.h"
 #include "text/set_sym.h"
 #include "toolkit/ansi.h"
@@ -119,16 +120,20 @@ void requireRoomForCard(const Zevlin& form) {
                                     "It has too few fields for this card");
 }
 
-/// A file that is missing, unreadable or damaged leaves the fields where they were. So does a
-/// check-point: it is in memory, whether a file took it or not.
+/// A check-point is in memory, whether a file took it or not. So is the layout that an earlier one
+/// has set aside, while its file can't be put back.
+bool isInMemoryOnly(Zevlin& form) { return form.LayoutSetAside || !finishRestore(form); }
+
+/// A file that is missing, unreadable or damaged leaves the fields where they were.
 void rebuildFields(Zevlin& form, InitializeRun& run) {
     const std::string known = form.LayoutInMemory;
+    const bool isKnown = isInMemoryOnly(form);
     const bool built = getOver(form, run, layoutFailure, [&] {
-        if (form.LayoutSetAside) return static_cast<void>(findLayout(form, run));
+        if (isKnown) return static_cast<void>(findLayout(form, run));
         buildFromFile(form, run);
         requireRoomForCard(form);
     });
-    if (built && !form.LayoutSetAside) return;
+    if (built && !isKnown) return;
     buildFrom(form, run, known);
     form.LayoutInMemory = known;
 }

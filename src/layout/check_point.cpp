@@ -15,12 +15,23 @@ namespace {
 
 constexpr const char* setAsideName = "$$TempDef.Ini";
 
-void restoreFile(Zevlin& form) {
-    trapped(form, "Error in RestoreShapes: #", [&] {
-        const auto setAside = toolkit::findFile(form.DataFolder, setAsideName);
-        if (!setAside) return;
+/// A file that can't be found may only be out of sight with its folder.
+bool isFolderThere(const Zevlin& form) {
+    std::error_code ignored;
+    return std::filesystem::is_directory(form.DataFolder, ignored);
+}
+
+void putFileBack(Zevlin& form) {
+    const auto setAside = toolkit::findFile(form.DataFolder, setAsideName);
+    if (setAside) {
+        form.LayoutFileAside = true;
         toolkit::replaceByRename(*setAside, toolkit::resolveFile(form.DataFolder, layoutFileName));
-    });
+    }
+    if (setAside || isFolderThere(form)) form.LayoutFileAside = false;
+}
+
+bool restoreFile(Zevlin& form) {
+    return trapped(form, "Error in RestoreShapes: #", [&] { putFileBack(form); });
 }
 
 /// There is nothing to set aside.
@@ -30,6 +41,20 @@ void traceNoFile(Zevlin& form, toolkit::Failure failure) {
 
 } // namespace
 
+bool finishRestore(Zevlin& form) {
+    if (form.LayoutFileAside) restoreFile(form);
+    return !form.LayoutFileAside;
+}
+
+void dropSetAside(Zevlin& form) {
+    if (!form.LayoutFileAside || form.LayoutSetAside) return;
+    form.LayoutFileAside = false;
+    ignoringFailures([&] {
+        if (const auto old = toolkit::findFile(form.DataFolder, setAsideName))
+            toolkit::deleteFile(*old);
+    });
+}
+
 void CheckPointShapes(Zevlin& form) {
     Traceit(form, "CheckPointShapes");
     // Without fields no layout would be written in place of the one set aside.
@@ -37,6 +62,8 @@ void CheckPointShapes(Zevlin& form) {
     // The rebuild goes by what is in memory, whatever becomes of the files.
     if (!form.LayoutSetAside) form.LayoutSetAside = form.LayoutInMemory;
     form.LayoutInMemory = layoutText(form);
+    // Else the player's own layout would be taken for what a dead run has left.
+    if (!finishRestore(form)) return;
     const auto present = toolkit::findFile(form.DataFolder, layoutFileName);
     // The rebuild brings the installed one.
     if (!present) return traceNoFile(form, toolkit::Failure::FileNotFound);
@@ -46,9 +73,11 @@ void CheckPointShapes(Zevlin& form) {
         if (const auto old = toolkit::findFile(form.DataFolder, setAsideName)) {
             toolkit::deleteFile(*old);
         }
-        toolkit::renameFile(*present, form.DataFolder / setAsideName);
+        form.LayoutFileAside = true;
+        // On the disk before another file gets the layout's name.
+        toolkit::replaceByRename(*present, form.DataFolder / setAsideName);
     });
-    if (setAside && !saveShapesUnasked(form)) restoreFile(form);
+    if (!setAside || !saveShapesUnasked(form)) finishRestore(form);
 }
 
 void RestoreShapes(Zevlin& form) {

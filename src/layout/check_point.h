@@ -8,7 +8,14 @@ struct Zevlin;
 /// Sets Definitions.Ini aside as $$TempDef.Ini and writes the present layout in its place.
 void CheckPointShapes(Zevlin& form);
 
-/// Puts the layout that was set aside back; nothing happens if there is none.
+/// Puts the layout that was set aside back; nothing happens if there is none. Where that fails
+/// finishRestore does it later, or the next start.
 void RestoreShapes(Zevlin& form);
+
+/// Puts the file back that an earlier RestoreShapes of this run couldn't; false if it still can't.
+bool finishRestore(Zevlin& form);
+
+/// The player has saved another layout: what such a RestoreShapes has left is out of date.
+void dropSetAside(Zevlin& form);
 
 } // namespace zev

@@ -38,6 +38,9 @@ struct LayoutState {
     std::string LayoutInMemory;
     /// What it is without the check-point in force; none while there is none.
     std::optional<std::string> LayoutSetAside;
+    /// The player's own layout file bears the name of the one set aside: a check-point is in force,
+    /// or putting the file back failed.
+    bool LayoutFileAside = false;
 
     float SavedLeft = 0; ///< the card's place before a zoom, twips
     float SavedTop = 0;

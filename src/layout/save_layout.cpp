@@ -8,6 +8,7 @@
 #include "app/zevlin.h"
 #include "card/modified.h"
 #include "design/design_mode.h"
+#include "layout/check_point.h"
 #include "layout/layout_file.h"
 #include "layout/pixels.h"
 #include "toolkit/ansi.h"
@@ -134,6 +135,7 @@ std::string layoutText(const Zevlin& form) { return writeLayout(documentOf(form)
 void MSaveShapes_Click(Zevlin& form) {
     saveShapes(form, [&form] {
         if (!trapped(form, trapHead, [&] { saveLayout(form); })) toolkit::endProgram();
+        dropSetAside(form);
     });
 }
 

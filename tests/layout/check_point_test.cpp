@@ -1,7 +1,9 @@
 #include "layout/check_point.h"
 
+#include "layout/save_layout.h"
 #include "support/form_test.h"
 #include "toolkit/files.h"
+#include "view/rebuild.h"
 
 namespace zev::test {
 namespace {
@@ -11,7 +13,25 @@ namespace fs = std::filesystem;
 constexpr const char* setAside = "$$TempDef.Ini";
 constexpr const char* layoutName = "Definitions.Ini";
 
-class CheckPoint : public FormTest {};
+class CheckPoint : public FormTest {
+  protected:
+    /// A check-point of a moved field; putting back what it sets aside fails, as a folder has taken
+    /// the layout's name.
+    void failToRestore() {
+        const float left = form.AMark[1].Left;
+        form.AMark[1].Left += 150;
+        CheckPointShapes(form);
+        form.AMark[1].Left = left;
+        fs::rename(dataFile(layoutName), dataFile("checked"));
+        fs::create_directory(dataFile(layoutName));
+        announceError("Error in RestoreShapes: #75, Path/File access error");
+        RestoreShapes(form);
+    }
+    void unblock() const {
+        fs::remove(dataFile(layoutName));
+        fs::rename(dataFile("checked"), dataFile(layoutName));
+    }
+};
 
 TEST_F(CheckPoint, SetsTheLayoutAsideAndWritesThePresentOne) {
     start();
@@ -95,6 +115,65 @@ TEST_F(CheckPoint, RestoringOverAFolderIsTraced) {
     RestoreShapes(form);
     EXPECT_TRUE(traced("Error in RestoreShapes: #75, Path/File access error"));
     EXPECT_EQ(dataFileContent(setAside), "aside");
+}
+
+TEST_F(CheckPoint, ThatCouldntBeUndoneIsUndoneBeforeTheNextOne) {
+    start();
+    const std::string before = dataFileContent(layoutName);
+    failToRestore();
+    ASSERT_EQ(dataFileContent(setAside), before);
+    unblock();
+    form.AMark[1].Left += 150;
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent(setAside), before);
+    EXPECT_NE(dataFileContent(layoutName), before);
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+}
+
+TEST_F(CheckPoint, ThatStillCantBeUndoneKeepsTheLayoutThatIsSetAside) {
+    start();
+    const std::string before = dataFileContent(layoutName);
+    failToRestore();
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent(setAside), before);
+    EXPECT_EQ(form.LayoutSetAside, before);
+}
+
+TEST_F(CheckPoint, ThatCouldntBeUndoneIsUndoneByARebuildWhichReadsThePlayersLayout) {
+    start();
+    const std::string before = dataFileContent(layoutName);
+    const float left = form.AMark[1].Left;
+    failToRestore();
+    unblock();
+    RebuildScreenImage(form);
+    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+    EXPECT_EQ(form.AMark[1].Left, left);
+}
+
+TEST_F(CheckPoint, ThatStillCantBeUndoneLeavesTheFieldsOfARebuildToMemory) {
+    start();
+    const float left = form.AMark[1].Left;
+    const std::string before = dataFileContent(layoutName);
+    failToRestore();
+    RebuildScreenImage(form);
+    EXPECT_EQ(form.AMark[1].Left, left);
+    EXPECT_EQ(form.LayoutInMemory, before);
+    EXPECT_EQ(dataFileContent(setAside), before);
+}
+
+TEST_F(CheckPoint, ThatCouldntBeUndoneIsForgottenWhenThePlayerSavesADesign) {
+    start();
+    failToRestore();
+    unblock();
+    form.AMark[1].Left += 300;
+    MSaveShapes_Click(form);
+    const std::string saved = dataFileContent(layoutName);
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+    RebuildScreenImage(form);
+    EXPECT_EQ(dataFileContent(layoutName), saved);
 }
 
 TEST_F(CheckPoint, BeforeTheFieldsExistTouchesNothing) {
