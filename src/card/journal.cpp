@@ -46,7 +46,8 @@ void writeJournal(Zevlin& form) {
     form.Journal.written = std::move(text);
 }
 
-/// A journal that can't be written is told to the trace once; the program works on.
+/// A journal that can't be written is told to the trace once; the program works on, and tries
+/// again: there may be room before there is another change.
 bool tryToWrite(Zevlin& form) {
     try {
         writeJournal(form);
@@ -55,6 +56,7 @@ bool tryToWrite(Zevlin& form) {
         const auto failure = toolkit::currentFailure();
         if (!std::exchange(form.Journal.failureTraced, true))
             traceFailure(form, "Error in the journal: #", failure);
+        noteChange(form);
         return false;
     }
 }

@@ -207,6 +207,19 @@ TEST_F(Journal, ThatCantBeWrittenKeepsAFailedSaveFromEndingTheProgram) {
     EXPECT_EQ(form.CardName, "Jones");
 }
 
+TEST_F(Journal, ThatCouldntBeWrittenIsTriedAgainWithoutAnotherChange) {
+    start();
+    blockStateFolder();
+    announceError("Error in the journal: #");
+    clickMark(2);
+    toolkit::test::elapseAlarms();
+    ASSERT_FALSE(isThere());
+    fs::remove(home / "state");
+    toolkit::test::elapseAlarms();
+    ASSERT_TRUE(isThere());
+    EXPECT_TRUE(content().document.marks[1]);
+}
+
 TEST_F(Journal, ThatCantBeWrittenIsTracedOnce) {
     start();
     blockStateFolder();
