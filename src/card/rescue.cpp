@@ -89,11 +89,13 @@ Journals findJournals() {
     return journals;
 }
 
-/// What can't be read is put aside: it can't be offered, but is nobody's to throw away.
+/// What makes no sense is put aside: it can't be offered, but is nobody's to throw away. What the
+/// disk doesn't give now may be there at the next start.
 bool read(Zevlin& form, Rescue& rescue) {
     return trapped(form, "Error in a journal: #", [&] {
+        const std::string content = toolkit::readFile(rescue.file);
         try {
-            rescue.card = readRescue(toolkit::readFile(rescue.file));
+            rescue.card = readRescue(content);
         } catch (...) {
             std::error_code ignored;
             fs::rename(rescue.file, fs::path(rescue.file).replace_extension(".damaged"), ignored);
