@@ -36,7 +36,7 @@ const char* nameOf(Kind kind) {
 }
 
 // No run takes nearly as long, not under the sanitizers either.
-constexpr unsigned int longestRun = 60; // seconds
+constexpr unsigned int longestRun = 20; // seconds
 
 // After so many of a kind the others will tell the same.
 constexpr int mostFailures = 3;
@@ -157,7 +157,8 @@ int exitCodeOf(const std::function<ExitCode()>& act) {
 /// The home as it was, whatever a run did to it.
 class Home {
   public:
-    explicit Home(fs::path folder) : folder_(std::move(folder)), files_(filesIn(folder_)) {
+    explicit Home(const fs::path& folder) : Home(folder, filesIn(folder)) {}
+    Home(fs::path folder, Files files) : folder_(std::move(folder)), files_(std::move(files)) {
         for (const auto& entry : fs::recursive_directory_iterator(folder_))
             if (entry.is_directory()) folders_.push_back(entry.path());
     }
@@ -174,6 +175,15 @@ class Home {
 };
 
 } // namespace
+
+bool passesAlone(const std::function<void()>& act) {
+    return exitCodeOf([&] {
+               act();
+               return passed;
+           }) == passed;
+}
+
+void putFiles(const fs::path& home, const Files& files) { Home(home, files).putBack(); }
 
 Files filesAfter(const FaultRuns& runs) {
     const Home home(runs.home);

@@ -40,6 +40,13 @@ struct FaultRuns {
 /// runs.
 int forEveryFault(const FaultRuns& runs);
 
+/// Does it in a process of its own, forked from this one; true if no check failed there. What it
+/// does to files stays.
+bool passesAlone(const std::function<void()>& act);
+
+/// Makes these the files below the home, and removes all others; the folders stay.
+void putFiles(const std::filesystem::path& home, const Files& files);
+
 /// The files below the home after a run in which nothing fails; the home is as it was afterwards.
 [[nodiscard]] Files filesAfter(const FaultRuns& runs);
 
