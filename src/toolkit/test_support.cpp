@@ -112,7 +112,10 @@ void settle() {
     rethrowKept();
 }
 
-void endEvent() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
+void endEvent() {
+    settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
 
 Bitmap grabCard() { return grab(window().card()); }
 Bitmap grabCardAt(double pixelRatio) { return grab(window().card(), pixelRatio); }

@@ -77,8 +77,8 @@ void endSession();
 void whenRunning(std::function<void()> act);
 /// Lets everything that waits in the queue run.
 void settle();
-/// Deletes what waits for its end until the event loop has come round, as between two events of the
-/// running program.
+/// The same, and deletes what waits until the event loop has come round, as it does between two
+/// events of the running program.
 void endEvent();
 /// The card's timers run out now.
 void elapseCardTimers();

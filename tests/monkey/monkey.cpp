@@ -92,7 +92,6 @@ void Monkey::step() {
     popupRow_ = -1;
     try {
         act();
-        toolkit::test::settle();
         toolkit::test::endEvent();
     } catch (const Killed&) {
         noteKilled();
