@@ -196,7 +196,8 @@ void Monkey::noteCopy() {
 void Monkey::notePaste() {
     const bool isOwn =
         zevlin().mpopPaste.Enabled && !zevlin().ClipText.empty() && toolkit::holdsClipboardText();
-    if (isOwn) return account_.pasteWhole(zevlin().ClipText);
+    // Of ampersands in a row one is left.
+    if (isOwn) return account_.pasteWhole(typedText(zevlin().ClipText));
     if (elsewhere_.empty()) return;
     account_.open->typed.replace(static_cast<std::size_t>(box()->SelStart),
                                  static_cast<std::size_t>(box()->SelLength), elsewhere_);
