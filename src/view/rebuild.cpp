@@ -105,6 +105,8 @@ void RebuildScreenImage(Zevlin& form) {
         if (!form.Initializing) ignoringFailures([&] { StartPicture(form); });
         // What design mode shows is neither to be saved nor to be lost.
         if (designing) MShowShapes_Click(form);
+        // Before any other file is touched.
+        if (!form.Initializing) flushJournal(form);
         IniWrite(form);
         if (!form.Initializing) rebuild(form);
     });
