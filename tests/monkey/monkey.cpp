@@ -68,6 +68,9 @@ void Monkey::setUpHome(const Course& course) {
 
 void Monkey::run(const Course& course) {
     random_.seed(course.seed);
+    // The account begins with nothing on the clipboard; a test before this one may have left
+    // something.
+    toolkit::test::fillClipboard("");
     setUpHome(course);
     startAgain();
     baseMarks_ = zevlin().AMark.UBound();
