@@ -12,6 +12,7 @@
 /// here it does the work at once.
 void workAtOnce(void* pool, std::function<void()> work,
                 int priority) asm("_ZN11QThreadPool5startESt8functionIFvvEEi");
+// NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is the platform's
 void workAtOnce(void* /*pool*/, std::function<void()> work, int /*priority*/) { work(); }
 
 namespace zev::test {

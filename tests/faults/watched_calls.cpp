@@ -238,7 +238,7 @@ const std::vector<Operation>& Watch::done() const { return state_->done; }
 
 } // namespace test_faults
 
-using namespace test_faults;
+using namespace test_faults; // NOLINT(google-global-names-in-headers): this is no header
 
 // NOLINTBEGIN(readability-identifier-naming): the C library's names.
 #define NEXT(name) (next(static_cast<decltype(::name)*>(nullptr), #name))
