@@ -135,7 +135,7 @@ void CardAccount::clear(bool boldCard) {
 
 std::string CardAccount::namesLine(const std::string& present, const std::string& mine,
                                    bool isForced) const {
-    const std::string partner = playersLine(card.partner);
+    std::string partner = playersLine(card.partner);
     std::string line = isForced || present.empty() ? mine : present;
     if (mine.empty() && partner.empty()) return line.empty() ? card.cardName : line;
     if (!mine.empty() && !partner.empty() && isForced) return mine + " && " + partner;

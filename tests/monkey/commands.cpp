@@ -75,7 +75,7 @@ void Monkey::chooseColor() {
         return;
     }
     if (!choose("Options>Color Management>Custom...")) return;
-    const auto clickOn = [this](const toolkit::Control& control) {
+    const auto clickOn = [](const toolkit::Control& control) {
         const auto point = toolkit::test::pointOn(control);
         toolkit::test::click(point.x, point.y);
     };

@@ -2,6 +2,7 @@
 #include <array>
 #include <chrono>
 #include <filesystem>
+#include <ranges>
 
 #include "app/form_load.h"
 #include "app/wiring.h"
@@ -206,8 +207,8 @@ void Monkey::startAgain() {
         EXPECT_NE(troubles_->present(), Troubles::Kind::None) << "it didn't start";
         for (const std::string& error : takeErrors())
             EXPECT_TRUE(troubles_->explains(error)) << error;
-        for (auto place = givenUp_.rbegin(); place != givenUp_.rend(); ++place)
-            unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(*place));
+        for (const std::size_t place : std::views::reverse(givenUp_))
+            unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(place));
         troubles_->mend();
     }
     isStarting_ = false;
@@ -234,8 +235,8 @@ void Monkey::checkStarted(const std::string& commandLine) {
         ++rescues_;
         unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(*rescued_));
     }
-    for (auto place = givenUp_.rbegin(); place != givenUp_.rend(); ++place)
-        unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(*place));
+    for (const std::size_t place : std::views::reverse(givenUp_))
+        unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(place));
 }
 
 } // namespace zev::test

@@ -1,5 +1,6 @@
 #include "monkey/troubles.h"
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <system_error>
@@ -37,9 +38,8 @@ constexpr std::string_view ofJournal = "Error in the journal: #";
 
 template <typename List>
 bool beginsAsOne(std::string_view line, const List& heads) {
-    for (const std::string_view head : heads)
-        if (line.starts_with(head)) return true;
-    return false;
+    return std::ranges::any_of(heads,
+                               [line](std::string_view head) { return line.starts_with(head); });
 }
 
 /// Files can't become longer than this; those that are stay.

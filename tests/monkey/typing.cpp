@@ -1,4 +1,5 @@
 // Events on the card itself: marks, texts and the keyboard.
+#include <algorithm>
 #include <array>
 #include <cstdlib>
 
@@ -63,9 +64,9 @@ bool Monkey::isCleanHit(CardPoint point, const Label* wanted) {
         if (&mark != wanted && lies(point, mark)) return false;
     for (const Label& text : zevlin().AText)
         if (&text != wanted && &text != &zevlin().AText[0] && lies(point, text)) return false;
-    for (const Label& symbol : zevlin().SText)
-        if (symbol.Visible && lies(point, symbol)) return false;
-    return true;
+    return std::ranges::none_of(zevlin().SText, [&point](const Label& symbol) {
+        return symbol.Visible && lies(point, symbol);
+    });
 }
 
 /// A changed text has a star. A field with suits has one with the first key released in it, and so
