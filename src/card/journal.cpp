@@ -1,7 +1,6 @@
 #include "card/journal.h"
 
 #include <string>
-#include <system_error>
 #include <utility>
 
 #include "app/trace.h"
@@ -14,8 +13,6 @@
 
 namespace zev {
 namespace {
-
-namespace fs = std::filesystem;
 
 /// Milliseconds from a change to its writing: half a second is left for the writing itself.
 constexpr int journalDelay = 1500;
@@ -83,8 +80,7 @@ bool keepForNextStart(Zevlin& form) { return isCardAway(form) || tryToWrite(form
 void dropJournal(Zevlin& form) {
     form.Journal.alarm.cancel();
     form.Journal.written.clear();
-    std::error_code ignored;
-    if (!form.Journal.file.empty()) fs::remove(form.Journal.file, ignored);
+    if (!form.Journal.file.empty()) discardJournal(form.Journal.file);
 }
 
 } // namespace zev

@@ -46,6 +46,11 @@ bool isThere(const fs::path& path) {
     return fs::exists(path, ignored);
 }
 
+bool isEmpty(const fs::path& path) {
+    std::error_code failed;
+    return fs::file_size(path, failed) == 0 && !failed;
+}
+
 /// The lock's own file can be gone, with the folder or by a cleaning.
 bool holdsLock(const JournalState& journal) {
     return journal.lock.isHeld() && isThere(lockOf(journal.file));
@@ -82,6 +87,8 @@ Journals findJournals() {
         Rescue rescue{.card = {}, .file = file, .lock = {}};
         if (!rescue.lock.take(lockOf(file)))
             journals.hasLivingCopies = true;
+        else if (isEmpty(file))
+            discardJournal(file);
         else if (isThere(file))
             journals.dead.push_back(std::move(rescue));
     }
@@ -114,9 +121,17 @@ toolkit::Answer ask(const RescuedCard& card) {
                           .preset = toolkit::Answer::Yes});
 }
 
-void discard(const fs::path& file) {
-    std::error_code ignored;
-    fs::remove(file, ignored);
+/// Whether the card's own file holds just this by now: its journal couldn't be removed after the
+/// card was saved.
+bool isSaved(const Zevlin& form, const RescuedCard& card) {
+    bool saved = false;
+    ignoringFailures([&] {
+        const auto file =
+            toolkit::findFile(form.DataFolder, card.name + std::string(cardExtension));
+        saved = !card.name.empty() && file && isChanged(*file, card.file) &&
+                readCard(toolkit::readFile(*file)) == card.document;
+    });
+    return saved;
 }
 
 /// What can't be read isn't blank: it is put aside with the others of its kind.
@@ -167,15 +182,21 @@ void openJournal(Zevlin& form) {
     throw toolkit::RunTimeError(toolkit::Failure::PermissionDenied);
 }
 
+void discardJournal(const fs::path& file) {
+    std::error_code failed;
+    fs::remove(file, failed);
+    if (failed) fs::resize_file(file, 0, failed);
+}
+
 std::optional<Rescue> offerRescue(Zevlin& form) {
     toolkit::deleteLeftOvers(toolkit::stateFolder());
     Journals journals = findJournals();
     adoptTemporaryCard(form, journals);
     for (Rescue& rescue : journals.dead) {
         if (!read(form, rescue)) continue;
-        const auto answer = ask(rescue.card);
+        const auto answer = isSaved(form, rescue.card) ? toolkit::Answer::No : ask(rescue.card);
         if (answer == toolkit::Answer::Yes) return std::move(rescue);
-        if (answer == toolkit::Answer::No) discard(rescue.file);
+        if (answer == toolkit::Answer::No) discardJournal(rescue.file);
     }
     return std::nullopt;
 }

@@ -2,6 +2,7 @@
 
 #include "card/rescue.h"
 #include "card_form_test.h"
+#include "support/immutable_folder.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
 
@@ -107,6 +108,25 @@ TEST_F(Journal, GoesWhenTheCardIsSaved) {
     choose("File>Save");
     EXPECT_FALSE(isThere());
     toolkit::test::elapseAlarms();
+    EXPECT_FALSE(isThere());
+}
+
+TEST_F(Journal, ThatCantBeRemovedWhenTheCardIsSavedIsEmptied) {
+    start();
+    openCard("Jones", {});
+    clickMark(2);
+    toolkit::test::elapseAlarms();
+    ASSERT_TRUE(isThere());
+    {
+        const test_system::ImmutableFolder immutable(home / "state");
+        if (!immutable.isThere()) GTEST_SKIP() << "no file here can be made immutable";
+        choose("File>Save");
+        EXPECT_EQ(toolkit::readFile(file()), "");
+        clickMark(1);
+        toolkit::test::elapseAlarms();
+        EXPECT_TRUE(content().document.marks[0]);
+    }
+    choose("File>Save");
     EXPECT_FALSE(isThere());
 }
 

@@ -3,6 +3,7 @@
 #include "app/second_run.h"
 #include "card_form_test.h"
 #include "toolkit/files.h"
+#include "toolkit/key.h"
 
 namespace zev::test {
 namespace {
@@ -99,6 +100,46 @@ TEST_F(RescueTest, SavedItIsGone) {
     EXPECT_FALSE(fs::exists(journal()));
     EXPECT_NE(dataFileContent("Jones.zev").find("1,\"text\",0"), std::string::npos);
     EXPECT_EQ(boxes.size(), 1U);
+}
+
+TEST_F(RescueTest, OfWhatTheCardsFileHoldsByNowGoesWithoutAQuestion) {
+    start();
+    openCard("Jones", {});
+    clickMark(2);
+    typeInto(1, "5^h");
+    toolkit::test::elapseAlarms();
+    const std::string stale = toolkit::readFile(journal());
+    choose("File>Save");
+    form.Journal.lock.release();
+    // It couldn't be removed then.
+    toolkit::writeFile(journal(), stale);
+    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
+    const SecondRun run(window);
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_FALSE(fs::exists(journal()));
+}
+
+TEST_F(RescueTest, OfMoreThanTheCardsFileHoldsIsAsked) {
+    start();
+    openCard("Jones", {});
+    clickMark(2);
+    choose("File>Save");
+    clickMark(1);
+    kill();
+    answer(toolkit::Answer::Cancel);
+    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
+    const SecondRun run(window);
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_TRUE(fs::exists(journal()));
+}
+
+TEST_F(RescueTest, OfAnEmptyJournalIsNone) {
+    fs::create_directories(home / "state");
+    toolkit::writeFile(journal(), "");
+    start();
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_FALSE(fs::exists(journal()));
+    EXPECT_FALSE(fs::exists(home / "state" / "changes-1.damaged"));
 }
 
 TEST_F(RescueTest, IsStillThereWhenTheSecondRunIsKilledToo) {

@@ -1,8 +1,8 @@
 // Trouble, other programs, and the lives and deaths of the program.
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <filesystem>
-#include <ranges>
 
 #include "app/form_load.h"
 #include "app/wiring.h"
@@ -207,12 +207,17 @@ void Monkey::startAgain() {
         EXPECT_NE(troubles_->present(), Troubles::Kind::None) << "it didn't start";
         for (const std::string& error : takeErrors())
             EXPECT_TRUE(troubles_->explains(error)) << error;
-        for (const std::size_t place : std::views::reverse(givenUp_))
-            unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(place));
+        forgetGivenUp();
         troubles_->mend();
     }
     isStarting_ = false;
     checkStarted(line);
+}
+
+void Monkey::forgetGivenUp() {
+    std::for_each(givenUp_.rbegin(), givenUp_.rend(), [this](std::size_t place) {
+        unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(place));
+    });
 }
 
 void Monkey::checkStarted(const std::string& commandLine) {
@@ -235,8 +240,7 @@ void Monkey::checkStarted(const std::string& commandLine) {
         ++rescues_;
         unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(*rescued_));
     }
-    for (const std::size_t place : std::views::reverse(givenUp_))
-        unsaved_.erase(unsaved_.begin() + static_cast<std::ptrdiff_t>(place));
+    forgetGivenUp();
 }
 
 } // namespace zev::test

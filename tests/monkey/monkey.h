@@ -165,6 +165,7 @@ class Monkey : public FormTest {
     void expectRescued(const CardDocument& card);
     void startAgain();
     bool tryToStart(const std::string& commandLine);
+    void forgetGivenUp();
     void checkStarted(const std::string& commandLine);
     void openedNow(const std::string& name);
 

@@ -1,16 +1,12 @@
 // Everything that makes the screen anew, with a changed card open, while the data folder is in
 // trouble: card, name and star stay, and so does the program.
-#include <fcntl.h>
-#include <linux/fs.h>
-#include <sys/ioctl.h>
-#include <unistd.h>
-
 #include <array>
 #include <optional>
 #include <tuple>
 
 #include "card/document.h"
 #include "output/print_test.h"
+#include "support/immutable_folder.h"
 #include "support/small_disk.h"
 
 namespace zev::test {
@@ -256,30 +252,9 @@ TEST_P(DiskTrouble, ThatBecomesReadOnlyLeavesTheCardAndTellsOnce) {
 INSTANTIATE_TEST_SUITE_P(Each, DiskTrouble, testing::ValuesIn(works),
                          [](const auto& test) { return std::string(test.param.name); });
 
-/// For good, as the administrator can do: it can be read, and nothing in it can be changed.
-class ImmutableFolder {
-  public:
-    explicit ImmutableFolder(const fs::path& folder) : folder_(open(folder.c_str(), O_RDONLY)) {
-        set(FS_IMMUTABLE_FL);
-    }
-    ~ImmutableFolder() {
-        set(0);
-        close(folder_);
-    }
-    ImmutableFolder(const ImmutableFolder&) = delete;
-    ImmutableFolder& operator=(const ImmutableFolder&) = delete;
-    [[nodiscard]] bool isThere() const { return isSet_; }
-
-  private:
-    void set(int flags) { isSet_ = ioctl(folder_, FS_IOC_SETFLAGS, &flags) == 0; }
-
-    int folder_;
-    bool isSet_ = false;
-};
-
 TEST_F(FolderTroubleTest, AnImmutableFolderLeavesTheCardAndTells) {
     startWithChangedCard();
-    const ImmutableFolder immutable(dataFolder);
+    const test_system::ImmutableFolder immutable(dataFolder);
     if (!immutable.isThere()) GTEST_SKIP() << "no file here can be made immutable";
     run(works[0]);
     expectWhole();
