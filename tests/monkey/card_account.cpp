@@ -65,8 +65,10 @@ CardDocument CardAccount::withTyping() const {
 }
 
 bool CardAccount::isTyping() const {
-    return open &&
-           rawText(open->typed) != card.texts.at(static_cast<std::size_t>(open->field) - 1).text;
+    if (!open) return false;
+    // Of ampersands in a row the box shows one: nobody has typed that.
+    const std::string& present = card.texts.at(static_cast<std::size_t>(open->field) - 1).text;
+    return rawText(open->typed) != rawText(typedText(present));
 }
 
 CardDocument::Text& CardAccount::text(int field) {

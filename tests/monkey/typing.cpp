@@ -55,7 +55,10 @@ bool Monkey::isInBox() {
 bool Monkey::isCleanHit(CardPoint point, const Label* wanted) {
     const float x = zevlin().P1.Left + point.x;
     const float y = zevlin().P1.Top + point.y;
-    if (x < 0 || y < 0 || x > zevlin().ScaleWidth() || y > zevlin().ScaleHeight()) return false;
+    // A pointer goes by whole pixels: the last one may lie behind the edge.
+    const float right = zevlin().ScaleWidth() - pixel;
+    const float bottom = zevlin().ScaleHeight() - pixel;
+    if (x < 0 || y < 0 || x > right || y > bottom) return false;
     for (const TextBox* over : {&zevlin().CText, &zevlin().LText})
         if (over->Visible && lies(point, *over)) return false;
     for (const Label* over : {&zevlin().Timestamp, &zevlin().CreditLabel})
