@@ -98,7 +98,12 @@ void Monkey::endSecondCopy() {
     secondCopy_.reset();
     fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(1000) +
                                   std::chrono::minutes(++deaths_));
-    unsaved_.push_back({asStored(card), file});
+    unsaved_.push_back({stored(card), file});
+}
+
+/// As a file of the present layout has it: of the fields that an earlier one had nothing is kept.
+CardDocument Monkey::stored(const CardDocument& card) {
+    return fittedTo(asStored(card), zevlin().AMark.UBound(), zevlin().AText.UBound());
 }
 
 /// What is in the journal, which has had its time.
@@ -107,7 +112,7 @@ void Monkey::expectRescued(const CardDocument& card) {
     ASSERT_TRUE(fs::exists(file)) << "nothing was kept of '" << card.cardName << "'";
     fs::last_write_time(file, fs::file_time_type::clock::now() - std::chrono::hours(1000) +
                                   std::chrono::minutes(++deaths_));
-    unsaved_.push_back({asStored(card), file});
+    unsaved_.push_back({stored(card), file});
 }
 
 void Monkey::noteKilled() {

@@ -162,6 +162,7 @@ class Monkey : public FormTest {
     void exitIt();
     void noteKilled();
     void noteEnded();
+    CardDocument stored(const CardDocument& card);
     void expectRescued(const CardDocument& card);
     void startAgain();
     bool tryToStart(const std::string& commandLine);
