@@ -83,6 +83,8 @@ Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& 
 }
 
 void loadFile(Zevlin& form, const std::filesystem::path& path) {
+    // Until it is read, and where it bears another name, the card's own file is none that was seen.
+    rememberNoFile(form);
     std::string content = toolkit::readFile(path);
     if (path == cardPath(form)) rememberFile(form, path, content);
     CardReader card(std::move(content), form.VersionSeen,

@@ -21,7 +21,13 @@
 namespace zev {
 namespace {
 
-void trimName(Zevlin& form) { form.CardName = std::string(toolkit::trim(form.CardName)); }
+/// Under a trimmed name the card goes into another file than it came from.
+void trimName(Zevlin& form) {
+    const auto trimmed = std::string(toolkit::trim(form.CardName));
+    if (trimmed == form.CardName) return;
+    form.CardName = trimmed;
+    rememberNoFile(form);
+}
 
 /// False if the card has no name and the player gave none.
 bool hasName(Zevlin& form) {

@@ -127,6 +127,48 @@ TEST_F(FileSeen, OverwritingByNameIsAskedOnce) {
     EXPECT_EQ(boxes[0].title, "Overwrite existing file?");
 }
 
+/// Its file is "Jones.zev.zev", but it goes on as "Jones", whose file it isn't.
+TEST_F(FileSeen, AnotherCardsFileIsNotOverwrittenByOneWhoseNameLostItsExtension) {
+    start();
+    writeCard("Jones", cardFile({.marks = {"3,1,0"}}));
+    openCard("Jones.zev", {.marks = {"1,1,0"}});
+    ASSERT_EQ(form.CardName, "Jones");
+    ASSERT_TRUE(form.AMark[1].Visible);
+    clickMark(2);
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    EXPECT_TRUE(form.CardModified);
+}
+
+TEST_F(FileSeen, AnotherCardsFileIsNotOverwrittenByOneWhoseNameIsTrimmed) {
+    writeCard("Jones", theirs());
+    writeCard(" Jones", cardFile({.marks = {"1,1,0"}}));
+    start(" Jones");
+    ASSERT_TRUE(form.AMark[1].Visible);
+    clickMark(2);
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+}
+
+/// Nothing of it was seen: the blank card that stands for it is not to replace it unasked.
+TEST_F(FileSeen, AFileThatCouldntBeReadIsNotOverwrittenUnasked) {
+    start();
+    fs::create_symlink("/proc/self/mem", dataFile("Jones.zev"));
+    announceError("Error in GetCardFile 57, Device I/O error");
+    openNamed("Jones");
+    fs::remove(dataFile("Jones.zev"));
+    changeBehindTheProgramsBack();
+    clickMark(1);
+    answer(toolkit::Answer::No);
+    choose("File>Save");
+    expectQuestion();
+    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+}
+
 TEST_F(FileSeen, ABadCardIsOverwrittenWithoutAQuestion) {
     start();
     announceError("Error in GetCardFile");
