@@ -46,6 +46,8 @@ void deleteSelected(Zevlin& form) {
     if (isCurrent) {
         form.CardName.clear();
         SetCaption(form);
+        // Unsaved changes belong to no name any more.
+        noteChange(form);
     }
     form.TSaveAs.Text.clear();
     TSaveAs_Change(form);

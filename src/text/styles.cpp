@@ -8,6 +8,7 @@
 
 #include "app/trace.h"
 #include "app/zevlin.h"
+#include "card/journal.h"
 #include "card/modified.h"
 #include "text/edit_field.h"
 #include "text/edit_keys.h"
@@ -180,6 +181,7 @@ void undoField(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
     form.mpopItalic.Checked = form.CText.Font.Italic;
     form.mpopLeft.Checked = form.LText.Visible;
     form.mpopUndo.Enabled = false;
+    noteChange(form);
 }
 
 void mpopUndo_Click(Zevlin& form) { pressKey(form, "mpopUndo_Click", undoKey); }

@@ -1,5 +1,6 @@
 #include "card/journal.h"
 
+#include "card/chooser_menu.h"
 #include "card/rescue.h"
 #include "card_form_test.h"
 #include "support/immutable_folder.h"
@@ -87,6 +88,35 @@ TEST_F(Journal, HoldsWhatCameIntoAnOpenFieldWithoutAKey) {
     toolkit::test::elapseAlarms();
     ASSERT_TRUE(isThere());
     EXPECT_EQ(text(1), "composed");
+}
+
+TEST_F(Journal, HoldsWhatUndoBroughtBack) {
+    start();
+    typeInto(1, "five hearts");
+    typeInOpenField(1, "x");
+    toolkit::test::elapseAlarms();
+    ASSERT_EQ(text(1), "x");
+    toolkit::test::typeKey('Z', toolkit::shift::ctrl);
+    ASSERT_EQ(form.CText.Text, "five hearts");
+    toolkit::test::elapseAlarms();
+    EXPECT_EQ(text(1), "five hearts");
+}
+
+TEST_F(Journal, KnowsThatTheCardsFileWasDeletedInTheChooser) {
+    start();
+    openCard("Jones", {});
+    clickMark(1);
+    toolkit::test::elapseAlarms();
+    ASSERT_EQ(content().name, "Jones");
+    answerChooser([&] {
+        form.FileList.ListIndex = 0;
+        mpopDelete_Click(form);
+        toolkit::test::typeKey(toolkit::key::escape);
+    });
+    choose("File>Save As...");
+    ASSERT_EQ(form.CardName, "");
+    toolkit::test::elapseAlarms();
+    EXPECT_EQ(content().name, "");
 }
 
 TEST_F(Journal, IsNotMadeForACardWithoutChanges) {
