@@ -69,7 +69,14 @@ void takeOptions(Zevlin& form, InitializeRun& run) {
     if (!form.Carried) return readOptionsFile(form, run);
     // An older state than the one in memory must not come back.
     if (form.OptionsUnwritten) return;
+    const bool known = form.OptionsRead;
+    const std::string name = form.MyName;
+    const std::string number = form.MyNumber;
     getOver(form, run, optionsFailure, [&] { readOptionsFile(form, run); });
+    if (!known) return;
+    // A name can hold what the file takes for the beginning of a comment.
+    form.MyName = name;
+    form.MyNumber = number;
 }
 
 /// The printer of the alternate method comes back by its name.

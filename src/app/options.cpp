@@ -240,9 +240,9 @@ void IniWrite(Zevlin& form) {
 }
 
 void completeOptions(Zevlin& form) {
-    if (!form.PrinterPending || !form.PrinterAsked.isAnswered(longestFarewell)) return;
-    takePendingPrinter(form);
-    writeOptionsFile(form);
+    const bool isAnswered = form.PrinterPending && form.PrinterAsked.isAnswered(longestFarewell);
+    if (isAnswered) takePendingPrinter(form);
+    if (isAnswered || form.OptionsUnwritten) writeOptionsFile(form);
 }
 
 } // namespace zev

@@ -20,7 +20,8 @@ void readOptions(Zevlin& form, std::string content);
 /// failure is traced only. Where the printer isn't known yet, the file is written again when it is.
 void IniWrite(Zevlin& form);
 
-/// At the program's end: what IniWrite couldn't tell yet of the printer.
+/// At the program's end: what IniWrite couldn't tell yet of the printer, and what it couldn't
+/// write.
 void completeOptions(Zevlin& form);
 
 } // namespace zev

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "app/file_failures.h"
 #include "app/options.h"
 #include "app/trace.h"
 #include "app/zevlin.h"
@@ -108,6 +109,7 @@ void composeNamesLine(Zevlin& form, NamesUpdate update) {
 void MMyID_Click(Zevlin& form) {
     Traceit(form, "MMyID_Click");
     trapped(form, "Error in MMyID_Click: #", [&] { changeMyId(form); });
+    tellFileFailures(form);
 }
 
 void MPartnerID_Click(Zevlin& form) {

@@ -61,6 +61,22 @@ TEST_F(NamesLineTest, MyNameIsKeptInTheOptionsAndShown) {
     EXPECT_TRUE(form.CardModified);
 }
 
+TEST_F(NamesLineTest, MyNameThatCouldntBeWrittenIsToldAndWrittenWhenTheProgramEnds) {
+    start();
+    const auto aside = home / "ZEV.Ini";
+    std::filesystem::rename(dataFile("ZEV.Ini"), aside);
+    std::filesystem::create_directory(dataFile("ZEV.Ini"));
+    announceError("Error in IniWrite ");
+    enterMine("Joe Smith 12345");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_NE(boxes[0].text.find("The settings (ZEV.Ini)"), std::string::npos) << boxes[0].text;
+    std::filesystem::remove(dataFile("ZEV.Ini"));
+    std::filesystem::rename(aside, dataFile("ZEV.Ini"));
+    answer(toolkit::Answer::No);
+    EXPECT_TRUE(endsProgram([] { choose("File>Exit"); }));
+    EXPECT_NE(dataFileContent("ZEV.Ini").find("\r\nName=Joe Smith"), std::string::npos);
+}
+
 TEST_F(NamesLineTest, AnAnswerOfANumberAloneIsAName) {
     start();
     enterMine("12345");

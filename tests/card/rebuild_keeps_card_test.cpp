@@ -111,6 +111,18 @@ TEST_F(RebuildKeepsCard, AnEmptyNamesLine) {
     EXPECT_EQ(form.AText[3].Caption, "");
 }
 
+/// What the options file can't hold is still the player's name.
+TEST_F(RebuildKeepsCard, ThePlayersOwnName) {
+    start();
+    for (const std::string name : {"'Bob", "Bob  'the Cat' Smith"}) {
+        answerInput(name + " 7");
+        choose("Options>My Name");
+        RebuildScreenImage(form);
+        EXPECT_EQ(form.MyName, name);
+        EXPECT_EQ(form.MyNumber, "7");
+    }
+}
+
 TEST_F(RebuildKeepsCard, InTheMiddleOfAnotherRebuild) {
     start();
     openCard("Jones", {});
