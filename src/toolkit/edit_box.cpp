@@ -1,6 +1,7 @@
 #include "toolkit/qt_edit_box.h"
 
 #include <algorithm>
+#include <limits>
 
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QGuiApplication>
@@ -59,6 +60,8 @@ EditBox::EditBox(QWidget& parent, Form& form, TextBox& box, const Control& conta
         setTextMargins(ownMargin, 0, ownMargin, 0);
     }
     setMinimumSize(0, 0);
+    // What is longer than the platform's own limit would be cut when the box is left.
+    setMaxLength(std::numeric_limits<int>::max());
     setFocusPolicy(Qt::NoFocus);
     setContextMenuPolicy(Qt::NoContextMenu);
     setDragEnabled(false);

@@ -1,5 +1,6 @@
 #include "text/edit_field.h"
 
+#include "card/document.h"
 #include "text/edit_test.h"
 #include "text/set_sym.h"
 
@@ -222,6 +223,17 @@ TEST_F(EditField, DesignModeOpensNoBox) {
     clickText(1);
     EXPECT_FALSE(isEditing());
     EXPECT_EQ(form.ClickIndex, 0);
+}
+
+TEST_F(EditField, KeepsATextOfAnyLength) {
+    startSmall();
+    const std::string text(40000, 'x');
+    showText(form, 1, text);
+    clickText(1);
+    typeKey(toolkit::key::end);
+    toolkit::test::typeText("y");
+    typeKey(toolkit::key::escape);
+    EXPECT_EQ(form.AText[1].Tag.size(), text.size() + 1);
 }
 
 } // namespace
