@@ -19,9 +19,12 @@ constexpr std::string_view partEnding = ".part";
 // The second one for a program that writes the same file at the same moment.
 constexpr std::array<std::string_view, 2> partEndings = {partEnding, ".2.part"};
 
+// Of a name; the longest that systems take leave no room for beginning and ending.
+constexpr std::size_t longestInPart = 240;
+
 fs::path partOf(const fs::path& place, std::string_view ending) {
     fs::path part = place.parent_path() / partBeginning;
-    part += place.filename();
+    part += place.filename().native().substr(0, longestInPart);
     part += ending;
     return part;
 }

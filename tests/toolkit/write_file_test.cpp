@@ -37,12 +37,15 @@ TEST(WriteFile, ReplacingKeepsModeAndLinkAndLeavesNothingBeside) {
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "d"), {}), 1);
 }
 
-TEST(WriteFile, ANameThatLeavesNoRoomForAnotherBesideItIsWrittenOver) {
+TEST(WriteFile, AFileOfTheLongestNameIsReplacedToo) {
     const TemporaryFolder folder;
-    const std::string name(250, 'n');
+    const std::string name(255, 'n');
     writeFile(folder / name, "old");
+    fs::create_hard_link(folder / name, folder / "before");
     writeFile(folder / name, "new");
     EXPECT_EQ(readFile(folder / name), "new");
+    EXPECT_EQ(readFile(folder / "before"), "old");
+    EXPECT_EQ(namesIn(folder), (Names{name, "before"}));
 }
 
 TEST(WriteFile, AFileOfAnySizeTakesThePlaceOfWhatWasThere) {
