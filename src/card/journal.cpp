@@ -35,9 +35,15 @@ bool hasUnsavedChanges(const Zevlin& form) {
     return form.CardModified || documentWithTyping(form) != documentOf(form);
 }
 
+/// Its file can be gone, with the folder or by a cleaning.
+bool holds(const JournalState& journal, const std::string& text) {
+    std::error_code ignored;
+    return text == journal.written && std::filesystem::exists(journal.file, ignored);
+}
+
 void writeJournal(Zevlin& form) {
     std::string text = journalText(form);
-    if (text == form.Journal.written) return;
+    if (holds(form.Journal, text)) return;
     openJournal(form);
     toolkit::writeFile(form.Journal.file, text);
     form.Journal.written = std::move(text);

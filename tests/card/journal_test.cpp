@@ -296,6 +296,22 @@ TEST_F(Journal, IsMadeAnewWhereItsFolderWasCleaned) {
     EXPECT_TRUE(fs::exists(home / "state" / "changes-1.lock"));
 }
 
+TEST_F(Journal, ThatWasCleanedAwayIsMadeAnewBeforeAFailedSaveEndsTheProgram) {
+    start();
+    openCard("Jones", {});
+    clickMark(2);
+    toolkit::test::elapseAlarms();
+    ASSERT_TRUE(isThere());
+    fs::remove_all(home / "state");
+    fs::remove(dataFile("Jones.zev"));
+    fs::create_directory(dataFile("Jones.zev"));
+    answer(toolkit::Answer::Yes);
+    announceError("Error in MSave_Click 75, Path/File access error");
+    EXPECT_TRUE(endsProgram([&] { choose("File>Save"); }));
+    ASSERT_TRUE(isThere());
+    EXPECT_TRUE(content().document.marks[1]);
+}
+
 TEST_F(Journal, OfAnotherCopyIsLeftAlone) {
     start();
     clickMark(1);
