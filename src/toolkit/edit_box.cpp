@@ -5,6 +5,7 @@
 
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QGuiApplication>
+#include <QtGui/QInputMethod>
 #include <QtGui/QInputMethodEvent>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
@@ -74,9 +75,17 @@ EditBox::Selection EditBox::shownSelection() const {
     return {selectionStart(), selectionLength()};
 }
 
+std::string EditBox::shownText() const {
+    QString before = text();
+    const QString after = before.mid(cursorPosition());
+    before.truncate(cursorPosition());
+    return ansiText(before) + typedText(composed_) + ansiText(after);
+}
+
+/// What an input method composes counts as typed: whoever leaves the box now would lose it.
 void EditBox::pull() {
     if (isHidden()) return;
-    if (std::string shown = ansiText(text()); shown != knownText_)
+    if (std::string shown = shownText(); shown != knownText_)
         knownText_ = box_.Text = std::move(shown);
     if (const Selection shown = shownSelection(); shown != knownSelection_) {
         knownSelection_ = shown;
@@ -85,8 +94,18 @@ void EditBox::pull() {
     }
 }
 
+/// What was composed has become a part of the text, or the program has another text for the box.
+void EditBox::endComposition() {
+    composed_.clear();
+    QInputMethodEvent nothing;
+    QLineEdit::inputMethodEvent(&nothing);
+    if (hasFocus()) QGuiApplication::inputMethod()->reset();
+}
+
 void EditBox::push() {
-    if (box_.Visible && !composing_) {
+    const bool isLeft = !box_.Visible || box_.Text != knownText_;
+    if (!composed_.isEmpty() && isLeft) endComposition();
+    if (box_.Visible && composed_.isEmpty()) {
         pushText();
         pushSelection();
     }
@@ -221,7 +240,7 @@ void EditBox::releaseOwn(QMouseEvent& event) {
 }
 
 void EditBox::inputMethodEvent(QInputMethodEvent* event) {
-    composing_ = !event->preeditString().isEmpty();
+    composed_ = event->preeditString();
     QLineEdit::inputMethodEvent(event);
 }
 

@@ -45,6 +45,8 @@ class EditBox : public QLineEdit {
     };
 
     [[nodiscard]] Selection shownSelection() const;
+    [[nodiscard]] std::string shownText() const;
+    void endComposition();
     void pushText();
     void pushSelection();
     [[nodiscard]] int baseLine() const;
@@ -62,7 +64,7 @@ class EditBox : public QLineEdit {
     ControlLooks looks_;
     std::string knownText_;
     Selection knownSelection_;
-    bool composing_ = false; ///< an input method has text that isn't in the box yet
+    QString composed_; ///< what an input method shows at the caret and hasn't handed over yet
 };
 
 } // namespace toolkit

@@ -232,6 +232,32 @@ TEST_F(EditKeys, ReleaseDoesNotDestroyWhatAnInputMethodComposes) {
     EXPECT_EQ(form.AText[1].Caption, "1\xEA");
 }
 
+/// An input method can leave it to the program to end what is being composed.
+TEST_F(EditKeys, WhatIsStillComposedStaysInItsField) {
+    startSmall();
+    enter(2, "two");
+    openWith("one");
+    compose("ab", "");
+    clickText(2);
+    EXPECT_EQ(shownText(form.CText), "two");
+    typeKey(toolkit::key::end);
+    toolkit::test::typeText("!");
+    compose("cd", "");
+    clickBareCard();
+    clickText(1);
+    EXPECT_EQ(shownText(form.CText), "oneab");
+    EXPECT_EQ(form.AText[2].Tag, "two!cd");
+}
+
+TEST_F(EditKeys, WhatIsStillComposedIsSaved) {
+    startSmall();
+    openWith("1");
+    compose("NT", "");
+    answerName("Jones");
+    EXPECT_TRUE(chooseMenu("File>Save"));
+    EXPECT_NE(dataFileContent("Jones.zev").find("1,\"1NT\",0"), std::string::npos);
+}
+
 TEST_F(EditKeys, CardDoesNotGetTheKeysOfTheBox) {
     startSmall();
     const float left = form.P1.Left;

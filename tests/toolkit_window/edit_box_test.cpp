@@ -118,11 +118,31 @@ TEST_F(EditBox, PasteOfNothingLeavesTheSelection) {
 TEST_F(EditBox, TextIsNotTouchedWhileAnInputMethodComposes) {
     openBox("ab");
     test::compose("n", "");
-    box.Text = "other";
+    window->update();
     EXPECT_EQ(test::shownText(box), "ab");
     test::compose("", "\u00f1");
     EXPECT_EQ(box.Text, "\xf1"
                         "ab");
+}
+
+TEST_F(EditBox, WhatIsComposedCountsAsTyped) {
+    openBox("ab");
+    select(1, 0);
+    test::compose("n\u0142", "");
+    test::releaseKey(key::left);
+    EXPECT_EQ(box.Text, "anlb");
+    test::compose("", "");
+    test::releaseKey(key::left);
+    EXPECT_EQ(box.Text, "ab");
+}
+
+TEST_F(EditBox, TextSetByTheProgramEndsAComposition) {
+    openBox("ab");
+    test::compose("n", "");
+    box.Text = "other";
+    EXPECT_EQ(test::shownText(box), "other");
+    test::typeText("x");
+    EXPECT_EQ(box.Text, "xother");
 }
 
 TEST_F(EditBox, TextSetByTheProgramIsShown) {
