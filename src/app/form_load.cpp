@@ -30,6 +30,7 @@
 #include "toolkit/ansi.h"
 #include "toolkit/clock.h"
 #include "toolkit/dialog.h"
+#include "toolkit/file_names.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
@@ -141,10 +142,15 @@ void prepareForm(Zevlin& form) {
     choosePicture(form);
 }
 
+bool canBeOpened(const Zevlin& form) {
+    const std::string file = form.CardName + std::string(cardExtension);
+    return !form.CardName.empty() && !isTemporaryCard(form.CardName) &&
+           toolkit::isPossibleFileName(file) && toolkit::findFile(form.DataFolder, file);
+}
+
 void openNamedCard(Zevlin& form, std::string_view commandLine) {
     form.CardName = cardNameOf(commandLine);
-    if (form.CardName.empty() || isTemporaryCard(form.CardName) ||
-        !toolkit::findFile(form.DataFolder, form.CardName + std::string(cardExtension))) {
+    if (!canBeOpened(form)) {
         // The blank card stays, and it has no name.
         form.CardName.clear();
         return;

@@ -175,6 +175,16 @@ TEST_F(FormLoad, ANameBeyondTheCodePageOpensNothing) {
     expectBlankCard();
 }
 
+#ifndef _WIN32
+/// A card's file tells its name in a line, and so does the journal.
+TEST_F(FormLoad, ANameOfTwoLinesOpensNothing) {
+    writeCard("a\nb", "\"\",\"\"\r\n1\r\n1,1,0\r\n1\r\n1,\"x\",0\r\n");
+    start("a\nb.zev");
+    EXPECT_EQ(form.CardName, "");
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+#endif
+
 TEST_F(FormLoad, ACardThatIsNotThereLeavesTheBlankCardUnnamed) {
     start("Nobody.zev");
     expectBlankCard();
