@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "card/document.h"
+#include "card/rescue_file.h"
 #include "monkey/monkey.h"
 #include "toolkit/files.h"
 
@@ -83,6 +84,20 @@ void Monkey::checkCard() {
     EXPECT_EQ(zevlin().MyNumber, mine_.number);
 }
 
+/// The journal holds each change, or an alarm is set to write it.
+void Monkey::checkJournal() {
+    const Zevlin& now = zevlin();
+    const bool isDoubtful = journalDoubtful_ || troubles_->hindersJournal();
+    if (!now.CardModified || now.Journal.alarm.isSet() || isDoubtful) return;
+    CardDocument kept = readRescue(now.Journal.written).document;
+    CardDocument wanted = asStored(documentWithTyping(now));
+    // Fields that were added to the layout and not saved go with a rebuild.
+    kept.marks.resize(wanted.marks.size());
+    kept.texts.resize(wanted.texts.size());
+    kept.cardName = wanted.cardName;
+    EXPECT_EQ(difference(wanted, kept), "");
+}
+
 void Monkey::checkRules() {
     const Zevlin& now = zevlin();
     EXPECT_FALSE(now.CText.Visible && now.LText.Visible);
@@ -141,6 +156,7 @@ void Monkey::check() {
         if (adoptNow_) adopt();
         syncOpenField();
         checkCard();
+        checkJournal();
     }
     checkRules();
     checkTrace();

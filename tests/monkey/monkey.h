@@ -174,6 +174,7 @@ class Monkey : public FormTest {
     void check();
     void syncOpenField();
     void checkCard();
+    void checkJournal();
     void checkRules();
     void checkTrace();
     [[nodiscard]] bool refusesJobs() const;
