@@ -40,6 +40,18 @@ TEST_F(Options, AFileOfCommentsLeavesAllDefaultsAndIsNoFirstRun) {
     EXPECT_TRUE(boxes.empty());
 }
 
+/// It turned up after the program had looked for it.
+TEST_F(Options, AFileThatWasNotReadIsNotWrittenOver) {
+    wireOnly();
+    form.DataFolder = dataFolder;
+    writeOptions("Name=Kim\r\n");
+    IniWrite(form);
+    EXPECT_EQ(dataFileContent("ZEV.Ini"), "Name=Kim\r\n");
+    readOptions(form, dataFileContent("ZEV.Ini"));
+    IniWrite(form);
+    EXPECT_EQ(written("Name"), "Kim");
+}
+
 TEST_F(Options, AZoomOutOfRangeLeavesTheDefault) {
     startWith("Zoom=12\r\n");
     EXPECT_EQ(form.ZoomLevel, 4);

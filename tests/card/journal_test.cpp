@@ -170,6 +170,19 @@ TEST_F(Journal, GoesWhenTheChangesAreGivenUpByAnswer) {
     EXPECT_FALSE(isThere());
 }
 
+TEST_F(Journal, IsWrittenAnewWhereTheSameIsDoneAfterItWasGivenUp) {
+    start();
+    clickMark(2);
+    toolkit::test::elapseAlarms();
+    answer(toolkit::Answer::No);
+    choose("File>New");
+    ASSERT_FALSE(isThere());
+    clickMark(2);
+    toolkit::test::elapseAlarms();
+    ASSERT_TRUE(isThere());
+    EXPECT_TRUE(content().document.marks[1]);
+}
+
 TEST_F(Journal, StaysWhenTheQuestionIsCancelled) {
     start();
     clickMark(2);
@@ -263,6 +276,22 @@ TEST_F(Journal, ThatCouldntBeWrittenIsTriedAgainWithoutAnotherChange) {
     announceError("Error in the journal: #");
     clickMark(2);
     toolkit::test::elapseAlarms();
+    ASSERT_FALSE(isThere());
+    fs::remove(home / "state");
+    toolkit::test::elapseAlarms();
+    ASSERT_TRUE(isThere());
+    EXPECT_TRUE(content().document.marks[1]);
+}
+
+TEST_F(Journal, ThatCouldntBeWrittenIsTriedAgainAfterAJobThatAsked) {
+    start();
+    openCard("Jones", {.partner = "\"Pat\",\"\""});
+    blockStateFolder();
+    announceError("Error in the journal: #");
+    clickMark(2);
+    whileAsking = [] { toolkit::test::elapseAlarms(); };
+    answerFile(home / "page.pdf");
+    choose("File>Print Partner's card");
     ASSERT_FALSE(isThere());
     fs::remove(home / "state");
     toolkit::test::elapseAlarms();

@@ -133,6 +133,36 @@ TEST_F(RescueTest, OfMoreThanTheCardsFileHoldsIsAsked) {
     EXPECT_TRUE(fs::exists(journal()));
 }
 
+TEST_F(RescueTest, OfACardThatAnotherProgramHasChangedSinceIsAsked) {
+    start();
+    openCard("Jones", {});
+    typeInto(1, "mine");
+    kill();
+    writeCard("Jones", cardFile({.texts = {"1,\"theirs\",0"}}));
+    answer(toolkit::Answer::Cancel);
+    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
+    const SecondRun run(window);
+    EXPECT_EQ(boxes.size(), 1U);
+    ASSERT_TRUE(fs::exists(journal()));
+    EXPECT_EQ(readRescue(toolkit::readFile(journal())).document.texts[0].text, "mine");
+}
+
+/// Of a file that nobody has saved meanwhile the question tells that the card was changed at all.
+TEST_F(RescueTest, OfAChangeThatWasTakenBackByHandIsAsked) {
+    start();
+    openCard("Jones", {});
+    clickMark(2);
+    choose("File>Save");
+    clickMark(1);
+    clickMark(1);
+    kill();
+    answer(toolkit::Answer::Cancel);
+    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
+    const SecondRun run(window);
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_TRUE(fs::exists(journal()));
+}
+
 TEST_F(RescueTest, OfAnEmptyJournalIsNone) {
     fs::create_directories(home / "state");
     toolkit::writeFile(journal(), "");
@@ -287,6 +317,7 @@ TEST_F(RescueTest, ATemporaryCardBesideAJournalGoes) {
     start();
     EXPECT_EQ(boxes.size(), 1U);
     EXPECT_FALSE(fs::exists(dataFile("$$Tempcard.zev")));
+    EXPECT_FALSE(fs::exists(journal(2)));
 }
 
 TEST_F(RescueTest, ATemporaryCardOfALivingCopyIsLeftAlone) {

@@ -253,6 +253,23 @@ TEST_F(AddField, APressThatDismissesTheHelpMovesNoFieldEither) {
     EXPECT_FALSE(form.DesignDirty);
 }
 
+TEST_F(AddField, APressThatDismissesTheHelpMovesNotWhatWasAddedBefore) {
+    design();
+    addField(0, 0);
+    ASSERT_EQ(form.AMark.UBound(), 5);
+    const toolkit::Label last = form.AMark[5];
+    typeKey(toolkit::key::f1);
+    form.THelp.Move(0, 1000 * pixel);
+    const float x = addedX + 100 * pixel;
+    moveMouse(x, addedY);
+    pressMouse(x, addedY, right);
+    moveMouse(x + 25 * pixel, addedY, right);
+    releaseMouse(x + 25 * pixel, addedY, right);
+    EXPECT_EQ(form.AMark.UBound(), 5);
+    EXPECT_EQ(form.AMark[5].Left, last.Left);
+    EXPECT_EQ(form.AMark[5].Top, last.Top);
+}
+
 TEST_F(AddField, APressThatDismissesTheHelpWidensAndDressesNoText) {
     design();
     choose("Design>Text");

@@ -1,4 +1,6 @@
 // What a player does, with every operation on files failing once.
+#include <algorithm>
+
 #include "app/second_run.h"
 #include "faults/fault_test.h"
 #include "faults/faults.h"
@@ -141,6 +143,44 @@ TEST_F(FormFaults, GettingTheCardBackAndSavingIt) {
     leaveChangedCard();
     countsLooks = false;
     runWithEveryFault([&] { startAgainAndSave(); }, fewKinds);
+}
+
+/// What is done to the player's files could go wrong half way: by then the journal has the card.
+class JournalFirst : public FormFaults {
+  protected:
+    void expectJournalFirst(const Act& act) {
+        startWithChangedCard();
+        const test_faults::Watch watch(home);
+        act();
+        const auto changes = [](const test_faults::Operation& done) {
+            return done.call == test_faults::Call::OpenToWrite ||
+                   done.call == test_faults::Call::Rename || done.call == test_faults::Call::Remove;
+        };
+        const auto isOfFolder = [&](const test_faults::Operation& done) {
+            return changes(done) && done.path.starts_with(dataFolder.string() + "/");
+        };
+        const auto isJournal = [&](const test_faults::Operation& done) {
+            return done.target == (home / "state" / "changes-1.zev").string();
+        };
+        const auto journal = std::ranges::find_if(watch.done(), isJournal);
+        const auto other = std::ranges::find_if(watch.done(), isOfFolder);
+        ASSERT_NE(other, watch.done().end());
+        EXPECT_LT(journal - watch.done().begin(), other - watch.done().begin()) << other->path;
+    }
+};
+
+TEST_F(JournalFirst, BeforeASave) {
+    expectJournalFirst([&] { choose("File>Save"); });
+}
+
+TEST_F(JournalFirst, BeforeAZoom) {
+    expectJournalFirst([&] { toolkit::test::typeKey(toolkit::key::minus, toolkit::shift::ctrl); });
+}
+
+TEST_F(JournalFirst, BeforeAPrint) {
+    form.mPrintAlt.Checked = true;
+    answerFile(home / "page.pdf");
+    expectJournalFirst([&] { choose("File>Print card"); });
 }
 
 class FormPowerCut : public FormFaults {};

@@ -73,6 +73,17 @@ TEST_F(FileFaults, ACopyIsTheOldOrTheNewOne) {
     runWith([&] { toolkit::copyFile(folder / "from", path); });
 }
 
+TEST_F(FileFaults, WithoutRoomForAnotherFileTheOldOneIsNotWrittenOver) {
+    const auto refuse = [](Call call, const std::string& part) {
+        return call == Call::OpenToWrite && part.ends_with(".part") ? ENOSPC : 0;
+    };
+    {
+        const Watch watch(folder.path(), refuse);
+        EXPECT_FALSE(succeeds([&] { toolkit::writeFile(path, content); }));
+    }
+    EXPECT_EQ(filesIn(data).at(path.string()), old);
+}
+
 /// What another program does just before the last step.
 class LastMoment : public FileFaults {
   protected:

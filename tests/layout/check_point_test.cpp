@@ -62,6 +62,18 @@ TEST_F(CheckPoint, IsUndoneByRestoring) {
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
 }
 
+TEST_F(CheckPoint, TakenTwiceIsUndoneToWhatWasBeforeTheFirst) {
+    start();
+    const std::string before = dataFileContent(layoutName);
+    for (int i = 0; i < 2; ++i) {
+        form.AMark[1].Left += 150;
+        CheckPointShapes(form);
+    }
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_EQ(form.LayoutInMemory, before);
+}
+
 TEST_F(CheckPoint, RestoringWithoutOneDoesNothing) {
     start();
     const std::string before = dataFileContent(layoutName);
