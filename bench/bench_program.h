@@ -8,7 +8,7 @@
 
 #include "app/form_load.h"
 #include "app/wiring.h"
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/load.h"
 #include "toolkit/dialog.h"

@@ -3,7 +3,7 @@
 
 #include "bench_program.h"
 #include "card/lifecycle.h"
-#include "text/edit_field.h"
+#include "events/edit_field.h"
 #include "text/set_sym.h"
 #include "toolkit/key.h"
 #include "view/rebuild.h"

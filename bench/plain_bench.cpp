@@ -4,7 +4,7 @@
 #include <memory>
 #include <random>
 
-#include "app/options_file.h"
+#include "form/options_file.h"
 #include "card/card_file.h"
 #include "layout/layout_file.h"
 #include "layout/skip_comment.h"

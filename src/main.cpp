@@ -1,7 +1,7 @@
 // The program: the platform, the form, the window that shows it.
 #include "app/form_load.h"
 #include "app/wiring.h"
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 #include "toolkit/program.h"
 #include "toolkit/window.h"
 

@@ -5,11 +5,12 @@
 #include <system_error>
 
 #include "app/data_folder_rules.h"
-#include "app/options.h"
-#include "app/settings.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
 #include "card/card_file.h"
+#include "form/options.h"
+#include "form/services.h"
+#include "form/settings.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
@@ -168,12 +169,6 @@ void mDocsFolder_Click(Zevlin& form) {
     } catch (const std::exception&) {
         tellFailed(form, source, toolkit::currentFailure());
     }
-}
-
-fs::path currentFolder(const Zevlin& form) {
-    std::error_code ignored;
-    if (fs::is_directory(form.DataFolder, ignored)) return form.DataFolder;
-    return fs::current_path(ignored);
 }
 
 } // namespace zev

@@ -18,7 +18,4 @@ constexpr const char* dataFolderName = "ZEV";
 /// folder is shared nothing is; a source goes only after its copy was verified.
 void mDocsFolder_Click(Zevlin& form);
 
-/// The folder that relative names mean: the data folder, or where it can't be used the process's.
-[[nodiscard]] std::filesystem::path currentFolder(const Zevlin& form);
-
 } // namespace zev

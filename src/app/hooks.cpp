@@ -1,7 +1,7 @@
 #include "app/hooks.h"
 
-#include "app/run_procedure.h"
-#include "app/zevlin.h"
+#include "form/run_procedure.h"
+#include "form/zevlin.h"
 #include "marks/move_card.h"
 
 namespace zev {

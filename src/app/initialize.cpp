@@ -3,20 +3,18 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/build_fields.h"
-#include "app/data_folder.h"
+#include "layout/build_fields.h"
 #include "app/fonts_check.h"
 #include "app/initialize_failure.h"
-#include "app/initialize_run.h"
-#include "app/options.h"
+#include "layout/initialize_run.h"
 #include "app/place_window.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "help/help_page.h"
 #include "layout/calibration.h"
 #include "layout/read_comment.h"
 #include "layout/save_layout.h"
-#include "output/printer_facts.h"
+#include "form/printer_facts.h"
 #include "toolkit/ansi.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
@@ -25,7 +23,10 @@
 #include "view/colors.h"
 #include "view/fit.h"
 #include "view/image_size.h"
-#include "view/time_stamp.h"
+#include "form/time_stamp.h"
+#include "app/read_options.h"
+#include "form/services.h"
+#include "form/options.h"
 
 namespace zev {
 namespace {

@@ -3,12 +3,13 @@
 #include <filesystem>
 #include <string>
 
-#include "app/data_folder.h"
-#include "app/options.h"
-#include "app/settings.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
-#include "layout/save_layout.h"
+#include "form/options.h"
+#include "form/services.h"
+#include "form/settings.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "layout/initialize_run.h"
+#include "layout/layout_text.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
@@ -87,11 +88,6 @@ void tellLayoutFailure(const Zevlin& form, int step) {
 }
 
 } // namespace
-
-void traceFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int step) {
-    traceFailure(form, "Error in Initialize ", failure,
-                 ", after step " + toolkit::numberText(step));
-}
 
 void endFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int step) {
     traceFailedInitialize(form, failure, step);

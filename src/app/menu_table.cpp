@@ -10,7 +10,7 @@
 #include "design/pen.h"
 #include "help/help_page.h"
 #include "layout/save_layout.h"
-#include "marks/record_tabs.h"
+#include "events/record_tabs.h"
 #include "output/export_card.h"
 #include "output/print_card.h"
 #include "output/print_options.h"

@@ -4,7 +4,7 @@
 #include <span>
 #include <string_view>
 
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 
 namespace zev {
 

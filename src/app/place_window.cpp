@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "app/initialize_run.h"
-#include "app/zevlin.h"
+#include "layout/initialize_run.h"
+#include "form/zevlin.h"
 #include "toolkit/screen.h"
 #include "view/task_bar.h"
 

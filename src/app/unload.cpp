@@ -3,14 +3,14 @@
 #include <string>
 
 #include "app/hooks.h"
-#include "app/options.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/chooser_events.h"
-#include "card/modified.h"
-#include "output/printer_facts.h"
+#include "form/printer_facts.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
+#include "card/check_mod.h"
+#include "form/options.h"
 
 namespace zev {
 

@@ -1,8 +1,8 @@
 #include "app/wire_panels.h"
 
 #include "app/folder_line.h"
-#include "app/run_procedure.h"
-#include "app/zevlin.h"
+#include "form/run_procedure.h"
+#include "form/zevlin.h"
 #include "card/chooser_events.h"
 #include "view/color_panel.h"
 

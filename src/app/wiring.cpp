@@ -2,21 +2,26 @@
 
 #include <vector>
 
+#include "app/initialize.h"
 #include "app/menu_table.h"
-#include "app/run_procedure.h"
-#include "app/trace.h"
 #include "app/unload.h"
 #include "app/wire_panels.h"
-#include "app/zevlin.h"
 #include "card/journal.h"
+#include "design/design_mode.h"
 #include "design/drag_field.h"
 #include "design/undo.h"
+#include "events/card_mouse.h"
+#include "events/edit_field.h"
+#include "events/edit_keys.h"
+#include "events/keys.h"
+#include "events/mark_clicks.h"
+#include "form/run_procedure.h"
+#include "form/trace.h"
+#include "form/unsaved.h"
+#include "form/zevlin.h"
 #include "help/help_page.h"
-#include "marks/card_mouse.h"
-#include "marks/keys.h"
-#include "marks/mark_clicks.h"
-#include "text/edit_field.h"
-#include "text/edit_keys.h"
+#include "text/edit_box.h"
+#include "view/image_size.h"
 
 namespace zev {
 namespace {
@@ -29,6 +34,14 @@ void wireForm(Zevlin& form) {
     form.Unhandled = [&form](const toolkit::RunTimeError& failure) {
         traceFailure(form, "Error in an event: #", failure);
     };
+}
+
+/// What a procedure calls that lies on a floor above its own.
+void wireSlots(Zevlin& form) {
+    form.Slots.initialize = [&form] { Initialize(form); };
+    form.Slots.toggleDesignMode = [&form] { MShowShapes_Click(form); };
+    form.Slots.restorePicture = [&form] { RestoreBackgroundPicture(form, Rescale::IfChanged); };
+    form.Slots.ringJournal = [&form] { ringJournal(form); };
 }
 
 void wireCard(Zevlin& form) {
@@ -113,6 +126,7 @@ std::vector<toolkit::MenuRow> menuRows(Zevlin& form) {
 
 toolkit::WindowParts wire(Zevlin& form) {
     wireForm(form);
+    wireSlots(form);
     wireCard(form);
     wireBoxes(form);
     wireHelp(form);

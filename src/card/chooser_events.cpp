@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/chooser_menu.h"
 #include "toolkit/ansi.h"
 #include "toolkit/key.h"

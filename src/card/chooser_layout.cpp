@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "app/panel_look.h"
-#include "app/zevlin.h"
-#include "view/panels.h"
+#include "form/panel_look.h"
+#include "form/zevlin.h"
+#include "form/panels.h"
 
 namespace zev {
 namespace {

@@ -4,18 +4,18 @@
 #include <filesystem>
 #include <string>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/chooser.h"
 #include "card/chooser_events.h"
-#include "card/journal.h"
-#include "card/modified.h"
+#include "form/modified.h"
 #include "card/save.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
+#include "form/unsaved.h"
 
 namespace zev {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/set_sym.h"
@@ -30,18 +30,11 @@ void showStyles(Zevlin& form, int index, int switches) {
     form.Highlight[index].Visible = has(text_switch::highlight);
 }
 
-const toolkit::TextBox* openBox(const Zevlin& form) {
+const toolkit::TextBox* boxWithTyping(const Zevlin& form) {
     const bool isOpen = form.TIndex > 0 && form.OrigIndex == form.TIndex;
     if (!isOpen || form.MShowShapes.Checked) return nullptr;
     if (form.CText.Visible) return &form.CText;
     return form.LText.Visible ? &form.LText : nullptr;
-}
-
-/// Number of the last field that is filled in, 0 for none.
-template <typename List, typename IsFilled>
-int lastFilled(const List& list, IsFilled isFilled) {
-    const auto found = std::find_if(list.rbegin(), list.rend(), isFilled);
-    return static_cast<int>(list.rend() - found);
 }
 
 } // namespace
@@ -59,7 +52,7 @@ CardDocument documentOf(const Zevlin& form) {
 
 CardDocument documentWithTyping(const Zevlin& form) {
     CardDocument document = documentOf(form);
-    if (const toolkit::TextBox* box = openBox(form)) {
+    if (const toolkit::TextBox* box = boxWithTyping(form)) {
         std::string typed = box->Text;
         AmpAdd(typed);
         document.texts.at(static_cast<std::size_t>(form.TIndex) - 1).text = std::move(typed);
@@ -85,12 +78,6 @@ void showDocument(Zevlin& form, const CardDocument& document) {
         showStyles(form, i, text.switches);
         showText(form, i, text.text);
     }
-}
-
-bool hasRoomFor(const Zevlin& form, const CardDocument& document) {
-    const auto isWritten = [](const CardDocument::Text& text) { return !text.text.empty(); };
-    return lastFilled(document.marks, [](bool set) { return set; }) <= form.AMark.UBound() &&
-           lastFilled(document.texts, isWritten) <= form.AText.UBound();
 }
 
 } // namespace zev

@@ -21,7 +21,4 @@ void showDocument(Zevlin& form, const CardDocument& document);
 /// Puts a raw text with doubled ampersands into its field, fitted and with its suit symbols.
 void showText(Zevlin& form, int index, const std::string& raw);
 
-/// Whether the layout has a field for everything that is filled in.
-[[nodiscard]] bool hasRoomFor(const Zevlin& form, const CardDocument& document);
-
 } // namespace zev

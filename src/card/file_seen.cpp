@@ -1,6 +1,6 @@
 #include "card/file_seen.h"
 
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 
 namespace zev {
 

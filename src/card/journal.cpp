@@ -3,19 +3,17 @@
 #include <string>
 #include <utility>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/document.h"
 #include "card/rescue.h"
 #include "card/rescue_file.h"
 #include "text/escapes.h"
 #include "toolkit/files.h"
+#include "form/unsaved.h"
 
 namespace zev {
 namespace {
-
-/// Milliseconds from a change to its writing: half a second is left for the writing itself.
-constexpr int journalDelay = 1500;
 
 /// A job or a rebuild has the card in its hands: what the controls hold isn't the player's card.
 bool isCardAway(const Zevlin& form) { return form.Printing || form.Carried || form.Journal.isHeld; }
@@ -64,16 +62,7 @@ bool tryToWrite(Zevlin& form) {
     }
 }
 
-void ring(Zevlin& form) {
-    if (isCardAway(form)) return noteChange(form);
-    flushJournal(form);
-}
-
 } // namespace
-
-void noteChange(Zevlin& form) {
-    form.Journal.alarm.set(journalDelay, [&form] { ring(form); });
-}
 
 void flushJournal(Zevlin& form) {
     if (isCardAway(form)) return;
@@ -81,12 +70,11 @@ void flushJournal(Zevlin& form) {
     if (hasUnsavedChanges(form)) static_cast<void>(tryToWrite(form));
 }
 
-bool keepForNextStart(Zevlin& form) { return isCardAway(form) || tryToWrite(form); }
-
-void dropJournal(Zevlin& form) {
-    form.Journal.alarm.cancel();
-    form.Journal.written.clear();
-    if (!form.Journal.file.empty()) discardJournal(form.Journal.file);
+void ringJournal(Zevlin& form) {
+    if (isCardAway(form)) return noteChange(form);
+    flushJournal(form);
 }
+
+bool keepForNextStart(Zevlin& form) { return isCardAway(form) || tryToWrite(form); }
 
 } // namespace zev

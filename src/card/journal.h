@@ -6,17 +6,14 @@ namespace zev {
 
 struct Zevlin;
 
-/// The card has changed, or the text of the open field: the journal has it within two seconds.
-void noteChange(Zevlin& form);
-
 /// Writes what isn't in the journal yet. Does nothing while a job or a rebuild has the card in its
 /// hands: it was written before.
 void flushJournal(Zevlin& form);
 
+/// The alarm of a change rings: the same, or later where the card is away.
+void ringJournal(Zevlin& form);
+
 /// The same for a card whose saving failed, changed or not; false if it couldn't be written.
 [[nodiscard]] bool keepForNextStart(Zevlin& form);
-
-/// The card was saved, or its changes were given up.
-void dropJournal(Zevlin& form);
 
 } // namespace zev

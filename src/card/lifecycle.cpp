@@ -3,20 +3,20 @@
 #include <algorithm>
 #include <string>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/chooser.h"
 #include "card/file_seen.h"
 #include "card/load.h"
-#include "card/modified.h"
+#include "form/modified.h"
 #include "card/names_line.h"
 #include "card/save.h"
-#include "text/edit_field.h"
 #include "text/set_sym.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
-#include "view/image_size.h"
+#include "text/edit_box.h"
+#include "card/check_mod.h"
 
 namespace zev {
 namespace {
@@ -50,7 +50,7 @@ void makeNewCard(Zevlin& form) {
     form.TabActive = false;
     hideTextBox(form, form.LText);
     hideTextBox(form, form.CText);
-    RestoreBackgroundPicture(form, Rescale::IfChanged);
+    form.Slots.restorePicture();
     form.P1.Move(0, 0);
     clearFields(form);
     form.CardName.clear();

@@ -4,13 +4,13 @@
 #include <string>
 #include <utility>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/card_names.h"
 #include "card/document.h"
 #include "card/file_seen.h"
-#include "card/modified.h"
+#include "form/modified.h"
 #include "card/names_line.h"
 #include "card/save.h"
 #include "layout/read_comment.h"
@@ -18,7 +18,7 @@
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
-#include "view/background.h"
+#include "form/background.h"
 
 namespace zev {
 namespace {

@@ -2,17 +2,17 @@
 
 #include <string>
 
-#include "app/file_failures.h"
-#include "app/options.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
-#include "card/modified.h"
-#include "text/edit_field.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "form/modified.h"
+#include "form/file_failures.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/set_sym.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
+#include "text/edit_box.h"
+#include "form/options.h"
 
 namespace zev {
 namespace {

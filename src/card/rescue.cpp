@@ -6,16 +6,17 @@
 #include <utility>
 #include <vector>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/document.h"
-#include "card/journal.h"
-#include "card/modified.h"
+#include "form/modified.h"
+#include "layout/build_fields.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
+#include "form/unsaved.h"
 
 namespace zev {
 namespace {
@@ -180,12 +181,6 @@ void openJournal(Zevlin& form) {
         if (!isThere(file)) return;
     }
     throw toolkit::RunTimeError(toolkit::Failure::PermissionDenied);
-}
-
-void discardJournal(const fs::path& file) {
-    std::error_code failed;
-    fs::remove(file, failed);
-    if (failed) fs::resize_file(file, 0, failed);
 }
 
 std::optional<Rescue> offerRescue(Zevlin& form) {

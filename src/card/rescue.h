@@ -21,9 +21,6 @@ struct Rescue {
 /// Gives the journal a file that no other copy has. Failures as those of files.
 void openJournal(Zevlin& form);
 
-/// Removes the file of a journal, or empties it where its folder lets none go: no start offers it.
-void discardJournal(const std::filesystem::path& file);
-
 /// Asks the player about what dead copies left, the oldest first, until one is wanted back. What
 /// they give up is removed; what they don't decide on is asked again at the next start. A temporary
 /// card that was left without any journal is offered likewise.

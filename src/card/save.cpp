@@ -3,20 +3,20 @@
 #include <string>
 #include <utility>
 
-#include "app/file_failures.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/file_failures.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/document.h"
 #include "card/file_seen.h"
 #include "card/journal.h"
 #include "card/lifecycle.h"
-#include "card/modified.h"
-#include "text/edit_field.h"
+#include "form/modified.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/program.h"
-#include "view/time_stamp.h"
+#include "form/time_stamp.h"
+#include "text/edit_box.h"
 
 namespace zev {
 namespace {

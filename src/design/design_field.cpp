@@ -1,7 +1,7 @@
 #include "design/design_field.h"
 
-#include "app/zevlin.h"
-#include "marks/mark_clicks.h"
+#include "form/zevlin.h"
+#include "form/field_values.h"
 
 namespace zev {
 

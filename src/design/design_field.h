@@ -1,23 +1,16 @@
-// A mark or a text field as design mode speaks of them: both are labels that can be moved about.
+// The controls of the fields that design mode moves about.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "toolkit/color.h"
+#include "form/design_state.h"
 #include "toolkit/label.h"
 
 namespace zev {
 
 struct Zevlin;
-
-enum class FieldKind { Mark = 1, Text = 2 };
-
-struct DesignField {
-    FieldKind kind = FieldKind::Mark;
-    int index = 0;
-    bool operator==(const DesignField&) const = default;
-};
 
 /// A field that doesn't exist is failure 340.
 [[nodiscard]] toolkit::Label& labelOf(Zevlin& form, DesignField field);

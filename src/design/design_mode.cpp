@@ -3,11 +3,11 @@
 #include <array>
 #include <string>
 
-#include "app/text_fields.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "layout/text_fields.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/lifecycle.h"
-#include "card/modified.h"
+#include "form/modified.h"
 #include "card/save.h"
 #include "design/add_field.h"
 #include "design/design_field.h"
@@ -17,6 +17,7 @@
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
 #include "view/colors.h"
+#include "form/field_values.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 #include "design/drag_field.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "design/field_colors.h"
 #include "toolkit/number_text.h"
 

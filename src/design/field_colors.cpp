@@ -3,9 +3,9 @@
 #include <array>
 #include <vector>
 
-#include "app/field_values.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/field_values.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/dialog.h"
 #include "toolkit/number_text.h"
 

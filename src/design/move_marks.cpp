@@ -1,9 +1,9 @@
 #include "design/move_marks.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "layout/field.h"
-#include "marks/marks_state.h"
+#include "form/marks_state.h"
 #include "toolkit/screen.h"
 
 namespace zev {

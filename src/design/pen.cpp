@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 
 namespace zev {
 namespace {

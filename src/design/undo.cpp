@@ -1,7 +1,7 @@
 #include "design/undo.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "design/add_field.h"
 #include "design/design_field.h"
 #include "toolkit/number_text.h"

@@ -2,9 +2,10 @@
 
 #include <algorithm>
 
-#include "app/settings.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/panels.h"
+#include "form/settings.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "help/help_text.h"
 #include "toolkit/ansi.h"
 #include "toolkit/key.h"
@@ -89,12 +90,6 @@ void THelp_Click(Zevlin& form) {
         const auto address = std::string(webAddress) + std::string(faqPath);
         toolkit::openWebPage(address.c_str());
     });
-}
-
-void hideHelp(Zevlin& form) {
-    form.THelp.Visible = false;
-    form.P1.Enabled = true;
-    form.SetFocus(form.P1);
 }
 
 } // namespace zev

@@ -17,7 +17,4 @@ void THelp_KeyPress(Zevlin& form, int& KeyAscii);
 /// The two lines that name the web site open it.
 void THelp_Click(Zevlin& form);
 
-/// Takes the page away and gives the card back to the player. Whoever hides the page calls this.
-void hideHelp(Zevlin& form);
-
 } // namespace zev

@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "layout/ink.h"
 #include "toolkit/bitmap.h"
 

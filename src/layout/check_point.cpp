@@ -4,9 +4,10 @@
 #include <string>
 #include <utility>
 
-#include "app/file_failures.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/file_failures.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "layout/layout_text.h"
 #include "layout/save_layout.h"
 #include "toolkit/files.h"
 

@@ -3,10 +3,10 @@
 #include <optional>
 #include <string>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "layout/layout_file.h"
-#include "layout/save_layout.h"
+#include "layout/layout_text.h"
 #include "layout/version.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"

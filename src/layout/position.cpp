@@ -1,8 +1,8 @@
 #include "layout/position.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
-#include "text/edit_field.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "text/edit_box.h"
 
 namespace zev {
 

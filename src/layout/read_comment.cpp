@@ -1,7 +1,7 @@
 #include "layout/read_comment.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "layout/skip_comment.h"
 
 namespace zev {

@@ -4,8 +4,8 @@
 #include <optional>
 #include <string>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/key.h"
 #include "toolkit/number_text.h"
 #include "toolkit/screen.h"

@@ -3,9 +3,9 @@
 #include <optional>
 #include <string>
 
-#include "app/services.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/services.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/screen.h"
 
 namespace zev {

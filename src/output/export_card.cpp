@@ -1,7 +1,7 @@
 #include "output/export_card.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "output/print_card.h"
 #include "output/print_partner.h"
 

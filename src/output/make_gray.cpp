@@ -1,7 +1,7 @@
 #include "output/make_gray.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "output/gray.h"
 
 namespace zev {

@@ -2,10 +2,9 @@
 
 #include <utility>
 
-#include "app/file_failures.h"
-#include "app/options.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/file_failures.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/journal.h"
 #include "layout/check_point.h"
 #include "layout/field.h"
@@ -15,14 +14,15 @@
 #include "output/make_gray.h"
 #include "output/print_picture.h"
 #include "output/printed_size.h"
-#include "output/printer_facts.h"
-#include "text/edit_field.h"
+#include "form/printer_facts.h"
 #include "toolkit/dialog.h"
 #include "toolkit/program.h"
 #include "toolkit/window.h"
 #include "view/image_size.h"
 #include "view/rebuild.h"
-#include "view/time_stamp.h"
+#include "form/time_stamp.h"
+#include "text/edit_box.h"
+#include "form/options.h"
 
 namespace zev {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/number_text.h"
 
 namespace zev {

@@ -4,13 +4,13 @@
 #include <string>
 #include <string_view>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "output/blank_page.h"
 #include "output/print_card.h"
 #include "output/print_image.h"
 #include "output/printed_size.h"
-#include "output/printer_facts.h"
+#include "form/printer_facts.h"
 #include "output/save_image.h"
 #include "toolkit/ansi.h"
 #include "toolkit/clipboard.h"

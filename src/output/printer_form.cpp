@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/program.h"
 
 namespace zev {

@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <string>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "output/gdi_plus.h"
 #include "output/image_name.h"
 #include "toolkit/ansi.h"

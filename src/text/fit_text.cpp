@@ -1,11 +1,10 @@
 #include "text/fit_text.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "text/base_line.h"
 #include "text/fit.h"
 #include "toolkit/number_text.h"
-#include "view/image_size.h"
 
 namespace zev {
 namespace {

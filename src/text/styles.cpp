@@ -6,12 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
-#include "card/journal.h"
-#include "card/modified.h"
-#include "text/edit_field.h"
-#include "text/edit_keys.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "form/modified.h"
+#include "text/edit_box.h"
+#include "form/unsaved.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "toolkit/clipboard.h"
@@ -19,11 +18,6 @@
 
 namespace zev {
 namespace {
-
-constexpr int boldKey = 2;
-constexpr int italicKey = 9;
-constexpr int leftKey = 12;
-constexpr int undoKey = 26;
 
 void swallow(Zevlin& form, int& KeyAscii) {
     SetMod(form);
@@ -49,12 +43,6 @@ void restoreField(Zevlin& form) {
     AmpAdd(field.Caption);
 }
 
-bool isEditing(const Zevlin& form) {
-    return form.TIndex > 0 && (form.CText.Visible || form.LText.Visible);
-}
-
-toolkit::TextBox& openBox(Zevlin& form) { return form.LText.Visible ? form.LText : form.CText; }
-
 void changeAlignment(Zevlin& form, toolkit::Alignment alignment) {
     const bool center = alignment == toolkit::Alignment::Center;
     toolkit::TextBox& from = center ? form.LText : form.CText;
@@ -69,16 +57,6 @@ void changeAlignment(Zevlin& form, toolkit::Alignment alignment) {
     // The focus moves on before the box goes, and nothing of the field is committed yet.
     from.Visible = false;
     form.ActiveControl = &to;
-}
-
-/// A menu command and its key are one path.
-void pressKey(Zevlin& form, std::string_view name, int key) {
-    Traceit(form, name);
-    trapped(form, "Error in " + std::string(name) + ": #", [&] {
-        if (!isEditing(form)) return;
-        int KeyAscii = key;
-        xText_KeyPress(form, openBox(form), KeyAscii);
-    });
 }
 
 /// The selection in the box, empty if nothing is selected.
@@ -97,11 +75,6 @@ void copy(Zevlin& form) {
     // The caption may have blanks for its suits; others get the text that is edited.
     const std::string& given = selected.empty() ? box.Text : selected;
     if (!given.empty()) toolkit::setClipboardText(given);
-}
-
-/// The private copy counts only as long as nothing else has been copied anywhere.
-bool takesCopy(const Zevlin& form) {
-    return form.mpopPaste.Enabled && !form.ClipText.empty() && toolkit::holdsClipboardText();
 }
 
 void pasteCopy(Zevlin& form) {
@@ -137,6 +110,10 @@ void paste(Zevlin& form) {
 }
 
 } // namespace
+
+bool takesCopy(const Zevlin& form) {
+    return form.mpopPaste.Enabled && !form.ClipText.empty() && toolkit::holdsClipboardText();
+}
 
 void toggleBold(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
     if (!form.mpopBold.Enabled) {
@@ -184,11 +161,6 @@ void undoField(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
     noteChange(form);
 }
 
-void mpopUndo_Click(Zevlin& form) { pressKey(form, "mpopUndo_Click", undoKey); }
-void mpopBold_Click(Zevlin& form) { pressKey(form, "mpopBold_Click", boldKey); }
-void mpopItalic_Click(Zevlin& form) { pressKey(form, "mpopItalic_Click", italicKey); }
-void mpopLeft_Click(Zevlin& form) { pressKey(form, "mpopLeft_Click", leftKey); }
-
 void mpopHilite_Click(Zevlin& form) {
     Traceit(form, "mpopHilite");
     if (!isEditing(form)) return;
@@ -210,29 +182,6 @@ void mpopCopy_Click(Zevlin& form) {
 void mpopPaste_Click(Zevlin& form) {
     Traceit(form, "mpopPaste_Click");
     trapped(form, "Error in mpopPaste_Click: #", [&] { paste(form); });
-}
-
-void openTextMenu(Zevlin& form) {
-    const auto row = [&form](toolkit::MenuItem& item, std::string shortcut,
-                             void (*procedure)(Zevlin&)) {
-        return toolkit::PopupRow{.item = &item,
-                                 .shortcut = std::move(shortcut),
-                                 .Click = [&form, procedure] { procedure(form); }};
-    };
-    toolkit::MenuItem pasteItem = form.mpopPaste;
-    pasteItem.Enabled = takesCopy(form) || toolkit::hasClipboardText();
-    const std::vector<toolkit::PopupRow> rows{
-        row(form.mpopUndo, "Ctrl+Z", mpopUndo_Click),
-        {},
-        row(form.mpopBold, "Ctrl+B", mpopBold_Click),
-        row(form.mpopItalic, "Ctrl+I", mpopItalic_Click),
-        row(form.mpopLeft, "Ctrl+L", mpopLeft_Click),
-        row(form.mpopHilite, "Ctrl+G", mpopHilite_Click),
-        {},
-        row(form.mpopCopy, "Ctrl+C", mpopCopy_Click),
-        row(pasteItem, "Ctrl+V", mpopPaste_Click),
-    };
-    toolkit::popupMenu(rows);
 }
 
 } // namespace zev

@@ -14,15 +14,12 @@ void toggleJustification(Zevlin& form, int& KeyAscii);
 void undoField(Zevlin& form, toolkit::TextBox& box, int& KeyAscii);
 
 // By the pop-up menu.
-void mpopUndo_Click(Zevlin& form);
-void mpopBold_Click(Zevlin& form);
-void mpopItalic_Click(Zevlin& form);
-void mpopLeft_Click(Zevlin& form);
 void mpopHilite_Click(Zevlin& form);
 void mpopCopy_Click(Zevlin& form);
 void mpopPaste_Click(Zevlin& form);
 
-/// Opens the pop-up menu of a text field.
-void openTextMenu(Zevlin& form);
+/// Whether a paste takes the program's own copy: it counts only as long as nothing else has been
+/// copied anywhere.
+[[nodiscard]] bool takesCopy(const Zevlin& form);
 
 } // namespace zev

@@ -3,15 +3,14 @@
 #include <algorithm>
 #include <array>
 
-#include "app/options.h"
-#include "app/panel_look.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
-#include "help/help_page.h"
+#include "form/panel_look.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/number_text.h"
 #include "view/color_panel_layout.h"
 #include "view/colors.h"
-#include "view/panels.h"
+#include "form/panels.h"
+#include "form/options.h"
 
 namespace zev {
 namespace {

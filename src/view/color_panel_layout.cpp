@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "app/panel_look.h"
-#include "app/zevlin.h"
+#include "form/panel_look.h"
+#include "form/zevlin.h"
 
 namespace zev {
 namespace {

@@ -3,12 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "app/options.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/field_values.h"
+#include "form/zevlin.h"
 #include "layout/field.h"
 #include "toolkit/number_text.h"
 #include "view/color_panel.h"
+#include "form/options.h"
 
 namespace zev {
 namespace {
@@ -79,13 +80,6 @@ void mColorScheme_Click(Zevlin& form, int index) {
 void SetGlobalColors(Zevlin& form) {
     Traceit(form, "SetGlobalColors");
     trapped(form, "Error in SetGlobalColors: #", [&] { paintScheme(form); });
-}
-
-int ColorSchemeIndex(const Zevlin& form) {
-    for (std::size_t i = 0; i < form.mcolorscheme.size(); ++i) {
-        if (form.mcolorscheme[i].Checked) return static_cast<int>(i);
-    }
-    return 0;
 }
 
 void KeepFieldColors(Zevlin& form) {

@@ -12,9 +12,6 @@ void mColorScheme_Click(Zevlin& form, int index);
 /// Paints all fields in the present scheme; the fields' own colours stay remembered.
 void SetGlobalColors(Zevlin& form);
 
-/// Index of the first checked scheme, 0 if none.
-[[nodiscard]] int ColorSchemeIndex(const Zevlin& form);
-
 /// Remembers each field's present colour as its own.
 void KeepFieldColors(Zevlin& form);
 

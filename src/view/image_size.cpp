@@ -6,8 +6,8 @@
 #include <string>
 #include <utility>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/number_text.h"
 #include "toolkit/screen.h"
 #include "view/scale_picture.h"

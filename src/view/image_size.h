@@ -11,8 +11,6 @@ struct Zevlin;
 /// Whether to scale even if the scale is the one of the last scaling.
 enum class Rescale { IfChanged, Always };
 
-/// Width of the card in pixels at which the layout's places are told.
-constexpr float designWidth = 1198;
 /// Bounds of the scales that can be shown; any other is shown at half size.
 constexpr float smallestScale = 0.2F;
 constexpr float largestScale = 1.0F;

@@ -2,22 +2,20 @@
 
 #include <string>
 
-#include "app/file_failures.h"
-#include "app/initialize.h"
-#include "app/options.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/file_failures.h"
+#include "form/options.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/document.h"
 #include "card/journal.h"
 #include "card/lifecycle.h"
 #include "card/load.h"
-#include "card/modified.h"
+#include "form/modified.h"
 #include "card/save.h"
-#include "design/design_mode.h"
-#include "text/edit_field.h"
+#include "text/edit_box.h"
 #include "toolkit/files.h"
-#include "view/background.h"
+#include "form/background.h"
 #include "view/image_size.h"
 
 namespace zev {
@@ -73,7 +71,7 @@ void carryThrough(Zevlin& form) {
     // The places in it are those of the former size.
     form.UndoIndex = 0;
     form.P1.Visible = false;
-    Initialize(form);
+    form.Slots.initialize();
     form.CardName = temporaryCardName;
     GetCardFile(form);
     kept.noteShown();
@@ -89,7 +87,7 @@ void carryThrough(Zevlin& form) {
 /// one carries stays with it.
 void rebuild(Zevlin& form) {
     if (form.Carried)
-        Initialize(form);
+        form.Slots.initialize();
     else
         carryThrough(form);
 }
@@ -104,14 +102,14 @@ void RebuildScreenImage(Zevlin& form) {
         // What fails here fails again, and is told, where the picture is wanted.
         if (!form.Initializing) ignoringFailures([&] { StartPicture(form); });
         // What design mode shows is neither to be saved nor to be lost.
-        if (designing) MShowShapes_Click(form);
+        if (designing) form.Slots.toggleDesignMode();
         // Before any other file is touched.
         if (!form.Initializing) flushJournal(form);
         IniWrite(form);
         if (!form.Initializing) rebuild(form);
     });
     form.PictureStarted.reset();
-    if (designing) MShowShapes_Click(form);
+    if (designing) form.Slots.toggleDesignMode();
     // A job tells when it is over.
     if (!form.Printing && !form.Carried && !form.Initializing) tellFileFailures(form);
 }

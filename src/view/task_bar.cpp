@@ -1,7 +1,7 @@
 #include "view/task_bar.h"
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 
 namespace zev {
 

@@ -3,16 +3,15 @@
 #include <array>
 #include <string>
 
-#include "app/options.h"
-#include "app/trace.h"
-#include "app/zevlin.h"
-#include "card/journal.h"
-#include "card/modified.h"
-#include "design/design_mode.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "form/modified.h"
 #include "layout/check_point.h"
 #include "layout/field.h"
 #include "text/set_sym.h"
 #include "view/rebuild.h"
+#include "form/unsaved.h"
+#include "form/options.h"
 
 namespace zev {
 namespace {
@@ -46,12 +45,12 @@ void rebuildKeepingChanges(Zevlin& form) {
 bool setDesignAside(Zevlin& form) {
     if (!form.MShowShapes.Checked) return false;
     CheckPointShapes(form);
-    MShowShapes_Click(form);
+    form.Slots.toggleDesignMode();
     return true;
 }
 
 void bringDesignBack(Zevlin& form) {
-    MShowShapes_Click(form);
+    form.Slots.toggleDesignMode();
     RestoreShapes(form);
 }
 

@@ -2,8 +2,8 @@
 
 #include <optional>
 
-#include "app/trace.h"
-#include "app/zevlin.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/program.h"
 #include "view/rebuild.h"
 #include "view/zoom_run.h"

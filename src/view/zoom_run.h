@@ -1,7 +1,7 @@
 // What a zoom and a fit have in common.
 #pragma once
 
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 #include "layout/position.h"
 
 namespace zev {

@@ -1,6 +1,6 @@
 #include "app/data_folder.h"
 #include "app/layouts.h"
-#include "app/settings.h"
+#include "form/settings.h"
 #include "toolkit/files.h"
 
 namespace zev::test {

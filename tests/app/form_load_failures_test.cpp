@@ -1,6 +1,6 @@
 #include "app/form_load.h"
 #include "app/layouts.h"
-#include "app/settings.h"
+#include "form/settings.h"
 #include "toolkit/files.h"
 #include "toolkit/printer.h"
 

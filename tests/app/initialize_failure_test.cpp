@@ -1,5 +1,6 @@
 #include "app/layouts.h"
-#include "app/settings.h"
+#include "form/settings.h"
+#include "layout/layout_text.h"
 #include "toolkit/files.h"
 
 namespace zev::test {

@@ -5,6 +5,7 @@
 
 #include "app/layouts.h"
 #include "toolkit/key.h"
+#include "layout/save_layout.h"
 
 namespace zev::test {
 namespace {

@@ -1,6 +1,6 @@
 #include "app/place_window.h"
 
-#include "app/initialize_run.h"
+#include "layout/initialize_run.h"
 #include "app/layouts.h"
 #include "view/rebuild.h"
 

@@ -5,7 +5,7 @@
 
 #include "app/form_load.h"
 #include "app/wiring.h"
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 #include "toolkit/window.h"
 
 namespace zev::test {

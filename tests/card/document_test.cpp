@@ -1,6 +1,7 @@
 #include "card/document.h"
 
 #include "card_form_test.h"
+#include "layout/build_fields.h"
 
 namespace zev::test {
 namespace {

@@ -1,10 +1,10 @@
 #include "card/lifecycle.h"
 
-#include "card/modified.h"
+#include "form/modified.h"
 #include "card_form_test.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
-#include "view/background.h"
+#include "form/background.h"
 
 namespace zev::test {
 namespace {

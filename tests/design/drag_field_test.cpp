@@ -1,7 +1,8 @@
 #include "design/drag_field.h"
 
 #include "design/design_test.h"
-#include "marks/mark_clicks.h"
+#include "events/mark_clicks.h"
+#include "form/field_values.h"
 
 namespace zev::test {
 namespace {

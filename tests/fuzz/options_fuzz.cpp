@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "app/options_file.h"
+#include "form/options_file.h"
 #include "layout/skip_comment.h"
 #include "toolkit/ansi.h"
 

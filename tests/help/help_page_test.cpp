@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "app/settings.h"
-#include "app/zevlin.h"
+#include "form/settings.h"
+#include "form/zevlin.h"
 #include "toolkit/key.h"
 #include "toolkit/program.h"
 

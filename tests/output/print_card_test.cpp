@@ -1,8 +1,8 @@
 #include "output/print_card.h"
 
-#include "app/options.h"
 #include "output/print_test.h"
 #include "view/fit.h"
+#include "form/options.h"
 
 namespace zev::test {
 namespace {

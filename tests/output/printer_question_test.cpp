@@ -5,8 +5,7 @@
 #include <thread>
 #include <utility>
 
-#include "app/options.h"
-#include "output/printer_facts.h"
+#include "form/printer_facts.h"
 #include "support/form_test.h"
 #include "toolkit/key.h"
 #include "toolkit/printer.h"

@@ -12,7 +12,7 @@
 
 #include <gtest/gtest.h>
 
-#include "app/zevlin.h"
+#include "form/zevlin.h"
 #include "toolkit/dialog.h"
 #include "toolkit/program.h"
 #include "toolkit/test_support.h"

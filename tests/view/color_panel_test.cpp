@@ -6,6 +6,7 @@
 #include "app/layouts.h"
 #include "toolkit/key.h"
 #include "view/colors.h"
+#include "form/field_values.h"
 
 namespace zev::test {
 namespace {

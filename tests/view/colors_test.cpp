@@ -1,6 +1,7 @@
 #include "view/colors.h"
 
 #include "app/layouts.h"
+#include "form/field_values.h"
 
 namespace zev::test {
 namespace {

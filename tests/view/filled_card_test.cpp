@@ -8,7 +8,7 @@
 #include "card/load.h"
 #include "support/form_test.h"
 #include "support/scaled_picture.h"
-#include "text/edit_field.h"
+#include "events/edit_field.h"
 #include "toolkit/key.h"
 #include "view/rebuild.h"
 

@@ -11,7 +11,7 @@
 #include "app/layouts.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
-#include "view/background.h"
+#include "form/background.h"
 
 namespace zev::test {
 namespace {

@@ -1,0 +1,200 @@
+#include "events/edit_keys.h"
+
+#include <algorithm>
+#include <string>
+
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "events/tab_walk.h"
+#include "events/text_menu.h"
+#include "text/edit_box.h"
+#include "text/escapes.h"
+#include "text/fit_text.h"
+#include "text/styles.h"
+#include "toolkit/key.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+
+namespace zev {
+namespace {
+
+void closeWithEscape(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    xText_LostFocus(form, box);
+    KeyAscii = 0;
+    form.OrigIndex = form.TIndex = form.ClickIndex = 0;
+    form.SetFocus(form.P1);
+}
+
+void closeWithEnter(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    KeyAscii = 0;
+    if (toolkit::isKeyRepeat()) return;
+    xText_LostFocus(form, box, [&form] { walkFromText(form, form.ShiftHeld); });
+    if (!form.CText.Visible && !form.LText.Visible) form.SetFocus(form.P1);
+}
+
+void highlightByKey(Zevlin& form, int& KeyAscii) {
+    mpopHilite_Click(form);
+    KeyAscii = 0;
+    form.SetFocus(form.P1);
+}
+
+/// Key and menu are one path; the box itself does nothing more.
+void clipByKey(Zevlin& form, int& KeyAscii, void (*procedure)(Zevlin&)) {
+    KeyAscii = 0;
+    procedure(form);
+}
+
+void actOnKey(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    switch (KeyAscii) {
+    case toolkit::key::escape:
+        return closeWithEscape(form, box, KeyAscii);
+    case toolkit::key::enter:
+        return closeWithEnter(form, box, KeyAscii);
+    case control_key::b:
+        return toggleBold(form, box, KeyAscii);
+    case control_key::i:
+        return toggleItalic(form, box, KeyAscii);
+    case control_key::l:
+        return toggleJustification(form, KeyAscii);
+    case control_key::c:
+        return clipByKey(form, KeyAscii, mpopCopy_Click);
+    case control_key::v:
+        return clipByKey(form, KeyAscii, mpopPaste_Click);
+    case control_key::g:
+        return highlightByKey(form, KeyAscii);
+    case control_key::z:
+        return undoField(form, box, KeyAscii);
+    default:
+        return;
+    }
+}
+
+/// F5 to F8 put a suit in front of the selection.
+void insertSuit(toolkit::TextBox& box, int keyCode) {
+    if (keyCode < toolkit::key::f5 || keyCode > toolkit::key::f8) return;
+    const auto letter = suitLetters[static_cast<std::size_t>(keyCode - toolkit::key::f5)];
+    box.Text.insert(static_cast<std::size_t>(box.SelStart), {'^', letter});
+    box.SelStart += 2;
+}
+
+std::string mouseTrace(const Zevlin& form, const toolkit::MouseArguments& mouse) {
+    return "xText_MouseDown ix=" + toolkit::numberText(form.TIndex) +
+           " B=" + toolkit::numberText(mouse.Button) + " S=" + toolkit::numberText(mouse.Shift) +
+           " X=" + toolkit::numberText(mouse.X) + " Y=" + toolkit::numberText(mouse.Y);
+}
+
+/// The box that fits the field's alignment now comes back with its caret.
+void reopenBox(Zevlin& form, int caret) {
+    if (form.TIndex <= 0) return;
+    const bool centered = form.AText[form.TIndex].Alignment == toolkit::Alignment::Center;
+    toolkit::TextBox& box = centered ? form.CText : form.LText;
+    toolkit::TextBox& other = centered ? form.LText : form.CText;
+    other.Visible = false;
+    box.Visible = true;
+    form.SetFocus(box);
+    box.SelStart = std::min(caret, static_cast<int>(box.Text.size()));
+    box.SelLength = 0;
+}
+
+void openPopup(Zevlin& form, toolkit::TextBox& box, const toolkit::MouseArguments& mouse) {
+    if (mouse.Button != toolkit::button::right) return;
+    const int caret = box.SelStart;
+    const std::string text = box.Text;
+    form.SetFocus(box);
+    toolkit::MouseArguments press = mouse;
+    press.Shift = 0;
+    xText_MouseDown(form, box, press);
+    // What was pasted stands before the caret.
+    reopenBox(form, box.Text == text ? caret : box.SelStart);
+}
+
+} // namespace
+
+void xText_KeyDown(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key) {
+    trapped(form, "Error in xText_KeyDown: #", [&] {
+        if (key.KeyCode != toolkit::key::tab) return;
+        key.KeyCode = 0;
+        if (toolkit::isKeyRepeat()) return;
+        const bool backward = (key.Shift & toolkit::shift::shift) != 0;
+        xText_LostFocus(form, box, [&form, backward] { walkFromText(form, backward); });
+    });
+}
+
+void xText_KeyPress(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
+    Traceit(form, "xText_KeyPress " + toolkit::numberText(KeyAscii));
+    trapped(form, "Error in xText_KeyPress: #", [&] { actOnKey(form, box, KeyAscii); });
+}
+
+void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key) {
+    trapped(form, "Error in xText_KeyUp: #", [&] {
+        if (form.MShowShapes.Checked) return;
+        if (key.KeyCode == toolkit::key::enter) {
+            key.KeyCode = 0;
+            return;
+        }
+        // Where a held key is released over and over, the first release counts.
+        if (!toolkit::isKeyRepeat()) insertSuit(box, key.KeyCode);
+        takeOverTyping(form, box);
+    });
+}
+
+void xText_MouseDown(Zevlin& form, toolkit::TextBox& /*box*/, toolkit::MouseArguments& mouse) {
+    Traceit(form, mouseTrace(form, mouse));
+    trapped(form, "Error in xText_MouseDown: #", [&] {
+        if (mouse.Button != toolkit::button::right) return;
+        mouse.Button = 0;
+        openTextMenu(form);
+    });
+}
+
+void CText_GotFocus(Zevlin& form) {
+    Traceit(form, "CText_GotFocus");
+    xText_GotFocus(form, form.CText);
+}
+
+void CText_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "CText_KeyDown");
+    xText_KeyDown(form, form.CText, key);
+}
+
+void CText_KeyPress(Zevlin& form, int& KeyAscii) {
+    Traceit(form, "CText_KeyPress");
+    xText_KeyPress(form, form.CText, KeyAscii);
+}
+
+void CText_KeyUp(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "CText_KeyUp");
+    xText_KeyUp(form, form.CText, key);
+}
+
+void CText_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    Traceit(form, "CText_MouseDown " + toolkit::numberText(mouse.Button));
+    trapped(form, "Error in CText_MouseDown: #", [&] { openPopup(form, form.CText, mouse); });
+}
+
+void LText_GotFocus(Zevlin& form) {
+    Traceit(form, "LText_GotFocus");
+    xText_GotFocus(form, form.LText);
+}
+
+void Ltext_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "Ltext_KeyDown");
+    xText_KeyDown(form, form.LText, key);
+}
+
+void Ltext_KeyPress(Zevlin& form, int& KeyAscii) {
+    Traceit(form, "Ltext_KeyPress");
+    xText_KeyPress(form, form.LText, KeyAscii);
+}
+
+void Ltext_KeyUp(Zevlin& form, toolkit::KeyArguments& key) {
+    Traceit(form, "Ltext_KeyUp");
+    xText_KeyUp(form, form.LText, key);
+}
+
+void Ltext_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    Traceit(form, "Ltext_MouseDown " + toolkit::numberText(mouse.Button));
+    trapped(form, "Error in Ltext_MouseDown: #", [&] { openPopup(form, form.LText, mouse); });
+}
+
+} // namespace zev

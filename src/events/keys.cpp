@@ -1,0 +1,151 @@
+#include "events/keys.h"
+
+#include <string>
+
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "design/design_mode.h"
+#include "design/move_marks.h"
+#include "help/help_page.h"
+#include "marks/move_card.h"
+#include "events/tab_walk.h"
+#include "toolkit/key.h"
+#include "toolkit/number_text.h"
+#include "toolkit/program.h"
+#include "view/fit.h"
+#include "view/zoom.h"
+
+namespace zev {
+namespace {
+
+using toolkit::numberText;
+
+void consume(toolkit::KeyArguments& key) { key = {}; }
+
+std::string boxPlace(const char* head, const toolkit::TextBox& box) {
+    return head + numberText(box.Left) + ", " + numberText(box.Top) + ", " + numberText(box.Width);
+}
+
+std::string imageTrace(const Zevlin& form) {
+    const auto& card = form.P1;
+    std::string text = "**F4** P1=" + numberText(card.Left) + ", " + numberText(card.Top) + ", " +
+                       numberText(card.Width) + ", " + numberText(card.Height) +
+                       ", visible=" + std::string(truthText(card.Visible));
+    if (!form.LText.Visible && !form.CText.Visible) return text + " no text entry visible";
+    if (form.LText.Visible) text += boxPlace(" ltext: ", form.LText);
+    if (form.CText.Visible) text += boxPlace(" ctext: ", form.CText);
+    return text;
+}
+
+void traceKeys(Zevlin& form, toolkit::KeyArguments& key) {
+    if (key.KeyCode == toolkit::key::f3 && key.Shift == toolkit::shift::shift) {
+        form.TraceOn = true;
+        consume(key);
+    } else if (key.KeyCode == toolkit::key::f3 && key.Shift == toolkit::shift::alt) {
+        form.TraceOn = false;
+        consume(key);
+    } else if (key.KeyCode == toolkit::key::f4 && key.Shift == toolkit::shift::shift) {
+        Traceit(form, imageTrace(form));
+        consume(key);
+    }
+}
+
+/// A text that is being edited has the key for itself, whatever the menu would do at it. The other
+/// shortcuts of the menu mean nothing to a text. True if it was the key.
+bool selectAllByKey(Zevlin& form, const toolkit::KeyArguments& key) {
+    if (key.KeyCode != 'A' || key.Shift != toolkit::shift::ctrl) return false;
+    toolkit::TextBox& box = form.LText.Visible ? form.LText : form.CText;
+    if (!box.Visible) return false;
+    box.SelStart = 0;
+    box.SelLength = static_cast<int>(box.Text.size());
+    return true;
+}
+
+void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
+    form.ShiftHeld = (key.Shift & toolkit::shift::shift) != 0;
+    form.CursorPos = toolkit::cursorPosition();
+    traceKeys(form, key);
+    if (key.KeyCode == 0 && key.Shift == 0) return;
+    // What lies over the card has keys of its own.
+    if (form.BOK.Visible || form.THelp.Visible || form.ColorPic.Visible) return;
+    if (key.KeyCode == toolkit::key::f1) {
+        consume(key);
+        MHelp_Click(form);
+    } else if (selectAllByKey(form, key) || moveCardByKey(form, key.KeyCode, key.Shift)) {
+        consume(key);
+    }
+}
+
+/// The zoom keys with Ctrl alone; held down they go on along the ladder. True if it was one.
+bool zoomByKey(Zevlin& form, const toolkit::KeyArguments& key) {
+    if (key.Shift != toolkit::shift::ctrl) return false;
+    switch (key.KeyCode) {
+    case toolkit::key::digit0:
+        // Always on, whatever it was: leaving a fit is for the other two.
+        form.MFitScreenWidth.Checked = false;
+        MFitScreenWidth_Click(form);
+        return true;
+    case toolkit::key::add:
+    case toolkit::key::plus:
+        MZoomIn_Click(form);
+        return true;
+    case toolkit::key::subtract:
+    case toolkit::key::minus:
+        MZoomOut_Click(form);
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// Arrows with any modifier, in design mode. True if it was one.
+bool moveMarksByKey(Zevlin& form, const toolkit::KeyArguments& key) {
+    if (key.Shift == 0 || !form.MShowShapes.Checked) return false;
+    switch (key.KeyCode) {
+    case toolkit::key::left:
+        MoveMarks(form, -1, 0, key.Shift);
+        return true;
+    case toolkit::key::up:
+        MoveMarks(form, 0, -1, key.Shift);
+        return true;
+    case toolkit::key::right:
+        MoveMarks(form, 1, 0, key.Shift);
+        return true;
+    case toolkit::key::down:
+        MoveMarks(form, 0, 1, key.Shift);
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isDesignKey(const toolkit::KeyArguments& key) {
+    return key.Shift == (toolkit::shift::shift | toolkit::shift::ctrl) &&
+           (key.KeyCode == 'D' || key.KeyCode == 'S');
+}
+
+void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
+    if (moveCardByKey(form, key.KeyCode, key.Shift)) return;
+    if (zoomByKey(form, key)) return;
+    if (moveMarksByKey(form, key)) return;
+    if (toolkit::isKeyRepeat()) return;
+    if (isDesignKey(key)) {
+        MShowDesignMenu_Click(form);
+    } else if (key.KeyCode == toolkit::key::tab) {
+        walkFromMark(form, key.Shift);
+    } else if (key.KeyCode == toolkit::key::space) {
+        toggleTabbedMark(form);
+    }
+}
+
+} // namespace
+
+void Form_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    trapped(form, "Error in Form_KeyDown: #", [&] { handleFormKey(form, key); });
+}
+
+void P1_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
+    trapped(form, "Error in P1_KeyDown: #", [&] { handleCardKey(form, key); });
+}
+
+} // namespace zev

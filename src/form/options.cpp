@@ -1,0 +1,125 @@
+#include "form/options.h"
+
+#include <chrono>
+#include <string>
+
+#include "form/file_failures.h"
+#include "form/options_file.h"
+#include "form/printer_facts.h"
+#include "form/services.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "toolkit/ansi.h"
+#include "toolkit/files.h"
+#include "toolkit/program.h"
+#include "toolkit/screen.h"
+
+namespace zev {
+namespace {
+
+/// For so long the end of the program waits for a print service that was asked.
+constexpr std::chrono::seconds longestFarewell{2};
+
+int checkedFit(const Zevlin& form) {
+    if (form.MFitScreenWidth.Checked) return 1;
+    return form.MFitScreenHeight.Checked ? 2 : 0;
+}
+
+int checkedFontSize(const Zevlin& form) {
+    if (form.mSmallerTextFont.Checked) return 1;
+    if (form.mLargerTextFont.Checked) return 2;
+    return form.mBigTextFont.Checked ? 3 : 0;
+}
+
+void describeMachine(Zevlin& form, OptionsDocument& document) {
+    const auto screen = toolkit::screen();
+    document.printer = form.CurrentPrinter;
+    document.facts = form.Myprinter;
+    document.systemVersion = WinVer(form);
+    document.screenWidth = screen.Width;
+    document.screenHeight = screen.Height;
+    document.twipsPerPixel = form.TwipsPerPixel;
+    document.actualTwipsX = screen.TwipsPerPixelX;
+    document.actualTwipsY = screen.TwipsPerPixelY;
+    document.applicationPath = toolkit::displayText(toolkit::programFolder());
+    document.documentsPath = toolkit::displayText(form.DataFolder);
+    document.currentPath = toolkit::displayText(currentFolder(form));
+    ignoringFailures([&] { document.memory = toolkit::memoryFacts(); });
+    document.memoryLoad = MemoryLoad(form);
+    document.usage.current = GetMemoryUsage(form, document.usage.peak);
+}
+
+OptionsDocument documentOf(Zevlin& form) {
+    OptionsDocument document;
+    document.programVersion = form.ProgramVersion;
+    document.name = form.MyName;
+    document.number = form.MyNumber;
+    document.mono = form.MMono.Checked;
+    document.color = form.MColor.Checked;
+    document.zoom = form.ZoomLevel;
+    document.fit = checkedFit(form);
+    document.fontSize = checkedFontSize(form);
+    document.bold = form.mBold.Checked;
+    document.printAlternate = form.mPrintAlt.Checked;
+    document.normalFont = form.TextFontName;
+    document.narrowFont = form.NarrowFontName;
+    document.markFont = form.MarkFontName;
+    document.suitFont = form.SuitFontName;
+    document.fillIn = form.mFillIn.Checked;
+    document.colorScheme = form.ColorScheme;
+    document.trace = form.TraceSetting;
+    describeMachine(form, document);
+    return document;
+}
+
+/// A first run's file. One that turned up since the program looked for it is the player's.
+void writeFirstOptions(Zevlin& form, const std::filesystem::path& file,
+                       const std::string& content) {
+    try {
+        toolkit::writeNewFile(file, content);
+        form.OptionsRead = true;
+    } catch (const toolkit::RunTimeError& failure) {
+        if (failure.failure() != toolkit::Failure::FileAlreadyExists) throw;
+        Traceit(form, "IniWrite: ZEV.Ini is there and hasn't been read, so it stays as it is");
+    }
+}
+
+void writeOptionsFile(Zevlin& form) {
+    // However a job ends, no start is to find its view: the rebuild takes it from memory.
+    if (form.HasJobView) {
+        form.OptionsUnwritten = true;
+        return;
+    }
+    // A file that couldn't be written tells an old view.
+    form.OptionsUnwritten = !trappedAndNoted(form, "Error in IniWrite ", optionsFailure, [&] {
+        const auto file = toolkit::resolveFile(form.DataFolder, optionsFileName);
+        const std::string content = writeOptions(documentOf(form));
+        if (form.OptionsRead)
+            toolkit::writeFile(file, content);
+        else
+            writeFirstOptions(form, file, content);
+    });
+    // Whatever failed before, by the time it is told the settings stand in the file.
+    if (!form.OptionsUnwritten) forgetFileFailure(form, optionsFailure);
+}
+
+} // namespace
+
+bool hasUnreadOptions(const Zevlin& form) {
+    return !form.OptionsRead && toolkit::findFile(form.DataFolder, optionsFileName).has_value();
+}
+
+void IniWrite(Zevlin& form) {
+    Traceit(form, "IniWrite");
+    // A slow print service keeps nobody waiting: its printer gets into the file when it is known.
+    askForPendingPrinter(form, [&form] { writeOptionsFile(form); });
+    writeOptionsFile(form);
+}
+
+void completeOptions(Zevlin& form) {
+    const bool isAnswered = form.PrinterPending && form.PrinterAsked.isAnswered(longestFarewell);
+    if (isAnswered) takePendingPrinter(form);
+    if (isAnswered || form.OptionsUnwritten) writeOptionsFile(form);
+}
+
+} // namespace zev

@@ -1,0 +1,61 @@
+// The output's share of the form's state: the printer, the jobs' flags, what lies over the card.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "form/options_file.h"
+#include "toolkit/control.h"
+#include "toolkit/print_job.h"
+#include "toolkit/printer.h"
+#include "toolkit/printer_question.h"
+
+namespace zev {
+
+/// Ways of printing.
+constexpr std::int16_t alternatePrintMethod = 2;
+constexpr std::int16_t primaryPrintMethod = 3;
+
+struct OutputState {
+    std::int16_t PrintMethod = primaryPrintMethod;
+    PrinterFacts Myprinter;          ///< what the program keeps of the chosen printer
+    toolkit::Printer CurrentPrinter; ///< the printer object
+    toolkit::PrintJob PrinterDC;     ///< the document on the printer
+    std::string SavedDefaultPrinter; ///< the system's, before the set-up changed it
+    bool PrinterPending = false;     ///< the default printer's facts are still to be taken
+    toolkit::PrinterQuestion PrinterAsked;
+    bool PrinterSetUp = false; ///< the player has been through the set-up
+    bool Printing = false;
+    bool PrintAlertShown = false; ///< the narrow page was told in this run
+    bool HasJobView = false;      ///< zoom and fit are a job's, not the player's
+    /// The options file doesn't hold the present state: its last writing failed, or isn't due.
+    bool OptionsUnwritten = false;
+
+    toolkit::PictureBox P2;    ///< stands for the card while a job runs
+    toolkit::PictureBox PDisk; ///< the image of an export
+    toolkit::TextBox PleaseWait;
+
+    toolkit::MenuItem MPrint;
+    toolkit::MenuItem MPrintPartner;
+    toolkit::MenuItem MPrintBoth;
+    toolkit::MenuItem MPrintSetup;
+    toolkit::MenuItem mExport;
+    toolkit::MenuItem mExportPartner;
+    // Checked while their job runs: what the pipeline does with the card. BMP has no ending.
+    toolkit::MenuItem mPrintToDisk;
+    toolkit::MenuItem mPrintToDiskGIF;
+    toolkit::MenuItem mPrintToDiskPNG;
+    toolkit::MenuItem mPrintToDiskJPG{.Visible = false};
+    toolkit::MenuItem mPrintToClipboard;
+    toolkit::MenuItem mPrintToDiskPartner;
+    toolkit::MenuItem mPrintToDiskPartnerGIF;
+    toolkit::MenuItem mPrintToDiskPartnerPNG;
+    toolkit::MenuItem mPrintToDiskPartnerJPG{.Visible = false};
+    toolkit::MenuItem MMono;
+    toolkit::MenuItem MColor;
+    toolkit::MenuItem z21;
+    toolkit::MenuItem mPrintAlt;
+};
+
+} // namespace zev

@@ -1,0 +1,37 @@
+#include "form/panels.h"
+
+#include <string>
+
+#include "form/trace.h"
+#include "form/zevlin.h"
+
+namespace zev {
+namespace {
+
+constexpr auto gradientTop = toolkit::rgb(208, 224, 255);
+constexpr auto gradientFoot = toolkit::rgb(144, 154, 255);
+
+} // namespace
+
+void GradientFill(Zevlin& form, IncludePanel includePanel) {
+    const bool withPanel = includePanel == IncludePanel::Yes;
+    Traceit(form, "GradientFill " + std::string(truthText(withPanel)));
+    trapped(form, "Error in GradientFill: #", [&] {
+        form.Background = {
+            .backdrop = toolkit::Backdrop::Gradient, .top = gradientTop, .bottom = gradientFoot};
+        if (withPanel) form.P3.Fill = toolkit::PanelFill::FormGradient;
+    });
+}
+
+void MakeObjRounded(Zevlin& form, toolkit::Panel& panel, int radius) {
+    Traceit(form, "MakeObjRounded");
+    trapped(form, "Error in MakeObjRounded: #", [&] { panel.CornerRadius = radius; });
+}
+
+void hideHelp(Zevlin& form) {
+    form.THelp.Visible = false;
+    form.P1.Enabled = true;
+    form.SetFocus(form.P1);
+}
+
+} // namespace zev

@@ -1,0 +1,91 @@
+#include "form/printer_facts.h"
+
+#include <utility>
+
+#include "form/zevlin.h"
+#include "toolkit/printer.h"
+
+namespace zev {
+namespace {
+
+float inches(int physical, int offset, int pixelsPerInch) {
+    if (pixelsPerInch == 0) return 0;
+    return static_cast<float>(physical - 2 * offset) / static_cast<float>(pixelsPerInch);
+}
+
+} // namespace
+
+void takeDefaultPrinter(Zevlin& form, int& step) {
+    if (toolkit::isAskingSlow()) {
+        // There is always one.
+        form.PrinterPending = true;
+        form.Myprinter.hdc = 1;
+        step = 2010;
+        return;
+    }
+    form.CurrentPrinter = toolkit::defaultPrinter();
+    if (form.CurrentPrinter.hdc == 0) return;
+    step = 2010;
+    form.Myprinter.hdc = form.CurrentPrinter.hdc;
+    form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
+    readPrinterFacts(form);
+}
+
+void takePendingPrinter(Zevlin& form) {
+    if (!std::exchange(form.PrinterPending, false)) return;
+    form.CurrentPrinter = form.PrinterAsked.answer();
+    form.Myprinter.hdc = form.CurrentPrinter.hdc;
+    // The options may have named another one meanwhile.
+    if (form.Myprinter.Devicename.empty())
+        form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
+    readPrinterFacts(form);
+}
+
+void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken) {
+    if (!form.PrinterPending) return;
+    if (form.PrinterAsked.isAnswered()) return takePendingPrinter(form);
+    form.PrinterAsked.ask([&form, taken] {
+        if (!form.PrinterPending) return;
+        takePendingPrinter(form);
+        taken();
+    });
+}
+
+void readPrinterFacts(Zevlin& form) {
+    const toolkit::Printer& printer = form.CurrentPrinter;
+    PrinterFacts& facts = form.Myprinter;
+    facts.PixPerInchx = printer.PixelsPerInchX;
+    facts.PixPerInchY = printer.PixelsPerInchY;
+    facts.OffsetX = printer.PhysicalOffsetX;
+    facts.OffsetY = printer.PhysicalOffsetY;
+    facts.PageWidthInches =
+        inches(printer.PhysicalWidth, printer.PhysicalOffsetX, printer.PixelsPerInchX);
+    facts.PageHeightInches =
+        inches(printer.PhysicalHeight, printer.PhysicalOffsetY, printer.PixelsPerInchY);
+    facts.BitsPerPixel = printer.ColorMode == 2 ? 24 : printer.BitsPerPixel;
+}
+
+PageFacts pageFactsOf(const Zevlin& form) {
+    const PrinterFacts& facts = form.Myprinter;
+    const toolkit::Printer& printer = form.CurrentPrinter;
+    return {.widthInches = facts.PageWidthInches,
+            .heightInches = facts.PageHeightInches,
+            .pixelsPerInchX = facts.PixPerInchx,
+            .pixelsPerInchY = facts.PixPerInchY,
+            .twipsPerPixelX = printer.TwipsPerPixelX,
+            .twipsPerPixelY = printer.TwipsPerPixelY,
+            .scaleWidth = printer.ScaleWidth};
+}
+
+void releasePrinter(Zevlin& form) {
+    form.PrinterDC.abandon();
+    if (form.PrintMethod == primaryPrintMethod) form.Myprinter.hdc = 0;
+}
+
+void restoreDefaultPrinter(Zevlin& form) {
+    if (form.SavedDefaultPrinter.empty()) return;
+    if (toolkit::defaultPrinterName() != form.SavedDefaultPrinter)
+        toolkit::setDefaultPrinter(form.SavedDefaultPrinter);
+}
+
+} // namespace zev

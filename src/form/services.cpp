@@ -1,0 +1,55 @@
+#include "form/services.h"
+
+#include "form/settings.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "layout/version.h"
+#include "toolkit/number_text.h"
+#include "toolkit/system.h"
+
+namespace zev {
+
+void AppVersion(Zevlin& form) {
+    Traceit(form, "AppVersion");
+    trapped(form, "Error in AppVersion: #", [&] {
+        form.ProgramVersion = versionText(versionMajor, versionMinor, versionRevision);
+    });
+}
+
+std::string WinVer(Zevlin& form) {
+    Traceit(form, "WinVer");
+    std::string version;
+    trapped(form, "Error in WinVer: #", [&] { version = toolkit::systemVersion(); });
+    return version;
+}
+
+std::string MemoryLoad(Zevlin& form) {
+    std::string load;
+    trapped(form, "Error in MemoryLoad: #",
+            [&] { load = toolkit::numberText(toolkit::memoryFacts().loadPercent) + "%"; });
+    return load;
+}
+
+std::uint64_t GetMemoryUsage(Zevlin& form, std::uint64_t& peak) {
+    std::uint64_t current = 0;
+    peak = 0;
+    trapped(form, "Error in GetMemoryUsage: #", [&] {
+        const toolkit::MemoryUsage usage = toolkit::memoryUsage();
+        current = usage.current;
+        peak = usage.peak;
+    });
+    return current;
+}
+
+bool IsProductionEnvironment(Zevlin& form) {
+    Traceit(form, "IsProductionEnvironment");
+    return productionBuild;
+}
+
+std::filesystem::path currentFolder(const Zevlin& form) {
+    std::error_code ignored;
+    if (std::filesystem::is_directory(form.DataFolder, ignored)) return form.DataFolder;
+    return std::filesystem::current_path(ignored);
+}
+
+} // namespace zev

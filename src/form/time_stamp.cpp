@@ -1,0 +1,76 @@
+#include "form/time_stamp.h"
+
+#include <string>
+
+#include "card/card_file.h"
+#include "form/settings.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "toolkit/clock.h"
+
+namespace zev {
+namespace {
+
+constexpr float stampPoints = 11; ///< at design size on a screen of 15 twips a pixel
+constexpr float creditPoints = 7;
+
+/// Points that look alike on every screen.
+float scaledPoints(const Zevlin& form, float points) {
+    return points * static_cast<float>(form.TwipsPerPixel) / 15 * form.CardScale;
+}
+
+std::string stampText(const Zevlin& form) {
+    const std::string name = form.CardName.empty() ? "" : "[ " + form.CardName + " ]  ";
+    return name + toolkit::dateText() + "  " + toolkit::timeText() + "    ";
+}
+
+/// Every ampersand twice, so that the label shows each.
+std::string withEachDoubled(std::string text) {
+    for (auto at = text.find('&'); at != std::string::npos; at = text.find('&', at + 2)) {
+        text.insert(at, 1, '&');
+    }
+    return text;
+}
+
+void placeStamp(Zevlin& form) {
+    if (form.CardScale == 0) return;
+    toolkit::Label& stamp = form.Timestamp;
+    stamp.Font.Size = scaledPoints(form, stampPoints);
+    form.Testtext.Font = stamp.Font;
+    stamp.Height = form.Testtext.TextHeight("|");
+    stamp.Width = form.Testtext.TextWidth(stamp.Caption);
+    stamp.Left = form.P1.Width - stamp.Width;
+    stamp.Top = form.LargeMarkBottom == 0
+                    ? form.P1.Height - stamp.Height - 4 * static_cast<float>(form.TwipsPerPixel)
+                    : form.LargeMarkBottom;
+}
+
+} // namespace
+
+void MakeTimeStamp(Zevlin& form) {
+    Traceit(form, "MakeTimeStamp");
+    trapped(form, "Error in MakeTimeStamp: #", [&] {
+        // Neither a zoom nor the temporary name of a rebuild belongs on the card.
+        if (form.Zooming || form.CardName == temporaryCardName) return;
+        form.Timestamp.Caption = withEachDoubled(stampText(form));
+        PositionTimeStamp(form);
+        form.CreditLabel.Caption = "   [" + std::string(creditLine) + "]";
+    });
+}
+
+void PositionTimeStamp(Zevlin& form) {
+    Traceit(form, "PositionTimeStamp");
+    trapped(form, "Error in PositionTimeStamp: #", [&] { placeStamp(form); });
+}
+
+void PositionCreditLabel(Zevlin& form) {
+    toolkit::Label& credit = form.CreditLabel;
+    credit.Font.Size = scaledPoints(form, creditPoints);
+    form.Testtext.Font = credit.Font;
+    credit.Height = form.Testtext.TextHeight("[");
+    credit.Width = form.Testtext.TextWidth(credit.Caption);
+    credit.Top = form.LargeMarkBottom == 0 ? form.P1.Height - credit.Height : form.LargeMarkBottom;
+    credit.Left = (form.P1.Width - form.Timestamp.Width - credit.Width) / 2;
+}
+
+} // namespace zev

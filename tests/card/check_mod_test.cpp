@@ -1,0 +1,164 @@
+#include "form/modified.h"
+
+#include "card_form_test.h"
+#include "card/check_mod.h"
+
+namespace zev::test {
+namespace {
+
+class Modified : public CardFormTest {};
+
+TEST_F(Modified, TitleTellsTheNameAndTheChange) {
+    start();
+    EXPECT_EQ(form.Caption, "Zevlin  (unnamed)");
+    clickMark(1);
+    EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
+    form.CardName = "Jones";
+    SetCaption(form);
+    EXPECT_EQ(form.Caption, "Zevlin  ( Jones ) *");
+    choose("File>Save");
+    EXPECT_EQ(form.Caption, "Zevlin  ( Jones )");
+}
+
+TEST_F(Modified, TitleIsNotTouchedByTheNameOfARebuild) {
+    start();
+    clickMark(1);
+    form.CardName = "$$Tempcard";
+    form.CardModified = false;
+    SetCaption(form);
+    EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
+}
+
+TEST_F(Modified, SettingTellsTheOldFlagAndAllowsUndo) {
+    start();
+    form.mpopUndo.Enabled = false;
+    SetMod(form);
+    EXPECT_TRUE(form.mpopUndo.Enabled);
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_TRUE(tracedInOrder({"SetMod 0", "SetCaption", "MakeTimeStamp"}));
+    SetMod(form);
+    EXPECT_TRUE(tracedInOrder({"SetMod 1", "SetCaption", "MakeTimeStamp"}));
+}
+
+TEST_F(Modified, ResettingDropsTheUndo) {
+    start();
+    typeInOpenField(1, "x");
+    ASSERT_TRUE(form.CardModified);
+    ResetMod(form);
+    EXPECT_FALSE(form.CardModified);
+    EXPECT_EQ(form.OrigIndex, 0);
+    EXPECT_EQ(form.TIndex, 0);
+    EXPECT_EQ(form.OrigText, "");
+    EXPECT_TRUE(tracedInOrder({"ResetMod 1", "SetCaption", "MakeTimeStamp"}));
+}
+
+TEST_F(Modified, ResettingStandsStillWhilePrinting) {
+    start();
+    typeInto(1, "x");
+    form.Printing = true;
+    ResetMod(form);
+    EXPECT_EQ(traceLines().back(), "ResetMod 1");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_EQ(form.OrigIndex, 1);
+    EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
+}
+
+TEST_F(Modified, QuestionIsAskedOnlyForAChange) {
+    start();
+    EXPECT_FALSE(CheckMod(form));
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_EQ(traceLines().back(), "CheckMod False, False, False");
+}
+
+TEST_F(Modified, QuestionHasItsTextAndButtons) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::Cancel);
+    EXPECT_TRUE(CheckMod(form));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Do you want to save the current card first?");
+    EXPECT_EQ(boxes[0].title, "Unsaved changes");
+    EXPECT_EQ(boxes[0].buttons, toolkit::Buttons::YesNoCancel);
+    EXPECT_EQ(boxes[0].icon, toolkit::Icon::Question);
+    EXPECT_TRUE(form.CardModified);
+}
+
+TEST_F(Modified, NoDropsTheChangeAndGoesOn) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::No);
+    EXPECT_FALSE(CheckMod(form));
+    EXPECT_FALSE(form.CardModified);
+}
+
+TEST_F(Modified, YesSavesANamedCardAndGoesOn) {
+    start();
+    form.CardName = "Jones";
+    clickMark(1);
+    answer(toolkit::Answer::Yes);
+    EXPECT_FALSE(CheckMod(form));
+    EXPECT_NE(dataFileContent("Jones.zev").find("1,1,0\r\n"), std::string::npos);
+}
+
+TEST_F(Modified, YesRefusesWhenTheNamingIsCancelled) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::Yes);
+    answerName("");
+    EXPECT_TRUE(CheckMod(form));
+    EXPECT_TRUE(form.CardModified);
+}
+
+TEST_F(Modified, NothingIsAskedWhilePrinting) {
+    start();
+    typeInOpenField(1, "x");
+    form.Printing = true;
+    EXPECT_FALSE(CheckMod(form));
+    EXPECT_EQ(traceLines().back(), "CheckMod True, True, False");
+    EXPECT_TRUE(form.CText.Visible);
+    EXPECT_TRUE(boxes.empty());
+}
+
+TEST_F(Modified, NothingIsAskedInTheDesignView) {
+    start();
+    clickMark(1);
+    form.MShowShapes.Checked = true;
+    EXPECT_FALSE(CheckMod(form));
+    EXPECT_FALSE(form.CardModified);
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_TRUE(tracedInOrder({"CheckMod True, False, True", "ResetMod 1"}));
+}
+
+TEST_F(Modified, AnOpenEditCountsWithoutAKeyRelease) {
+    start();
+    clickText(1);
+    toolkit::test::compose("", "abc");
+    ASSERT_FALSE(form.CardModified);
+    answer(toolkit::Answer::Cancel);
+    choose("File>New");
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_FALSE(form.CText.Visible);
+    EXPECT_EQ(form.AText[1].Tag, "abc");
+    EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
+}
+
+TEST_F(Modified, ACommittedEditCountsThoughItsFlagWasLost) {
+    start();
+    typeInto(1, "abc");
+    form.CardModified = false;
+    answer(toolkit::Answer::Cancel);
+    EXPECT_TRUE(CheckMod(form));
+    EXPECT_TRUE(traced("SetMod 0"));
+}
+
+TEST_F(Modified, LeavingAsksAndCancelStays) {
+    start();
+    clickMark(1);
+    answer(toolkit::Answer::Cancel);
+    toolkit::test::closeWindow();
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+} // namespace
+} // namespace zev::test

@@ -1,0 +1,231 @@
+#include "events/card_mouse.h"
+
+#include <cmath>
+
+#include "text/edit_test.h"
+
+namespace zev::test {
+namespace {
+
+using namespace toolkit::test;
+using toolkit::button::left;
+using toolkit::button::right;
+
+class CardMouse : public EditTest {
+  protected:
+    /// Whole pixels from the mark's top left corner.
+    void clickAt(int mark, int across, int down, int button = left) {
+        const toolkit::Label& label = form.AMark[mark];
+        click(label.Left + static_cast<float>(across) * pixel,
+              label.Top + static_cast<float>(down) * pixel, button);
+    }
+    /// The first pixel from the mark's edge at which a length less five pixels isn't inside.
+    static int firstMiss(float length) {
+        return static_cast<int>(std::ceil((length - 5 * pixel) / pixel));
+    }
+    [[nodiscard]] int widthOf(int mark) const { return firstMiss(form.AMark[mark].Width); }
+    [[nodiscard]] int heightOf(int mark) const { return firstMiss(form.AMark[mark].Height); }
+};
+
+TEST_F(CardMouse, ClickOnTheLeftEdgeMissesAndOnePixelRightHits) {
+    startSmall();
+    clickAt(1, 0, 10);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.CardModified);
+    clickAt(1, 1, 10);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_TRUE(form.CardModified);
+}
+
+TEST_F(CardMouse, ClickWithinFivePixelsOfTheRightEdgeMisses) {
+    startSmall();
+    clickAt(1, widthOf(1), 10);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    clickAt(1, widthOf(1) - 1, 10);
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, ClickWithinFivePixelsOfTheTopMisses) {
+    startSmall();
+    clickAt(1, 8, 5);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    clickAt(1, 8, 6);
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, BottomFivePixelsClearAMarkButDoNotSetIt) {
+    startSmall();
+    const int bottom = heightOf(1);
+    clickAt(1, 8, bottom);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    clickAt(1, 8, bottom - 1);
+    ASSERT_TRUE(form.AMark[1].Visible);
+    clickAt(1, 8, bottom + 3);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, WholeRectangleOfASetMarkClearsIt) {
+    startSmall();
+    for (const int x : {0, widthOf(1) + 3}) {
+        form.AMark[1].Visible = true;
+        clickAt(1, x, 0);
+        EXPECT_FALSE(form.AMark[1].Visible) << x;
+    }
+    form.AMark[1].Visible = true;
+    clickAt(1, -1, 10);
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, LowerOfTwoOverlappingMarksIsSet) {
+    startSmall();
+    form.AMark[2].Move(form.AMark[1].Left - 2 * pixel, form.AMark[1].Top);
+    clickMark(2);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.AMark[2].Visible);
+}
+
+TEST_F(CardMouse, EmptyTextOverAnUnsetMarkTakesTheClick) {
+    startSmall();
+    form.AMark[1].Move(form.AText[1].Left + 100 * pixel, form.AText[1].Top - 5 * pixel);
+    clickMark(1);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_EQ(form.TIndex, 1);
+}
+
+TEST_F(CardMouse, SetMarkBehindAnotherTakesTheClickOnlyWhereNoneIsInFront) {
+    startSmall();
+    form.AMark[2].Move(form.AMark[1].Left, form.AMark[1].Top);
+    form.AMark[1].Visible = true;
+    form.AMark[2].Visible = true;
+    form.AMark[1].Stack = form.AMark[2].Stack - 1;
+    clickMark(1);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.AMark[2].Visible);
+}
+
+TEST_F(CardMouse, RightClickOnBareCardOrAnUnsetMarkDoesNothing) {
+    startSmall();
+    clickMark(1, right);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.CardModified);
+    EXPECT_FALSE(form.TabActive);
+}
+
+TEST_F(CardMouse, RightClickAfterAClearedMarkDoesNotSetItAgain) {
+    startSmall();
+    clickMark(1);
+    clickMark(1);
+    ASSERT_FALSE(form.AMark[1].Visible);
+    const auto target = targetOf(1);
+    pressMouse(target.x, target.y, right);
+    releaseMouse(target.x, target.y, right);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, RightClickAfterSpaceClearedTheMarkDoesNotSetItAgain) {
+    startSmall();
+    clickMark(1);
+    typeKey(toolkit::key::space);
+    ASSERT_FALSE(form.AMark[1].Visible);
+    const auto target = targetOf(1);
+    pressMouse(target.x, target.y, right);
+    releaseMouse(target.x, target.y, right);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, ClicksWithoutMovingTheMouseToggleEachTime) {
+    startSmall();
+    const auto target = targetOf(2);
+    moveMouse(target.x, target.y);
+    for (const bool set : {true, false, true, false}) {
+        pressMouse(target.x, target.y);
+        releaseMouse(target.x, target.y);
+        EXPECT_EQ(form.AMark[2].Visible, set);
+    }
+}
+
+TEST_F(CardMouse, DoubleClickTogglesTwice) {
+    startSmall();
+    const auto target = targetOf(1);
+    doubleClick(target.x, target.y);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_TRUE(form.CardModified);
+    click(target.x, target.y);
+    doubleClick(target.x, target.y);
+    EXPECT_TRUE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, MarkUnderTheReleaseIsSetAfterASlideFromAnother) {
+    startSmall();
+    const auto from = targetOf(1);
+    const auto to = targetOf(2);
+    moveMouse(from.x, from.y);
+    pressMouse(from.x, from.y);
+    moveMouse(to.x, to.y, left);
+    releaseMouse(to.x, to.y);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_TRUE(form.AMark[2].Visible);
+}
+
+TEST_F(CardMouse, ReleaseBesideTheMarkSetsNothing) {
+    startSmall();
+    const auto from = targetOf(1);
+    moveMouse(from.x, from.y);
+    pressMouse(from.x, from.y);
+    moveMouse(800 * pixel, 800 * pixel, left);
+    releaseMouse(800 * pixel, 800 * pixel);
+    EXPECT_FALSE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.MarkHitPending);
+}
+
+TEST_F(CardMouse, SetMarkComesToTheFrontAndTakesTheKeyboard) {
+    startSmall();
+    const auto target = targetOf(1);
+    clickMark(1);
+    for (const int other : {2, 3}) EXPECT_GT(form.AMark[1].Stack, form.AMark[other].Stack);
+    EXPECT_TRUE(form.TabActive);
+    EXPECT_EQ(form.TabCode, 1001);
+    EXPECT_EQ(form.TabCursorX, toolkit::cursorPosition().x);
+    EXPECT_EQ(form.TabCursorY, toolkit::cursorPosition().y);
+    EXPECT_EQ(form.LastX, std::floor(target.x / pixel) * pixel);
+}
+
+TEST_F(CardMouse, TracesTellThePressTheMarkAndTheClick) {
+    startSmall();
+    form.AMark[1].Move(1500, 1500, 300, 375);
+    form.Trace.clear();
+    click(1605, 1695);
+    EXPECT_TRUE(traced("P1_MouseDown  B=1 S=0 X=1605 Y=1695"));
+    EXPECT_TRUE(traced("  P1_MouseDown Amark(1) at 1500, 1500, 300, 375"));
+    EXPECT_TRUE(traced("P1_Click 1605, 1695"));
+    EXPECT_TRUE(traced(
+        "  P1_Click AMark(1)1500, 1500, 300, 375; Cursor: " + std::to_string(form.TabCursorX) +
+        ", " + std::to_string(form.TabCursorY) + ", 1001"));
+    EXPECT_LT(traceIndex("P1_Click 1605, 1695"), traceIndex("SetMod 0"));
+}
+
+TEST_F(CardMouse, ScanOfPressAndClickReadThePlaceOfTheLastMove) {
+    startSmall();
+    const auto target = targetOf(1);
+    form.LastX = target.x;
+    form.LastY = target.y;
+    toolkit::MouseArguments press{left, 0, 9000, 9000};
+    P1_MouseDown(form, press);
+    EXPECT_TRUE(form.MarkHitPending);
+    EXPECT_EQ(form.LastX, 9000);
+    EXPECT_EQ(form.LastButton, left);
+    P1_MouseUp(form, press);
+    EXPECT_FALSE(form.MarkHitPending);
+    P1_Click(form);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+TEST_F(CardMouse, DesignModeSetsNoMark) {
+    startSmall();
+    form.MShowShapes.Checked = true;
+    clickMark(1);
+    EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+} // namespace
+} // namespace zev::test
