@@ -11,7 +11,6 @@
 #include "card/chooser.h"
 #include "toolkit/key.h"
 #include "view/color_panel.h"
-#include "view/colors.h"
 #include "view/text_options.h"
 #include "view/zoom.h"
 

@@ -2,8 +2,6 @@
 #
 # One folder of src/ as up to two static libraries: zevlin_<folder>_plain holds the logic that knows
 # neither the form nor a window, zevlin_<folder>_form the procedures over the form. Neither sees Qt.
-define_property(GLOBAL PROPERTY ZEVLIN_ROOM_LIBRARIES BRIEF_DOCS "Every library made by zevlin_room")
-
 function(zevlin_room folder)
   cmake_parse_arguments(room "" "" "PLAIN;FORM" ${ARGN})
   foreach(part PLAIN FORM)
@@ -13,7 +11,6 @@ function(zevlin_room folder)
       add_library(${library} STATIC ${room_${part}})
       target_include_directories(${library} PUBLIC ${CMAKE_SOURCE_DIR}/src ${ZEVLIN_GENERATED_DIR})
       target_link_libraries(${library} PRIVATE zevlin_flags)
-      set_property(GLOBAL APPEND PROPERTY ZEVLIN_ROOM_LIBRARIES ${library})
     endif()
   endforeach()
 endfunction()

@@ -8,7 +8,7 @@
 #include "form/options_file.h"
 #include "form/zevlin.h"
 #include "layout/read_comment.h"
-#include "view/colors.h"
+#include "view/color_panel.h"
 #include "view/fit.h"
 
 namespace zev {

@@ -1,9 +1,10 @@
 #include "app/wire_panels.h"
 
 #include "app/folder_line.h"
+#include "card/chooser_events.h"
+#include "card/chooser_menu.h"
 #include "form/run_procedure.h"
 #include "form/zevlin.h"
-#include "card/chooser_events.h"
 #include "view/color_panel.h"
 
 namespace zev {

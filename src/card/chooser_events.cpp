@@ -5,7 +5,6 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "card/chooser_menu.h"
 #include "toolkit/ansi.h"
 #include "toolkit/key.h"
 #include "toolkit/program.h"
@@ -18,14 +17,6 @@ bool hasName(const Zevlin& form) { return !toolkit::trim(form.TSaveAs.Text).empt
 void selectName(Zevlin& form) {
     form.TSaveAs.SelStart = 0;
     form.TSaveAs.SelLength = static_cast<int>(form.TSaveAs.Text.size());
-}
-
-void takeSelectedName(Zevlin& form) {
-    if (form.FileList.ListIndex < 0) return;
-    const auto& name = form.FileList.List.at(static_cast<std::size_t>(form.FileList.ListIndex));
-    if (form.TSaveAs.Text == name) return;
-    form.TSaveAs.Text = name;
-    TSaveAs_Change(form);
 }
 
 /// Rows that the key moves the selection by.
@@ -57,6 +48,14 @@ void walkList(Zevlin& form, int rows) {
 }
 
 } // namespace
+
+void takeSelectedName(Zevlin& form) {
+    if (form.FileList.ListIndex < 0) return;
+    const auto& name = form.FileList.List.at(static_cast<std::size_t>(form.FileList.ListIndex));
+    if (form.TSaveAs.Text == name) return;
+    form.TSaveAs.Text = name;
+    TSaveAs_Change(form);
+}
 
 void enableOk(Zevlin& form) { form.BOK.Enabled = hasName(form); }
 
@@ -135,15 +134,6 @@ void FileList_KeyPress(Zevlin& form, int& KeyAscii) {
         if (KeyAscii != toolkit::key::escape) return;
         KeyAscii = 0;
         BCancel_Click(form);
-    });
-}
-
-void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
-    trapped(form, "Error in FileList_MouseDown: #", [&] {
-        if (mouse.Button != toolkit::button::right || form.FileList.PointedIndex < 0) return;
-        form.FileList.ListIndex = form.FileList.PointedIndex;
-        takeSelectedName(form);
-        openFileMenu(form);
     });
 }
 

@@ -10,6 +10,9 @@ struct Zevlin;
 /// OK can be pressed while the name has more than blanks.
 void enableOk(Zevlin& form);
 
+/// The card that is selected in the list, if any, becomes the name.
+void takeSelectedName(Zevlin& form);
+
 void BOK_Click(Zevlin& form);
 void BCancel_Click(Zevlin& form);
 
@@ -24,7 +27,5 @@ void FileList_Click(Zevlin& form);
 void FileList_DblClick(Zevlin& form);
 void FileList_KeyDown(Zevlin& form, toolkit::KeyArguments& key);
 void FileList_KeyPress(Zevlin& form, int& KeyAscii);
-/// The right button opens the pop-up of the card below the pointer.
-void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
 
 } // namespace zev

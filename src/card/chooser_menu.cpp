@@ -4,18 +4,18 @@
 #include <filesystem>
 #include <string>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/chooser.h"
 #include "card/chooser_events.h"
+#include "card/file_seen.h"
 #include "form/modified.h"
-#include "card/save.h"
+#include "form/trace.h"
+#include "form/unsaved.h"
+#include "form/zevlin.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
-#include "form/unsaved.h"
 
 namespace zev {
 namespace {
@@ -133,6 +133,15 @@ void mpopRename_Click(Zevlin& form) {
         traceFailure(form, "Error in mpopRename_Click: #", failure);
         tellNotRenamed(failure);
     }
+}
+
+void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    trapped(form, "Error in FileList_MouseDown: #", [&] {
+        if (mouse.Button != toolkit::button::right || form.FileList.PointedIndex < 0) return;
+        form.FileList.ListIndex = form.FileList.PointedIndex;
+        takeSelectedName(form);
+        openFileMenu(form);
+    });
 }
 
 } // namespace zev

@@ -1,9 +1,14 @@
 // The pop-up menu of a card in the chooser's list.
 #pragma once
 
+#include "toolkit/control.h"
+
 namespace zev {
 
 struct Zevlin;
+
+/// The right button opens the pop-up of the card below the pointer.
+void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
 
 /// Opens the pop-up of the selected card.
 void openFileMenu(Zevlin& form);

@@ -9,6 +9,12 @@ namespace zev {
 
 struct Zevlin;
 
+/// The file of the present card.
+[[nodiscard]] std::filesystem::path cardPath(const Zevlin& form);
+
+/// Whether there is a card of this name, in any case.
+[[nodiscard]] bool cardExists(const Zevlin& form, const std::string& name);
+
 /// Notes that the file of the present card, as opened or saved now, has this content.
 void rememberFile(Zevlin& form, const std::filesystem::path& file, std::string_view content);
 

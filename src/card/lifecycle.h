@@ -1,4 +1,4 @@
-// New, Open and Save As.
+// New and Open.
 #pragma once
 
 namespace zev {
@@ -13,8 +13,5 @@ void MOpen_Click(Zevlin& form);
 
 /// The same; it has no menu item.
 void MOpenLast_Click(Zevlin& form);
-
-/// Asks for a name and saves the card under it.
-void MSaveAs_Click(Zevlin& form);
 
 } // namespace zev

@@ -4,21 +4,20 @@
 #include <string>
 #include <utility>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/card_names.h"
 #include "card/document.h"
 #include "card/file_seen.h"
-#include "form/modified.h"
 #include "card/names_line.h"
-#include "card/save.h"
+#include "form/background.h"
+#include "form/modified.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "layout/read_comment.h"
 #include "text/escapes.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
-#include "form/background.h"
 
 namespace zev {
 namespace {

@@ -1,25 +1,85 @@
 #include "card/save.h"
 
+#include <algorithm>
 #include <string>
 #include <utility>
 
-#include "form/file_failures.h"
-#include "form/trace.h"
-#include "form/zevlin.h"
+#include "card/chooser.h"
 #include "card/document.h"
 #include "card/file_seen.h"
 #include "card/journal.h"
-#include "card/lifecycle.h"
+#include "form/file_failures.h"
 #include "form/modified.h"
+#include "form/time_stamp.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "text/edit_box.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/program.h"
-#include "form/time_stamp.h"
-#include "text/edit_box.h"
 
 namespace zev {
 namespace {
+
+toolkit::Answer askAboutPartner(const Zevlin& form) {
+    if (form.PartnerName.empty() && form.PartnerNumber.empty()) return toolkit::Answer::Yes;
+    return toolkit::show(
+        {.text = "Do you want to keep the same Partner's information in the new card?",
+         .buttons = toolkit::Buttons::YesNoCancel,
+         .icon = toolkit::Icon::Question,
+         .title = {},
+         .preset = toolkit::Answer::No});
+}
+
+std::string chosenNameToSave(Zevlin& form) {
+    const std::string title = form.Caption;
+    const bool shown = showsTitle(form);
+    if (shown) form.Caption = title + " - Save this card";
+    const std::string cardName = form.CardName;
+    std::string name = GetFileNames(form);
+    if (!shown) return name;
+    // The chooser may have deleted or renamed the card.
+    if (form.CardName != cardName) {
+        SetCaption(form);
+    } else {
+        form.Caption = title;
+    }
+    return name;
+}
+
+/// A selected card, the name as typed among the listed ones, or any file that the save would
+/// replace.
+bool isTaken(const Zevlin& form, const std::string& name) {
+    const auto& names = form.FileList.List;
+    return form.FileList.ListIndex >= 0 ||
+           std::ranges::find(names, form.TSaveAs.Text) != names.end() || cardExists(form, name);
+}
+
+bool mayReplace() {
+    return toolkit::show({.text = "File already exists. Do you want to replace it?",
+                          .buttons = toolkit::Buttons::YesNo,
+                          .icon = toolkit::Icon::Question,
+                          .title = "Overwrite existing file?",
+                          .preset = {}}) == toolkit::Answer::Yes;
+}
+
+void saveUnderNewName(Zevlin& form) {
+    const auto keepPartner = askAboutPartner(form);
+    if (keepPartner == toolkit::Answer::Cancel) return;
+    const std::string name = chosenNameToSave(form);
+    if (name.empty()) return;
+    if (isTaken(form, name) && !mayReplace()) return;
+    form.CardName = name;
+    // Whether a file of this name may go was asked just now.
+    form.CardFileSeen.reset();
+    if (keepPartner == toolkit::Answer::No) {
+        form.PartnerName.clear();
+        form.PartnerNumber.clear();
+    }
+    MSave_Click(form);
+    if (showsTitle(form)) SetCaption(form);
+}
 
 /// Under a trimmed name the card goes into another file than it came from.
 void trimName(Zevlin& form) {
@@ -58,7 +118,7 @@ void finishSave(Zevlin& form) {
     form.OrigIndex = 0;
     form.OrigText.clear();
     MakeTimeStamp(form);
-    if (!form.Printing && !form.Zooming) SetCaption(form);
+    if (showsTitle(form)) SetCaption(form);
 }
 
 /// The copy that a rebuild leaves in the folder for its own time. Nothing depends on it.
@@ -99,6 +159,8 @@ void endAfterFailedSave(Zevlin& form) {
 
 } // namespace
 
+bool showsTitle(const Zevlin& form) { return !form.Printing && !form.Zooming; }
+
 void MSave_Click(Zevlin& form) {
     Traceit(form, "MSave_Click");
     if (form.Carried) {
@@ -108,8 +170,9 @@ void MSave_Click(Zevlin& form) {
     }
 }
 
-std::filesystem::path cardPath(const Zevlin& form) {
-    return toolkit::resolveFile(form.DataFolder, form.CardName + std::string(cardExtension));
+void MSaveAs_Click(Zevlin& form) {
+    Traceit(form, "MSaveAs_Click");
+    trapped(form, "Error in MSaveAs_Click: #", [&] { saveUnderNewName(form); });
 }
 
 } // namespace zev

@@ -1,8 +1,6 @@
 // Saving the card.
 #pragma once
 
-#include <filesystem>
-
 namespace zev {
 
 struct Zevlin;
@@ -12,7 +10,10 @@ struct Zevlin;
 /// journal. While the screen is rebuilt the temporary copy is written, whose failure is only noted.
 void MSave_Click(Zevlin& form);
 
-/// The file of the present card.
-[[nodiscard]] std::filesystem::path cardPath(const Zevlin& form);
+/// Asks for a name and saves the card under it.
+void MSaveAs_Click(Zevlin& form);
+
+/// Neither printing nor a zoom shows its work in the title.
+[[nodiscard]] bool showsTitle(const Zevlin& form);
 
 } // namespace zev

@@ -2,15 +2,19 @@
 
 #include <algorithm>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
+#include "events/tab_walk.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "events/tab_walk.h"
-#include "events/text_menu.h"
 #include "text/edit_box.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/styles.h"
+#include "toolkit/clipboard.h"
+#include "toolkit/dialog.h"
 #include "toolkit/key.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
@@ -108,6 +112,16 @@ void openPopup(Zevlin& form, toolkit::TextBox& box, const toolkit::MouseArgument
     reopenBox(form, box.Text == text ? caret : box.SelStart);
 }
 
+/// A menu command and its key are one path.
+void pressKey(Zevlin& form, std::string_view name, int key) {
+    Traceit(form, name);
+    trapped(form, "Error in " + std::string(name) + ": #", [&] {
+        if (!isEditing(form)) return;
+        int KeyAscii = key;
+        xText_KeyPress(form, openBox(form), KeyAscii);
+    });
+}
+
 } // namespace
 
 void xText_KeyDown(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key) {
@@ -195,6 +209,34 @@ void Ltext_KeyUp(Zevlin& form, toolkit::KeyArguments& key) {
 void Ltext_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
     Traceit(form, "Ltext_MouseDown " + toolkit::numberText(mouse.Button));
     trapped(form, "Error in Ltext_MouseDown: #", [&] { openPopup(form, form.LText, mouse); });
+}
+
+void mpopUndo_Click(Zevlin& form) { pressKey(form, "mpopUndo_Click", control_key::z); }
+void mpopBold_Click(Zevlin& form) { pressKey(form, "mpopBold_Click", control_key::b); }
+void mpopItalic_Click(Zevlin& form) { pressKey(form, "mpopItalic_Click", control_key::i); }
+void mpopLeft_Click(Zevlin& form) { pressKey(form, "mpopLeft_Click", control_key::l); }
+
+void openTextMenu(Zevlin& form) {
+    const auto row = [&form](toolkit::MenuItem& item, std::string shortcut,
+                             void (*procedure)(Zevlin&)) {
+        return toolkit::PopupRow{.item = &item,
+                                 .shortcut = std::move(shortcut),
+                                 .Click = [&form, procedure] { procedure(form); }};
+    };
+    toolkit::MenuItem pasteItem = form.mpopPaste;
+    pasteItem.Enabled = takesCopy(form) || toolkit::hasClipboardText();
+    const std::vector<toolkit::PopupRow> rows{
+        row(form.mpopUndo, "Ctrl+Z", mpopUndo_Click),
+        {},
+        row(form.mpopBold, "Ctrl+B", mpopBold_Click),
+        row(form.mpopItalic, "Ctrl+I", mpopItalic_Click),
+        row(form.mpopLeft, "Ctrl+L", mpopLeft_Click),
+        row(form.mpopHilite, "Ctrl+G", mpopHilite_Click),
+        {},
+        row(form.mpopCopy, "Ctrl+C", mpopCopy_Click),
+        row(pasteItem, "Ctrl+V", mpopPaste_Click),
+    };
+    toolkit::popupMenu(rows);
 }
 
 } // namespace zev

@@ -35,4 +35,13 @@ void Ltext_KeyPress(Zevlin& form, int& KeyAscii);
 void Ltext_KeyUp(Zevlin& form, toolkit::KeyArguments& key);
 void Ltext_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
 
+// The pop-up menu: what has a key, too, goes by the path of its key.
+void mpopUndo_Click(Zevlin& form);
+void mpopBold_Click(Zevlin& form);
+void mpopItalic_Click(Zevlin& form);
+void mpopLeft_Click(Zevlin& form);
+
+/// Opens the pop-up menu of a text field.
+void openTextMenu(Zevlin& form);
+
 } // namespace zev

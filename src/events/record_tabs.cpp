@@ -1,8 +1,8 @@
 #include "events/record_tabs.h"
 
+#include "events/flash_focus.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "events/tab_walk.h"
 #include "toolkit/dialog.h"
 #include "toolkit/number_text.h"
 

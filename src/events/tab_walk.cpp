@@ -3,17 +3,17 @@
 #include <cstdlib>
 #include <string>
 
+#include "events/edit_field.h"
+#include "events/flash_focus.h"
+#include "form/field_values.h"
+#include "form/modified.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "form/modified.h"
 #include "layout/field.h"
 #include "marks/move_card.h"
-#include "events/edit_field.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
-#include "toolkit/screen.h"
-#include "form/field_values.h"
 #include "text/edit_box.h"
+#include "toolkit/number_text.h"
+#include "toolkit/screen.h"
 
 namespace zev {
 namespace {
@@ -22,8 +22,6 @@ using toolkit::numberText;
 
 /// Pixels of travel that end the keyboard's rest on a mark.
 constexpr int cursorTravel = 5;
-constexpr int flashMilliseconds = 100;
-constexpr toolkit::Color flashYellow = toolkit::rgb(255, 255, 160);
 
 bool cursorIsStill(Zevlin& form) {
     form.CursorPos = toolkit::cursorPosition();
@@ -94,14 +92,6 @@ void traceFromText(Zevlin& form, int from, int to) {
     Traceit(form, "  xText_LostFocus TabTo " + numberText(to) + ", from " + numberText(from));
 }
 
-/// Screen pixels of a place on the card: the frame's whole width and height count as the left and
-/// upper border.
-toolkit::CursorPosition screenPlace(const Zevlin& form, float x, float y) {
-    const auto twips = static_cast<float>(form.TwipsPerPixel);
-    return {toolkit::roundToInteger((form.FrameWidth + form.Left + form.P1.Left + x) / twips),
-            toolkit::roundToInteger((form.FrameHeight + form.Top + form.P1.Top + y) / twips)};
-}
-
 void moveToMark(Zevlin& form, int item) {
     const int index = item - firstMarkItem;
     Traceit(form, "TabToMark (" + numberText(item) + ") at " + placeText(form.AMark[index]));
@@ -117,29 +107,6 @@ void moveToMark(Zevlin& form, int item) {
     toolkit::setCursorPosition(target);
     FlashFocus(form, item);
     form.SetFocus(form.P1);
-}
-
-void flashText(Zevlin& form, int item) {
-    CheckOnScreen(form, item);
-    form.AText[item].BackStyle = toolkit::BackStyle::Opaque;
-    form.AText[item].BackColor = flashYellow;
-    toolkit::doEvents();
-    toolkit::wait(flashMilliseconds);
-    if (!form.AText.exists(item)) return;
-    toolkit::Label& label = form.AText[item];
-    label.BackColor = toolkit::white;
-    label.BackStyle = toolkit::BackStyle::Transparent;
-    toolkit::setCursorPosition(screenPlace(form, label.Left, label.Top));
-    form.TabActive = false;
-}
-
-/// Twice inverted the mark is as it was.
-void blinkMark(Zevlin& form, int index) {
-    for (int turn = 0; turn < 2; ++turn) {
-        if (!form.AMark.exists(index)) return;
-        form.AMark[index].Visible = !form.AMark[index].Visible;
-        toolkit::wait(flashMilliseconds);
-    }
 }
 
 } // namespace
@@ -175,18 +142,6 @@ void toggleTabbedMark(Zevlin& form) {
 
 void TabToMark(Zevlin& form, int item) {
     trapped(form, "Error in TabToMark: #", [&] { moveToMark(form, item); });
-}
-
-void FlashFocus(Zevlin& form, int item) {
-    Traceit(form, "FlashFocus " + numberText(item));
-    trapped(form, "Error in FlashFocus: #", [&] {
-        if (item >= firstMarkItem) {
-            // In normal use the cursor alone shows the mark.
-            if (form.MShowShapes.Checked) blinkMark(form, item - firstMarkItem);
-        } else if (item >= 1) {
-            flashText(form, item);
-        }
-    });
 }
 
 } // namespace zev

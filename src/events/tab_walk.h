@@ -17,7 +17,4 @@ void toggleTabbedMark(Zevlin& form);
 /// Moves the cursor, and with it the keyboard, onto the mark with this item number.
 void TabToMark(Zevlin& form, int item);
 
-/// Highlights a text field for a moment and moves the cursor to it; a mark blinks in design mode.
-void FlashFocus(Zevlin& form, int item);
-
 } // namespace zev

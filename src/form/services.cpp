@@ -23,24 +23,6 @@ std::string WinVer(Zevlin& form) {
     return version;
 }
 
-std::string MemoryLoad(Zevlin& form) {
-    std::string load;
-    trapped(form, "Error in MemoryLoad: #",
-            [&] { load = toolkit::numberText(toolkit::memoryFacts().loadPercent) + "%"; });
-    return load;
-}
-
-std::uint64_t GetMemoryUsage(Zevlin& form, std::uint64_t& peak) {
-    std::uint64_t current = 0;
-    peak = 0;
-    trapped(form, "Error in GetMemoryUsage: #", [&] {
-        const toolkit::MemoryUsage usage = toolkit::memoryUsage();
-        current = usage.current;
-        peak = usage.peak;
-    });
-    return current;
-}
-
 bool IsProductionEnvironment(Zevlin& form) {
     Traceit(form, "IsProductionEnvironment");
     return productionBuild;

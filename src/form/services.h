@@ -1,7 +1,6 @@
 // Small services of the frame: the version, the kind of build, facts for trouble reports.
 #pragma once
 
-#include <cstdint>
 #include <filesystem>
 #include <string>
 
@@ -14,12 +13,6 @@ void AppVersion(Zevlin& form);
 
 /// The system's version as trouble reports tell it; empty on failure.
 [[nodiscard]] std::string WinVer(Zevlin& form);
-
-/// How much of the machine's memory is in use, as "42%"; empty on failure.
-[[nodiscard]] std::string MemoryLoad(Zevlin& form);
-
-/// This process's working set in bytes, and its peak; both 0 on failure.
-[[nodiscard]] std::uint64_t GetMemoryUsage(Zevlin& form, std::uint64_t& peak);
 
 /// Whether this is a delivered build: the Design menu hidden, the hooks installed, the trace kept.
 [[nodiscard]] bool IsProductionEnvironment(Zevlin& form);

@@ -2,13 +2,13 @@
 
 #include <algorithm>
 
-#include "form/services.h"
 #include "form/zevlin.h"
 #include "toolkit/ansi.h"
 #include "toolkit/clock.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
+#include "toolkit/system.h"
 
 namespace zev {
 namespace {
@@ -148,6 +148,24 @@ bool takeSpecsTurn(Zevlin& form) {
     if (!form.TraceOn || form.traceState.specsWritten) return false;
     form.traceState.specsWritten = true;
     return true;
+}
+
+std::string MemoryLoad(Zevlin& form) {
+    std::string load;
+    trapped(form, "Error in MemoryLoad: #",
+            [&] { load = toolkit::numberText(toolkit::memoryFacts().loadPercent) + "%"; });
+    return load;
+}
+
+std::uint64_t GetMemoryUsage(Zevlin& form, std::uint64_t& peak) {
+    std::uint64_t current = 0;
+    peak = 0;
+    trapped(form, "Error in GetMemoryUsage: #", [&] {
+        const toolkit::MemoryUsage usage = toolkit::memoryUsage();
+        current = usage.current;
+        peak = usage.peak;
+    });
+    return current;
 }
 
 } // namespace zev

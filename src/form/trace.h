@@ -1,6 +1,7 @@
 // The trace: every procedure's name, and every failure.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -46,5 +47,11 @@ void ignoringFailures(Body body) {
     } catch (const std::exception&) {
     }
 }
+
+/// How much of the machine's memory is in use, as "42%"; empty on failure.
+[[nodiscard]] std::string MemoryLoad(Zevlin& form);
+
+/// This process's working set in bytes, and its peak; both 0 on failure.
+[[nodiscard]] std::uint64_t GetMemoryUsage(Zevlin& form, std::uint64_t& peak);
 
 } // namespace zev

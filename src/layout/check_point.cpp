@@ -14,8 +14,6 @@
 namespace zev {
 namespace {
 
-constexpr const char* setAsideName = "$$TempDef.Ini";
-
 /// A file that can't be found may only be out of sight with its folder.
 bool isFolderThere(const Zevlin& form) {
     std::error_code ignored;
@@ -45,15 +43,6 @@ void traceNoFile(Zevlin& form, toolkit::Failure failure) {
 bool finishRestore(Zevlin& form) {
     if (form.LayoutFileAside) restoreFile(form);
     return !form.LayoutFileAside;
-}
-
-void dropSetAside(Zevlin& form) {
-    if (!form.LayoutFileAside || form.LayoutSetAside) return;
-    form.LayoutFileAside = false;
-    ignoringFailures([&] {
-        if (const auto old = toolkit::findFile(form.DataFolder, setAsideName))
-            toolkit::deleteFile(*old);
-    });
 }
 
 void CheckPointShapes(Zevlin& form) {

@@ -15,7 +15,4 @@ void RestoreShapes(Zevlin& form);
 /// Puts the file back that an earlier RestoreShapes of this run couldn't; false if it still can't.
 bool finishRestore(Zevlin& form);
 
-/// The player has saved another layout: what such a RestoreShapes has left is out of date.
-void dropSetAside(Zevlin& form);
-
 } // namespace zev

@@ -6,7 +6,6 @@
 #include "form/modified.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "layout/check_point.h"
 #include "layout/layout_text.h"
 #include "toolkit/files.h"
 #include "toolkit/program.h"
@@ -36,6 +35,15 @@ void saveShapes(Zevlin& form, const std::function<void()>& write) {
 }
 
 } // namespace
+
+void dropSetAside(Zevlin& form) {
+    if (!form.LayoutFileAside || form.LayoutSetAside) return;
+    form.LayoutFileAside = false;
+    ignoringFailures([&] {
+        if (const auto old = toolkit::findFile(form.DataFolder, setAsideName))
+            toolkit::deleteFile(*old);
+    });
+}
 
 void MSaveShapes_Click(Zevlin& form) {
     saveShapes(form, [&form] {

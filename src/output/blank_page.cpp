@@ -3,7 +3,6 @@
 #include <optional>
 #include <string>
 
-#include "form/services.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "toolkit/screen.h"

@@ -2,10 +2,13 @@
 
 #include <utility>
 
+#include "card/journal.h"
 #include "form/file_failures.h"
+#include "form/options.h"
+#include "form/printer_facts.h"
+#include "form/time_stamp.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "card/journal.h"
 #include "layout/check_point.h"
 #include "layout/field.h"
 #include "layout/position.h"
@@ -14,15 +17,12 @@
 #include "output/make_gray.h"
 #include "output/print_picture.h"
 #include "output/printed_size.h"
-#include "form/printer_facts.h"
+#include "text/edit_box.h"
 #include "toolkit/dialog.h"
 #include "toolkit/program.h"
 #include "toolkit/window.h"
 #include "view/image_size.h"
 #include "view/rebuild.h"
-#include "form/time_stamp.h"
-#include "text/edit_box.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {
@@ -175,12 +175,6 @@ void restore(Zevlin& form, const View& view) {
 }
 
 } // namespace
-
-bool isExporting(const Zevlin& form) {
-    return form.mPrintToDisk.Checked || form.mPrintToDiskGIF.Checked ||
-           form.mPrintToDiskPNG.Checked || form.mPrintToDiskJPG.Checked ||
-           form.mPrintToClipboard.Checked;
-}
 
 void MPrint_Click(Zevlin& form) {
     if (form.Printing) return;

@@ -10,9 +10,6 @@ struct Zevlin;
 /// failure. While it runs, every output command returns at once.
 void MPrint_Click(Zevlin& form);
 
-/// Whether an export or a copy runs the pipeline.
-[[nodiscard]] bool isExporting(const Zevlin& form);
-
 /// Kept for the list of operations; flattening is done in place by the pipeline.
 void Flatten(Zevlin& form);
 void Flatten2(Zevlin& form);

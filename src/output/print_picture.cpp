@@ -4,13 +4,12 @@
 #include <string>
 #include <string_view>
 
+#include "form/printer_facts.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "output/blank_page.h"
-#include "output/print_card.h"
 #include "output/print_image.h"
 #include "output/printed_size.h"
-#include "form/printer_facts.h"
 #include "output/save_image.h"
 #include "toolkit/ansi.h"
 #include "toolkit/clipboard.h"
@@ -174,6 +173,12 @@ class PictureDelivery {
 };
 
 } // namespace
+
+bool isExporting(const Zevlin& form) {
+    return form.mPrintToDisk.Checked || form.mPrintToDiskGIF.Checked ||
+           form.mPrintToDiskPNG.Checked || form.mPrintToDiskJPG.Checked ||
+           form.mPrintToClipboard.Checked;
+}
 
 void PrintPictureBox(Zevlin& form, toolkit::PictureBox& picture, const PagePlace& place) {
     Traceit(form, "PrintPictureBox");

@@ -20,4 +20,7 @@ struct PagePlace {
 /// traced and told, and the next step runs.
 void PrintPictureBox(Zevlin& form, toolkit::PictureBox& picture, const PagePlace& place);
 
+/// Whether an export or a copy runs the pipeline.
+[[nodiscard]] bool isExporting(const Zevlin& form);
+
 } // namespace zev

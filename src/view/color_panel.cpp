@@ -3,14 +3,14 @@
 #include <algorithm>
 #include <array>
 
+#include "form/options.h"
 #include "form/panel_look.h"
+#include "form/panels.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "toolkit/number_text.h"
 #include "view/color_panel_layout.h"
 #include "view/colors.h"
-#include "form/panels.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {
@@ -90,7 +90,34 @@ void goBack(Zevlin& form) {
     mColorScheme_Click(form, form.PreviousScheme);
 }
 
+void checkScheme(Zevlin& form, int index) {
+    form.PreviousScheme = static_cast<std::int16_t>(index);
+    for (int i = 0; auto& item : form.mcolorscheme) {
+        if (item.Checked && i != index) form.PreviousScheme = static_cast<std::int16_t>(i);
+        item.Checked = false;
+        ++i;
+    }
+    form.mcolorscheme.at(static_cast<std::size_t>(index)).Checked = true;
+}
+
+void chooseScheme(Zevlin& form, int index) {
+    checkScheme(form, index);
+    if (index < form.LastSchemeIndex) {
+        form.ColorScheme = index;
+    } else if (!form.Initializing) {
+        // Its buttons do the rest.
+        return openPanel(form);
+    }
+    if (form.AMark.UBound() > 0) SetGlobalColors(form);
+    if (!form.Initializing) IniWrite(form);
+}
+
 } // namespace
+
+void mColorScheme_Click(Zevlin& form, int index) {
+    Traceit(form, toolkit::numberText(index) + " mColorScheme_Click ");
+    trapped(form, "Error in mColorScheme_Click: #", [&] { chooseScheme(form, index); });
+}
 
 void showColorPanel(Zevlin& form) { openPanel(form); }
 

@@ -5,6 +5,10 @@ namespace zev {
 
 struct Zevlin;
 
+/// Chooses the scheme with this index of the menu: index 0 is the ACBL's, the last one opens the
+/// panel for a colour. While the program initializes, the stored colour stands and no panel opens.
+void mColorScheme_Click(Zevlin& form, int index);
+
 /// Opens the panel with the colour of the first text field, in place of the card.
 void showColorPanel(Zevlin& form);
 

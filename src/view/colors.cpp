@@ -3,13 +3,11 @@
 #include <string>
 #include <vector>
 
-#include "form/trace.h"
 #include "form/field_values.h"
+#include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
 #include "toolkit/number_text.h"
-#include "view/color_panel.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {
@@ -48,34 +46,7 @@ void paintScheme(Zevlin& form) {
     paintAll(form.SText, color);
 }
 
-void checkScheme(Zevlin& form, int index) {
-    form.PreviousScheme = static_cast<std::int16_t>(index);
-    for (int i = 0; auto& item : form.mcolorscheme) {
-        if (item.Checked && i != index) form.PreviousScheme = static_cast<std::int16_t>(i);
-        item.Checked = false;
-        ++i;
-    }
-    form.mcolorscheme.at(static_cast<std::size_t>(index)).Checked = true;
-}
-
-void chooseScheme(Zevlin& form, int index) {
-    checkScheme(form, index);
-    if (index < form.LastSchemeIndex) {
-        form.ColorScheme = index;
-    } else if (!form.Initializing) {
-        // Its buttons do the rest.
-        return showColorPanel(form);
-    }
-    if (form.AMark.UBound() > 0) SetGlobalColors(form);
-    if (!form.Initializing) IniWrite(form);
-}
-
 } // namespace
-
-void mColorScheme_Click(Zevlin& form, int index) {
-    Traceit(form, toolkit::numberText(index) + " mColorScheme_Click ");
-    trapped(form, "Error in mColorScheme_Click: #", [&] { chooseScheme(form, index); });
-}
 
 void SetGlobalColors(Zevlin& form) {
     Traceit(form, "SetGlobalColors");

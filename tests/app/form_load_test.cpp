@@ -1,6 +1,7 @@
 #include "app/form_load.h"
 
 #include "app/layouts.h"
+#include "card/lifecycle.h"
 #include "toolkit/bitmap.h"
 #include "toolkit/clock.h"
 #include "toolkit/files.h"

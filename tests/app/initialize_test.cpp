@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "app/layouts.h"
+#include "card/lifecycle.h"
 #include "toolkit/printer.h"
 
 namespace zev::test {

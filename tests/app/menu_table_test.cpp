@@ -4,8 +4,11 @@
 #include <set>
 
 #include "app/layouts.h"
-#include "toolkit/key.h"
+#include "card/lifecycle.h"
+#include "card/save.h"
 #include "layout/save_layout.h"
+#include "toolkit/key.h"
+#include "view/color_panel.h"
 
 namespace zev::test {
 namespace {

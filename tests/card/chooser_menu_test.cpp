@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "card/save.h"
 #include "chooser_form_test.h"
 
 namespace zev::test {

@@ -3,6 +3,8 @@
 
 #include <filesystem>
 
+#include "card/lifecycle.h"
+#include "card/save.h"
 #include "chooser_form_test.h"
 
 namespace zev::test {

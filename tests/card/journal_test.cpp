@@ -2,6 +2,7 @@
 
 #include "card/chooser_menu.h"
 #include "card/rescue.h"
+#include "card/save.h"
 #include "card_form_test.h"
 #include "support/immutable_folder.h"
 #include "toolkit/files.h"

@@ -1,4 +1,5 @@
 #include "card/document.h"
+#include "card/save.h"
 #include "card_form_test.h"
 #include "toolkit/files.h"
 #include "view/rebuild.h"

@@ -1,4 +1,4 @@
-#include "card/lifecycle.h"
+#include "card/save.h"
 #include "card_form_test.h"
 #include "toolkit/files.h"
 

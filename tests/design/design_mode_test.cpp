@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "card/save.h"
 #include "design/design_test.h"
 
 namespace zev::test {

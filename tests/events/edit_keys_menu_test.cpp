@@ -1,7 +1,6 @@
 #include "events/edit_keys.h"
 
 #include "text/edit_test.h"
-#include "events/text_menu.h"
 
 namespace zev::test {
 namespace {

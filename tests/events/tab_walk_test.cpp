@@ -1,5 +1,6 @@
 #include "events/tab_walk.h"
 
+#include "events/flash_focus.h"
 #include "events/keys.h"
 #include "text/edit_test.h"
 

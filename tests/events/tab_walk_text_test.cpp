@@ -1,5 +1,5 @@
-#include "events/tab_walk.h"
 
+#include "events/flash_focus.h"
 #include "text/edit_test.h"
 
 namespace zev::test {

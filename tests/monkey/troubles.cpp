@@ -8,6 +8,7 @@
 
 #include <sys/resource.h>
 
+#include "card/save.h"
 #include "toolkit/files.h"
 
 namespace zev::test {

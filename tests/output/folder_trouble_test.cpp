@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "card/document.h"
+#include "card/save.h"
 #include "output/print_test.h"
 #include "support/immutable_folder.h"
 #include "support/small_disk.h"

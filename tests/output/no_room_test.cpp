@@ -2,7 +2,7 @@
 #include <csignal>
 #include <sys/resource.h>
 
-#include "output/print_card.h"
+#include "card/save.h"
 #include "output/print_test.h"
 
 namespace zev::test {

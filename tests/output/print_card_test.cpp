@@ -1,8 +1,9 @@
 #include "output/print_card.h"
 
+#include "card/save.h"
+#include "form/options.h"
 #include "output/print_test.h"
 #include "view/fit.h"
-#include "form/options.h"
 
 namespace zev::test {
 namespace {

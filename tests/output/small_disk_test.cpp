@@ -1,12 +1,13 @@
 // Jobs on a real disk without room, at each of their stages: what is told, and what stays.
 #include <map>
 
+#include "card/save.h"
+#include "form/options.h"
 #include "output/export_card.h"
 #include "output/print_card.h"
 #include "output/print_test.h"
 #include "support/small_disk.h"
 #include "toolkit/bitmap.h"
-#include "form/options.h"
 
 namespace zev::test {
 namespace {

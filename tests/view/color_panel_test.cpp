@@ -4,9 +4,9 @@
 #include <string>
 
 #include "app/layouts.h"
-#include "toolkit/key.h"
-#include "view/colors.h"
+#include "card/save.h"
 #include "form/field_values.h"
+#include "toolkit/key.h"
 
 namespace zev::test {
 namespace {

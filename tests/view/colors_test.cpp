@@ -2,6 +2,7 @@
 
 #include "app/layouts.h"
 #include "form/field_values.h"
+#include "view/color_panel.h"
 
 namespace zev::test {
 namespace {

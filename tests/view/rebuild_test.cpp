@@ -9,9 +9,11 @@
 #include <thread>
 
 #include "app/layouts.h"
+#include "card/lifecycle.h"
+#include "card/save.h"
+#include "form/background.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
-#include "form/background.h"
 
 namespace zev::test {
 namespace {
