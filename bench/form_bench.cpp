@@ -5,6 +5,7 @@
 #include "card/lifecycle.h"
 #include "events/edit_field.h"
 #include "text/set_sym.h"
+#include "toolkit/application.h"
 #include "toolkit/key.h"
 #include "view/rebuild.h"
 

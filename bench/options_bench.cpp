@@ -9,7 +9,10 @@
 
 #include "bench_program.h"
 #include "card/chooser.h"
+#include "toolkit/application.h"
 #include "toolkit/key.h"
+#include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 #include "view/color_panel.h"
 #include "view/text_options.h"
 #include "view/zoom.h"

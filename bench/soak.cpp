@@ -9,6 +9,7 @@
 
 #include "bench_program.h"
 #include "monkey/heap.h"
+#include "toolkit/application.h"
 #include "toolkit/clock.h"
 #include "toolkit/key.h"
 

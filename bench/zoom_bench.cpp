@@ -19,6 +19,7 @@
 #include <QtWidgets/QWidget>
 
 #include "bench_program.h"
+#include "toolkit/application.h"
 #include "view/rebuild.h"
 #include "view/zoom.h"
 

@@ -2,6 +2,7 @@
 #include "app/form_load.h"
 #include "app/wiring.h"
 #include "form/zevlin.h"
+#include "toolkit/application.h"
 #include "toolkit/program.h"
 #include "toolkit/window.h"
 

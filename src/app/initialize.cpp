@@ -3,30 +3,31 @@
 #include <algorithm>
 #include <utility>
 
-#include "layout/build_fields.h"
 #include "app/fonts_check.h"
 #include "app/initialize_failure.h"
-#include "layout/initialize_run.h"
 #include "app/place_window.h"
+#include "app/read_options.h"
+#include "form/options.h"
+#include "form/printer_facts.h"
+#include "form/services.h"
+#include "form/time_stamp.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "help/help_page.h"
+#include "layout/build_fields.h"
 #include "layout/calibration.h"
+#include "layout/initialize_run.h"
 #include "layout/read_comment.h"
 #include "layout/save_layout.h"
-#include "form/printer_facts.h"
 #include "toolkit/ansi.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
+#include "toolkit/printers.h"
 #include "toolkit/program.h"
 #include "toolkit/screen.h"
 #include "view/colors.h"
 #include "view/fit.h"
 #include "view/image_size.h"
-#include "form/time_stamp.h"
-#include "app/read_options.h"
-#include "form/services.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "form/zevlin.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 namespace zev {
 namespace {

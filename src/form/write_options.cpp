@@ -1,6 +1,7 @@
 #include <cmath>
 
 #include "form/options_file.h"
+#include "toolkit/application.h"
 #include "toolkit/number_text.h"
 
 namespace zev {

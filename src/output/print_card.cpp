@@ -19,8 +19,8 @@
 #include "output/printed_size.h"
 #include "text/edit_box.h"
 #include "toolkit/dialog.h"
+#include "toolkit/flattened_card.h"
 #include "toolkit/program.h"
-#include "toolkit/window.h"
 #include "view/image_size.h"
 #include "view/rebuild.h"
 

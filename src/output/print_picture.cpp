@@ -14,8 +14,8 @@
 #include "toolkit/ansi.h"
 #include "toolkit/clipboard.h"
 #include "toolkit/dialog.h"
+#include "toolkit/flattened_card.h"
 #include "toolkit/number_text.h"
-#include "toolkit/window.h"
 #include "view/image_size.h"
 
 namespace zev {

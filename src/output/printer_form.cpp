@@ -4,6 +4,7 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
+#include "toolkit/printers.h"
 #include "toolkit/program.h"
 
 namespace zev {

@@ -3,14 +3,15 @@
 #include <optional>
 #include <string>
 
+#include "form/options.h"
+#include "form/printer_facts.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "form/printer_facts.h"
 #include "output/printer_form.h"
 #include "toolkit/number_text.h"
 #include "toolkit/print_dialog.h"
+#include "toolkit/printers.h"
 #include "toolkit/program.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {

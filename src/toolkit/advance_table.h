@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "toolkit/font.h"
+#include "toolkit/font_spec.h"
 
 namespace toolkit {
 

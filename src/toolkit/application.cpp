@@ -1,3 +1,5 @@
+#include "toolkit/application.h"
+
 #include <cstdlib>
 
 #include <QtWidgets/QApplication>
@@ -6,7 +8,6 @@
 #include "toolkit/qt_program_icon.h"
 #include "toolkit/qt_session_end.h"
 #include "toolkit/qt_window.h"
-#include "toolkit/window.h"
 
 namespace toolkit {
 

@@ -7,7 +7,7 @@
 #include <QtCore/QScopedValueRollback>
 #include <QtCore/QTimer>
 
-#include "toolkit/qt_program.h"
+#include "toolkit/program_overrides.h"
 
 namespace toolkit {
 namespace {

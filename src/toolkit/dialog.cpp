@@ -12,8 +12,8 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 
-#include "toolkit/qt_answers.h"
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_dialog.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/qt_window.h"
 #include "toolkit/typed_text.h"
@@ -121,7 +121,7 @@ DialogAnswers& dialogAnswers() {
 void answerDialogsWith(DialogAnswers answers) { dialogAnswers() = std::move(answers); }
 
 QWidget* boxParent() {
-    Window::Implementation* window = currentWindow();
+    WindowImplementation* window = currentWindow();
     return window != nullptr && window->form().isVisible() ? &window->form() : nullptr;
 }
 

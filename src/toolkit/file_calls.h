@@ -6,9 +6,13 @@
 #include <string_view>
 #include <system_error>
 
-#include "toolkit/file_handle.h"
+namespace toolkit {
 
-namespace toolkit::file_calls {
+/// Update writes over a file from its start and keeps what lies behind. New makes a file that isn't
+/// there. Beside empties or makes a file that no other running program writes at the same time.
+enum class FileMode { Read, Replace, Append, Update, New, Beside };
+
+namespace file_calls {
 
 /// What stands for an open file, or -1 with errno set. FileMode::Beside: EWOULDBLOCK where another
 /// program has the file.
@@ -41,4 +45,5 @@ void removeOpenFile(int file, const std::filesystem::path& path);
 /// ask for it.
 [[nodiscard]] std::error_code syncFolder(const std::filesystem::path& folder);
 
-} // namespace toolkit::file_calls
+} // namespace file_calls
+} // namespace toolkit

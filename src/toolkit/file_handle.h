@@ -6,11 +6,9 @@
 #include <string_view>
 #include <system_error>
 
-namespace toolkit {
+#include "toolkit/file_calls.h"
 
-/// Update writes over a file from its start and keeps what lies behind. New makes a file that isn't
-/// there. Beside empties or makes a file that no other running program writes at the same time.
-enum class FileMode { Read, Replace, Append, Update, New, Beside };
+namespace toolkit {
 
 /// A failure of the call that has just set errno, for this path: a folder in the place of the file
 /// is 75, a missing folder on the way 76, whatever the platform says.

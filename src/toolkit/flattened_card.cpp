@@ -1,3 +1,5 @@
+#include "toolkit/flattened_card.h"
+
 #include <memory>
 #include <utility>
 
@@ -42,7 +44,7 @@ Picture takePicture(PictureBox& card) {
 void flatten(PictureBox& card) {
     const Picture picture = takePicture(card);
     card.Picture = picture;
-    const Window::Implementation* window = currentWindow();
+    const WindowImplementation* window = currentWindow();
     if (window == nullptr || picture->empty()) return;
     LabelScene scene;
     (void)scene.takeOver(window->parts());

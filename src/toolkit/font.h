@@ -1,20 +1,12 @@
-// Fonts by name, and the measures of texts in them.
+// The measures of fonts and of texts in them.
 #pragma once
 
 #include <string>
 #include <string_view>
 
+#include "toolkit/font_spec.h"
+
 namespace toolkit {
-
-/// What a control says about its font. Size in points; fractions count.
-struct FontSpec {
-    std::string Name{"Arial"};
-    float Size = 8.25F;
-    bool Bold = false;
-    bool Italic = false;
-
-    friend bool operator==(const FontSpec&, const FontSpec&) = default;
-};
 
 /// Width of a text in twips: the sum of the unhinted, unkerned advances, so it scales exactly with
 /// the size. Each byte is one character; code 160 is as wide as a blank; nothing is an escape.

@@ -31,3 +31,11 @@ constexpr int plus = 187;
 constexpr int minus = 189;
 
 } // namespace toolkit::key
+
+namespace toolkit {
+
+/// The keys are free to repeat: whether this press is one that a held key repeats, or this release
+/// not the first since the key went down.
+[[nodiscard]] bool isKeyRepeat();
+
+} // namespace toolkit

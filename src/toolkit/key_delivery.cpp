@@ -5,7 +5,7 @@
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QWidget>
 
-#include "toolkit/program.h"
+#include "toolkit/key.h"
 #include "toolkit/qt_input.h"
 
 namespace toolkit {

@@ -9,8 +9,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
 
-#include "toolkit/qt_answers.h"
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_dialog.h"
 #include "toolkit/qt_input.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/qt_window.h"

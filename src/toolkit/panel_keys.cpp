@@ -3,7 +3,7 @@
 
 #include <QtGui/QKeyEvent>
 
-#include "toolkit/program.h"
+#include "toolkit/key.h"
 #include "toolkit/qt_panel_widget.h"
 
 namespace toolkit {

@@ -3,8 +3,8 @@
 #include <QtWidgets/QMenu>
 
 #include "toolkit/dialog.h"
-#include "toolkit/qt_answers.h"
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_dialog.h"
 #include "toolkit/qt_menu_rows.h"
 #include "toolkit/qt_window.h"
 #include "toolkit/screen.h"

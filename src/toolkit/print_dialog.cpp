@@ -17,8 +17,9 @@
 #include <QtWidgets/QPushButton>
 
 #include "toolkit/ansi.h"
-#include "toolkit/qt_answers.h"
+#include "toolkit/printers.h"
 #include "toolkit/qt_delivery.h"
+#include "toolkit/qt_dialog.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/qt_window.h"
 

@@ -7,6 +7,7 @@
 
 #include <QtCore/QCoreApplication>
 
+#include "toolkit/printers.h"
 #include "toolkit/qt_window.h"
 
 namespace toolkit {

@@ -4,20 +4,13 @@
 
 #include <QtWidgets/QApplication>
 
+#include "toolkit/program_overrides.h"
 #include "toolkit/qt_delivery.h"
 #include "toolkit/qt_pending_events.h"
 #include "toolkit/qt_program.h"
 #include "toolkit/qt_window.h"
-#include "toolkit/window.h"
 
 namespace toolkit {
-
-ProgramOverrides& programOverrides() {
-    static ProgramOverrides overrides;
-    return overrides;
-}
-
-void overrideProgram(ProgramOverrides overrides) { programOverrides() = std::move(overrides); }
 
 void doEvents() {
     updateWindow();
@@ -63,7 +56,7 @@ void prepareForEnd() {
 void leaveProgram() {
     prepareForEnd();
     if (programOverrides().throwAtEnd) throw ProgramEnded{};
-    Application::quit();
+    QCoreApplication::exit();
 }
 
 void endProgram() {

@@ -21,10 +21,6 @@ void waitForPlayer(const std::function<bool()>& isOver);
 /// A system beep.
 void beep();
 
-/// The keys are free to repeat: whether this press is one that a held key repeats, or this release
-/// not the first since the key went down.
-[[nodiscard]] bool isKeyRepeat();
-
 /// The folder with the installed data (numbered layouts, readme, sample cards): "zevlin-files"
 /// beside the program, or the share folder of an installed one.
 [[nodiscard]] std::filesystem::path programFolder();
@@ -55,22 +51,5 @@ void leaveProgram();
 /// std::exception. Out of an event handler it reaches the test through the helper of toolkit::test
 /// that sent the event.
 struct ProgramEnded {};
-
-/// Settings for tests, in force until changed.
-struct ProgramOverrides {
-    std::filesystem::path programFolder{};   ///< empty: the real one
-    std::filesystem::path documentsFolder{}; ///< empty: the real one, unless noDocuments
-    std::filesystem::path stateFolder{};     ///< empty: the real one
-    bool noDocuments = false;
-    bool throwAtEnd = false;
-    bool shortWaits = false;                   ///< wait() is over after one look at the events
-    std::function<void(std::string)> launch{}; ///< gets what would be opened
-    std::function<void()> beep{};              ///< instead of the sound
-    /// Sees each short wait, with the time that was asked for, once the events have run.
-    std::function<void(int milliseconds)> duringWait{};
-    /// Acts in the player's place while the program waits for them.
-    std::function<void()> player{};
-};
-void overrideProgram(ProgramOverrides overrides);
 
 } // namespace toolkit

@@ -7,7 +7,7 @@
 
 #include "toolkit/qt_delivery.h"
 #include "toolkit/qt_label_lookup.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 

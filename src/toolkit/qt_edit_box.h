@@ -5,7 +5,7 @@
 #include <QtWidgets/QLineEdit>
 
 #include "toolkit/qt_control_looks.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 

@@ -8,7 +8,7 @@
 #include <QtGui/QRawFont>
 
 #include "toolkit/advance_table.h"
-#include "toolkit/font.h"
+#include "toolkit/font_spec.h"
 
 namespace toolkit {
 

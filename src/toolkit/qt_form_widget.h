@@ -8,7 +8,7 @@
 #include "toolkit/qt_form_place.h"
 #include "toolkit/qt_menu_bar.h"
 #include "toolkit/qt_wheel.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 

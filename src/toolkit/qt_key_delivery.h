@@ -8,7 +8,7 @@
 #include <QtCore/QObject>
 
 #include "toolkit/qt_delivery.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 class QKeyEvent;
 class QWidget;

@@ -6,7 +6,7 @@
 
 #include <QtCore/QPoint>
 
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 

@@ -7,7 +7,7 @@
 #include <QtGui/QRegion>
 
 #include "toolkit/qt_label_lookup.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 class QPainter;
 

@@ -6,7 +6,7 @@
 #include <QtWidgets/QListView>
 
 #include "toolkit/qt_control_looks.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 

@@ -12,7 +12,7 @@
 #include <QtWidgets/QMenuBar>
 
 #include "toolkit/qt_delivery.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 

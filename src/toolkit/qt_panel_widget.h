@@ -11,7 +11,7 @@
 #include "toolkit/qt_delivery.h"
 #include "toolkit/qt_key_delivery.h"
 #include "toolkit/qt_panel_parts.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 

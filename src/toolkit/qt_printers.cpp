@@ -11,6 +11,7 @@
 #include <QtPrintSupport/QPrinterInfo>
 
 #include "toolkit/error.h"
+#include "toolkit/printers.h"
 #include "toolkit/qt_picture.h"
 #include "toolkit/qt_text.h"
 #include "toolkit/system_printers.h"

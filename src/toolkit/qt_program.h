@@ -1,11 +1,7 @@
-// The settings for tests that the program's sources share. Internal to the toolkit.
+// What ends the program. Internal to the toolkit's sources.
 #pragma once
 
-#include "toolkit/program.h"
-
 namespace toolkit {
-
-[[nodiscard]] ProgramOverrides& programOverrides();
 
 /// Lets the form bring to safety what must not be lost.
 void prepareForEnd();

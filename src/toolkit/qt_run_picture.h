@@ -6,7 +6,7 @@
 #include <QtCore/QPointF>
 
 #include "toolkit/color.h"
-#include "toolkit/font.h"
+#include "toolkit/font_spec.h"
 
 class QPainter;
 

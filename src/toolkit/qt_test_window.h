@@ -8,7 +8,7 @@ class QEvent;
 namespace toolkit::test {
 
 /// The window under test.
-[[nodiscard]] Window::Implementation& window();
+[[nodiscard]] WindowImplementation& window();
 
 /// Takes over what the test has set, sends the event to the widget and throws what a handler threw.
 void send(QWidget& widget, QEvent& event);

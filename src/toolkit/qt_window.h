@@ -11,15 +11,15 @@
 #include "toolkit/qt_list_view.h"
 #include "toolkit/qt_notice.h"
 #include "toolkit/qt_panel_widget.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit {
 
 /// Keeps the values of the controls and their widgets alike.
-class Window::Implementation {
+class WindowImplementation {
   public:
-    explicit Implementation(WindowParts shown);
-    ~Implementation();
+    explicit WindowImplementation(WindowParts shown);
+    ~WindowImplementation();
 
     /// What the player changed goes into the values.
     void pull();
@@ -54,7 +54,7 @@ class Window::Implementation {
 };
 
 /// The window that is open, nullptr before and after.
-[[nodiscard]] Window::Implementation* currentWindow();
+[[nodiscard]] WindowImplementation* currentWindow();
 
 /// Takes over all values, if there is a window.
 void updateWindow();

@@ -9,7 +9,7 @@
 #include <QtGui/QDesktopServices>
 
 #include "toolkit/program.h"
-#include "toolkit/qt_program.h"
+#include "toolkit/program_overrides.h"
 
 namespace toolkit {
 namespace {

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "toolkit/system_source.h"
-
 namespace toolkit {
 namespace {
 

@@ -31,6 +31,9 @@ struct SystemSource {
     std::function<MemoryFacts()> memory{};
     std::function<MemoryUsage()> usage{};
 };
+/// The facts as this system tells them.
+[[nodiscard]] SystemSource thisSystem();
+
 /// For tests: in the system's place; an empty function leaves that fact to the system.
 void overrideSystem(SystemSource inPlace);
 

@@ -1,4 +1,4 @@
-#include "toolkit/system_source.h"
+#include "toolkit/system.h"
 
 #ifndef _WIN32
 

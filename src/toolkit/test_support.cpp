@@ -45,7 +45,7 @@ Bitmap grab(QWidget& widget, double pixelRatio = 1) {
 
 } // namespace
 
-Window::Implementation& window() {
+WindowImplementation& window() {
     if (currentWindow() == nullptr) throw std::logic_error("no window is open");
     return *currentWindow();
 }

@@ -10,7 +10,7 @@
 #include "toolkit/bitmap.h"
 #include "toolkit/control.h"
 #include "toolkit/dialog.h"
-#include "toolkit/window.h"
+#include "toolkit/window_parts.h"
 
 namespace toolkit::test {
 

@@ -7,7 +7,7 @@
 #include <QtGui/QFont>
 
 #include "toolkit/color.h"
-#include "toolkit/font.h"
+#include "toolkit/font_spec.h"
 
 class QPainter;
 

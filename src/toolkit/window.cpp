@@ -1,26 +1,28 @@
 #include <algorithm>
 #include <utility>
 
+#include <QtCore/QCoreApplication>
+
 #include "toolkit/qt_window.h"
 #include "toolkit/window.h"
 
 namespace toolkit {
 namespace {
 
-Window::Implementation*& current() {
-    static Window::Implementation* window = nullptr;
+WindowImplementation*& current() {
+    static WindowImplementation* window = nullptr;
     return window;
 }
 
 bool quitUnlessRefused(const std::function<bool()>& refuses) {
     if (refuses && refuses()) return false;
-    Application::quit();
+    QCoreApplication::exit();
     return true;
 }
 
 } // namespace
 
-Window::Implementation* currentWindow() { return current(); }
+WindowImplementation* currentWindow() { return current(); }
 
 void updateWindow() {
     if (current() == nullptr) return;
@@ -28,7 +30,7 @@ void updateWindow() {
     current()->push();
 }
 
-Window::Implementation::Implementation(WindowParts shown)
+WindowImplementation::WindowImplementation(WindowParts shown)
     : parts_(std::move(shown)),
       delivery_({[this] { pull(); }, [this] { push(); },
                  [this](const RunTimeError& failure) {
@@ -58,9 +60,9 @@ Window::Implementation::Implementation(WindowParts shown)
     form_.pull();
 }
 
-Window::Implementation::~Implementation() { current() = nullptr; }
+WindowImplementation::~WindowImplementation() { current() = nullptr; }
 
-void Window::Implementation::watchKeys() {
+void WindowImplementation::watchKeys() {
     keys_.watch(form_);
     keys_.watch(card_);
     for (std::size_t index = 0; index < boxes_.size(); ++index) {
@@ -75,7 +77,7 @@ void Window::Implementation::watchKeys() {
     for (const auto& panel : panels_) panel->watch(keys_);
 }
 
-void Window::Implementation::pull() {
+void WindowImplementation::pull() {
     if (pushing_) return;
     form_.pull();
     for (const auto& box : boxes_) box->pull();
@@ -83,7 +85,7 @@ void Window::Implementation::pull() {
     for (const auto& panel : panels_) panel->pull();
 }
 
-void Window::Implementation::push() {
+void WindowImplementation::push() {
     if (std::exchange(pushing_, true)) return;
     form_.push();
     card_.push();
@@ -97,7 +99,7 @@ void Window::Implementation::push() {
     pushing_ = false;
 }
 
-QWidget* Window::Implementation::widgetOf(const Control* control) {
+QWidget* WindowImplementation::widgetOf(const Control* control) {
     if (control == parts_.card) return &card_;
     for (std::size_t index = 0; index < boxes_.size(); ++index)
         if (parts_.cardTextBoxes[index] == control) return boxes_[index].get();
@@ -108,7 +110,7 @@ QWidget* Window::Implementation::widgetOf(const Control* control) {
     return nullptr;
 }
 
-bool Window::Implementation::isShown(const Control& control) {
+bool WindowImplementation::isShown(const Control& control) {
     if (!control.Visible) return false;
     return std::ranges::all_of(panels_, [&control](const auto& panel) {
         return panel->widgetOf(&control) == nullptr || panel->box().Visible;
@@ -117,7 +119,7 @@ bool Window::Implementation::isShown(const Control& control) {
 
 /// Where the keys go is the form's to say; the platform's focus follows it, so nothing that the
 /// platform does to its own focus (menus, boxes, other programs) is an event of the form's.
-void Window::Implementation::pushFocus() {
+void WindowImplementation::pushFocus() {
     Control*& active = parts_.form->ActiveControl;
     QWidget* widget = widgetOf(active);
     if (widget != nullptr && !isShown(*active)) {
@@ -129,7 +131,7 @@ void Window::Implementation::pushFocus() {
     if (form_.focusWidget() != widget) widget->setFocus(Qt::OtherFocusReason);
 }
 
-void Window::Implementation::pushStacking() {
+void WindowImplementation::pushStacking() {
     std::vector<const Control*> order{parts_.card};
     order.insert(order.end(), parts_.lists.begin(), parts_.lists.end());
     for (const PanelContents& panel : parts_.panels) order.push_back(panel.box);
@@ -140,7 +142,7 @@ void Window::Implementation::pushStacking() {
 }
 
 Window::Window(WindowParts parts)
-    : implementation_(std::make_unique<Implementation>(std::move(parts))) {}
+    : implementation_(std::make_unique<WindowImplementation>(std::move(parts))) {}
 
 Window::~Window() = default;
 

@@ -2,6 +2,8 @@
 #include "app/layouts.h"
 #include "form/settings.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 
 namespace zev::test {
 namespace {

@@ -2,6 +2,7 @@
 
 #include "app/layouts.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

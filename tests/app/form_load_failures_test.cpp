@@ -3,6 +3,7 @@
 #include "form/settings.h"
 #include "toolkit/files.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

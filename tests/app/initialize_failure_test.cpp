@@ -2,6 +2,7 @@
 #include "form/settings.h"
 #include "layout/layout_text.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

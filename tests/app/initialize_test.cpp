@@ -5,6 +5,7 @@
 #include "app/layouts.h"
 #include "card/lifecycle.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

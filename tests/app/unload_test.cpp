@@ -6,6 +6,7 @@
 #include "toolkit/files.h"
 #include "toolkit/print_dialog.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

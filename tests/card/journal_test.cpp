@@ -7,6 +7,7 @@
 #include "support/immutable_folder.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

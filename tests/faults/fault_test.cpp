@@ -7,6 +7,7 @@
 
 #include "app/second_run.h"
 #include "toolkit/clock.h"
+#include "toolkit/program.h"
 
 /// The painting of the platform deals its work to threads, which a forked process doesn't have:
 /// here it does the work at once.

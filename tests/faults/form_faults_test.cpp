@@ -7,6 +7,7 @@
 #include "output/export_card.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

@@ -1,10 +1,13 @@
 
 #include "app/layouts.h"
+#include "app/read_options.h"
 #include "app/second_run.h"
+#include "form/options.h"
+#include "toolkit/application.h"
 #include "toolkit/files.h"
 #include "toolkit/printer.h"
-#include "app/read_options.h"
-#include "form/options.h"
+#include "toolkit/printers.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

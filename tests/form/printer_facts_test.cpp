@@ -2,6 +2,7 @@
 
 #include "support/form_test.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

@@ -8,6 +8,7 @@
 #include "toolkit/clock.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

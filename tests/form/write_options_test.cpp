@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "form/options_file.h"
+#include "toolkit/application.h"
 
 namespace zev {
 namespace {

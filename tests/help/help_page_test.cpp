@@ -8,6 +8,7 @@
 #include "form/zevlin.h"
 #include "toolkit/key.h"
 #include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 
 namespace {
 

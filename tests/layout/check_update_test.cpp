@@ -2,6 +2,7 @@
 
 #include "support/form_test.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 #include "toolkit/screen.h"
 
 namespace zev::test {

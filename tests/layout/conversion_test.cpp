@@ -2,6 +2,7 @@
 #include "app/second_run.h"
 #include "support/form_test.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 #include "toolkit/screen.h"
 
 namespace zev::test {

@@ -2,6 +2,7 @@
 #include "app/second_run.h"
 #include "form/settings.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

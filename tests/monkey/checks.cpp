@@ -7,6 +7,7 @@
 #include "card/rescue_file.h"
 #include "monkey/monkey.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

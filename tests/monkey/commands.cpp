@@ -12,6 +12,7 @@
 #include "toolkit/key.h"
 #include "toolkit/print_dialog.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

@@ -9,6 +9,7 @@
 #include "card/journal.h"
 #include "monkey/monkey.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

@@ -11,6 +11,7 @@
 #include "toolkit/gif_file.h"
 #include "toolkit/print_dialog.h"
 #include "toolkit/printer.h"
+#include "toolkit/program.h"
 #include "toolkit/screen.h"
 
 namespace zev::test {

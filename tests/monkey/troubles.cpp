@@ -10,6 +10,7 @@
 
 #include "card/save.h"
 #include "toolkit/files.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

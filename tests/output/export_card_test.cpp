@@ -2,6 +2,7 @@
 
 #include "output/print_test.h"
 #include "toolkit/bitmap.h"
+#include "toolkit/printers.h"
 #include "view/halve_picture.h"
 
 namespace zev::test {

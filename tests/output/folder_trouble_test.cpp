@@ -9,6 +9,7 @@
 #include "output/print_test.h"
 #include "support/immutable_folder.h"
 #include "support/small_disk.h"
+#include "toolkit/program.h"
 
 namespace zev::test {
 namespace {

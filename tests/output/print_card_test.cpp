@@ -3,6 +3,7 @@
 #include "card/save.h"
 #include "form/options.h"
 #include "output/print_test.h"
+#include "toolkit/printers.h"
 #include "view/fit.h"
 
 namespace zev::test {

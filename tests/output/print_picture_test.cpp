@@ -1,6 +1,7 @@
 #include "output/print_picture.h"
 
 #include "output/print_test.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

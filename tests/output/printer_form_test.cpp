@@ -2,6 +2,7 @@
 
 #include "output/print_test.h"
 #include "output/printer_setup.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

@@ -9,6 +9,7 @@
 #include "support/form_test.h"
 #include "toolkit/key.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

@@ -4,6 +4,7 @@
 
 #include "output/print_test.h"
 #include "toolkit/print_dialog.h"
+#include "toolkit/printers.h"
 
 namespace zev::test {
 namespace {

@@ -11,6 +11,9 @@
 #include "toolkit/files.h"
 #include "toolkit/key.h"
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
+#include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 #include "toolkit/screen.h"
 
 namespace zev::test {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "support/system.h"
+#include "toolkit/application.h"
 #include "toolkit/window.h"
 
 int main(int argumentCount, char** arguments) {

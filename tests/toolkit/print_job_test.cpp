@@ -5,6 +5,7 @@
 #include "toolkit/dialog.h"
 #include "toolkit/failure_of.h"
 #include "toolkit/files.h"
+#include "toolkit/printers.h"
 #include "toolkit/temporary_folder.h"
 
 namespace toolkit::test {

@@ -1,4 +1,5 @@
 #include "toolkit/printer.h"
+#include "toolkit/printers.h"
 
 #include <gtest/gtest.h>
 

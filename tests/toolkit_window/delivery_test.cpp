@@ -1,5 +1,7 @@
 // Failures and the end of the program in handlers, and a close in the middle of one.
 #include "fixture.h"
+#include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 
 namespace window_test {
 namespace {

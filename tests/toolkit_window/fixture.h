@@ -8,8 +8,10 @@
 
 #include <gtest/gtest.h>
 
+#include "toolkit/application.h"
 #include "toolkit/key.h"
 #include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 #include "toolkit/screen.h"
 #include "toolkit/test_support.h"
 #include "toolkit/window.h"

@@ -1,5 +1,6 @@
 // The card as one picture, whatever of it the screen shows.
 #include "painting.h"
+#include "toolkit/flattened_card.h"
 
 namespace window_test {
 namespace {

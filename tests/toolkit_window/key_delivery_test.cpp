@@ -1,5 +1,6 @@
 // The way of a key: form, menu, control, character, control's own handling.
 #include "fixture.h"
+#include "toolkit/key.h"
 
 namespace window_test {
 namespace {

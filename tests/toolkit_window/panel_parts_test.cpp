@@ -1,5 +1,6 @@
 // The controls of a panel.
 #include "panel_fixture.h"
+#include "toolkit/program.h"
 
 namespace window_test {
 namespace {

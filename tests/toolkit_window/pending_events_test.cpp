@@ -1,5 +1,6 @@
 // Paint and timers in the middle of a procedure.
 #include "fixture.h"
+#include "toolkit/program.h"
 
 #include <chrono>
 

@@ -1,5 +1,7 @@
 // Events and waits in the middle of a procedure.
 #include "fixture.h"
+#include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 
 #include <chrono>
 

@@ -1,5 +1,7 @@
 // Signals that ask the program to end.
 #include "fixture.h"
+#include "toolkit/application.h"
+#include "toolkit/program_overrides.h"
 
 #ifndef _WIN32
 

@@ -5,6 +5,8 @@
 #include <filesystem>
 
 #include "support/system.h"
+#include "toolkit/program.h"
+#include "toolkit/program_overrides.h"
 
 namespace window_test {
 namespace {

@@ -1,11 +1,11 @@
 // Who answers boxes. Internal to the toolkit's sources.
 #pragma once
 
-#include "toolkit/dialog.h"
-
 class QWidget;
 
 namespace toolkit {
+
+struct DialogAnswers;
 
 [[nodiscard]] DialogAnswers& dialogAnswers();
 
