@@ -1,4 +1,4 @@
-// GIF files. Internal to the toolkit's sources.
+// GIF files.
 #pragma once
 
 #include <string>

@@ -14,7 +14,7 @@ namespace card_picture {
 namespace {
 
 // In full pixels.
-constexpr int fold = card::pictureWidth / 2;
+constexpr int fold = card_tool::pictureWidth / 2;
 constexpr int pitch = 52;
 constexpr double frameLine = 4;
 constexpr double thinLine = 2;
@@ -23,48 +23,48 @@ constexpr double barHeight = 34;
 constexpr double paperAroundRows = 14;
 constexpr double leastPaper = 8;
 
-const card::Sheet& sheet() {
-    static const card::Sheet set =
-        card::typeset(card::readDescription(CARD_DESCRIPTION), card::loadTypefaces(CARD_FONTS));
+const card_tool::Sheet& sheet() {
+    static const card_tool::Sheet set = card_tool::typeset(
+        card_tool::readDescription(CARD_DESCRIPTION), card_tool::loadTypefaces(CARD_FONTS));
     return set;
 }
 
-bool isRectangle(const card::InkShape& shape) {
+bool isRectangle(const card_tool::InkShape& shape) {
     return shape.path.elementCount() == 5 &&
            std::ranges::all_of(std::vector{0, 1, 2, 3, 4},
                                [&](int at) { return !shape.path.elementAt(at).isCurveTo(); });
 }
-double thickness(const card::InkShape& shape) {
+double thickness(const card_tool::InkShape& shape) {
     return std::min(shape.bounds.width(), shape.bounds.height());
 }
 /// Longer than any stroke of a letter.
-bool isLong(const card::InkShape& shape) {
+bool isLong(const card_tool::InkShape& shape) {
     return std::max(shape.bounds.width(), shape.bounds.height()) > pitch;
 }
-bool isRule(const card::InkShape& shape, double thick) {
-    return isRectangle(shape) && shape.ink == card::Ink::Black && thickness(shape) == thick &&
+bool isRule(const card_tool::InkShape& shape, double thick) {
+    return isRectangle(shape) && shape.ink == card_tool::Ink::Black && thickness(shape) == thick &&
            isLong(shape);
 }
-bool isDivider(const card::InkShape& shape) {
+bool isDivider(const card_tool::InkShape& shape) {
     return isRule(shape, thinLine) && shape.bounds.width() == thinLine;
 }
 /// Words, boxes and writing lines.
-bool isContent(const card::InkShape& shape) {
-    return shape.ink != card::Ink::Paper && !isRule(shape, frameLine) &&
+bool isContent(const card_tool::InkShape& shape) {
+    return shape.ink != card_tool::Ink::Paper && !isRule(shape, frameLine) &&
            !isRule(shape, barHeight) && !isDivider(shape);
 }
 
-std::vector<QRectF> boundsOf(bool (*chosen)(const card::InkShape&)) {
+std::vector<QRectF> boundsOf(bool (*chosen)(const card_tool::InkShape&)) {
     std::vector<QRectF> bounds;
-    for (const card::InkShape& shape : sheet().shapes)
+    for (const card_tool::InkShape& shape : sheet().shapes)
         if (chosen(shape)) bounds.push_back(shape.bounds);
     return bounds;
 }
 std::vector<QRectF> frameLines() {
-    return boundsOf([](const card::InkShape& shape) { return isRule(shape, frameLine); });
+    return boundsOf([](const card_tool::InkShape& shape) { return isRule(shape, frameLine); });
 }
 std::vector<QRectF> bars() {
-    return boundsOf([](const card::InkShape& shape) { return isRule(shape, barHeight); });
+    return boundsOf([](const card_tool::InkShape& shape) { return isRule(shape, barHeight); });
 }
 bool share(const QRectF& one, const QRectF& other) {
     return one.left() < other.right() && other.left() < one.right();
@@ -93,8 +93,8 @@ TEST(Composition, OuterMarginIsEven) {
     EXPECT_EQ(all.top, all.left);
     // The time stamp's rows, and no more paper than keeps it off the frames.
     const int foot = fullPicture().height - 1 - all.bottom;
-    EXPECT_GE(foot, card::footRows + 8);
-    EXPECT_LE(foot, card::footRows + 12);
+    EXPECT_GE(foot, card_tool::footRows + 8);
+    EXPECT_LE(foot, card_tool::footRows + 12);
 }
 
 TEST(Composition, PanelsBalanceAboutTheFold) {
@@ -108,8 +108,8 @@ TEST(Composition, PanelsBalanceAboutTheFold) {
 
 TEST(Composition, RulesHaveTwoWeights) {
     std::set<double> weights;
-    for (const card::InkShape& shape : sheet().shapes)
-        if (isRectangle(shape) && isLong(shape) && shape.ink != card::Ink::Paper)
+    for (const card_tool::InkShape& shape : sheet().shapes)
+        if (isRectangle(shape) && isLong(shape) && shape.ink != card_tool::Ink::Paper)
             weights.insert(thickness(shape));
     // Bars are no rules; the sides of boxes are thin lines, as the tests of fields measure.
     weights.erase(barHeight);
@@ -167,10 +167,10 @@ TEST(Composition, RowsOfNeighbouringColumnsStandOnOneLine) {
     std::set<int> left;
     std::set<int> right;
     const auto leads = std::ranges::find_if(
-        sheet().marks, [](const card::MarkPlace& mark) { return mark.id == "s.xx.1"; });
+        sheet().marks, [](const card_tool::MarkPlace& mark) { return mark.id == "s.xx.1"; });
     ASSERT_NE(leads, sheet().marks.end());
-    for (const card::TextPlace& text : sheet().texts) {
-        if (text.size == card::AreaSize::Large) continue;
+    for (const card_tool::TextPlace& text : sheet().texts) {
+        if (text.size == card_tool::AreaSize::Large) continue;
         if (text.left > fold)
             right.insert(text.ruleTop % pitch);
         else if (text.ruleTop < leads->centreY)

@@ -29,7 +29,7 @@ const std::vector<std::string> opening{
     "appearance of all cards.",
     "",
     "' The next few lines describe the environment in which this file was created",
-    "' Program version: 2.0.0",
+    "' Program version: " CARD_VERSION,
     "",
     "' Screen TwipsPerPixel (usually 15, 13, or 12) and Screen Width in twips",
     "15,19200",
@@ -40,7 +40,7 @@ const std::vector<std::string> opening{
     "' Symbol font name (for checkmarks and circles); small, medium, and large Symbol font sizes - "
     "all in points",
     R"("Wingdings","18.00","22.00","30.00")",
-    "' Symbol font name for Suit Symbols: Symbol; this one is a comment only and isn't read back",
+    "' Symbol font name for Suit Symbols: Symbol",
     "",
     "' # of pixels by which characters are offset from the left and from the bottom within their "
     "positions",

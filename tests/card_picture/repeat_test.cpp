@@ -1,5 +1,5 @@
 #include "card_picture/layout_reader.h"
-#include "card_tool/card_file.h"
+#include "card_tool/sample_card.h"
 
 #include <QtCore/QProcess>
 #include <QtCore/QTemporaryDir>
@@ -80,18 +80,18 @@ TEST(Tool, RefusesWordsItDoesntKnow) {
 }
 
 TEST(Tool, StoresQuotesAsTheCharacterThatStandsForThem) {
-    card::Sheet sheet;
+    card_tool::Sheet sheet;
     sheet.texts.push_back({.id = "a"});
-    const card::SampleCard sample{.name = "x", .texts = {{"a", R"(say "2")"}}};
-    EXPECT_NE(card::cardText(sample, sheet)
+    const card_tool::SampleCard sample{.name = "x", .texts = {{"a", R"(say "2")"}}};
+    EXPECT_NE(card_tool::cardText(sample, sheet)
                   .find("1,\"say \xB2"
                         "2\xB2\",0\r\n"),
               std::string::npos);
 }
 
 TEST(Tool, RefusesASampleThatNamesAMissingField) {
-    const card::SampleCard sample{.name = "x", .marks = {"nowhere"}};
-    EXPECT_ANY_THROW(static_cast<void>(card::cardText(sample, card::Sheet{})));
+    const card_tool::SampleCard sample{.name = "x", .marks = {"nowhere"}};
+    EXPECT_ANY_THROW(static_cast<void>(card_tool::cardText(sample, card_tool::Sheet{})));
 }
 
 } // namespace

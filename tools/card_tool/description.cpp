@@ -1,13 +1,13 @@
 #include "card_tool/description.h"
 
-#include "card_tool/failure.h"
-
 #include <fstream>
 #include <map>
 #include <optional>
 #include <sstream>
 
-namespace card {
+#include "card_tool/failure.h"
+
+namespace card_tool {
 namespace {
 
 const std::map<std::string, NodeKind> openers{{"panel", NodeKind::Panel},
@@ -36,8 +36,8 @@ std::vector<double> readMeasures(const std::string& text) {
 
 struct Line {
     int number = 0;
-    std::string word{};
-    std::string rest{};
+    std::string word;
+    std::string rest;
 };
 
 std::optional<Line> nextLine(std::istream& in, int& number) {
@@ -69,12 +69,12 @@ class TreeBuilder {
     }
 
     std::vector<Node> finish() {
-        if (m_open.size() != 1) throw Failure("a part is not closed");
-        return std::move(m_open.front().parts);
+        if (open_.size() != 1) throw Failure("a part is not closed");
+        return std::move(open_.front().parts);
     }
 
   private:
-    Node& current() { return m_open.back(); }
+    Node& current() { return open_.back(); }
 
     static Node singleLine(NodeKind kind, const Line& line) {
         Node node{.kind = kind, .line = line.number};
@@ -88,13 +88,13 @@ class TreeBuilder {
     void open(NodeKind kind, const Line& line) {
         Node node{.kind = kind, .line = line.number};
         if (kind != NodeKind::Panel) node.measures = readMeasures(line.rest);
-        m_open.push_back(std::move(node));
+        open_.push_back(std::move(node));
         if (kind == NodeKind::Columns)
-            m_open.push_back({.kind = NodeKind::Stack, .line = line.number});
+            open_.push_back({.kind = NodeKind::Stack, .line = line.number});
     }
 
     void close() {
-        if (m_open.size() == 1) throw Failure("nothing is open here");
+        if (open_.size() == 1) throw Failure("nothing is open here");
         const bool column = current().kind == NodeKind::Stack;
         hang();
         if (column) hang();
@@ -103,17 +103,17 @@ class TreeBuilder {
     void nextColumn(const Line& line) {
         if (current().kind != NodeKind::Stack) throw Failure("no columns are open here");
         hang();
-        m_open.push_back({.kind = NodeKind::Stack, .line = line.number});
+        open_.push_back({.kind = NodeKind::Stack, .line = line.number});
     }
 
     /// Puts the innermost open part into the one around it.
     void hang() {
-        Node done = std::move(m_open.back());
-        m_open.pop_back();
-        m_open.back().parts.push_back(std::move(done));
+        Node done = std::move(open_.back());
+        open_.pop_back();
+        open_.back().parts.push_back(std::move(done));
     }
 
-    std::vector<Node> m_open{1};
+    std::vector<Node> open_{1};
 };
 
 } // namespace
@@ -132,4 +132,4 @@ Description readDescription(const std::filesystem::path& path) {
     }
 }
 
-} // namespace card
+} // namespace card_tool

@@ -1,12 +1,13 @@
+// The description of the card as a tree of parts.
 #pragma once
-
-#include "card_tool/item.h"
 
 #include <filesystem>
 #include <string>
 #include <vector>
 
-namespace card {
+#include "card_tool/item.h"
+
+namespace card_tool {
 
 enum class NodeKind {
     Panel,   ///< one half of the sheet
@@ -34,12 +35,12 @@ struct Node {
 };
 
 struct Description {
-    std::string file{};
+    std::string file;
     /// The panels in the order of the TAB walk: right, then left.
-    std::vector<Node> panels{};
+    std::vector<Node> panels;
 };
 
 /// Reads a description. Throws Failure with file and line when it is malformed.
 [[nodiscard]] Description readDescription(const std::filesystem::path& path);
 
-} // namespace card
+} // namespace card_tool

@@ -1,9 +1,10 @@
+// What stops the tool.
 #pragma once
 
 #include <stdexcept>
 #include <string>
 
-namespace card {
+namespace card_tool {
 
 /// What stops the tool: a description that can't be read or set, or a file that can't be written.
 class Failure : public std::runtime_error {
@@ -13,4 +14,4 @@ class Failure : public std::runtime_error {
         : std::runtime_error(file + ":" + std::to_string(line) + ": " + message) {}
 };
 
-} // namespace card
+} // namespace card_tool

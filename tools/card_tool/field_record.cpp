@@ -1,33 +1,45 @@
 #include "card_tool/field_record.h"
 
+#include <cmath>
+
 #include "card_tool/mark_cell.h"
 #include "card_tool/units.h"
 
-#include <cmath>
-
-namespace card {
+namespace card_tool {
 namespace {
 
-int rounded(double value) { return static_cast<int>(std::floor(value + 0.5)); }
+float rounded(double value) { return static_cast<float>(std::floor(value + 0.5)); }
+
+int colorNumber(Ink ink) { return ink == Ink::Red ? 2 : ink == Ink::Blue ? 3 : 1; }
 
 } // namespace
 
-FieldRecord markRecord(const MarkPlace& mark, const Typefaces& faces, int twipsPerPixel) {
+zev::FieldRecord markRecord(const MarkPlace& mark, const Typefaces& faces, int twipsPerPixel) {
     const MarkCell cell = markCell(faces, mark.kind);
-    const int size = markSize(mark.kind, twipsPerPixel);
-    const double em = emPixels(markPoints[size - 1], twipsPerPixel);
-    return {rounded(mark.centreX / fullPerDesign - cell.centreX * em),
-            rounded(mark.centreY / fullPerDesign - cell.centreY * em), rounded(cell.width * em),
-            rounded(cell.height * em), size};
+    zev::FieldRecord record;
+    record.color = colorNumber(mark.ink);
+    record.size = markSize(mark.kind, twipsPerPixel);
+    record.symbol = markSymbol(mark.kind);
+    const double em = emPixels(pointsOf(markPoints, record.size), twipsPerPixel);
+    record.left = rounded(mark.centreX / fullPerDesign - cell.centreX * em);
+    record.top = rounded(mark.centreY / fullPerDesign - cell.centreY * em);
+    record.width = rounded(cell.width * em);
+    record.height = rounded(cell.height * em);
+    return record;
 }
 
-FieldRecord textRecord(const TextPlace& text, const Typefaces& faces, int twipsPerPixel) {
-    const int size = static_cast<int>(text.size);
+zev::FieldRecord textRecord(const TextPlace& text, const Typefaces& faces, int twipsPerPixel) {
     const Typeface& face = text.size == AreaSize::Large ? faces.textBold : faces.textRegular;
-    const double em = emPixels(textPoints[size - 1], twipsPerPixel);
-    const double top = std::floor(double(text.ruleTop) / fullPerDesign - face.ascent() * em);
-    return {text.left / fullPerDesign, static_cast<int>(top), text.width / fullPerDesign,
-            rounded(face.height() * em), size};
+    zev::FieldRecord record;
+    record.color = colorNumber(text.ink);
+    record.size = static_cast<int>(text.size);
+    const double em = emPixels(pointsOf(textPoints, record.size), twipsPerPixel);
+    const double top = double(text.ruleTop) / fullPerDesign - face.ascent() * em;
+    record.left = static_cast<float>(text.left / fullPerDesign);
+    record.top = static_cast<float>(std::floor(top));
+    record.width = static_cast<float>(text.width / fullPerDesign);
+    record.height = rounded(face.height() * em);
+    return record;
 }
 
-} // namespace card
+} // namespace card_tool

@@ -1,25 +1,28 @@
 #include "card_tool/ink.h"
 
-namespace card {
+#include "toolkit/bitmap.h"
+
+namespace card_tool {
 namespace {
 
-std::uint8_t shade(std::uint8_t full, int strength) {
+int shade(int full, int strength) {
     const int paper = 255;
     const int drop = (paper - full) * strength;
-    return static_cast<std::uint8_t>(paper - (2 * drop + shadeCount) / (2 * shadeCount));
+    return paper - (2 * drop + shadeCount) / (2 * shadeCount);
 }
 
 } // namespace
 
-std::array<Rgb, paletteSize> pictureColours() {
-    std::array<Rgb, paletteSize> colours{};
+std::vector<std::uint32_t> pictureColors() {
+    std::vector<std::uint32_t> colors(paletteSize, toolkit::pixelOf(toolkit::white));
     for (const Ink ink : {Ink::Black, Ink::Red, Ink::Blue}) {
-        const Rgb full = inkColours[static_cast<std::size_t>(ink)];
+        const toolkit::Color full = colorOf(ink);
         for (int strength = 1; strength <= shadeCount; ++strength)
-            colours[paletteIndex(ink, strength)] = {
-                shade(full.red, strength), shade(full.green, strength), shade(full.blue, strength)};
+            colors[paletteIndex(ink, strength)] = toolkit::pixelOf(toolkit::rgb(
+                shade(toolkit::redOf(full), strength), shade(toolkit::greenOf(full), strength),
+                shade(toolkit::blueOf(full), strength)));
     }
-    return colours;
+    return colors;
 }
 
-} // namespace card
+} // namespace card_tool

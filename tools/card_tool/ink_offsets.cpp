@@ -1,55 +1,53 @@
 #include "card_tool/ink_offsets.h"
 
-#include "card_tool/mark_cell.h"
-#include "card_tool/units.h"
+#include <array>
+#include <cmath>
 
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 
-#include <cmath>
+#include "card_tool/mark_cell.h"
+#include "card_tool/units.h"
+#include "layout/ink.h"
 
-namespace card {
+namespace card_tool {
 namespace {
 
-QImage drawn(const Typeface& face, char32_t character, double em) {
-    const QSize size(static_cast<int>(std::ceil(face.advance(character) * em)) + 1,
-                     static_cast<int>(std::ceil(face.height() * em)) + 1);
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
+toolkit::Bitmap drawn(const Typeface& face, char32_t character, double em) {
+    const int width = static_cast<int>(std::ceil(face.advance(character) * em)) + 1;
+    const int height = static_cast<int>(std::ceil(face.height() * em)) + 1;
+    toolkit::Bitmap picture(width, height);
+    QImage canvas(reinterpret_cast<uchar*>(picture.row(0)), width, height, QImage::Format_RGB32);
+    QPainter painter(&canvas);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillPath(face.outline(character, em).translated(0, face.ascent() * em), Qt::black);
-    return image;
-}
-
-InkOffset measure(const QImage& image) {
-    InkOffset offset{image.width(), -1};
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != qRgb(255, 255, 255)) {
-                offset.left = std::min(offset.left, x);
-                offset.bottom = std::max(offset.bottom, y);
-            }
-    return offset;
+    return picture;
 }
 
 } // namespace
 
-std::array<InkOffset, 9> inkOffsets(const Typefaces& faces, int twipsPerPixel) {
+zev::FileOffsets inkOffsets(const Typefaces& faces, int twipsPerPixel) {
     struct Kind {
         const Typeface& face;
-        char32_t character;
-        const double (&points)[3];
+        int character;
+        const std::array<float, 3>& points;
     };
-    const Kind kinds[]{{faces.marksBold, 252, markPoints},
-                       {faces.marksRegular, 161, markPoints},
-                       {faces.textRegular, U'[', textPoints}};
-    std::array<InkOffset, 9> offsets{};
+    const std::array kinds{
+        Kind{faces.marksBold, markSymbol(MarkKind::Check), markPoints},
+        Kind{faces.marksRegular, markSymbol(MarkKind::Circle), markPoints},
+        Kind{faces.textRegular, '[', textPoints},
+    };
+    zev::FileOffsets offsets{};
     auto next = offsets.begin();
-    for (const Kind& kind : kinds)
-        for (const double points : kind.points)
-            *next++ = measure(drawn(kind.face, kind.character, emPixels(points, twipsPerPixel)));
+    for (const auto& [face, character, points] : kinds)
+        for (const float size : points) {
+            const auto picture =
+                drawn(face, static_cast<char32_t>(character), emPixels(size, twipsPerPixel));
+            const auto ink = zev::findInk(picture, toolkit::white).value();
+            *next++ = static_cast<float>(ink.left);
+            *next++ = static_cast<float>(ink.bottom);
+        }
     return offsets;
 }
 
-} // namespace card
+} // namespace card_tool

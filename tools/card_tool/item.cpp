@@ -1,28 +1,22 @@
 #include "card_tool/item.h"
 
-#include "card_tool/failure.h"
-
 #include <charconv>
 #include <sstream>
 #include <string_view>
 #include <utility>
 
-namespace card {
+#include "card_tool/failure.h"
+#include "toolkit/utf8.h"
+
+namespace card_tool {
 namespace {
 
 /// Blanks that stay where they are.
 constexpr std::u32string_view indent = U"\u00A0\u00A0\u00A0";
 
-std::u32string fromUtf8(const std::string& bytes) {
+std::u32string fromUtf8(std::string_view bytes) {
     std::u32string characters;
-    for (std::size_t at = 0; at < bytes.size();) {
-        const auto lead = static_cast<unsigned char>(bytes[at++]);
-        const int more = lead < 0x80 ? 0 : lead < 0xE0 ? 1 : lead < 0xF0 ? 2 : 3;
-        char32_t character = more == 0 ? lead : lead & (0x3FU >> more);
-        for (int follow = 0; follow < more && at < bytes.size(); ++follow)
-            character = (character << 6) | (static_cast<unsigned char>(bytes[at++]) & 0x3FU);
-        characters.push_back(character);
-    }
+    while (const auto character = toolkit::takeUtf8(bytes)) characters.push_back(*character);
     return characters;
 }
 
@@ -35,14 +29,14 @@ std::string toAscii(const std::u32string& characters) {
 /// Walks along a row and collects its cells.
 class RowReader {
   public:
-    explicit RowReader(std::u32string row) : m_row(std::move(row)) {}
+    explicit RowReader(std::u32string row) : row_(std::move(row)) {}
 
     std::vector<Cell> read() {
-        while (m_at < m_row.size()) step(m_row[m_at++]);
+        while (at_ < row_.size()) step(row_[at_++]);
         finishWords();
-        if (m_inks.size() != 1) throw Failure("a colour group is not closed");
-        if (m_weight == Weight::Bold) throw Failure("bold words are not closed");
-        return std::move(m_cells);
+        if (inks_.size() != 1) throw Failure("a colour group is not closed");
+        if (weight_ == Weight::Bold) throw Failure("bold words are not closed");
+        return std::move(cells_);
     }
 
   private:
@@ -52,13 +46,13 @@ class RowReader {
             newCell();
             break;
         case U'^':
-            m_cells.back().align = CellAlign::Centre;
+            cells_.back().align = CellAlign::Centre;
             break;
         case U'>':
-            m_cells.back().place = CellPlace::LentToNext;
+            cells_.back().place = CellPlace::LentToNext;
             break;
         case U'\\':
-            m_words += indent;
+            words_ += indent;
             break;
         case U'*':
             switchWeight();
@@ -85,46 +79,46 @@ class RowReader {
             addBlank();
             break;
         default:
-            m_words.push_back(character);
+            words_.push_back(character);
         }
     }
 
     void newCell() {
         finishWords();
-        m_cells.emplace_back();
-        m_blank = false;
+        cells_.emplace_back();
+        blank_ = false;
     }
 
     void addBlank() {
-        if (m_words.empty())
-            m_blank = true;
-        else if (m_words.back() != U' ')
-            m_words.push_back(U' ');
+        if (words_.empty())
+            blank_ = true;
+        else if (words_.back() != U' ')
+            words_.push_back(U' ');
     }
 
     void switchWeight() {
         finishWords();
-        m_weight = m_weight == Weight::Bold ? Weight::Regular : Weight::Bold;
+        weight_ = weight_ == Weight::Bold ? Weight::Regular : Weight::Bold;
     }
 
     void openInk() {
         finishWords();
         const std::string name = toAscii(upTo(U' '));
         if (name != "red" && name != "blue") throw Failure("no such colour: " + name);
-        m_inks.push_back(name == "red" ? Ink::Red : Ink::Blue);
+        inks_.push_back(name == "red" ? Ink::Red : Ink::Blue);
     }
 
     void closeInk() {
         finishWords();
-        if (m_inks.size() == 1) throw Failure("a colour group ends that never began");
-        m_inks.pop_back();
+        if (inks_.size() == 1) throw Failure("a colour group ends that never began");
+        inks_.pop_back();
     }
 
     std::u32string upTo(char32_t end) {
-        const std::size_t found = m_row.find(end, m_at);
+        const std::size_t found = row_.find(end, at_);
         if (found == std::u32string::npos) throw Failure("a bracket is not closed");
-        const std::u32string inside = m_row.substr(m_at, found - m_at);
-        m_at = found + 1;
+        const std::u32string inside = row_.substr(at_, found - at_);
+        at_ = found + 1;
         return inside;
     }
 
@@ -133,11 +127,11 @@ class RowReader {
         Item item;
         item.kind = kind;
         item.id = id;
-        item.ink = m_inks.back();
-        item.weight = m_weight;
-        item.blankBefore = std::exchange(m_blank, false);
-        m_cells.back().items.push_back(std::move(item));
-        return m_cells.back().items.back();
+        item.ink = inks_.back();
+        item.weight = weight_;
+        item.blankBefore = std::exchange(blank_, false);
+        cells_.back().items.push_back(std::move(item));
+        return cells_.back().items.back();
     }
 
     void addArea(const std::string& inside) {
@@ -158,35 +152,35 @@ class RowReader {
     /// "@id=K" is a letter to circle, "@id=!K" one that is printed bold.
     void addCircle() {
         Item& circle = add(ItemKind::Circle, toAscii(upTo(U'=')));
-        if (m_at < m_row.size() && m_row[m_at] == U'!') {
+        if (at_ < row_.size() && row_[at_] == U'!') {
             circle.weight = Weight::Bold;
-            ++m_at;
+            ++at_;
         }
-        if (m_at == m_row.size()) throw Failure("a circle has no letter");
-        circle.text = m_row.substr(m_at++, 1);
+        if (at_ == row_.size()) throw Failure("a circle has no letter");
+        circle.text = row_.substr(at_++, 1);
     }
 
     void finishWords() {
-        const bool blankBehind = !m_words.empty() && m_words.back() == U' ';
-        if (blankBehind) m_words.pop_back();
-        if (!m_words.empty()) {
-            const std::u32string words = std::exchange(m_words, {});
+        const bool blankBehind = !words_.empty() && words_.back() == U' ';
+        if (blankBehind) words_.pop_back();
+        if (!words_.empty()) {
+            const std::u32string words = std::exchange(words_, {});
             add(ItemKind::Words, {}).text = words;
         }
-        m_blank = m_blank || blankBehind;
+        blank_ = blank_ || blankBehind;
     }
 
-    std::u32string m_row;
-    std::size_t m_at = 0;
-    std::vector<Cell> m_cells{1};
-    std::vector<Ink> m_inks{Ink::Black};
-    Weight m_weight = Weight::Regular;
-    std::u32string m_words{};
-    bool m_blank = false;
+    std::u32string row_;
+    std::size_t at_ = 0;
+    std::vector<Cell> cells_{1};
+    std::vector<Ink> inks_{Ink::Black};
+    Weight weight_ = Weight::Regular;
+    std::u32string words_{};
+    bool blank_ = false;
 };
 
 } // namespace
 
 std::vector<Cell> readCells(const std::string& utf8) { return RowReader(fromUtf8(utf8)).read(); }
 
-} // namespace card
+} // namespace card_tool

@@ -1,11 +1,12 @@
+// What stands on a row of the described card.
 #pragma once
-
-#include "card_tool/ink.h"
 
 #include <string>
 #include <vector>
 
-namespace card {
+#include "card_tool/ink.h"
+
+namespace card_tool {
 
 enum class Weight { Regular, Bold };
 enum class ItemKind { Words, Box, Circle, Area, Fill };
@@ -18,9 +19,9 @@ struct Item {
     Weight weight = Weight::Regular;
     /// Printed words, or the letter inside a circle; suit signs are the characters U+2660 to
     /// U+2666.
-    std::u32string text{};
+    std::u32string text;
     /// The field's name, empty for words.
-    std::string id{};
+    std::string id;
     /// The width of a text area in design pixels; 0 stretches to what the row leaves.
     double width = 0;
     AreaSize areaSize = AreaSize::Small;
@@ -36,10 +37,10 @@ enum class CellPlace { Own, LentToNext };
 struct Cell {
     CellAlign align = CellAlign::Left;
     CellPlace place = CellPlace::Own;
-    std::vector<Item> items{};
+    std::vector<Item> items;
 };
 
 /// Reads the items of one row. Throws Failure, without a place, when the row is malformed.
 [[nodiscard]] std::vector<Cell> readCells(const std::string& utf8);
 
-} // namespace card
+} // namespace card_tool

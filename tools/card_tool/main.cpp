@@ -1,19 +1,23 @@
-#include "card_tool/card_file.h"
-#include "card_tool/description.h"
-#include "card_tool/failure.h"
-#include "card_tool/layout_file.h"
-#include "card_tool/output_file.h"
-#include "card_tool/picture.h"
-#include "card_tool/picture_file.h"
-#include "card_tool/preview.h"
-#include "card_tool/typesetter.h"
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include <QtGui/QGuiApplication>
 
-#include <array>
-#include <cstdio>
-#include <string>
-#include <vector>
+#include "card_tool/description.h"
+#include "card_tool/failure.h"
+#include "card_tool/layout_text.h"
+#include "card_tool/packed_picture.h"
+#include "card_tool/picture.h"
+#include "card_tool/preview.h"
+#include "card_tool/sample_card.h"
+#include "card_tool/typesetter.h"
+#include "toolkit/error.h"
+#include "toolkit/files.h"
+#include "toolkit/gif_file.h"
 
 namespace {
 
@@ -23,57 +27,69 @@ constexpr const char* usage = "card_tool build FONTS DESCRIPTION OUTPUT [SAMPLE.
                               "card_tool preview FONTS DESCRIPTION PNG SCALE TWIPS [SAMPLE|all]\n";
 constexpr std::array installedTwips{12, 13, 15};
 
-void writeLayouts(const card::Sheet& sheet, const card::Typefaces& faces, const path& folder) {
-    for (const int twips : installedTwips)
-        card::writeBytes(folder / ("Definitions.Ini." + std::to_string(twips)),
-                         card::layoutText(sheet, faces, twips));
+/// Nobody reads a half-finished build after a crash.
+void write(const path& file, std::string_view bytes) {
+    try {
+        toolkit::writeTemporaryFile(file, bytes);
+    } catch (const toolkit::RunTimeError& failure) {
+        throw card_tool::Failure("can't write " + file.string() + ": " + failure.description());
+    }
 }
 
-void writePictures(const card::Sheet& sheet, const path& folder) {
-    const card::IndexedPicture full = card::print(sheet);
-    card::writeGif(full, folder / "card.gif");
-    card::writePacked(full, folder / "full.bin");
-    card::writePacked(card::halved(full), folder / "half.bin");
+void writeLayouts(const card_tool::Sheet& sheet, const card_tool::Typefaces& faces,
+                  const path& folder) {
+    for (const int twips : installedTwips)
+        write(folder / ("Definitions.Ini." + std::to_string(twips)),
+              card_tool::layoutText(sheet, faces, twips));
+}
+
+void writePictures(const card_tool::Sheet& sheet, const path& folder) {
+    const toolkit::IndexedPicture full = card_tool::print(sheet);
+    write(folder / "card.gif", toolkit::gifFile(full));
+    write(folder / "full.bin", card_tool::packed(full));
+    write(folder / "half.bin", card_tool::packed(card_tool::halfOf(full)));
 }
 
 /// What a build started from the shell can look fields up in: number, kind and name, one a line.
-void writeFieldNames(const card::Sheet& sheet, const path& folder) {
+void writeFieldNames(const card_tool::Sheet& sheet, const path& folder) {
     std::string lines;
     int number = 0;
-    for (const card::MarkPlace& mark : sheet.marks)
+    for (const card_tool::MarkPlace& mark : sheet.marks)
         lines += "mark " + std::to_string(++number) + " " + mark.id + "\n";
     number = 0;
-    for (const card::TextPlace& text : sheet.texts)
+    for (const card_tool::TextPlace& text : sheet.texts)
         lines += "text " + std::to_string(++number) + " " + text.id + "\n";
-    card::writeBytes(folder / "fields.txt", lines);
+    write(folder / "fields.txt", lines);
 }
 
 void build(const std::vector<std::string>& arguments) {
-    const card::Typefaces faces = card::loadTypefaces(arguments.at(1));
-    const card::Sheet sheet = card::typeset(card::readDescription(arguments.at(2)), faces);
+    const card_tool::Typefaces faces = card_tool::loadTypefaces(arguments.at(1));
+    const card_tool::Sheet sheet =
+        card_tool::typeset(card_tool::readDescription(arguments.at(2)), faces);
     const path folder = arguments.at(3);
     std::filesystem::create_directories(folder);
     writeLayouts(sheet, faces, folder);
     writePictures(sheet, folder);
     writeFieldNames(sheet, folder);
     for (std::size_t at = 4; at < arguments.size(); ++at) {
-        const card::SampleCard sample = card::readSampleCard(arguments[at]);
-        card::writeBytes(folder / (sample.name + ".zev"), card::cardText(sample, sheet));
+        const card_tool::SampleCard sample = card_tool::readSampleCard(arguments[at]);
+        write(folder / (sample.name + ".zev"), card_tool::cardText(sample, sheet));
     }
 }
 
 void previewTo(const std::vector<std::string>& arguments) {
-    const card::Typefaces faces = card::loadTypefaces(arguments.at(1));
-    const card::Sheet sheet = card::typeset(card::readDescription(arguments.at(2)), faces);
+    const card_tool::Typefaces faces = card_tool::loadTypefaces(arguments.at(1));
+    const card_tool::Sheet sheet =
+        card_tool::typeset(card_tool::readDescription(arguments.at(2)), faces);
     const std::string wanted = arguments.size() > 6 ? arguments[6] : std::string();
-    const card::SampleCard sample = wanted.empty()    ? card::SampleCard{}
-                                    : wanted == "all" ? card::everythingFilled(sheet)
-                                                      : card::readSampleCard(wanted);
+    const card_tool::SampleCard sample = wanted.empty()    ? card_tool::SampleCard{}
+                                         : wanted == "all" ? card_tool::everythingFilled(sheet)
+                                                           : card_tool::readSampleCard(wanted);
     const double scale = std::stod(arguments.at(4));
-    const QImage image =
-        card::preview(card::print(sheet), sheet, sample, faces, scale, std::stoi(arguments.at(5)));
+    const QImage image = card_tool::preview(card_tool::print(sheet), sheet, sample, faces, scale,
+                                            std::stoi(arguments.at(5)));
     if (!image.save(QString::fromStdString(arguments.at(3))))
-        throw card::Failure("can't write " + arguments.at(3));
+        throw card_tool::Failure("can't write " + arguments.at(3));
 }
 
 int run(const std::vector<std::string>& arguments) {

@@ -1,15 +1,14 @@
 #include "card_tool/mark_cell.h"
 
-#include "card_tool/units.h"
-
 #include <cmath>
 
-namespace card {
+#include "card_tool/units.h"
+
+namespace card_tool {
 
 MarkCell markCell(const Typefaces& faces, MarkKind kind) {
-    const bool check = kind == MarkKind::Check;
-    const Typeface& face = check ? faces.marksBold : faces.marksRegular;
-    const char32_t code = check ? 252 : 161;
+    const Typeface& face = markFace(faces, kind);
+    const auto code = static_cast<char32_t>(markSymbol(kind));
     const QPointF middle = face.outline(code, 1).boundingRect().center();
     return {face.advance(code), face.height(), middle.x(), face.ascent() + middle.y()};
 }
@@ -21,9 +20,9 @@ int exactCentre(double wanted, double offset) {
 
 CentreOffset centreOffset(const Typefaces& faces, MarkKind kind) {
     const MarkCell cell = markCell(faces, kind);
-    const double points = markPoints[markSize(kind, picturedTwips) - 1];
+    const double points = pointsOf(markPoints, markSize(kind, picturedTwips));
     const double em = emPixels(points, picturedTwips) * fullPerDesign;
     return {cell.centreX * em, cell.centreY * em};
 }
 
-} // namespace card
+} // namespace card_tool

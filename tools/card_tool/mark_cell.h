@@ -1,15 +1,30 @@
+// How the characters of the mark font lie in their labels.
 #pragma once
+
+#include <array>
 
 #include "card_tool/sheet.h"
 #include "card_tool/typeface.h"
 
-namespace card {
+namespace card_tool {
 
 /// The sizes in points that the program sets the fields in while the card stands at half scale.
-inline constexpr double markPoints[3] = {18, 22, 30};
-inline constexpr double textPoints[3] = {11, 14, 18};
+constexpr std::array<float, 3> markPoints{18, 22, 30};
+constexpr std::array<float, 3> textPoints{11, 14, 18};
+/// Of a size class, 1 to 3.
+[[nodiscard]] constexpr float pointsOf(const std::array<float, 3>& points, int size) {
+    return points.at(static_cast<std::size_t>(size) - 1);
+}
 /// The resolution that the picture is made for; the printed boxes are exact there.
-inline constexpr int picturedTwips = 15;
+constexpr int picturedTwips = 15;
+
+/// The character of the mark font, and the face that the program sets it in.
+[[nodiscard]] constexpr int markSymbol(MarkKind kind) {
+    return kind == MarkKind::Check ? 252 : 161;
+}
+[[nodiscard]] inline const Typeface& markFace(const Typefaces& faces, MarkKind kind) {
+    return kind == MarkKind::Check ? faces.marksBold : faces.marksRegular;
+}
 
 /// How a mark's character lies in its cell (its advance by the line height), in ems.
 struct MarkCell {
@@ -39,4 +54,4 @@ struct CentreOffset {
 };
 [[nodiscard]] CentreOffset centreOffset(const Typefaces& faces, MarkKind kind);
 
-} // namespace card
+} // namespace card_tool

@@ -1,42 +1,41 @@
 #include "card_tool/preview.h"
 
-#include "card_tool/field_record.h"
-#include "card_tool/mark_cell.h"
-#include "card_tool/units.h"
+#include <cmath>
 
 #include <QtGui/QPainter>
 
-#include <algorithm>
-#include <cmath>
+#include "card_tool/field_record.h"
+#include "card_tool/mark_cell.h"
+#include "card_tool/picture.h"
+#include "card_tool/units.h"
+#include "text/escapes.h"
+#include "text/fit.h"
 
-namespace card {
+namespace card_tool {
 namespace {
 
 constexpr double suitPointsMore = 4;
 constexpr double suitPixelsHigher = 6;
-constexpr double pointStep = 0.5;
-const std::string suitLetters = "cdhs";
-constexpr char32_t blankForSuit = U' ';
+const std::string regularName = "Arial";
+const std::string narrowName = "Arial Narrow";
 
-QColor colourOf(Ink ink) {
-    static constexpr Rgb filledBlue{62, 153, 206};
-    const Rgb colour = ink == Ink::Blue ? filledBlue : inkColours[static_cast<std::size_t>(ink)];
-    return {colour.red, colour.green, colour.blue};
+QColor filledColor(Ink ink) {
+    constexpr toolkit::Color filledBlue = toolkit::rgb(62, 153, 206);
+    return {toolkit::pixelOf(ink == Ink::Blue ? filledBlue : colorOf(ink))};
 }
 
-QImage scaledPicture(const IndexedPicture& picture, double scale) {
-    QImage full(picture.width, picture.height, QImage::Format_RGB32);
-    for (int y = 0; y < picture.height; ++y)
-        for (int x = 0; x < picture.width; ++x) {
-            const Rgb colour = picture.colour(x, y);
-            full.setPixel(x, y, qRgb(colour.red, colour.green, colour.blue));
-        }
-    return full.scaled(static_cast<int>(picture.width * scale),
-                       static_cast<int>(picture.height * scale), Qt::IgnoreAspectRatio,
-                       Qt::SmoothTransformation);
+QImage scaledPicture(const toolkit::IndexedPicture& picture, double scale) {
+    const toolkit::Bitmap full = bitmapOf(picture);
+    const QImage pixels(reinterpret_cast<const uchar*>(full.row(0)), full.width(), full.height(),
+                        QImage::Format_RGB32);
+    // At full scale the scaled picture would still share the bitmap's pixels.
+    return pixels
+        .scaled(static_cast<int>(full.width() * scale), static_cast<int>(full.height() * scale),
+                Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+        .copy();
 }
 
-double textWidth(const Typeface& face, const std::string& text, double em) {
+double textWidth(const Typeface& face, std::string_view text, double em) {
     double width = 0;
     for (const char letter : text) width += face.advance(static_cast<unsigned char>(letter)) * em;
     return width;
@@ -46,75 +45,83 @@ double textWidth(const Typeface& face, const std::string& text, double em) {
 class FieldPainter {
   public:
     FieldPainter(QImage& image, const Typefaces& faces, double scale, int twipsPerPixel)
-        : m_painter(&image), m_faces(faces), m_twips(twipsPerPixel) {
-        m_painter.setRenderHint(QPainter::Antialiasing);
-        m_painter.scale(scale * fullPerDesign, scale * fullPerDesign);
+        : painter_(&image), faces_(faces), twips_(twipsPerPixel) {
+        painter_.setRenderHint(QPainter::Antialiasing);
+        painter_.scale(scale * fullPerDesign, scale * fullPerDesign);
     }
 
     void paintMark(const MarkPlace& mark) {
-        const FieldRecord at = markRecord(mark, m_faces, m_twips);
-        const Typeface& face =
-            mark.kind == MarkKind::Check ? m_faces.marksBold : m_faces.marksRegular;
-        const double em = emPixels(markPoints[at.size - 1], m_twips);
-        paint(face, static_cast<char32_t>(symbolNumber(mark.kind)), em,
-              {double(at.left), at.top + face.ascent() * em}, mark.ink);
+        const zev::FieldRecord at = markRecord(mark, faces_, twips_);
+        const Typeface& face = markFace(faces_, mark.kind);
+        const double em = ems(pointsOf(markPoints, at.size));
+        paint(face, static_cast<char32_t>(at.symbol), em, {at.left, at.top + face.ascent() * em},
+              mark.ink);
     }
 
     void paintText(const TextPlace& place, const std::string& text) {
-        const FieldRecord at = textRecord(place, m_faces, m_twips);
-        double points = textPoints[at.size - 1];
-        const Typeface* face = at.size == 3 ? &m_faces.textBold : &m_faces.textRegular;
-        if (textWidth(*face, text + " ", emPixels(points, m_twips)) > at.width)
-            face = &m_faces.textNarrow;
-        while (textWidth(*face, text + " ", emPixels(points, m_twips)) > at.width &&
-               points > textPoints[0] / 2)
-            points -= pointStep;
-        paintLine(*face, points, at, text, place.ink);
-    }
-
-  private:
-    void paintLine(const Typeface& face, double points, const FieldRecord& at,
-                   const std::string& text, Ink ink) {
-        const double em = emPixels(points, m_twips);
-        double left = at.left + (at.width - lineWidth(face, text, em)) / 2;
-        const double baseline = at.top + face.ascent() * em;
-        for (std::size_t place = 0; place < text.size(); ++place) {
-            if (text[place] == '^' && place + 1 < text.size()) {
-                paintSuit(text[++place], points, left, at.top);
-                left += 3 * face.advance(blankForSuit) * em;
-                continue;
-            }
-            const auto letter = static_cast<unsigned char>(text[place]);
-            paint(face, letter, em, {left, baseline}, ink);
-            left += face.advance(letter) * em;
+        const zev::FieldRecord at = textRecord(place, faces_, twips_);
+        const toolkit::FontSpec font = fittedFont(at, text);
+        const Typeface& face = faceOf(font);
+        const double em = ems(font.Size);
+        // A suit sign stands over the blanks that the text has in its place.
+        const zev::BlankedText blanked = zev::blankEscapes(text);
+        const std::string_view shown = blanked.caption;
+        const double left = at.left + (at.width - textWidth(face, shown, em)) / 2;
+        paintLetters(face, em, {left, at.top + face.ascent() * em}, shown, place.ink);
+        for (const zev::SuitPlace& suit : zev::suitPlaces(blanked.scanBuffer)) {
+            const auto before = static_cast<std::size_t>(suit.position) - 1;
+            paintSuit(suit.suit, font.Size,
+                      {left + textWidth(face, shown.substr(0, before), em), at.top});
         }
     }
 
-    /// The width with the suit signs as the blanks that they are painted over.
-    static double lineWidth(const Typeface& face, const std::string& text, double em) {
-        double width = textWidth(face, text, em);
-        for (std::size_t at = text.find('^'); at != std::string::npos; at = text.find('^', at + 1))
-            width += 3 * face.advance(blankForSuit) * em - textWidth(face, text.substr(at, 2), em);
-        return width;
+  private:
+    [[nodiscard]] double ems(double points) const { return emPixels(points, twips_); }
+
+    [[nodiscard]] const Typeface& faceOf(const toolkit::FontSpec& font) const {
+        if (font.Name == narrowName) return faces_.textNarrow;
+        return font.Bold ? faces_.textBold : faces_.textRegular;
     }
 
-    void paintSuit(char letter, double points, double left, double top) {
-        const auto number = suitLetters.find(letter);
-        if (number == std::string::npos) return;
-        const double em = emPixels(points + suitPointsMore, m_twips);
-        const bool red = number == 1 || number == 2;
-        paint(m_faces.suits, static_cast<char32_t>(167 + number), em,
-              {left, top - suitPixelsHigher + m_faces.suits.ascent() * em},
+    [[nodiscard]] toolkit::FontSpec fittedFont(const zev::FieldRecord& at,
+                                               std::string_view text) const {
+        zev::FitRequest request;
+        request.regular.Name = regularName;
+        request.regular.Size = pointsOf(textPoints, at.size);
+        request.regular.Bold = at.size == static_cast<int>(AreaSize::Large);
+        request.narrowFontName = narrowName;
+        request.smallSize = textPoints.front();
+        request.width = at.width;
+        request.text = text;
+        return zev::fittedFont(request, [this](const auto& font, std::string_view measured) {
+            return static_cast<float>(textWidth(faceOf(font), measured, ems(font.Size)));
+        });
+    }
+
+    void paintLetters(const Typeface& face, double em, QPointF at, std::string_view text, Ink ink) {
+        for (const char letter : text) {
+            const auto code = static_cast<unsigned char>(letter);
+            paint(face, code, em, at, ink);
+            at.rx() += face.advance(code) * em;
+        }
+    }
+
+    /// Suits count from 1.
+    void paintSuit(int suit, double points, QPointF topLeft) {
+        const double em = ems(points + suitPointsMore);
+        const bool red = suit == 2 || suit == 3;
+        topLeft.ry() += faces_.suits.ascent() * em - suitPixelsHigher;
+        paint(faces_.suits, static_cast<char32_t>(suitCode(U'\u2663') + suit - 1), em, topLeft,
               red ? Ink::Red : Ink::Black);
     }
 
     void paint(const Typeface& face, char32_t character, double em, QPointF at, Ink ink) {
-        m_painter.fillPath(face.outline(character, em).translated(at), colourOf(ink));
+        painter_.fillPath(face.outline(character, em).translated(at), filledColor(ink));
     }
 
-    QPainter m_painter;
-    const Typefaces& m_faces;
-    int m_twips;
+    QPainter painter_;
+    const Typefaces& faces_;
+    int twips_;
 };
 
 } // namespace
@@ -126,7 +133,7 @@ SampleCard everythingFilled(const Sheet& sheet) {
     return sample;
 }
 
-QImage preview(const IndexedPicture& picture, const Sheet& sheet, const SampleCard& sample,
+QImage preview(const toolkit::IndexedPicture& picture, const Sheet& sheet, const SampleCard& sample,
                const Typefaces& faces, double scale, int twipsPerPixel) {
     QImage image = scaledPicture(picture, scale);
     FieldPainter painter(image, faces, scale, twipsPerPixel);
@@ -138,4 +145,4 @@ QImage preview(const IndexedPicture& picture, const Sheet& sheet, const SampleCa
     return image;
 }
 
-} // namespace card
+} // namespace card_tool

@@ -1,21 +1,22 @@
+// A filled-in card to look at.
 #pragma once
-
-#include "card_tool/card_file.h"
-#include "card_tool/picture.h"
-#include "card_tool/sheet.h"
-#include "card_tool/typeface.h"
 
 #include <QtGui/QImage>
 
-namespace card {
+#include "card_tool/sample_card.h"
+#include "card_tool/sheet.h"
+#include "card_tool/typeface.h"
+#include "toolkit/indexed_picture.h"
+
+namespace card_tool {
 
 /// A sample with every mark set and twelve characters in every text.
 [[nodiscard]] SampleCard everythingFilled(const Sheet& sheet);
 
 /// The card at half scale or more as a player sees it, filled in: for looking at, and not a promise
 /// of each pixel that the program paints. Twips per pixel tells which layout and font sizes to use.
-[[nodiscard]] QImage preview(const IndexedPicture& picture, const Sheet& sheet,
+[[nodiscard]] QImage preview(const toolkit::IndexedPicture& picture, const Sheet& sheet,
                              const SampleCard& sample, const Typefaces& faces, double scale,
                              int twipsPerPixel);
 
-} // namespace card
+} // namespace card_tool

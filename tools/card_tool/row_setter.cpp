@@ -1,12 +1,12 @@
 #include "card_tool/row_setter.h"
 
-#include "card_tool/failure.h"
-#include "card_tool/units.h"
-
 #include <algorithm>
 #include <cmath>
 
-namespace card {
+#include "card_tool/failure.h"
+#include "card_tool/units.h"
+
+namespace card_tool {
 namespace {
 
 // A box's edges lie on even full pixels, as its centre is odd: so they stay crisp at half scale.
@@ -58,14 +58,14 @@ bool stretches(const Item& item) { return item.kind == ItemKind::Area && item.wi
 } // namespace
 
 RowSetter::RowSetter(const Typefaces& faces, Sheet& sheet)
-    : m_faces(faces), m_sheet(sheet), m_check(centreOffset(faces, MarkKind::Check)),
-      m_circle(centreOffset(faces, MarkKind::Circle)) {}
+    : faces_(faces), sheet_(sheet), check_(centreOffset(faces, MarkKind::Check)),
+      circle_(centreOffset(faces, MarkKind::Circle)) {}
 
 double RowSetter::wordsWidth(const Item& item, const RowStyle& style) const {
     double width = 0;
     for (const char32_t letter : item.text) {
         const Character character = characterOf(letter, style.em);
-        const Typeface& face = faceOf(m_faces, letter, weightOf(item, style));
+        const Typeface& face = faceOf(faces_, letter, weightOf(item, style));
         width += character.air + face.advance(character.code) * character.em;
     }
     return width;
@@ -94,7 +94,7 @@ double RowSetter::gap(const Item& before, const Item& item, const RowStyle& styl
     if (before.kind == Fill || item.kind == Fill) return 0;
     if (before.kind == Circle && item.kind == Circle) return 0;
     if (before.kind == Words && item.kind == Words)
-        return item.blankBefore ? m_faces.printRegular.advance(U' ') * style.em : 0;
+        return item.blankBefore ? faces_.printRegular.advance(U' ') * style.em : 0;
     if (before.kind == Box && !item.blankBefore) return 5;
     if (before.kind == Box) return item.kind == Box ? 22 : item.kind == Area ? 14 : 16;
     if (item.kind == Box) return before.kind == Area ? 14 : 10;
@@ -160,7 +160,7 @@ void RowSetter::setItem(const Item& item, const RowStyle& style, Span span, int 
 void RowSetter::setWords(const Item& item, const RowStyle& style, double left, int baseline) {
     for (const char32_t letter : item.text) {
         const Character character = characterOf(letter, style.em);
-        const Typeface& face = faceOf(m_faces, letter, weightOf(item, style));
+        const Typeface& face = faceOf(faces_, letter, weightOf(item, style));
         left += character.air;
         addShape(wordInk(item, letter, style),
                  face.outline(character.code, character.em).translated(left, baseline));
@@ -169,8 +169,8 @@ void RowSetter::setWords(const Item& item, const RowStyle& style, double left, i
 }
 
 void RowSetter::setBox(const Item& item, Span span, int baseline) {
-    const int centreX = exactCentre((span.left + span.right) / 2, m_check.x);
-    const int centreY = exactCentre(baseline - boxCentreAboveBaseline, m_check.y);
+    const int centreX = exactCentre((span.left + span.right) / 2, check_.x);
+    const int centreY = exactCentre(baseline - boxCentreAboveBaseline, check_.y);
     const double half = boxSide / 2.0;
     QPainterPath frame;
     frame.setFillRule(Qt::OddEvenFill);
@@ -178,19 +178,18 @@ void RowSetter::setBox(const Item& item, Span span, int baseline) {
     frame.addRect(centreX - half + ruleWidth, centreY - half + ruleWidth, boxSide - 2 * ruleWidth,
                   boxSide - 2 * ruleWidth);
     addShape(item.ink, std::move(frame));
-    m_sheet.marks.push_back({item.id, MarkKind::Check, item.ink, double(centreX), double(centreY)});
-    walkTo(FieldKind::Mark, m_sheet.marks.size());
+    sheet_.marks.push_back({item.id, MarkKind::Check, item.ink, double(centreX), double(centreY)});
+    walkTo(FieldKind::Mark, sheet_.marks.size());
 }
 
 void RowSetter::setCircle(const Item& item, Span span, int baseline) {
-    const int centreX = exactCentre((span.left + span.right) / 2, m_circle.x);
-    QPainterPath letter = m_faces.print(item.weight).outline(item.text.front(), circleEm);
+    const int centreX = exactCentre((span.left + span.right) / 2, circle_.x);
+    QPainterPath letter = faces_.print(item.weight).outline(item.text.front(), circleEm);
     letter.translate(centreX - letter.boundingRect().center().x(), baseline);
     // One height for the whole row, between the middles of capitals and of small letters.
-    const int centreY = exactCentre(baseline - circleAboveBaseline, m_circle.y);
+    const int centreY = exactCentre(baseline - circleAboveBaseline, circle_.y);
     addShape(item.ink, std::move(letter));
-    m_sheet.marks.push_back(
-        {item.id, MarkKind::Circle, item.ink, double(centreX), double(centreY)});
+    sheet_.marks.push_back({item.id, MarkKind::Circle, item.ink, double(centreX), double(centreY)});
 }
 
 void RowSetter::setArea(const Item& item, Span span, int baseline) {
@@ -198,13 +197,13 @@ void RowSetter::setArea(const Item& item, Span span, int baseline) {
     const double width = evenDown(span.right - left + 0.001);
     const int ruleTop = baseline + ruleBelowBaseline;
     rectangle(item.ink, left, ruleTop, width, ruleWidth);
-    m_sheet.texts.push_back({item.id, item.areaSize, item.ink, static_cast<int>(left),
-                             static_cast<int>(width), ruleTop});
-    walkTo(FieldKind::Text, m_sheet.texts.size());
+    sheet_.texts.push_back({item.id, item.areaSize, item.ink, static_cast<int>(left),
+                            static_cast<int>(width), ruleTop});
+    walkTo(FieldKind::Text, sheet_.texts.size());
 }
 
 void RowSetter::walkTo(FieldKind kind, std::size_t number) {
-    m_sheet.walk.push_back({kind, static_cast<int>(number)});
+    sheet_.walk.push_back({kind, static_cast<int>(number)});
 }
 
 void RowSetter::rectangle(Ink ink, double left, double top, double width, double height) {
@@ -216,7 +215,7 @@ void RowSetter::rectangle(Ink ink, double left, double top, double width, double
 void RowSetter::addShape(Ink ink, QPainterPath path) {
     if (path.isEmpty()) return;
     const QRectF bounds = path.boundingRect();
-    m_sheet.shapes.push_back({ink, std::move(path), bounds});
+    sheet_.shapes.push_back({ink, std::move(path), bounds});
 }
 
-} // namespace card
+} // namespace card_tool

@@ -1,12 +1,13 @@
+// Sets the items of one row.
 #pragma once
+
+#include <vector>
 
 #include "card_tool/mark_cell.h"
 #include "card_tool/sheet.h"
 #include "card_tool/typeface.h"
 
-#include <vector>
-
-namespace card {
+namespace card_tool {
 
 /// How the words of a row look.
 struct RowStyle {
@@ -17,11 +18,11 @@ struct RowStyle {
     bool inverse = false;
 };
 
-inline constexpr RowStyle bodyStyle{28, Weight::Regular, false};
-inline constexpr RowStyle headStyle{28, Weight::Bold, false};
-inline constexpr RowStyle captionStyle{22, Weight::Regular, false};
-inline constexpr RowStyle barStyle{30, Weight::Bold, true};
-inline constexpr RowStyle barCaptionStyle{22, Weight::Bold, true};
+constexpr RowStyle bodyStyle{28, Weight::Regular, false};
+constexpr RowStyle headStyle{28, Weight::Bold, false};
+constexpr RowStyle captionStyle{22, Weight::Regular, false};
+constexpr RowStyle barStyle{30, Weight::Bold, true};
+constexpr RowStyle barCaptionStyle{22, Weight::Bold, true};
 
 /// The horizontal place of a cell, in full pixels.
 struct Span {
@@ -60,10 +61,10 @@ class RowSetter {
     void addShape(Ink ink, QPainterPath path);
     void walkTo(FieldKind kind, std::size_t number);
 
-    const Typefaces& m_faces;
-    Sheet& m_sheet;
-    CentreOffset m_check{};
-    CentreOffset m_circle{};
+    const Typefaces& faces_;
+    Sheet& sheet_;
+    CentreOffset check_;
+    CentreOffset circle_;
 };
 
-} // namespace card
+} // namespace card_tool

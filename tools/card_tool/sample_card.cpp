@@ -1,18 +1,20 @@
-#include "card_tool/card_file.h"
-#include "card_tool/failure.h"
+#include "card_tool/sample_card.h"
 
 #include <algorithm>
 #include <fstream>
 #include <sstream>
+#include <utility>
 
-namespace card {
+#include "card/card_file.h"
+#include "card_tool/failure.h"
+#include "card_tool/program_version.h"
+#include "text/escapes.h"
+#include "toolkit/ansi.h"
+
+namespace card_tool {
 namespace {
 
-std::string trimmed(const std::string& text) {
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
+std::string trimmed(std::string_view text) { return std::string(toolkit::trim(text)); }
 
 void takeText(SampleCard& sample, const std::string& key, const std::string& value) {
     if (key == "card")
@@ -46,6 +48,24 @@ void takeLine(SampleCard& sample, const std::string& line) {
         throw Failure("neither marks nor a text");
 }
 
+/// A sample must not name what the card hasn't got: a slip of the pen would go unseen.
+void checkName(const std::string& name, const auto& places, const SampleCard& sample) {
+    if (std::ranges::none_of(places, [&](const auto& place) { return place.id == name; }))
+        throw Failure(sample.name + ": no such field: " + name);
+}
+
+void checkNames(const SampleCard& sample, const Sheet& sheet) {
+    for (const std::string& name : sample.marks) checkName(name, sheet.marks, sample);
+    for (const auto& text : sample.texts) checkName(text.first, sheet.texts, sample);
+}
+
+zev::CardDocument::Text textOf(const SampleCard& sample, const TextPlace& place) {
+    const auto found = sample.texts.find(place.id);
+    std::string text = found == sample.texts.end() ? std::string() : found->second;
+    zev::AmpAdd(text);
+    return {std::move(text), place.size == AreaSize::Large ? zev::text_switch::bold : 0};
+}
+
 } // namespace
 
 SampleCard readSampleCard(const std::filesystem::path& path) {
@@ -65,4 +85,16 @@ SampleCard readSampleCard(const std::filesystem::path& path) {
     return sample;
 }
 
-} // namespace card
+std::string cardText(const SampleCard& sample, const Sheet& sheet) {
+    checkNames(sample, sheet);
+    zev::CardDocument document;
+    document.cardName = sample.name;
+    document.programVersion = programVersion();
+    document.partner = {sample.partnerName, sample.partnerNumber};
+    for (const MarkPlace& mark : sheet.marks)
+        document.marks.push_back(sample.marks.contains(mark.id));
+    for (const TextPlace& text : sheet.texts) document.texts.push_back(textOf(sample, text));
+    return zev::writeCard(document);
+}
+
+} // namespace card_tool

@@ -1,27 +1,28 @@
+// The card, set: ink and fields.
 #pragma once
-
-#include "card_tool/item.h"
-
-#include <QtCore/QRectF>
-#include <QtGui/QPainterPath>
 
 #include <string>
 #include <vector>
 
-namespace card {
+#include <QtCore/QRectF>
+#include <QtGui/QPainterPath>
+
+#include "card_tool/item.h"
+
+namespace card_tool {
 
 /// A filled outline, in full pixels.
 struct InkShape {
     Ink ink = Ink::Black;
-    QPainterPath path{};
-    QRectF bounds{};
+    QPainterPath path;
+    QRectF bounds;
 };
 
 enum class MarkKind { Check, Circle };
 
 /// Where a mark belongs: the middle of its printed box or letter, in full pixels.
 struct MarkPlace {
-    std::string id{};
+    std::string id;
     MarkKind kind = MarkKind::Check;
     Ink ink = Ink::Black;
     double centreX = 0;
@@ -30,7 +31,7 @@ struct MarkPlace {
 
 /// Where a text belongs: over its printed rule, in full pixels. Left and width are even.
 struct TextPlace {
-    std::string id{};
+    std::string id;
     AreaSize size = AreaSize::Small;
     Ink ink = Ink::Black;
     int left = 0;
@@ -51,11 +52,11 @@ struct FieldNumber {
 /// The card, set and ready to be printed: shapes from back to front, and the fields. Checkmarks
 /// come before circles in the list of marks.
 struct Sheet {
-    std::vector<InkShape> shapes{};
-    std::vector<MarkPlace> marks{};
-    std::vector<TextPlace> texts{};
+    std::vector<InkShape> shapes;
+    std::vector<MarkPlace> marks;
+    std::vector<TextPlace> texts;
     /// Texts and checkmarks in the order in which TAB visits them; the last one leads to the first.
-    std::vector<FieldNumber> walk{};
+    std::vector<FieldNumber> walk;
 };
 
-} // namespace card
+} // namespace card_tool

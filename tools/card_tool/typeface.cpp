@@ -1,11 +1,11 @@
 #include "card_tool/typeface.h"
 
-#include "card_tool/failure.h"
-
 #include <QtGui/QFont>
 #include <QtGui/QTransform>
 
-namespace card {
+#include "card_tool/failure.h"
+
+namespace card_tool {
 
 Typeface Typeface::installed(const char* family, Weight weight) {
     QFont wanted(QString::fromLatin1(family));
@@ -25,22 +25,22 @@ Typeface Typeface::fromFile(const std::filesystem::path& path) {
 }
 
 quint32 Typeface::glyph(char32_t character) const {
-    const QList<quint32> found = m_font.glyphIndexesForString(QString::fromUcs4(&character, 1));
+    const QList<quint32> found = font_.glyphIndexesForString(QString::fromUcs4(&character, 1));
     if (found.isEmpty() || found.front() == 0)
-        throw Failure("the font " + m_font.familyName().toStdString() + " lacks character " +
+        throw Failure("the font " + font_.familyName().toStdString() + " lacks character " +
                       std::to_string(static_cast<unsigned>(character)));
     return found.front();
 }
 
 double Typeface::advance(char32_t character) const {
-    return m_font.advancesForGlyphIndexes({glyph(character)}, QRawFont::UseDesignMetrics)
+    return font_.advancesForGlyphIndexes({glyph(character)}, QRawFont::UseDesignMetrics)
                .front()
                .x() /
            size;
 }
 
 QPainterPath Typeface::outline(char32_t character, double em) const {
-    QPainterPath path = m_font.pathForGlyph(glyph(character));
+    QPainterPath path = font_.pathForGlyph(glyph(character));
     path.setFillRule(Qt::WindingFill);
     return QTransform::fromScale(em / size, em / size).map(path);
 }
@@ -69,4 +69,4 @@ char32_t suitCode(char32_t suit) {
     }
 }
 
-} // namespace card
+} // namespace card_tool

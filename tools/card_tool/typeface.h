@@ -1,13 +1,14 @@
+// The fonts that the card is made with.
 #pragma once
 
-#include "card_tool/item.h"
+#include <filesystem>
 
 #include <QtGui/QPainterPath>
 #include <QtGui/QRawFont>
 
-#include <filesystem>
+#include "card_tool/item.h"
 
-namespace card {
+namespace card_tool {
 
 /// The outlines and measures of one font, unhinted and unkerned.
 class Typeface {
@@ -19,8 +20,8 @@ class Typeface {
 
     /// All measures are in ems.
     [[nodiscard]] double advance(char32_t character) const;
-    [[nodiscard]] double ascent() const { return m_font.ascent() / size; }
-    [[nodiscard]] double descent() const { return m_font.descent() / size; }
+    [[nodiscard]] double ascent() const { return font_.ascent() / size; }
+    [[nodiscard]] double descent() const { return font_.descent() / size; }
     [[nodiscard]] double height() const { return ascent() + descent(); }
 
     /// The outline of a character with its origin at (0, 0), y downward, at an em of that many
@@ -28,12 +29,12 @@ class Typeface {
     [[nodiscard]] QPainterPath outline(char32_t character, double em) const;
 
   private:
-    explicit Typeface(QRawFont font) : m_font(std::move(font)) {}
+    explicit Typeface(QRawFont font) : font_(std::move(font)) {}
     [[nodiscard]] quint32 glyph(char32_t character) const;
 
     /// One pixel for each font unit, so that outlines come without any rounding.
     static constexpr double size = 2048;
-    QRawFont m_font{};
+    QRawFont font_;
 };
 
 /// Every font that the card is made with.
@@ -65,4 +66,4 @@ struct Typefaces {
     return suit == U'\u2665' || suit == U'\u2666';
 }
 
-} // namespace card
+} // namespace card_tool

@@ -1,14 +1,14 @@
 #include "card_tool/typesetter.h"
 
-#include "card_tool/failure.h"
-#include "card_tool/row_setter.h"
-#include "card_tool/units.h"
-
 #include <algorithm>
 #include <cmath>
 #include <set>
 
-namespace card {
+#include "card_tool/failure.h"
+#include "card_tool/row_setter.h"
+#include "card_tool/units.h"
+
+namespace card_tool {
 namespace {
 
 constexpr int sideMargin = 26;
@@ -67,11 +67,11 @@ std::vector<double> shareOut(const std::vector<double>& measures, double width, 
 
 class Typesetter {
   public:
-    Typesetter(const Typefaces& faces, Sheet& sheet) : m_setter(faces, sheet) {}
+    Typesetter(const Typefaces& faces, Sheet& sheet) : setter_(faces, sheet) {}
 
     /// Where a part stands: its column, its top, and whether a frame is around it.
     struct Place {
-        Span span{};
+        Span span;
         int top = 0;
         enum class Within { Sheet, Frame } within = Within::Sheet;
         int pitch = usualPitch;
@@ -91,7 +91,7 @@ class Typesetter {
 
     /// Throws Failure if rows didn't fit, and names them all.
     void finish() const {
-        if (!m_faults.empty()) throw Failure("rows don't fit:" + m_faults);
+        if (!faults_.empty()) throw Failure("rows don't fit:" + faults_);
     }
 
   private:
@@ -121,10 +121,10 @@ class Typesetter {
 
     void drawFrame(Span around, int top, int bottom) {
         const Span outer{around.left - frameGrowth, around.right + frameGrowth};
-        m_setter.rectangle(Ink::Black, outer.left, top, outer.width(), frameLine);
-        m_setter.rectangle(Ink::Black, outer.left, bottom - frameLine, outer.width(), frameLine);
-        m_setter.rectangle(Ink::Black, outer.left, top, frameLine, bottom - top);
-        m_setter.rectangle(Ink::Black, outer.right - frameLine, top, frameLine, bottom - top);
+        setter_.rectangle(Ink::Black, outer.left, top, outer.width(), frameLine);
+        setter_.rectangle(Ink::Black, outer.left, bottom - frameLine, outer.width(), frameLine);
+        setter_.rectangle(Ink::Black, outer.left, top, frameLine, bottom - top);
+        setter_.rectangle(Ink::Black, outer.right - frameLine, top, frameLine, bottom - top);
     }
 
     int setColumns(const Node& columns, Place place) {
@@ -156,9 +156,9 @@ class Typesetter {
         const bool bars = !first.empty() && first.front().kind == NodeKind::Bar;
         const int start = bars ? top + barTop + barHeight : top - belowBar;
         for (const double rule : rules) {
-            m_setter.rectangle(Ink::Black, rule, start, line,
-                               top + height + barLift - frameFoot - start);
-            if (bars) m_setter.rectangle(Ink::Paper, rule, top + barTop, line, barHeight);
+            setter_.rectangle(Ink::Black, rule, start, line,
+                              top + height + barLift - frameFoot - start);
+            if (bars) setter_.rectangle(Ink::Paper, rule, top + barTop, line, barHeight);
         }
     }
 
@@ -197,8 +197,8 @@ class Typesetter {
             widths.resize(std::max(widths.size(), row.cells.size()));
             for (std::size_t at = 0; at < row.cells.size(); ++at)
                 if (at == 0 || row.cells[at - 1].place == CellPlace::Own)
-                    widths[at] = std::max(widths[at],
-                                          m_setter.naturalWidth(row.cells[at], styleOf(row, at)));
+                    widths[at] =
+                        std::max(widths[at], setter_.naturalWidth(row.cells[at], styleOf(row, at)));
         }
         double spare = width + cellGap;
         for (const double each : widths) spare -= each + cellGap;
@@ -234,11 +234,11 @@ class Typesetter {
         const int baseline = place.top + baselineInRow + (place.pitch - usualPitch) / 4 * 2;
         try {
             for (std::size_t at = 0; at < row.cells.size(); ++at)
-                m_setter.setCell(row.cells[at], styleOf(row, at),
-                                 roomFor(row, at, {leftEdge(row, at, cells), cells[at].right}),
-                                 baseline);
+                setter_.setCell(row.cells[at], styleOf(row, at),
+                                roomFor(row, at, {leftEdge(row, at, cells), cells[at].right}),
+                                baseline);
         } catch (const Failure& failure) {
-            m_faults += "\n  " + atLine(row, failure.what());
+            faults_ += "\n  " + atLine(row, failure.what());
         }
         return place.pitch - (row.kind == NodeKind::Bar ? barLift : 0);
     }
@@ -261,8 +261,8 @@ class Typesetter {
 
     /// A bar reaches into the padding of the frame that it heads.
     void drawBar(const Place& place) {
-        m_setter.rectangle(Ink::Black, place.span.left - framePadding, place.top + barTop,
-                           place.span.width() + 2 * framePadding, barHeight);
+        setter_.rectangle(Ink::Black, place.span.left - framePadding, place.top + barTop,
+                          place.span.width() + 2 * framePadding, barHeight);
     }
 
     static std::string atLine(const Node& node, const std::string& message) {
@@ -273,8 +273,8 @@ class Typesetter {
         throw Failure(atLine(node, message));
     }
 
-    RowSetter m_setter;
-    std::string m_faults{};
+    RowSetter setter_;
+    std::string faults_;
 };
 
 /// Marks were numbered as they came; circles go to the end, and the walk follows.
@@ -321,4 +321,4 @@ Sheet typeset(const Description& description, const Typefaces& faces) {
     return sheet;
 }
 
-} // namespace card
+} // namespace card_tool

@@ -1,17 +1,16 @@
+// The units that the card is drawn in: full pixels are the pixels of the full-scale picture, design
+// pixels are twice as large. Layout files place fields in whole design pixels, on a card 1198 of
+// them wide.
 #pragma once
 
-/// The units that the card is drawn in.
-///
-/// Full pixels are the pixels of the full-scale picture. Design pixels are twice as large: the
-/// layout files place fields in whole design pixels, on a card 1198 of them wide.
-namespace card {
+namespace card_tool {
 
-inline constexpr int pictureWidth = 2396;
-inline constexpr int pictureHeight = 2473;
+constexpr int pictureWidth = 2396;
+constexpr int pictureHeight = 2473;
 /// Rows at the foot of the picture that stay paper: the time stamp and the credit line stand there.
-inline constexpr int footRows = 30;
-inline constexpr int fullPerDesign = 2;
-inline constexpr int twipsPerPoint = 20;
+constexpr int footRows = 30;
+constexpr int fullPerDesign = 2;
+constexpr int twipsPerPoint = 20;
 
 /// The em of a font of that many points on a screen of that resolution, in screen pixels. A screen
 /// pixel is a design pixel when the card is shown at half scale.
@@ -19,4 +18,4 @@ inline constexpr int twipsPerPoint = 20;
     return points * twipsPerPoint / twipsPerPixel;
 }
 
-} // namespace card
+} // namespace card_tool
