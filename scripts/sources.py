@@ -35,7 +35,7 @@ def includes(path):
 
 def resolve(path, what):
     """The project's file behind a quoted include; None for one of the system."""
-    for folder in (ROOT / "src", GENERATED, ROOT / "tests", ROOT, path.parent):
+    for folder in (ROOT / "src", GENERATED, ROOT / "tools", ROOT / "tests", ROOT, path.parent):
         candidate = folder / what
         if candidate.is_file():
             return candidate

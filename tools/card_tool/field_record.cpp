@@ -10,6 +10,9 @@ namespace {
 
 float rounded(double value) { return static_cast<float>(std::floor(value + 0.5)); }
 
+/// Of an even number of full pixels.
+float designPixels(int fullPixels) { return static_cast<float>(fullPixels) / fullPerDesign; }
+
 int colorNumber(Ink ink) { return ink == Ink::Red ? 2 : ink == Ink::Blue ? 3 : 1; }
 
 } // namespace
@@ -35,9 +38,9 @@ zev::FieldRecord textRecord(const TextPlace& text, const Typefaces& faces, int t
     record.size = static_cast<int>(text.size);
     const double em = emPixels(pointsOf(textPoints, record.size), twipsPerPixel);
     const double top = double(text.ruleTop) / fullPerDesign - face.ascent() * em;
-    record.left = static_cast<float>(text.left / fullPerDesign);
+    record.left = designPixels(text.left);
     record.top = static_cast<float>(std::floor(top));
-    record.width = static_cast<float>(text.width / fullPerDesign);
+    record.width = designPixels(text.width);
     record.height = rounded(face.height() * em);
     return record;
 }

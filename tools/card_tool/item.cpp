@@ -117,7 +117,7 @@ class RowReader {
     std::u32string upTo(char32_t end) {
         const std::size_t found = row_.find(end, at_);
         if (found == std::u32string::npos) throw Failure("a bracket is not closed");
-        const std::u32string inside = row_.substr(at_, found - at_);
+        std::u32string inside = row_.substr(at_, found - at_);
         at_ = found + 1;
         return inside;
     }

@@ -16,6 +16,8 @@ namespace {
 
 constexpr double suitPointsMore = 4;
 constexpr double suitPixelsHigher = 6;
+/// In the order of zev::suitLetters.
+constexpr std::u32string_view suitSigns = U"\u2663\u2666\u2665\u2660";
 const std::string regularName = "Arial";
 const std::string narrowName = "Arial Narrow";
 
@@ -109,10 +111,9 @@ class FieldPainter {
     /// Suits count from 1.
     void paintSuit(int suit, double points, QPointF topLeft) {
         const double em = ems(points + suitPointsMore);
-        const bool red = suit == 2 || suit == 3;
+        const char32_t sign = suitSigns.at(static_cast<std::size_t>(suit) - 1);
         topLeft.ry() += faces_.suits.ascent() * em - suitPixelsHigher;
-        paint(faces_.suits, static_cast<char32_t>(suitCode(U'\u2663') + suit - 1), em, topLeft,
-              red ? Ink::Red : Ink::Black);
+        paint(faces_.suits, suitCode(sign), em, topLeft, isRedSuit(sign) ? Ink::Red : Ink::Black);
     }
 
     void paint(const Typeface& face, char32_t character, double em, QPointF at, Ink ink) {

@@ -177,7 +177,7 @@ void RowSetter::setBox(const Item& item, Span span, int baseline) {
     frame.addRect(centreX - half, centreY - half, boxSide, boxSide);
     frame.addRect(centreX - half + ruleWidth, centreY - half + ruleWidth, boxSide - 2 * ruleWidth,
                   boxSide - 2 * ruleWidth);
-    addShape(item.ink, std::move(frame));
+    addShape(item.ink, frame);
     sheet_.marks.push_back({item.id, MarkKind::Check, item.ink, double(centreX), double(centreY)});
     walkTo(FieldKind::Mark, sheet_.marks.size());
 }
@@ -188,7 +188,7 @@ void RowSetter::setCircle(const Item& item, Span span, int baseline) {
     letter.translate(centreX - letter.boundingRect().center().x(), baseline);
     // One height for the whole row, between the middles of capitals and of small letters.
     const int centreY = exactCentre(baseline - circleAboveBaseline, circle_.y);
-    addShape(item.ink, std::move(letter));
+    addShape(item.ink, letter);
     sheet_.marks.push_back({item.id, MarkKind::Circle, item.ink, double(centreX), double(centreY)});
 }
 
@@ -209,13 +209,13 @@ void RowSetter::walkTo(FieldKind kind, std::size_t number) {
 void RowSetter::rectangle(Ink ink, double left, double top, double width, double height) {
     QPainterPath path;
     path.addRect(left, top, width, height);
-    addShape(ink, std::move(path));
+    addShape(ink, path);
 }
 
-void RowSetter::addShape(Ink ink, QPainterPath path) {
+void RowSetter::addShape(Ink ink, const QPainterPath& path) {
     if (path.isEmpty()) return;
     const QRectF bounds = path.boundingRect();
-    sheet_.shapes.push_back({ink, std::move(path), bounds});
+    sheet_.shapes.push_back({ink, path, bounds});
 }
 
 } // namespace card_tool

@@ -58,7 +58,7 @@ class RowSetter {
     void setBox(const Item& item, Span span, int baseline);
     void setCircle(const Item& item, Span span, int baseline);
     void setArea(const Item& item, Span span, int baseline);
-    void addShape(Ink ink, QPainterPath path);
+    void addShape(Ink ink, const QPainterPath& path);
     void walkTo(FieldKind kind, std::size_t number);
 
     const Typefaces& faces_;

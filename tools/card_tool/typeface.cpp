@@ -15,13 +15,13 @@ Typeface Typeface::installed(const char* family, Weight weight) {
     QRawFont font = QRawFont::fromFont(wanted);
     if (!font.isValid() || font.familyName() != QString::fromLatin1(family))
         throw Failure(std::string("the font is not installed: ") + family);
-    return Typeface(std::move(font));
+    return Typeface(font);
 }
 
 Typeface Typeface::fromFile(const std::filesystem::path& path) {
     QRawFont font(QString::fromStdString(path.string()), size, QFont::PreferNoHinting);
     if (!font.isValid()) throw Failure("not a font: " + path.string());
-    return Typeface(std::move(font));
+    return Typeface(font);
 }
 
 quint32 Typeface::glyph(char32_t character) const {

@@ -29,7 +29,7 @@ class Typeface {
     [[nodiscard]] QPainterPath outline(char32_t character, double em) const;
 
   private:
-    explicit Typeface(QRawFont font) : font_(std::move(font)) {}
+    explicit Typeface(const QRawFont& font) : font_(font) {}
     [[nodiscard]] quint32 glyph(char32_t character) const;
 
     /// One pixel for each font unit, so that outlines come without any rounding.

@@ -60,6 +60,7 @@ std::vector<double> shareOut(const std::vector<double>& measures, double width, 
     for (const double measure : measures) rest -= fullPixels(measure);
     const auto open = static_cast<double>(std::ranges::count(measures, 0.0));
     std::vector<double> widths;
+    widths.reserve(measures.size());
     for (const double measure : measures)
         widths.push_back(measure == 0 ? std::floor(rest / open / 2) * 2 : fullPixels(measure));
     return widths;
@@ -137,7 +138,7 @@ class Typesetter {
         std::vector<double> rules;
         double left = place.span.left;
         for (std::size_t at = 0; at < widths.size(); ++at) {
-            if (at > 0) rules.push_back(left - gap / 2 - line / 2);
+            if (at > 0) rules.push_back(left - (gap + line) / 2);
             const double right = at + 1 == widths.size() ? place.span.right : left + widths[at];
             Place column = place;
             column.span = {left, right};
@@ -219,10 +220,10 @@ class Typesetter {
 
     static std::vector<Span> evenCells(const Node& row, Span span) {
         std::vector<Span> cells;
-        const double count = static_cast<double>(std::max<std::size_t>(row.cells.size(), 1));
-        const double width = (span.width() - (count - 1) * cellGap) / count;
-        for (double at = 0; at < count; ++at) {
-            const double left = span.left + at * (width + cellGap);
+        const std::size_t count = std::max<std::size_t>(row.cells.size(), 1);
+        const double width = (span.width() + cellGap) / static_cast<double>(count) - cellGap;
+        for (std::size_t at = 0; at < count; ++at) {
+            const double left = span.left + static_cast<double>(at) * (width + cellGap);
             cells.push_back({left, left + width});
         }
         return cells;
