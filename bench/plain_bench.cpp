@@ -4,8 +4,8 @@
 #include <memory>
 #include <random>
 
-#include "form/options_file.h"
 #include "card/card_file.h"
+#include "form/options_file.h"
 #include "layout/layout_file.h"
 #include "layout/skip_comment.h"
 #include "text/escapes.h"

@@ -3,13 +3,13 @@
 #include <array>
 
 #include "app/data_folder.h"
+#include "form/options.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/program.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {

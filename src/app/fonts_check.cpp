@@ -2,9 +2,9 @@
 
 #include <string>
 
-#include "layout/initialize_run.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
+#include "layout/initialize_run.h"
 #include "toolkit/dialog.h"
 #include "toolkit/program.h"
 

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "layout/initialize_run.h"
 #include "form/zevlin.h"
+#include "layout/initialize_run.h"
 #include "toolkit/screen.h"
 #include "view/task_bar.h"
 

@@ -3,14 +3,14 @@
 #include <string>
 
 #include "app/hooks.h"
+#include "card/check_mod.h"
+#include "card/chooser_events.h"
+#include "form/options.h"
+#include "form/printer_facts.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "card/chooser_events.h"
-#include "form/printer_facts.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
-#include "card/check_mod.h"
-#include "form/options.h"
 
 namespace zev {
 

@@ -1,19 +1,19 @@
 #include "card/chooser.h"
 
-#include "form/panel_look.h"
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/card_names.h"
 #include "card/chooser_events.h"
 #include "card/chooser_layout.h"
 #include "form/modified.h"
+#include "form/panel_look.h"
+#include "form/panels.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/file_names.h"
 #include "toolkit/files.h"
 #include "toolkit/program.h"
-#include "form/panels.h"
 
 namespace zev {
 namespace {

@@ -4,8 +4,8 @@
 #include <cmath>
 
 #include "form/panel_look.h"
-#include "form/zevlin.h"
 #include "form/panels.h"
+#include "form/zevlin.h"
 
 namespace zev {
 namespace {

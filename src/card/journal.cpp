@@ -3,14 +3,14 @@
 #include <string>
 #include <utility>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "card/document.h"
 #include "card/rescue.h"
 #include "card/rescue_file.h"
+#include "form/trace.h"
+#include "form/unsaved.h"
+#include "form/zevlin.h"
 #include "text/escapes.h"
 #include "toolkit/files.h"
-#include "form/unsaved.h"
 
 namespace zev {
 namespace {

@@ -2,17 +2,17 @@
 
 #include <string>
 
+#include "form/file_failures.h"
+#include "form/modified.h"
+#include "form/options.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "form/modified.h"
-#include "form/file_failures.h"
+#include "text/edit_box.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/set_sym.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
-#include "text/edit_box.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {

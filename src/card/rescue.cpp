@@ -6,17 +6,17 @@
 #include <utility>
 #include <vector>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "card/document.h"
 #include "form/modified.h"
+#include "form/trace.h"
+#include "form/unsaved.h"
+#include "form/zevlin.h"
 #include "layout/build_fields.h"
 #include "toolkit/ansi.h"
 #include "toolkit/dialog.h"
 #include "toolkit/files.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
-#include "form/unsaved.h"
 
 namespace zev {
 namespace {

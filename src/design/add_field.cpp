@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "form/field_values.h"
-#include "form/zevlin.h"
 #include "design/design_field.h"
+#include "form/field_values.h"
 #include "form/marks_state.h"
+#include "form/zevlin.h"
+#include "text/edit_box.h"
 #include "toolkit/color.h"
 #include "toolkit/number_text.h"
-#include "text/edit_box.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 #include "design/design_field.h"
 
-#include "form/zevlin.h"
 #include "form/field_values.h"
+#include "form/zevlin.h"
 
 namespace zev {
 

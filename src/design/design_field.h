@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/color.h"
 #include "form/design_state.h"
+#include "toolkit/color.h"
 #include "toolkit/label.h"
 
 namespace zev {

@@ -3,21 +3,21 @@
 #include <array>
 #include <string>
 
-#include "layout/text_fields.h"
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "card/lifecycle.h"
-#include "form/modified.h"
 #include "card/save.h"
 #include "design/add_field.h"
 #include "design/design_field.h"
+#include "form/field_values.h"
+#include "form/modified.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "layout/field.h"
+#include "layout/text_fields.h"
 #include "text/set_sym.h"
 #include "toolkit/dialog.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
 #include "view/colors.h"
-#include "form/field_values.h"
 
 namespace zev {
 namespace {

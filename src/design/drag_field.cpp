@@ -1,8 +1,8 @@
 #include "design/drag_field.h"
 
+#include "design/field_colors.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "design/field_colors.h"
 #include "toolkit/number_text.h"
 
 namespace zev {

@@ -1,9 +1,9 @@
 #include "design/move_marks.h"
 
+#include "form/marks_state.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
-#include "form/marks_state.h"
 #include "toolkit/screen.h"
 
 namespace zev {

@@ -1,9 +1,9 @@
 #include "design/undo.h"
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "design/add_field.h"
 #include "design/design_field.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"
 

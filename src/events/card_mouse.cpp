@@ -3,15 +3,15 @@
 #include <optional>
 #include <string>
 
+#include "design/add_field.h"
+#include "events/mark_clicks.h"
+#include "form/field_values.h"
+#include "form/modified.h"
+#include "form/panels.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "form/modified.h"
-#include "design/add_field.h"
 #include "marks/hit_test.h"
-#include "events/mark_clicks.h"
 #include "toolkit/number_text.h"
-#include "form/panels.h"
-#include "form/field_values.h"
 
 namespace zev {
 namespace {

@@ -4,14 +4,14 @@
 #include <string>
 #include <utility>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "design/drag_field.h"
 #include "events/record_tabs.h"
+#include "form/panels.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "text/edit_box.h"
 #include "toolkit/ansi.h"
 #include "toolkit/number_text.h"
-#include "form/panels.h"
 
 namespace zev {
 namespace {

@@ -2,13 +2,13 @@
 
 #include <string>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "design/design_mode.h"
 #include "design/move_marks.h"
+#include "events/tab_walk.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "help/help_page.h"
 #include "marks/move_card.h"
-#include "events/tab_walk.h"
 #include "toolkit/key.h"
 #include "toolkit/number_text.h"
 #include "toolkit/program.h"

@@ -1,14 +1,14 @@
 #include "events/mark_clicks.h"
 
+#include "design/drag_field.h"
+#include "events/edit_field.h"
+#include "events/record_tabs.h"
+#include "form/field_values.h"
+#include "form/modified.h"
+#include "form/panels.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "form/modified.h"
-#include "design/drag_field.h"
-#include "events/record_tabs.h"
-#include "events/edit_field.h"
 #include "toolkit/number_text.h"
-#include "form/panels.h"
-#include "form/field_values.h"
 
 namespace zev {
 namespace {

@@ -2,11 +2,11 @@
 
 #include <string>
 
+#include "card/card_file.h"
+#include "form/time_stamp.h"
 #include "form/trace.h"
 #include "form/unsaved.h"
 #include "form/zevlin.h"
-#include "card/card_file.h"
-#include "form/time_stamp.h"
 
 namespace zev {
 namespace {

@@ -15,7 +15,8 @@ void GradientFill(Zevlin& form, IncludePanel includePanel);
 /// Rounds the panel's corners; the radius in pixels.
 void MakeObjRounded(Zevlin& form, toolkit::Panel& panel, int radius);
 
-/// Takes the help page away and gives the card back to the player. Whoever hides the page calls this.
+/// Takes the help page away and gives the card back to the player. Whoever hides the page calls
+/// this.
 void hideHelp(Zevlin& form);
 
 } // namespace zev

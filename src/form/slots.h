@@ -6,10 +6,11 @@
 namespace zev {
 
 struct ProcedureSlots {
-    std::function<void()> initialize;       ///< Initialize, which a rebuild runs again
-    std::function<void()> toggleDesignMode; ///< MShowShapes_Click: a rebuild and a save leave the mode
-    std::function<void()> restorePicture;   ///< the card's picture at the view's size
-    std::function<void()> ringJournal;      ///< the alarm of a change
+    std::function<void()> initialize; ///< Initialize, which a rebuild runs again
+    std::function<void()>
+        toggleDesignMode; ///< MShowShapes_Click: a rebuild and a save leave the mode
+    std::function<void()> restorePicture; ///< the card's picture at the view's size
+    std::function<void()> ringJournal;    ///< the alarm of a change
 };
 
 } // namespace zev

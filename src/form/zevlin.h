@@ -9,8 +9,8 @@
 #include "form/marks_state.h"
 #include "form/output_state.h"
 #include "form/text_state.h"
-#include "toolkit/form.h"
 #include "form/view_state.h"
+#include "toolkit/form.h"
 
 namespace zev {
 

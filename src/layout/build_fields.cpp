@@ -5,15 +5,15 @@
 #include <string>
 #include <utility>
 
-#include "layout/find_layout.h"
-#include "layout/initialize_run.h"
-#include "layout/mark_fields.h"
-#include "layout/text_fields.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/calibration.h"
 #include "layout/check_point.h"
+#include "layout/find_layout.h"
+#include "layout/initialize_run.h"
+#include "layout/mark_fields.h"
 #include "layout/read_comment.h"
+#include "layout/text_fields.h"
 #include "text/set_sym.h"
 #include "toolkit/ansi.h"
 #include "toolkit/files.h"

@@ -4,10 +4,10 @@
 #include <string>
 
 #include "form/field_values.h"
-#include "layout/initialize_run.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
+#include "layout/initialize_run.h"
 #include "layout/layout_file.h"
 #include "toolkit/number_text.h"
 

@@ -1,8 +1,8 @@
 #include "output/print_options.h"
 
+#include "form/options.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {

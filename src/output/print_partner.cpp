@@ -2,15 +2,15 @@
 
 #include <string>
 
+#include "card/journal.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "card/journal.h"
 #include "output/partner_line.h"
 #include "output/print_card.h"
+#include "text/edit_box.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/set_sym.h"
-#include "text/edit_box.h"
 
 namespace zev {
 namespace {

@@ -30,8 +30,8 @@ void xText_GotFocus(Zevlin& form, toolkit::TextBox& box);
 void takeOverTyping(Zevlin& form, toolkit::TextBox& box);
 
 /// The commit: the box's text goes to the field, which is fitted and gets its symbols; the box is
-/// hidden. A second commit of the same field is harmless. `next` follows where there was something to
-/// commit; its failures are trapped with those of the commit.
+/// hidden. A second commit of the same field is harmless. `next` follows where there was something
+/// to commit; its failures are trapped with those of the commit.
 void xText_LostFocus(Zevlin& form, toolkit::TextBox& box, const std::function<void()>& next = {});
 void CText_LostFocus(Zevlin& form);
 void LText_LostFocus(Zevlin& form);

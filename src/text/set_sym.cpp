@@ -4,12 +4,12 @@
 #include <string_view>
 #include <vector>
 
+#include "form/field_values.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
 #include "text/escapes.h"
 #include "toolkit/number_text.h"
-#include "form/field_values.h"
 
 namespace zev {
 namespace {

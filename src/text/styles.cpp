@@ -6,11 +6,11 @@
 #include <utility>
 #include <vector>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "form/modified.h"
-#include "text/edit_box.h"
+#include "form/trace.h"
 #include "form/unsaved.h"
+#include "form/zevlin.h"
+#include "text/edit_box.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "toolkit/clipboard.h"

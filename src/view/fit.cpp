@@ -1,11 +1,11 @@
 #include "view/fit.h"
 
+#include "form/time_stamp.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "toolkit/screen.h"
 #include "view/rebuild.h"
 #include "view/task_bar.h"
-#include "form/time_stamp.h"
 #include "view/zoom_run.h"
 
 namespace zev {

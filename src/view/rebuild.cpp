@@ -2,20 +2,20 @@
 
 #include <string>
 
-#include "form/file_failures.h"
-#include "form/options.h"
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "card/card_file.h"
 #include "card/document.h"
 #include "card/journal.h"
 #include "card/lifecycle.h"
 #include "card/load.h"
-#include "form/modified.h"
 #include "card/save.h"
+#include "form/background.h"
+#include "form/file_failures.h"
+#include "form/modified.h"
+#include "form/options.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
 #include "text/edit_box.h"
 #include "toolkit/files.h"
-#include "form/background.h"
 #include "view/image_size.h"
 
 namespace zev {

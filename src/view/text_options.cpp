@@ -3,15 +3,15 @@
 #include <array>
 #include <string>
 
-#include "form/trace.h"
-#include "form/zevlin.h"
 #include "form/modified.h"
+#include "form/options.h"
+#include "form/trace.h"
+#include "form/unsaved.h"
+#include "form/zevlin.h"
 #include "layout/check_point.h"
 #include "layout/field.h"
 #include "text/set_sym.h"
 #include "view/rebuild.h"
-#include "form/unsaved.h"
-#include "form/options.h"
 
 namespace zev {
 namespace {

@@ -3,9 +3,9 @@
 
 #include "app/initialize.h"
 #include "app/layouts.h"
-#include "toolkit/files.h"
 #include "app/read_options.h"
 #include "form/options.h"
+#include "toolkit/files.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,7 @@
 #include "app/place_window.h"
 
-#include "layout/initialize_run.h"
 #include "app/layouts.h"
+#include "layout/initialize_run.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

@@ -1,7 +1,7 @@
 #include "form/modified.h"
 
-#include "card_form_test.h"
 #include "card/check_mod.h"
+#include "card_form_test.h"
 
 namespace zev::test {
 namespace {

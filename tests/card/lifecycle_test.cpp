@@ -1,10 +1,10 @@
 #include "card/lifecycle.h"
 
-#include "form/modified.h"
 #include "card_form_test.h"
+#include "form/background.h"
+#include "form/modified.h"
 #include "toolkit/files.h"
 #include "toolkit/key.h"
-#include "form/background.h"
 
 namespace zev::test {
 namespace {

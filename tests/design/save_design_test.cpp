@@ -1,8 +1,8 @@
 // Saving the layout from design mode, and what becomes of unsaved design when the card is built
 // anew.
 #include "design/design_test.h"
-#include "view/rebuild.h"
 #include "layout/save_layout.h"
+#include "view/rebuild.h"
 
 namespace zev::test {
 namespace {

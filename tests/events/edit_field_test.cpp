@@ -1,9 +1,9 @@
 #include "events/edit_field.h"
 
 #include "card/document.h"
+#include "text/edit_box.h"
 #include "text/edit_test.h"
 #include "text/set_sym.h"
-#include "text/edit_box.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,7 @@
 #include "events/record_tabs.h"
 
-#include "events/mark_clicks.h"
 #include "events/edit_field.h"
+#include "events/mark_clicks.h"
 #include "text/edit_test.h"
 #include "view/rebuild.h"
 

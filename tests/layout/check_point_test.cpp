@@ -1,9 +1,9 @@
 #include "layout/check_point.h"
 
+#include "layout/save_layout.h"
 #include "support/form_test.h"
 #include "toolkit/files.h"
 #include "view/rebuild.h"
-#include "layout/save_layout.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,7 @@
 #include "app/initialize.h"
+#include "layout/save_layout.h"
 #include "support/form_test.h"
 #include "view/rebuild.h"
-#include "layout/save_layout.h"
 
 namespace zev::test {
 namespace {

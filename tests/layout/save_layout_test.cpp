@@ -1,8 +1,8 @@
 
+#include "layout/save_layout.h"
 #include "support/form_test.h"
 #include "toolkit/files.h"
 #include "view/rebuild.h"
-#include "layout/save_layout.h"
 
 namespace zev::test {
 namespace {

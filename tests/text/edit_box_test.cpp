@@ -1,7 +1,7 @@
 
 #include "form/modified.h"
-#include "text/edit_test.h"
 #include "text/edit_box.h"
+#include "text/edit_test.h"
 
 namespace zev::test {
 namespace {

@@ -6,9 +6,9 @@
 #include <string>
 
 #include "card/load.h"
+#include "events/edit_field.h"
 #include "support/form_test.h"
 #include "support/scaled_picture.h"
-#include "events/edit_field.h"
 #include "toolkit/key.h"
 #include "view/rebuild.h"
 
