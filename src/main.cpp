@@ -14,6 +14,6 @@ int main(int argumentCount, char** arguments) {
     window.update();
     const int result = application.run();
     // A print service that still hasn't answered is left to itself.
-    if (form.PrinterAsked.isAsked() && !form.PrinterAsked.isAnswered()) toolkit::endProgram();
+    if (form.PrinterAsked.isAsked() && !form.PrinterAsked.isAnswered()) toolkit::endProgram(result);
     return result;
 }

@@ -1,5 +1,6 @@
 #include "app/fonts_check.h"
 
+#include <cstdlib>
 #include <string>
 
 #include "form/trace.h"
@@ -54,7 +55,7 @@ void checkTextFont(Zevlin& form) {
     toolkit::tell("The text font (" + form.TextFontName +
                       ") needed by ZEV is defective.  The program cannot run on this computer.",
                   toolkit::Icon::Exclamation);
-    toolkit::endProgram();
+    toolkit::endProgram(EXIT_FAILURE);
 }
 
 void chooseNarrowFont(Zevlin& form) {

@@ -1,5 +1,6 @@
 #include "app/form_load.h"
 
+#include <cstdlib>
 #include <memory>
 #include <optional>
 #include <string>
@@ -235,7 +236,7 @@ std::string printerMissingText() {
                                                 std::string(supportAddress) +
                                                 ", and mention both the error # and the step.",
                   toolkit::Icon::Exclamation);
-    toolkit::endProgram();
+    toolkit::endProgram(EXIT_FAILURE);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "app/initialize_failure.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -97,7 +98,7 @@ void endFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int
     } else {
         tellLayoutFailure(form, step);
     }
-    toolkit::endProgram();
+    toolkit::endProgram(EXIT_FAILURE);
 }
 
 } // namespace zev

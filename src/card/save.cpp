@@ -1,6 +1,7 @@
 #include "card/save.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <string>
 #include <utility>
 
@@ -148,7 +149,7 @@ void saveCard(Zevlin& form) {
 
 /// The program ends as soon as nothing is lost by that.
 void endAfterFailedSave(Zevlin& form) {
-    if (keepForNextStart(form)) toolkit::endProgram();
+    if (keepForNextStart(form)) toolkit::endProgram(EXIT_FAILURE);
     toolkit::tell("'" + form.CardName +
                       "' could not be saved, and there is no room for a copy of it either.  Zevlin "
                       "goes on, so that nothing is lost.  Please make room, or see to it that the "

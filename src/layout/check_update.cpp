@@ -1,5 +1,6 @@
 #include "layout/check_update.h"
 
+#include <cstdlib>
 #include <optional>
 #include <string>
 
@@ -56,7 +57,7 @@ void checkUpdate(Zevlin& form) {
 void CheckIniUpdate(Zevlin& form) {
     Traceit(form, "CheckIniUpdate");
     if (!trapped(form, "Error in CheckIniUpdate ", [&] { checkUpdate(form); })) {
-        toolkit::endProgram();
+        toolkit::endProgram(EXIT_FAILURE);
     }
 }
 

@@ -1,5 +1,6 @@
 #include "layout/find_layout.h"
 
+#include <cstdlib>
 #include <string>
 
 #include "form/settings.h"
@@ -44,7 +45,7 @@ constexpr std::string_view screenFontsQuestion =
                       "persists, please report it to: " +
                       std::string(supportAddress),
                   toolkit::Icon::Exclamation);
-    toolkit::endProgram();
+    toolkit::endProgram(EXIT_FAILURE);
 }
 
 bool isFolder(const std::filesystem::path& path) {
@@ -87,7 +88,7 @@ void replaceLayout(Zevlin& form) {
         toolkit::renameFile(toolkit::resolveFile(form.DataFolder, layoutFileName),
                             form.DataFolder / replacedLayoutName);
     });
-    toolkit::endProgram();
+    toolkit::endProgram(EXIT_SUCCESS);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "layout/save_layout.h"
 
+#include <cstdlib>
 #include <functional>
 
 #include "form/file_failures.h"
@@ -47,7 +48,7 @@ void dropSetAside(Zevlin& form) {
 
 void MSaveShapes_Click(Zevlin& form) {
     saveShapes(form, [&form] {
-        if (!trapped(form, trapHead, [&] { saveLayout(form); })) toolkit::endProgram();
+        if (!trapped(form, trapHead, [&] { saveLayout(form); })) toolkit::endProgram(EXIT_FAILURE);
         dropSetAside(form);
     });
 }

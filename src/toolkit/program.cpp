@@ -55,14 +55,14 @@ void prepareForEnd() {
 
 void leaveProgram() {
     prepareForEnd();
-    if (programOverrides().throwAtEnd) throw ProgramEnded{};
+    if (programOverrides().throwAtEnd) throw ProgramEnded{EXIT_SUCCESS};
     QCoreApplication::exit();
 }
 
-void endProgram() {
+void endProgram(int exitCode) {
     prepareForEnd();
-    if (programOverrides().throwAtEnd) throw ProgramEnded{};
-    std::_Exit(EXIT_SUCCESS);
+    if (programOverrides().throwAtEnd) throw ProgramEnded{exitCode};
+    std::_Exit(exitCode);
 }
 
 } // namespace toolkit

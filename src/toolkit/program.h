@@ -40,8 +40,8 @@ void showInFileManager(const std::filesystem::path& file);
 /// Opens a web page in the desktop's browser.
 void openWebPage(const char* address);
 
-/// Ends the process at once: no unload, no further save.
-[[noreturn]] void endProgram();
+/// Ends the process at once, with this exit code: no unload, no further save.
+[[noreturn]] void endProgram(int exitCode);
 
 /// Ends the program in good order once the running events have returned: what it holds for others,
 /// as a picture on the clipboard, goes to the system.
@@ -50,6 +50,8 @@ void leaveProgram();
 /// What endProgram and leaveProgram throw where a test has asked for it; deliberately no
 /// std::exception. Out of an event handler it reaches the test through the helper of toolkit::test
 /// that sent the event.
-struct ProgramEnded {};
+struct ProgramEnded {
+    int exitCode = 0;
+};
 
 } // namespace toolkit

@@ -41,7 +41,7 @@ TEST_F(DataFolderFailures, AFileInItsPlaceIsToldAndTheLayoutThenCannotBeMade) {
     toolkit::writeFile(dataFolder, "a file");
     answer(toolkit::Answer::Ok);     // creating failed
     answer(toolkit::Answer::Cancel); // the layout
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     ASSERT_EQ(boxes.size(), 2U);
     EXPECT_EQ(boxes[0].text, failureText("76 -- Path not found"));
     EXPECT_EQ(boxes[0].icon, toolkit::Icon::Exclamation);
@@ -80,7 +80,7 @@ TEST_F(DataFolderFailures, AFolderThatCannotBeWrittenKeepsTheSources) {
     fs::create_directory_symlink("/proc/self/fdinfo", dataFolder);
     answer(toolkit::Answer::Ok);
     answer(toolkit::Answer::Cancel);
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     ASSERT_EQ(boxes.size(), 2U);
     EXPECT_TRUE(boxes[0].text.starts_with("Creating data folder ('"));
     EXPECT_EQ(toolkit::readFile(programFolder / "Sample.zev"), "sample");
@@ -114,7 +114,7 @@ TEST_F(DataFolderFailures, WithoutADocumentsFolderABadLayoutOfTheProgramIsOffere
     fs::current_path(programFolder);
     toolkit::writeFile(programFolder / "Definitions.Ini", "'Program version: 9.0.0\r\nbad\r\n");
     answer(toolkit::Answer::Ok);
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_TRUE(boxes[0].text.starts_with("The 'Definitions.Ini' file in '" +
                                           programFolder.string() + "' contains errors."));

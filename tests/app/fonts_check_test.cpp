@@ -58,7 +58,7 @@ TEST_F(FontsCheck, SizesGoWithTheCardsScaleAndAreWhatTheFontSystemGives) {
 
 TEST_F(FontsCheck, ADefectiveTextFontEndsTheProgram) {
     useLowPicture(static_cast<int>(limitFor("Arial") / 15 * 2) - 60);
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].text,
               "The text font (Arial) needed by ZEV is defective.  The program cannot "

@@ -29,7 +29,7 @@ class FormLoadFailures : public FormTest {
     bool startFailsLate() {
         wireOnly();
         form.P1.GotFocus = [] { throw toolkit::RunTimeError(toolkit::Failure::Overflow); };
-        return endsProgram([&] { Form_Load(form, {}); });
+        return failsProgram([&] { Form_Load(form, {}); });
     }
 };
 
@@ -69,7 +69,7 @@ TEST_F(FormLoadFailures, WithoutADefaultPrinterTheProgramStartsWithoutAMessage) 
 TEST_F(FormLoadFailures, ADamagedCardPictureStopsTheStart) {
     announceError("Error in Form_Load ");
     toolkit::writeFile(dataFile("Convention card.gif"), "no picture");
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     EXPECT_TRUE(traced("Error in Form_Load 481, Invalid picture, at step 1000, hdc=0"));
     ASSERT_EQ(boxes.size(), 1U);
     // The printer isn't known yet at that step.
@@ -79,7 +79,7 @@ TEST_F(FormLoadFailures, ADamagedCardPictureStopsTheStart) {
 TEST_F(FormLoadFailures, AFolderInThePlaceOfTheCardPictureStopsTheStart) {
     announceError("Error in Form_Load ");
     fs::create_directory(dataFile("Convention card.gif"));
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     EXPECT_TRUE(traced("Error in Form_Load 75, Path/File access error, at step 1000, hdc=0"));
 }
 

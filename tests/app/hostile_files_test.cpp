@@ -33,7 +33,7 @@ class HostileFiles : public FormTest {
     bool takesLayout(const std::string& layout) {
         writeLayout(layout);
         boxes.clear();
-        if (!endsProgram([&] { Initialize(form); })) return true;
+        if (!failsProgram([&] { Initialize(form); })) return true;
         EXPECT_EQ(boxes.size(), 1U);
         EXPECT_TRUE(boxes[0].text.starts_with("The 'Definitions.Ini' file in '" +
                                               dataFolder.string() + "' contains errors."))
@@ -97,7 +97,7 @@ TEST_F(HostileFiles, ADamagedLayoutIsTakenOrTold) {
         const std::string layout = damaged(random, whole);
         writeLayout(layout);
         boxes.clear();
-        if (!endsProgram([&] { Initialize(form); })) ++taken;
+        if (!failsProgram([&] { Initialize(form); })) ++taken;
         EXPECT_LE(boxes.size(), 1U);
     }
     EXPECT_GT(taken, 20);

@@ -15,7 +15,7 @@ class InitializeFailure : public FormTest {
     void expectEnd(const std::string& failure, int step, toolkit::Answer choice) {
         announceError("Error in Initialize " + failure);
         answer(choice);
-        EXPECT_TRUE(endsProgram([&] { start(); }));
+        EXPECT_TRUE(failsProgram([&] { start(); }));
         EXPECT_TRUE(
             traced("Error in Initialize " + failure + ", after step " + std::to_string(step)));
         ASSERT_EQ(boxes.size(), 1U);
@@ -154,7 +154,7 @@ TEST_F(InitializeFailure, AFolderInThePlaceOfTheLayoutStays) {
     fs::remove(dataFile("Definitions.Ini"));
     fs::create_directory(dataFile("Definitions.Ini"));
     announceError("Error in CheckIniUpdate 75");
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     EXPECT_TRUE(boxes.empty());
     EXPECT_TRUE(fs::exists(dataFile("Definitions.Ini")));
 }

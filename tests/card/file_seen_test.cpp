@@ -103,7 +103,7 @@ TEST_F(FileSeen, LeavingWithNoToTheQuestionStays) {
     changeBehindTheProgramsBack();
     answer(toolkit::Answer::Yes);
     answer(toolkit::Answer::No);
-    EXPECT_FALSE(endsProgram([&] { choose("File>Exit"); }));
+    EXPECT_EQ(exitCodeOf([&] { choose("File>Exit"); }), std::nullopt);
     EXPECT_TRUE(form.CardModified);
     EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
 }

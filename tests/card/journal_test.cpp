@@ -1,5 +1,7 @@
 #include "card/journal.h"
 
+#include <cstdlib>
+
 #include "card/chooser_menu.h"
 #include "card/rescue.h"
 #include "card/save.h"
@@ -223,7 +225,7 @@ TEST_F(Journal, HoldsTheOwnNamesLineWhileThePartnersIsPrinted) {
 TEST_F(Journal, IsWrittenAtOnceWhereTheProgramEnds) {
     start();
     clickMark(2);
-    EXPECT_TRUE(endsProgram([] { toolkit::endProgram(); }));
+    EXPECT_TRUE(endsProgram([] { toolkit::endProgram(EXIT_SUCCESS); }));
     EXPECT_TRUE(isThere());
 }
 
@@ -236,7 +238,7 @@ TEST_F(Journal, OfAFailedSaveLetsTheProgramEnd) {
     // The file was exchanged behind the program's back.
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { choose("File>Save"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Save"); }));
     ASSERT_TRUE(isThere());
     EXPECT_EQ(content().name, "Jones");
     EXPECT_TRUE(content().document.marks[1]);
@@ -249,7 +251,7 @@ TEST_F(Journal, OfAFailedSaveHoldsAlsoACardWithoutChanges) {
     fs::create_directory(dataFile("Jones.zev"));
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { choose("File>Save"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Save"); }));
     ASSERT_TRUE(isThere());
     EXPECT_TRUE(content().document.marks[0]);
 }
@@ -264,7 +266,7 @@ TEST_F(Journal, ThatCantBeWrittenKeepsAFailedSaveFromEndingTheProgram) {
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
     announceError("Error in the journal: #");
-    EXPECT_FALSE(endsProgram([&] { choose("File>Save"); }));
+    EXPECT_EQ(exitCodeOf([&] { choose("File>Save"); }), std::nullopt);
     ASSERT_EQ(boxes.size(), 2U);
     EXPECT_TRUE(boxes[1].text.starts_with("'Jones' could not be saved")) << boxes[1].text;
     EXPECT_TRUE(form.CardModified);

@@ -17,7 +17,7 @@ TEST_F(SaveFailure, AFolderInThePlaceOfTheFileEndsTheProgramWithoutABox) {
     form.CardName = "Jones";
     fs::create_directory(dataFile("Jones.zev"));
     announceError("Error in MSave_Click 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { choose("File>Save"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Save"); }));
     EXPECT_TRUE(traced("Error in MSave_Click 75, Path/File access error"));
     EXPECT_TRUE(boxes.empty());
     EXPECT_TRUE(form.CardModified);
@@ -28,7 +28,7 @@ TEST_F(SaveFailure, AFullDiskEndsTheProgram) {
     form.CardName = "Jones";
     fs::create_symlink("/dev/full", dataFile("Jones.zev"));
     announceError("Error in MSave_Click 61, Disk full");
-    EXPECT_TRUE(endsProgram([&] { choose("File>Save"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Save"); }));
     EXPECT_TRUE(traced("Error in MSave_Click 61, Disk full"));
     EXPECT_TRUE(boxes.empty());
 }
@@ -37,7 +37,7 @@ TEST_F(SaveFailure, AMissingDataFolderEndsTheProgram) {
     start();
     form.CardName = "Jones";
     form.DataFolder /= "gone";
-    EXPECT_TRUE(endsProgram([&] { choose("File>Save"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Save"); }));
     EXPECT_TRUE(boxes.empty());
     announceError("Error in Traceit");
     announceError("Error in MSave_Click 76, Path not found");
@@ -51,7 +51,7 @@ TEST_F(SaveFailure, UnderANewNameEndsTheProgramToo) {
     answerName("Jones");
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { choose("File>Save As..."); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Save As..."); }));
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].title, "Overwrite existing file?");
 }
@@ -63,7 +63,7 @@ TEST_F(SaveFailure, WhileLeavingEndsTheProgramWithTheChangesUnsaved) {
     fs::create_directory(dataFile("Jones.zev"));
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { choose("File>Exit"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Exit"); }));
     EXPECT_TRUE(fs::is_empty(dataFile("Jones.zev")));
 }
 

@@ -129,7 +129,7 @@ TEST_F(SaveDesign, AFailedSaveEndsTheProgram) {
     std::filesystem::remove(dataFile("Definitions.Ini"));
     std::filesystem::create_directory(dataFile("Definitions.Ini"));
     announceError("Error in MSaveShapes 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { choose("Design>Save Design"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("Design>Save Design"); }));
     EXPECT_TRUE(boxes.empty());
 }
 

@@ -8,7 +8,7 @@ import os
 import read_only
 import rescuing
 from rescuing import CARD
-from whole_program import desktop, main
+from whole_program import FAILURE, desktop, main
 
 BOX = "^Zevlin$"
 SAVE_AS = 3  # row of the File menu
@@ -19,7 +19,7 @@ class FailingSaveTest(rescuing.RescueTest):
 
     def assert_save_ends_the_program(self, program):
         program.press("ctrl+s")
-        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(program.wait_for_end(), FAILURE)
         self.assertTrue(self.is_mark_safe())
 
     def unwritable(self, path):
@@ -50,7 +50,7 @@ class RefusedSaves(FailingSaveTest):
         self.unwritable(self.home.card(CARD))
         program.close()
         program.answer(program.wait_for_box(rescuing.QUESTION), rescuing.YES)
-        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(program.wait_for_end(), FAILURE)
         self.home.card(CARD).chmod(0o644)
         self.assert_mark_comes_back()
 
@@ -72,7 +72,7 @@ class RefusedSaves(FailingSaveTest):
         self.home.data.rename(away)
         program.press("ctrl+s")
         self.decide_on_a_card_without_its_file(program)
-        self.assertEqual(program.wait_for_end(), 0)
+        self.assertEqual(program.wait_for_end(), FAILURE)
         self.assertTrue(self.is_mark_safe())
         away.rename(self.home.data)
         self.assert_mark_comes_back()

@@ -12,6 +12,7 @@ sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
 import desktop  # noqa: E402
 
 KEPT = desktop.ROOT / "build" / "e2e"
+FAILURE = 1  # exit code of a program that can't go on
 
 
 class WholeProgramTest(unittest.TestCase):

@@ -101,7 +101,7 @@ void FaultTest::runWithEveryFault(const Act& act, const std::vector<Kind>& kinds
                                 .scenario =
                                     [&] {
                                         answerEverything();
-                                        hasEnded = endsProgram(act);
+                                        hasEnded = exitCodeOf(act).has_value();
                                     },
                                 .check = {},
                                 .kinds = kinds,

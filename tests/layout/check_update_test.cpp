@@ -137,7 +137,7 @@ TEST_F(CheckUpdate, AFolderInThePlaceOfTheNumberedLayoutEndsTheProgram) {
     writeLayout(layoutOf("1.0.181"));
     fs::create_directory(dataFile("Definitions.Ini.15"));
     announceError("Error in CheckIniUpdate 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { check(); }));
+    EXPECT_TRUE(failsProgram([&] { check(); }));
     EXPECT_TRUE(traced("Error in CheckIniUpdate 75, Path/File access error"));
     EXPECT_TRUE(boxes.empty());
 }
@@ -146,7 +146,7 @@ TEST_F(CheckUpdate, AFolderInThePlaceOfTheLayoutEndsTheProgram) {
     fs::remove(dataFile("Definitions.Ini"));
     fs::create_directory(dataFile("Definitions.Ini"));
     announceError("Error in CheckIniUpdate 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     EXPECT_TRUE(boxes.empty());
 }
 

@@ -115,7 +115,7 @@ TEST_F(FindLayout, ACoarserScreenTakesTheLayoutNumberedFifteen) {
 TEST_F(FindLayout, AMissingInstalledLayoutEndsTheProgramWithAMessage) {
     removeLayout();
     fs::remove(programFolder / "Definitions.Ini.15");
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].icon, toolkit::Icon::Exclamation);
     EXPECT_EQ(boxes[0].buttons, toolkit::Buttons::Ok);

@@ -26,7 +26,7 @@ class ReadLayout : public FormTest {
     void expectBadLayout(const std::string& failure) {
         announceError("Error in Initialize " + failure);
         answer(toolkit::Answer::Cancel);
-        EXPECT_TRUE(endsProgram([&] { start(); }));
+        EXPECT_TRUE(failsProgram([&] { start(); }));
         EXPECT_TRUE(traced("Error in Initialize " + failure));
         ASSERT_EQ(boxes.size(), 1U);
         EXPECT_TRUE(boxes[0].text.starts_with("The 'Definitions.Ini' file in '"));
@@ -87,7 +87,7 @@ TEST_F(ReadLayout, LeavesARecordOutOfSequenceBlank) {
         "2\r\n1,100,300,300,20,1,1,0\r\n9,100,400,300,20,1,1,0\r\n"));
     announceError("Error in Initialize 9, Subscript out of range, after step 2200");
     answer(toolkit::Answer::Cancel);
-    EXPECT_TRUE(endsProgram([&] { start(); }));
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     EXPECT_EQ(symbolOf(1), "\xFC");
     EXPECT_EQ(form.AMark[1].Left, 1500);
     EXPECT_EQ(symbolOf(2), "");

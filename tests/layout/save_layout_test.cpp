@@ -218,7 +218,7 @@ TEST_F(SaveLayout, AFolderInItsPlaceEndsTheProgramWithoutABox) {
     fs::remove(dataFile("Definitions.Ini"));
     fs::create_directory(dataFile("Definitions.Ini"));
     announceError("Error in MSaveShapes 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { MSaveShapes_Click(form); }));
+    EXPECT_TRUE(failsProgram([&] { MSaveShapes_Click(form); }));
     EXPECT_TRUE(traced("Error in MSaveShapes 75, Path/File access error"));
     EXPECT_TRUE(boxes.empty());
 }
@@ -228,7 +228,7 @@ TEST_F(SaveLayout, AFullDiskEndsTheProgram) {
     fs::remove(dataFile("Definitions.Ini"));
     fs::create_symlink("/dev/full", dataFile("Definitions.Ini"));
     announceError("Error in MSaveShapes 61, Disk full");
-    EXPECT_TRUE(endsProgram([&] { MSaveShapes_Click(form); }));
+    EXPECT_TRUE(failsProgram([&] { MSaveShapes_Click(form); }));
     EXPECT_TRUE(boxes.empty());
 }
 

@@ -1,6 +1,7 @@
 #include "support/form_test.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <iterator>
 #include <sstream>
 
@@ -168,13 +169,21 @@ void FormTest::start(std::string_view commandLine) {
     toolkit::test::settle();
 }
 
-bool FormTest::endsProgram(const std::function<void()>& call) {
+std::optional<int> FormTest::exitCodeOf(const std::function<void()>& call) {
     try {
         call();
-    } catch (const toolkit::ProgramEnded&) {
-        return true;
+    } catch (const toolkit::ProgramEnded& end) {
+        return end.exitCode;
     }
-    return false;
+    return std::nullopt;
+}
+
+bool FormTest::endsProgram(const std::function<void()>& call) {
+    return exitCodeOf(call) == EXIT_SUCCESS;
+}
+
+bool FormTest::failsProgram(const std::function<void()>& call) {
+    return exitCodeOf(call) == EXIT_FAILURE;
 }
 
 void FormTest::makeFirstRun() { fs::remove_all(dataFolder.parent_path()); }

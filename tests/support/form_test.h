@@ -47,8 +47,12 @@ class FormTest : public testing::Test {
     void start(std::string_view commandLine = {});
     /// The window without start-up, for tests that call the start-up procedures themselves.
     void wireOnly();
-    /// Runs a call that is expected to end the program; true if it did.
+    /// Runs a call: the code with which it ended the program, nothing if the program goes on.
+    [[nodiscard]] static std::optional<int> exitCodeOf(const std::function<void()>& call);
+    /// Runs a call that is expected to end the program in good order; true if it did.
     [[nodiscard]] static bool endsProgram(const std::function<void()>& call);
+    /// Runs a call that is expected to end the program as failed; true if it did.
+    [[nodiscard]] static bool failsProgram(const std::function<void()>& call);
 
     // Before start(): what stands in the data folder; by default an options file (half size, no
     // fit) and the installed layout, no cards.

@@ -3,6 +3,8 @@
 #include "toolkit/program.h"
 #include "toolkit/program_overrides.h"
 
+#include <cstdlib>
+
 namespace window_test {
 namespace {
 
@@ -19,7 +21,7 @@ TEST_F(Delivery, FailureInAHandlerIsReportedAndTheNextEventComes) {
 
 TEST_F(Delivery, EndOfTheProgramReachesTheTest) {
     overrideProgram({.throwAtEnd = true});
-    card.Click = [] { endProgram(); };
+    card.Click = [] { endProgram(EXIT_SUCCESS); };
     EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
     // It came once; the next event goes its usual way.
     card.Click = [this] { note("again"); };
@@ -144,7 +146,7 @@ TEST_F(Delivery, QueuedCloseWaitsForAProcedureThatBeganMeanwhile) {
 TEST_F(Delivery, TheFormIsToldBeforeEachEnd) {
     overrideProgram({.throwAtEnd = true});
     form.Ending = [this] { note("ending"); };
-    card.Click = [] { endProgram(); };
+    card.Click = [] { endProgram(EXIT_SUCCESS); };
     EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
     EXPECT_EQ(times("ending"), 1);
     card.Click = [] { leaveProgram(); };
@@ -155,13 +157,13 @@ TEST_F(Delivery, TheFormIsToldBeforeEachEnd) {
 TEST_F(Delivery, WhatFailsBeforeAnEndDoesntHoldItUp) {
     overrideProgram({.throwAtEnd = true});
     form.Ending = [] { throw RunTimeError(Failure::DiskFull); };
-    card.Click = [] { endProgram(); };
+    card.Click = [] { endProgram(EXIT_SUCCESS); };
     EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
 }
 
 TEST_F(Delivery, EndInTheQuestionReachesTheTest) {
     overrideProgram({.throwAtEnd = true});
-    form.QueryClose = []() -> bool { endProgram(); };
+    form.QueryClose = []() -> bool { endProgram(EXIT_SUCCESS); };
     EXPECT_THROW(test::closeWindow(), ProgramEnded);
 }
 
