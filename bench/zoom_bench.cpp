@@ -133,7 +133,7 @@ void dragStep(benchmark::State& state) {
     zev::RebuildScreenImage(form);
     toolkit::test::settle();
     float way = 30;
-    const int before = toolkit::test::cardPaints().pixels;
+    const auto before = toolkit::test::cardPaints().pixels;
     for (auto _ : state) {
         form.P1.Left += way;
         form.P1.Top += way;
@@ -141,8 +141,9 @@ void dragStep(benchmark::State& state) {
         toolkit::test::settle();
         QGuiApplication::sync(); // until the screen has it
     }
-    state.counters["painted_pixels"] = benchmark::Counter(
-        toolkit::test::cardPaints().pixels - before, benchmark::Counter::kAvgIterations);
+    state.counters["painted_pixels"] =
+        benchmark::Counter(static_cast<double>(toolkit::test::cardPaints().pixels - before),
+                           benchmark::Counter::kAvgIterations);
     state.counters["frames_per_second"] =
         benchmark::Counter(static_cast<double>(state.iterations()), benchmark::Counter::kIsRate);
 }

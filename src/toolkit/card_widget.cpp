@@ -132,10 +132,8 @@ void CardWidget::paintEvent(QPaintEvent* event) {
             paintSharpPicture(painter, area);
         else
             paintPicture(painter, area);
-        painted_.pixels += area.width() * area.height();
     }
     scene_.paint(painter, event->region());
-    ++painted_.paints;
 }
 
 CardPointer CardWidget::pointerOf(const QMouseEvent& event) const {

@@ -18,13 +18,6 @@ class CardWidget : public QWidget {
     /// Takes over what the program changed and asks for a repaint of just that.
     void push();
 
-    /// What was painted since the program began.
-    struct Painted {
-        int paints = 0;
-        int pixels = 0;
-    };
-    [[nodiscard]] Painted painted() const { return painted_; }
-
   protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -54,7 +47,6 @@ class CardWidget : public QWidget {
     std::shared_ptr<const Bitmap> sharp_;
     double sharpRatio_ = 0;
     QBasicTimer keepMemory_;
-    Painted painted_;
     MousePointer pointer_ = MousePointer::Default;
     Grip grip_ = Grip::Open;
     bool dragged_ = false; ///< the mouse has moved since a button went down

@@ -1,6 +1,7 @@
 // Driving the real window from tests: events go to its widgets as the platform would send them.
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -108,10 +109,10 @@ void elapseAlarms();
 /// Whether the key comes to the handlers before any shortcut of the platform's own can take it.
 [[nodiscard]] bool isClaimed(int keyCode, int shift);
 
-/// How often and how much of the card was painted since the program began.
+/// How often and how much of the card was painted since this was first asked of its window.
 struct CardPaints {
     int paints = 0;
-    int pixels = 0;
+    std::int64_t pixels = 0;
 };
 [[nodiscard]] CardPaints cardPaints();
 

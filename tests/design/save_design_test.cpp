@@ -45,7 +45,7 @@ TEST_F(SaveDesign, NothingFlashes) {
     float area = 0;
     for (int i = 1; i <= form.AText.UBound(); ++i)
         area += form.AText[i].Width * form.AText[i].Height / pixel / pixel;
-    const int before = cardPaints().pixels;
+    const auto before = cardPaints().pixels;
     choose("Design>Save Design");
     settle();
     EXPECT_LT(static_cast<float>(cardPaints().pixels - before), area);
