@@ -90,7 +90,7 @@ void dressNewText(Zevlin& form, toolkit::Label& text, int index) {
     text.BackColor = toolkit::qbColor(palette::yellow);
     text.Caption = newTextHead(index) + widthPattern("| ");
     text.Alignment = toolkit::Alignment::Left;
-    text.Wraps = true;
+    text.FirstLineOnly = true;
 }
 
 void addText(Zevlin& form, const toolkit::MouseArguments& mouse) {

@@ -84,7 +84,7 @@ void showAllFields(Zevlin& form) {
     unloadSymbols(form);
     forEachField(form.AText, [&](int i) {
         form.AText[i].Caption = "[ " + toolkit::numberText(i) + " " + widthPattern("] ");
-        form.AText[i].Wraps = true;
+        form.AText[i].FirstLineOnly = true;
     });
 }
 
@@ -92,7 +92,7 @@ void hideAllFields(Zevlin& form) {
     forEachField(form.AMark, [&](int i) { form.AMark[i].Visible = false; });
     forEachField(form.AText, [&](int i) {
         form.AText[i].Caption.clear();
-        form.AText[i].Wraps = false;
+        form.AText[i].FirstLineOnly = false;
         placeHighlight(form, i);
     });
 }

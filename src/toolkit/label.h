@@ -51,8 +51,9 @@ struct Label {
     int Stack = 0;
     /// Whether the caption is cut off at the label's edges.
     bool Clips = true;
-    /// Whether a caption wider than the label ends with the last word that fits, as its first line.
-    bool Wraps = false;
+    /// Whether a caption wider than the label ends with the last word that fits, as the first line
+    /// of a wrapped text does.
+    bool FirstLineOnly = false;
 
     void Move(float left, float top, float width, float height) {
         Left = left;

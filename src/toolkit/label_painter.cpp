@@ -82,7 +82,7 @@ void paintLabel(QPainter& painter, const Label& label) {
     painter.setClipRect(paintedRectangle(label));
     if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
     std::string text = paintedText(label.Caption);
-    if (label.Wraps) text.resize(firstLine(label, text));
+    if (label.FirstLineOnly) text.resize(firstLine(label, text));
     if (text.empty()) return;
     const auto scale = static_cast<double>(twipsPerPixel());
     const float offset = textOffset(label, textWidth(label.Font, text));

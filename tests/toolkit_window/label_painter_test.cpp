@@ -161,7 +161,7 @@ TEST_F(LabelPainter, ATextThatWrapsEndsWithTheLastWordThatFits) {
     ASSERT_LT(width, 60);
     const Ink line = inkOf(test::grabCard());
     texts[1].Caption = "HHH H HHH HHHHHHHHHHH";
-    texts[1].Wraps = true;
+    texts[1].FirstLineOnly = true;
     const Ink wrapped = inkOf(test::grabCard());
     EXPECT_EQ(wrapped.left, line.left);
     EXPECT_EQ(wrapped.right, line.right);
@@ -173,7 +173,7 @@ TEST_F(LabelPainter, ATextThatWrapsEndsWithTheLastWordThatFits) {
 TEST_F(LabelPainter, AFirstWordThatIsTooWideIsCutOffAtTheLabel) {
     place(texts[1], 100, 60, 30, 30);
     write(texts[1], "HHHHHHHH H", Alignment::Left);
-    texts[1].Wraps = true;
+    texts[1].FirstLineOnly = true;
     const Ink cut = inkOf(test::grabCard());
     EXPECT_GE(cut.left, 100);
     EXPECT_GT(cut.right, 120);
