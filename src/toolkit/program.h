@@ -34,7 +34,8 @@ void beep();
 /// application data on Windows. It need not exist.
 [[nodiscard]] std::filesystem::path stateFolder();
 
-/// Opens the desktop's file manager with the file selected, else on its folder.
+/// Opens the desktop's file manager with the file selected; on its folder where the file isn't
+/// there or no file manager can select one.
 void showInFileManager(const std::filesystem::path& file);
 
 /// Opens a web page in the desktop's browser.

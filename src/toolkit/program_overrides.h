@@ -15,7 +15,7 @@ struct ProgramOverrides {
     bool noDocuments = false;
     bool throwAtEnd = false;
     bool shortWaits = false;                   ///< wait() is over after one look at the events
-    std::function<void(std::string)> launch{}; ///< gets what would be opened
+    std::function<void(std::string)> launch{}; ///< gets what would be opened or selected
     std::function<void()> beep{};              ///< instead of the sound
     /// Sees each short wait, with the time that was asked for, once the events have run.
     std::function<void(int milliseconds)> duringWait{};

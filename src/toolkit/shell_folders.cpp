@@ -10,6 +10,7 @@
 
 #include "toolkit/program.h"
 #include "toolkit/program_overrides.h"
+#include "toolkit/qt_file_manager.h"
 
 namespace toolkit {
 namespace {
@@ -71,9 +72,13 @@ std::filesystem::path stateFolder() {
 #endif
 }
 
-/// No desktop protocol for a selected file is common to all; each can show a folder.
 void showInFileManager(const std::filesystem::path& file) {
-    open(QUrl::fromLocalFile(qPath(file.parent_path())));
+    const QUrl folder = QUrl::fromLocalFile(qPath(file.parent_path()));
+    std::error_code failure;
+    if (!std::filesystem::exists(file, failure)) return open(folder);
+    const QUrl selected = QUrl::fromLocalFile(qPath(file));
+    if (programOverrides().launch) return open(selected);
+    selectInFileManager(selected, [folder] { open(folder); });
 }
 
 void openWebPage(const char* address) { open(QUrl(QString::fromUtf8(address))); }

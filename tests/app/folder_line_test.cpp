@@ -23,11 +23,11 @@ class FolderLine : public FormTest {
     }
 };
 
-TEST_F(FolderLine, TheLeftButtonShowsTheFolder) {
+TEST_F(FolderLine, TheLeftButtonShowsTheFolderWithTheOptionsFileSelected) {
     start();
     inChooser([&] { pressFolder(toolkit::button::left); });
     ASSERT_EQ(launched.size(), 1U);
-    EXPECT_NE(launched[0].find(dataFolder.generic_string()), std::string::npos) << launched[0];
+    EXPECT_TRUE(launched[0].ends_with(dataFile("ZEV.Ini").generic_string())) << launched[0];
 }
 
 TEST_F(FolderLine, TheRightButtonDoesNothingWhereTheFolderIsFixed) {

@@ -3,6 +3,7 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 #include "support/system.h"
 #include "toolkit/program.h"
@@ -61,6 +62,18 @@ TEST_F(ShellFolders, LaunchesAreToldToATest) {
     openWebPage("https://zevlin.example/history#faq");
     showInFileManager("/home/a b/ZEV/ZEV.ini");
     EXPECT_EQ(log, (Log{"https://zevlin.example/history#faq", "file:///home/a b/ZEV"}));
+}
+
+TEST_F(ShellFolders, AFileThatIsThereIsSelected) {
+    overrideProgram({.launch = [this](const std::string& address) { note(address); }});
+    const auto folder = test_system::newFolder("zevlin shell ");
+    const auto file = folder / "ZEV.Ini";
+    showInFileManager(file);
+    EXPECT_TRUE(log.back().ends_with(folder.generic_string())) << log.back();
+    std::ofstream(file) << "options";
+    showInFileManager(file);
+    EXPECT_TRUE(log.back().ends_with(file.generic_string())) << log.back();
+    std::filesystem::remove_all(folder);
 }
 
 } // namespace
