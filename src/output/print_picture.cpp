@@ -23,10 +23,14 @@ namespace {
 
 constexpr float resting = 500; ///< twips, size of the export's box while nothing is exported
 
-void tellFailure(Zevlin& form, int step) {
-    const auto failure = toolkit::currentFailure();
+void traceAt(Zevlin& form, int step, const toolkit::RunTimeError& failure) {
     traceFailure(form, "Error in PrintPictureBox at step " + toolkit::numberText(step) + ": ",
                  failure);
+}
+
+void tellFailure(Zevlin& form, int step) {
+    const auto failure = toolkit::currentFailure();
+    traceAt(form, step, failure);
     if (failure.description().empty()) return;
     toolkit::tell(failure.description() + " Printer Error #" +
                       toolkit::numberText(failure.number()),
@@ -84,16 +88,21 @@ class PictureDelivery {
                 .filePreset = form_.DataFolder / toolkit::pathFromText(name + ".pdf")};
     }
 
+    /// False if the player was asked for a file and cancelled.
+    bool openDocument() { return form_.PrinterDC.start(form_.CurrentPrinter, documentInfo()); }
+
     bool printPrimary() {
-        auto start = toolkit::DocumentStart::Dropped;
-        runStep(1200, [&] { start = form_.PrinterDC.start(form_.CurrentPrinter, documentInfo()); });
-        if (start == toolkit::DocumentStart::Refused) {
+        bool isOpen = false;
+        try {
+            isOpen = openDocument();
+        } catch (const std::exception&) {
+            traceAt(form_, 1200, toolkit::currentFailure());
             toolkit::tell("Printer error 'PPB1', could not print the card. Please use 'Printer "
                           "Setup' to re-select your printer, then try again.",
                           toolkit::Icon::Exclamation);
             return false;
         }
-        if (start == toolkit::DocumentStart::Dropped) return true;
+        if (!isOpen) return true;
         TestBlankPage(form_, "PrintPictureBox before PrintImage", picture_);
         runStep(1700, [this] { stretchToDevice(); });
         TestBlankPage(form_, "PrintPictureBox after PrintImage", picture_);
@@ -108,8 +117,9 @@ class PictureDelivery {
     }
 
     bool printAlternate() {
-        runStep(2300, [this] { openThroughPrinter(); });
-        if (!form_.PrinterDC.isOpen()) return true;
+        bool isOpen = false;
+        runStep(2300, [&] { isOpen = openDocument(); });
+        if (!isOpen) return true;
         TestBlankPage(form_, "PrintPictureBox before Printer.PaintPicture", picture_);
         runStep(2400, [this] { paintThroughPrinter(); });
         runStep(2500, [this] {
@@ -118,12 +128,6 @@ class PictureDelivery {
                 form_.CurrentPrinter.PaperBin = form_.Myprinter.PaperBin;
         });
         return true;
-    }
-
-    void openThroughPrinter() {
-        if (form_.PrinterDC.start(form_.CurrentPrinter, documentInfo()) ==
-            toolkit::DocumentStart::Refused)
-            throw toolkit::RunTimeError(toolkit::Failure::PrinterError);
     }
 
     /// Places in twips, as the printer object takes them.

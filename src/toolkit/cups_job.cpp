@@ -13,9 +13,7 @@ namespace {
 [[noreturn]] void failPrinting() {
     const CupsLibrary* cups = cupsLibrary();
     const char* reason = cups == nullptr ? nullptr : cups->lastErrorString();
-    const std::string text(describe(Failure::PrinterError));
-    if (reason == nullptr || *reason == '\0') throw RunTimeError(Failure::PrinterError, text);
-    throw RunTimeError(Failure::PrinterError, text + " (" + ansiFromUtf8(reason) + ")");
+    throw printerFailure(reason == nullptr ? std::string() : ansiFromUtf8(reason));
 }
 
 /// What the job asks of the printer: what the player has chosen, nothing else.

@@ -39,11 +39,15 @@ struct PrintJob::Document {
         std::error_code ignored;
         if (madeTarget && !isDone) std::filesystem::remove(target, ignored);
     }
-    /// Fails as writing will fail.
+    /// Fails where writing will fail.
     void tryTarget() {
         std::error_code ignored;
         const bool isNew = !std::filesystem::exists(target, ignored);
-        FileHandle(target, FileMode::Append).close();
+        try {
+            FileHandle(target, FileMode::Append).close();
+        } catch (const RunTimeError& failure) {
+            throw printerFailure(failure.description());
+        }
         madeTarget = isNew;
     }
     [[nodiscard]] PdfPage page() const;
@@ -66,26 +70,22 @@ PrintJob::~PrintJob() = default;
 PrintJob::PrintJob(PrintJob&&) noexcept = default;
 PrintJob& PrintJob::operator=(PrintJob&&) noexcept = default;
 
-DocumentStart PrintJob::start(const Printer& printer, const DocumentInfo& info) {
+bool PrintJob::start(const Printer& printer, const DocumentInfo& info) {
     abandon();
     if (printer.hdc == 0 || printer.PixelsPerInchX <= 0 || printer.PixelsPerInchY <= 0)
-        return DocumentStart::Refused;
+        throw RunTimeError(Failure::PrinterError);
     auto document = std::make_unique<Document>();
     document->printer = printer;
     document->title = info.title;
-    try {
-        if (printer.DeviceName == printToPdfName) {
-            document->target = askForTarget(info);
-            if (document->target.empty()) return DocumentStart::Dropped;
-            document->tryTarget();
-        } else {
-            document->service.emplace(printer, info.title);
-        }
-    } catch (const RunTimeError&) {
-        return DocumentStart::Refused;
+    if (printer.DeviceName == printToPdfName) {
+        document->target = askForTarget(info);
+        if (document->target.empty()) return false;
+        document->tryTarget();
+    } else {
+        document->service.emplace(printer, info.title);
     }
     document_ = std::move(document);
-    return DocumentStart::Open;
+    return true;
 }
 
 bool PrintJob::stretch(std::shared_ptr<const Bitmap> picture, const Place& place) {

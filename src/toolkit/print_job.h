@@ -11,9 +11,6 @@
 
 namespace toolkit {
 
-/// How opening a document went. Dropped: the player was asked for a file and cancelled.
-enum class DocumentStart { Open, Dropped, Refused };
-
 /// What the printer is to be told beside the picture.
 struct DocumentInfo {
     std::string title;                ///< of the document, in the code page
@@ -27,8 +24,10 @@ class PrintJob {
     PrintJob(PrintJob&&) noexcept;
     PrintJob& operator=(PrintJob&&) noexcept;
 
-    /// Opens a document on the printer as it is set up; the one that is open is given up.
-    [[nodiscard]] DocumentStart start(const Printer& printer, const DocumentInfo& info);
+    /// Opens a document on the printer as it is set up; the one that is open is given up. False if
+    /// the player was asked for a file and cancelled. Failure 482 if the document is refused, with
+    /// the reason behind the description where one is known.
+    [[nodiscard]] bool start(const Printer& printer, const DocumentInfo& info);
     [[nodiscard]] bool isOpen() const { return document_ != nullptr; }
 
     /// Printer pixels from the corner of the printable part of the page.

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/error.h"
 #include "toolkit/pdf_page.h"
 #include "toolkit/printer.h"
 
@@ -22,6 +23,9 @@ namespace toolkit {
 
 /// Makes it the player's default; failure 482.
 void setSystemDefaultPrinter(std::string_view name);
+
+/// 482 with the reason in brackets behind its description; an empty one adds nothing.
+[[nodiscard]] RunTimeError printerFailure(std::string_view reason);
 
 /// Hands a page to a printer. Open it, send the page, close it: each fails with 482, with the
 /// system's own words where it has any.

@@ -54,7 +54,8 @@ bool Monkey::refusesJobs() const {
 /// Every failure that the program met belongs to a trouble that is there.
 void Monkey::checkTrace() {
     for (const std::string& line : takeErrors()) {
-        const bool isOfJob = line.starts_with("Error in PrintPictureBox at step 2300: 482");
+        const bool isOfJob = line.starts_with("Error in PrintPictureBox at step 1200: 482") ||
+                             line.starts_with("Error in PrintPictureBox at step 2300: 482");
         // Beyond the walk's table TAB says so in the trace.
         const bool isOfWalk = line.starts_with("Error in P1_KeyDown: #9,") ||
                               line.starts_with("Error in xText_LostFocus: #9,");

@@ -11,6 +11,8 @@ class PrintPicture : public PrintTest {
     static constexpr std::string_view refused =
         "Printer error 'PPB1', could not print the card. Please use 'Printer Setup' to re-select "
         "your printer, then try again.";
+    static constexpr std::string_view refusal =
+        "Error in PrintPictureBox at step 1200: 482, Printer error";
 };
 
 TEST_F(PrintPicture, AnUnknownPageIsPrintedAtEightAndATenthInches) {
@@ -36,6 +38,7 @@ TEST_F(PrintPicture, ADocumentThatIsRefusedIsToldOnceAndTheCardComesBack) {
     toolkit::Printer printer = pdfWithPage(8.1F);
     printer.DeviceName = "No such printer of the service";
     toolkit::overridePrinters({printer});
+    announceError(refusal);
     startWithContent();
     EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
     ASSERT_EQ(boxes.size(), 1U);
@@ -46,6 +49,7 @@ TEST_F(PrintPicture, ADocumentThatIsRefusedIsToldOnceAndTheCardComesBack) {
 
 TEST_F(PrintPicture, WithoutAPrinterTheDocumentIsRefused) {
     toolkit::overrideNoPrinter(true);
+    announceError(refusal);
     startWithContent();
     answer(toolkit::Answer::Yes);
     EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
@@ -56,13 +60,27 @@ TEST_F(PrintPicture, WithoutAPrinterTheDocumentIsRefused) {
 
 TEST_F(PrintPicture, AFileThatCantBeOpenedIsARefusedDocumentAndTheNextPrintWorks) {
     startWithContent();
+    announceError(refusal);
     answerFile(home / "no folder" / "page.pdf");
     EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    EXPECT_TRUE(traced(std::string(refusal) + " (Path not found)"));
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].text, refused);
     expectUnharmed();
     EXPECT_EQ(print().pixelsAcross, 2396);
     EXPECT_EQ(boxes.size(), 1U);
+}
+
+TEST_F(PrintPicture, TheReasonOfARefusalIsTraced) {
+    startWithContent();
+    announceError(refusal);
+    const auto folder = home / "folder.pdf";
+    std::filesystem::create_directory(folder);
+    answerFile(folder);
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    EXPECT_TRUE(traced(std::string(refusal) + " (Path/File access error)"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, refused);
 }
 
 TEST_F(PrintPicture, AFullDiskIsToldAndTheNextPrintWorks) {
@@ -105,7 +123,7 @@ TEST_F(PrintPicture, TheAlternateMethodTellsARefusalAsAPrinterError) {
     answerFile(home / "no folder" / "page.pdf");
     EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
     ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].text, "Printer error Printer Error #482");
+    EXPECT_EQ(boxes[0].text, "Printer error (Path not found) Printer Error #482");
     expectUnharmed();
 }
 

@@ -24,8 +24,18 @@ class PrintJobs : public testing::Test {
     PrintJobs(const PrintJobs&) = delete;
     PrintJobs& operator=(const PrintJobs&) = delete;
 
-    DocumentStart start() {
+    bool start() {
         return job.start(printerNamed(printToPdfName), {.title = "Jones", .filePreset = "x.pdf"});
+    }
+    /// Number and description of the failure that the call raises.
+    template <typename Call>
+    static std::string reasonOf(Call&& call) {
+        try {
+            std::forward<Call>(call)();
+        } catch (const RunTimeError& failure) {
+            return std::to_string(failure.number()) + ", " + failure.description();
+        }
+        return {};
     }
     const TemporaryFolder folder;
     std::filesystem::path target = folder / "page.pdf";
@@ -34,7 +44,7 @@ class PrintJobs : public testing::Test {
 };
 
 TEST_F(PrintJobs, WritesThePageWhenItIsFinished) {
-    ASSERT_EQ(start(), DocumentStart::Open);
+    ASSERT_TRUE(start());
     EXPECT_EQ(asked.preset, "x.pdf");
     EXPECT_EQ(asked.pattern, "*.pdf");
     EXPECT_TRUE(job.stretch(std::make_shared<const Bitmap>(8, 6), {0, 0, 4860, 5000}));
@@ -48,7 +58,7 @@ TEST_F(PrintJobs, WritesThePageWhenItIsFinished) {
 
 TEST_F(PrintJobs, ACancelledQuestionDropsTheJob) {
     target.clear();
-    EXPECT_EQ(start(), DocumentStart::Dropped);
+    EXPECT_FALSE(start());
     EXPECT_FALSE(job.isOpen());
     EXPECT_FALSE(job.stretch(std::make_shared<const Bitmap>(8, 6), {}));
     job.finish();
@@ -56,19 +66,31 @@ TEST_F(PrintJobs, ACancelledQuestionDropsTheJob) {
 
 TEST_F(PrintJobs, AFileThatCantBeMadeRefusesIt) {
     target = folder / "none" / "page.pdf";
-    EXPECT_EQ(start(), DocumentStart::Refused);
-    EXPECT_EQ(job.start(Printer{}, {}), DocumentStart::Refused);
+    EXPECT_EQ(reasonOf([&] { static_cast<void>(start()); }), "482, Printer error (Path not found)");
+    EXPECT_FALSE(job.isOpen());
+}
+
+TEST_F(PrintJobs, WithoutAPrinterItIsRefused) {
+    EXPECT_EQ(reasonOf([&] { static_cast<void>(job.start(Printer{}, {})); }), "482, Printer error");
+}
+
+TEST_F(PrintJobs, APrinterThatTheServiceDoesntKnowRefusesItInTheServicesWords) {
+    Printer printer = printerNamed(printToPdfName);
+    printer.DeviceName = "No such printer of the service";
+    const auto reason = reasonOf([&] { static_cast<void>(job.start(printer, {})); });
+    EXPECT_TRUE(reason.starts_with("482, Printer error (")) << reason;
+    EXPECT_GT(reason.size(), std::string_view("482, Printer error ()").size());
 }
 
 TEST_F(PrintJobs, AnAbandonedDocumentLeavesNoFile) {
-    ASSERT_EQ(start(), DocumentStart::Open);
+    ASSERT_TRUE(start());
     job.abandon();
     EXPECT_FALSE(std::filesystem::exists(target));
 }
 
 TEST_F(PrintJobs, AnAbandonedDocumentLeavesTheFormerFile) {
     writeFile(target, "a page");
-    ASSERT_EQ(start(), DocumentStart::Open);
+    ASSERT_TRUE(start());
     EXPECT_EQ(readFile(target), "a page");
     job.abandon();
     EXPECT_EQ(readFile(target), "a page");
@@ -76,7 +98,7 @@ TEST_F(PrintJobs, AnAbandonedDocumentLeavesTheFormerFile) {
 
 TEST_F(PrintJobs, AFullDiskFailsAndLeavesTheDevice) {
     target = "/dev/full";
-    ASSERT_EQ(start(), DocumentStart::Open);
+    ASSERT_TRUE(start());
     EXPECT_EQ(failureOf([&] { job.finish(); }), static_cast<int>(Failure::DiskFull));
     EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
     EXPECT_FALSE(job.isOpen());
