@@ -27,11 +27,8 @@ std::string filledIn(std::string_view line, const HelpFacts& facts) {
 }
 
 void addSection(HelpText& help, std::string_view section, const HelpFacts& facts) {
-    while (!section.empty()) {
-        const auto end = section.find('\n');
-        help.lines.push_back(filledIn(section.substr(0, end), facts));
-        section.remove_prefix(end + 1);
-    }
+    for (const std::string_view line : linesOf(section))
+        help.lines.push_back(filledIn(line, facts));
 }
 
 int addLine(HelpText& help, std::string line) {
@@ -51,6 +48,16 @@ void addEndOfInstructions(HelpText& help, const HelpFacts& facts) {
 }
 
 } // namespace
+
+std::vector<std::string_view> linesOf(std::string_view section) {
+    std::vector<std::string_view> lines;
+    while (!section.empty()) {
+        const auto end = section.find('\n');
+        lines.push_back(section.substr(0, end));
+        section.remove_prefix(end == std::string_view::npos ? section.size() : end + 1);
+    }
+    return lines;
+}
 
 HelpText helpText(const HelpFacts& facts) {
     HelpText help;

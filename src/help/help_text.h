@@ -23,6 +23,9 @@ struct HelpText {
 
 [[nodiscard]] HelpText helpText(const HelpFacts& facts);
 
+/// The lines of a section; the last one may lack its line feed.
+[[nodiscard]] std::vector<std::string_view> linesOf(std::string_view section);
+
 /// Path of the page with frequently asked questions on the web site.
 constexpr std::string_view faqPath = "/history#faq";
 

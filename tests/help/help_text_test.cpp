@@ -35,6 +35,13 @@ TEST(HelpText, BeginsWithHowToCloseAndPrintItAndTheVersion) {
 
 TEST(HelpText, EndsWithHowToCloseIt) { EXPECT_EQ(page().lines.back(), closingLine); }
 
+TEST(HelpText, ASectionNeedsNoLineFeedAtItsEnd) {
+    using Lines = std::vector<std::string_view>;
+    EXPECT_EQ(zev::linesOf(""), Lines{});
+    EXPECT_EQ(zev::linesOf("one\n\ntwo\n"), (Lines{"one", "", "two"}));
+    EXPECT_EQ(zev::linesOf("one\ntwo"), (Lines{"one", "two"}));
+}
+
 TEST(HelpText, SectionsComeInOrder) {
     constexpr std::array<std::string_view, 12> titles{
         "MOVING THE CARD WITH THE MOUSE",
