@@ -23,7 +23,8 @@ using toolkit::numberText;
 void consume(toolkit::KeyArguments& key) { key = {}; }
 
 std::string boxPlace(const char* head, const toolkit::TextBox& box) {
-    return head + numberText(box.Left) + ", " + numberText(box.Top) + ", " + numberText(box.Width);
+    return head + numberText(box.Left) + ", " + numberText(box.Top) + ", " + numberText(box.Width) +
+           ", " + numberText(box.Height);
 }
 
 std::string imageTrace(const Zevlin& form) {

@@ -1,6 +1,7 @@
 #include "events/keys.h"
 
 #include "text/edit_test.h"
+#include "toolkit/number_text.h"
 
 namespace zev::test {
 namespace {
@@ -30,15 +31,16 @@ TEST_F(FormKeys, ShiftF4TracesThePlaceOfTheCardAndOfTheOpenBox) {
     form.P1.Move(0, 0);
     clickText(1);
     form.P1.Move(-150, -300);
+    const std::string place = "1500, 4500, 4500, " + toolkit::numberText(form.CText.Height);
     typeKey(key::f4, shift::shift);
-    EXPECT_TRUE(traced(card + " ctext: 1500, 4500, 4500"));
+    EXPECT_TRUE(traced(card + " ctext: " + place));
     form.LText.Move(30, 45, 60, 75);
     form.LText.Visible = true;
     typeKey(key::f4, shift::shift);
-    EXPECT_TRUE(traced(card + " ltext: 30, 45, 60 ctext: 1500, 4500, 4500"));
+    EXPECT_TRUE(traced(card + " ltext: 30, 45, 60, 75 ctext: " + place));
     form.CText.Visible = false;
     typeKey(key::f4, shift::shift);
-    EXPECT_TRUE(traced(card + " ltext: 30, 45, 60"));
+    EXPECT_TRUE(traced(card + " ltext: 30, 45, 60, 75"));
 }
 
 TEST_F(FormKeys, TraceKeysDoNotReachTheBox) {
