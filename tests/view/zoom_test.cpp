@@ -1,9 +1,12 @@
 #include "view/zoom.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "app/layouts.h"
+#include "design/design_mode.h"
 #include "toolkit/key.h"
+#include "view/fit.h"
 
 namespace zev::test {
 namespace {
@@ -42,6 +45,25 @@ class Zoom : public FormTest {
     }
     [[nodiscard]] bool rebuilt() const { return traced("RebuildScreenImage"); }
 };
+
+TEST_F(Zoom, IsOverAlsoWhereARebuildFails) {
+    startAtStep(4);
+    MShowShapes_Click(form);
+    ASSERT_TRUE(form.MShowShapes.Checked);
+    const auto toggle = std::exchange(form.Slots.toggleDesignMode, [] {
+        throw toolkit::RunTimeError(toolkit::Failure::Overflow);
+    });
+    announceError("Error in RebuildScreenImage: #6, Overflow");
+    announceError("Error in MZoomIn_Click: #6, Overflow");
+    announceError("Error in MFitScreenHeight_Click: #6, Overflow");
+    zoomIn();
+    EXPECT_TRUE(traced("Error in MZoomIn_Click: #6, Overflow"));
+    EXPECT_FALSE(form.Zooming);
+    MFitScreenHeight_Click(form);
+    EXPECT_TRUE(traced("Error in MFitScreenHeight_Click: #6, Overflow"));
+    EXPECT_FALSE(form.Zooming);
+    form.Slots.toggleDesignMode = toggle;
+}
 
 TEST_F(Zoom, InGoesUpTheWholeLadderAndBeepsAtItsEnd) {
     startAtStep(1);
