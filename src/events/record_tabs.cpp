@@ -61,6 +61,4 @@ bool recordTabPress(Zevlin& form, int item, toolkit::MouseArguments& mouse) {
     return true;
 }
 
-void SetTabSequence(Zevlin& /*form*/) {}
-
 } // namespace zev

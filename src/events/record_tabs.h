@@ -14,7 +14,4 @@ void MSetTabs_Click(Zevlin& form);
 /// leads to it. False, and nothing has happened, unless a sequence is being recorded.
 bool recordTabPress(Zevlin& form, int item, toolkit::MouseArguments& mouse);
 
-/// Part of the form's interface; a sequence is set by clicking alone.
-void SetTabSequence(Zevlin& form);
-
 } // namespace zev

@@ -25,7 +25,6 @@ struct OutputState {
     std::string SavedDefaultPrinter; ///< the system's, before the set-up changed it
     bool PrinterPending = false;     ///< the default printer's facts are still to be taken
     toolkit::PrinterQuestion PrinterAsked;
-    bool PrinterSetUp = false; ///< the player has been through the set-up
     bool Printing = false;
     bool PrintAlertShown = false; ///< the narrow page was told in this run
     bool HasJobView = false;      ///< zoom and fit are a job's, not the player's

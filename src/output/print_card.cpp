@@ -186,8 +186,4 @@ void MPrint_Click(Zevlin& form) {
     restore(form, view);
 }
 
-void Flatten(Zevlin& /*form*/) {}
-
-void Flatten2(Zevlin& /*form*/) {}
-
 } // namespace zev

@@ -10,8 +10,4 @@ struct Zevlin;
 /// failure. While it runs, every output command returns at once.
 void MPrint_Click(Zevlin& form);
 
-/// Kept for the list of operations; flattening is done in place by the pipeline.
-void Flatten(Zevlin& form);
-void Flatten2(Zevlin& form);
-
 } // namespace zev

@@ -21,7 +21,6 @@ void takeFacts(Zevlin& form) {
     readPrinterFacts(form);
     form.Myprinter.Devicename = "User selected";
     if (!form.Initializing) IniWrite(form);
-    form.PrinterSetUp = true;
 }
 
 void showWaitText(Zevlin& form) {

@@ -119,8 +119,6 @@ void mColorScheme_Click(Zevlin& form, int index) {
     trapped(form, "Error in mColorScheme_Click: #", [&] { chooseScheme(form, index); });
 }
 
-void showColorPanel(Zevlin& form) { openPanel(form); }
-
 void ColorSample_Click(Zevlin& form, int index) {
     Traceit(form, "ColorSample_Click");
     trapped(form, "Error in ColorSample_Click: #", [&] {

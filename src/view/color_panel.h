@@ -9,9 +9,6 @@ struct Zevlin;
 /// panel for a colour. While the program initializes, the stored colour stands and no panel opens.
 void mColorScheme_Click(Zevlin& form, int index);
 
-/// Opens the panel with the colour of the first text field, in place of the card.
-void showColorPanel(Zevlin& form);
-
 /// A preset was clicked.
 void ColorSample_Click(Zevlin& form, int index);
 /// The number of a primary colour was clicked: that primary is chosen.

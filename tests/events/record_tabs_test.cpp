@@ -327,13 +327,5 @@ TEST_F(RecordTabs, FailuresAreTraced) {
     EXPECT_TRUE(traced("Error in AText_MouseDown: #9, Subscript out of range"));
 }
 
-TEST_F(RecordTabs, SettingASequenceByCallDoesNothing) {
-    startSmall();
-    form.Trace.clear();
-    SetTabSequence(form);
-    EXPECT_TRUE(form.Trace.empty());
-    EXPECT_EQ(next(1), 2);
-}
-
 } // namespace
 } // namespace zev::test

@@ -298,14 +298,5 @@ TEST_F(PrintCard, ATemporaryCardThatCantBeWrittenLosesNothing) {
     EXPECT_TRUE(form.AMark[1].Visible);
 }
 
-TEST_F(PrintCard, FlatteningOperationsOfTheListChangeNothing) {
-    start();
-    form.Trace.clear();
-    Flatten(form);
-    Flatten2(form);
-    EXPECT_TRUE(form.Trace.empty());
-    EXPECT_FALSE(form.Printing);
-}
-
 } // namespace
 } // namespace zev::test
