@@ -45,10 +45,4 @@ void layOutPage(Printer& printer, int paperSize, Orientation orientation) {
     printer.TwipsPerPixelY = twips(1, y);
 }
 
-RunTimeError printerFailure(std::string_view reason) {
-    std::string text(describe(Failure::PrinterError));
-    if (!reason.empty()) text.append(" (").append(reason).append(")");
-    return {Failure::PrinterError, std::move(text)};
-}
-
 } // namespace toolkit

@@ -93,6 +93,12 @@ std::function<Printer()> defaultPrinterQuestion() {
     };
 }
 
+RunTimeError printerFailure(std::string_view reason) {
+    std::string text(describe(Failure::PrinterError));
+    if (!reason.empty()) text.append(" (").append(reason).append(")");
+    return {Failure::PrinterError, std::move(text)};
+}
+
 bool isAskingSlow() { return overrides().printers.empty() && !overrides().noPrinter; }
 
 void overridePrinters(std::vector<Printer> printers) { overrides().printers = std::move(printers); }
