@@ -340,7 +340,7 @@ TEST_F(Journal, ThatWasCleanedAwayIsMadeAnewBeforeAFailedSaveEndsTheProgram) {
     fs::create_directory(dataFile("Jones.zev"));
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
-    EXPECT_TRUE(endsProgram([&] { choose("File>Save"); }));
+    EXPECT_TRUE(failsProgram([&] { choose("File>Save"); }));
     ASSERT_TRUE(isThere());
     EXPECT_TRUE(content().document.marks[1]);
 }
