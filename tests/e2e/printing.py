@@ -206,13 +206,20 @@ class PrintServiceTest(PrintingTest):
                              for x in range(0, page.picture.width, 2)))
         self.leave(program)
 
+    def answer_refusal(self, program):
+        """The trace has the service's reason, for which the box has no room."""
+        self.announced_error = "Error in PrintPictureBox at step 1200: 482, Printer error ("
+        program.answer(program.wait_for_box("^Zevlin$"), "Return")
+        self.assertIn(self.announced_error, self.home.trace())
+
     def test_tells_that_a_queue_rejects_jobs_and_prints_afterwards(self):
         self.service.add("Office", default=True)
         program = self.start_with_card()
         self.service.reject("Office")
         before = desktop.screenshot()
         program.press("ctrl+p")
-        program.answer(program.wait_for_box("^Zevlin$"), "Return")
+        self.answer_refusal(program)
+        self.assertIn("not accepting jobs", self.home.trace())
         self.assertEqual(self.service.pages(), [])
         self.service.accept("Office")
         desktop.wait_for("the card as it was", lambda: desktop.screenshot().bytes == before.bytes)
@@ -227,7 +234,7 @@ class PrintServiceTest(PrintingTest):
         self.wait_for_pages(1)
         self.service.remove("Office")
         program.press("ctrl+p")
-        program.answer(program.wait_for_box("^Zevlin$"), "Return")
+        self.answer_refusal(program)
         self.service.add("Office", default=True)
         program.press("ctrl+p")
         self.wait_for_pages(2)
