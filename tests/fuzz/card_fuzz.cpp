@@ -6,6 +6,7 @@
 
 #include "card/card_file.h"
 #include "layout/skip_comment.h"
+#include "text/escapes.h"
 #include "toolkit/error.h"
 
 namespace {
@@ -25,7 +26,10 @@ CardDocument readCard(std::string content) {
         for (int i = reader.readCount(); i > 0; --i)
             document.marks.push_back(reader.readMark().set);
         for (int i = reader.readCount(); i > 0; --i) {
-            const zev::TextRecord record = reader.readText();
+            zev::TextRecord record = reader.readText();
+            // A field keeps each run of ampersands as one that is doubled.
+            zev::AmpRem(record.text);
+            zev::AmpAdd(record.text);
             document.texts.push_back({record.text, record.switches & 15});
         }
     } catch (const toolkit::RunTimeError&) {
