@@ -13,6 +13,7 @@
 #include "card/card_file.h"
 #include "card/card_names.h"
 #include "card/chooser.h"
+#include "card/file_seen.h"
 #include "card/lifecycle.h"
 #include "card/load.h"
 #include "card/rescue.h"
@@ -144,9 +145,8 @@ void prepareForm(Zevlin& form) {
 }
 
 bool canBeOpened(const Zevlin& form) {
-    const std::string file = form.CardName + std::string(cardExtension);
     return !form.CardName.empty() && !isTemporaryCard(form.CardName) &&
-           toolkit::isPossibleFileName(file) && toolkit::findFile(form.DataFolder, file);
+           toolkit::isPossibleFileName(form.CardName) && findCard(form, form.CardName);
 }
 
 void openNamedCard(Zevlin& form, std::string_view commandLine) {

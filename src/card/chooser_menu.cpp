@@ -24,10 +24,6 @@ std::string selectedName(const Zevlin& form) {
     return form.FileList.List.at(static_cast<std::size_t>(form.FileList.ListIndex));
 }
 
-std::filesystem::path pathOf(const Zevlin& form, const std::string& name) {
-    return toolkit::resolveFile(form.DataFolder, name + std::string(cardExtension));
-}
-
 /// Whether the card on the screen is this file, whose name may be written in another case.
 bool isCurrentCard(const Zevlin& form, const std::filesystem::path& path) {
     return !form.CardName.empty() && path == cardPath(form);
@@ -39,7 +35,7 @@ void removeEntry(toolkit::ListBox& list) {
 }
 
 void deleteSelected(Zevlin& form) {
-    const auto path = pathOf(form, selectedName(form));
+    const auto path = cardPath(form, selectedName(form));
     const bool isCurrent = isCurrentCard(form, path);
     if (std::filesystem::exists(path)) toolkit::deleteFile(path);
     removeEntry(form.FileList);
@@ -77,8 +73,8 @@ void nameCurrentCard(Zevlin& form, const std::string& name) {
 /// The same file in another case is itself no other card. The card on the screen goes along, or the
 /// next save would bring the old name back as a second card.
 void renameCard(Zevlin& form, const std::string& name, const std::string& newName) {
-    const auto path = pathOf(form, name);
-    const auto target = pathOf(form, newName);
+    const auto path = cardPath(form, name);
+    const auto target = cardPath(form, newName);
     const bool changesCase = target == path && newName != name;
     const auto newPath =
         form.DataFolder / toolkit::pathFromText(newName + std::string(cardExtension));

@@ -5,13 +5,15 @@
 
 namespace zev {
 
-std::filesystem::path cardPath(const Zevlin& form) {
-    return toolkit::resolveFile(form.DataFolder, form.CardName + std::string(cardExtension));
+std::optional<std::filesystem::path> findCard(const Zevlin& form, std::string_view name) {
+    return toolkit::findFile(form.DataFolder, std::string(name).append(cardExtension));
 }
 
-bool cardExists(const Zevlin& form, const std::string& name) {
-    return toolkit::findFile(form.DataFolder, name + std::string(cardExtension)).has_value();
+std::filesystem::path cardPath(const Zevlin& form, std::string_view name) {
+    return toolkit::resolveFile(form.DataFolder, std::string(name).append(cardExtension));
 }
+
+std::filesystem::path cardPath(const Zevlin& form) { return cardPath(form, form.CardName); }
 
 void rememberFile(Zevlin& form, const std::filesystem::path& file, std::string_view content) {
     form.CardFileSeen = SeenFile{.cardName = form.CardName, .state = fileState(file, content)};

@@ -2,18 +2,20 @@
 #pragma once
 
 #include <filesystem>
-#include <string>
+#include <optional>
 #include <string_view>
 
 namespace zev {
 
 struct Zevlin;
 
-/// The file of the present card.
+/// The file of the card with this name, in any case, if there is one.
+[[nodiscard]] std::optional<std::filesystem::path> findCard(const Zevlin& form,
+                                                            std::string_view name);
+/// The same, or where the file would be made.
+[[nodiscard]] std::filesystem::path cardPath(const Zevlin& form, std::string_view name);
+/// That of the present card.
 [[nodiscard]] std::filesystem::path cardPath(const Zevlin& form);
-
-/// Whether there is a card of this name, in any case.
-[[nodiscard]] bool cardExists(const Zevlin& form, const std::string& name);
 
 /// Notes that the file of the present card, as opened or saved now, has this content.
 void rememberFile(Zevlin& form, const std::filesystem::path& file, std::string_view content);

@@ -75,7 +75,7 @@ void openCard(Zevlin& form) {
     announceOpening(form);
     form.CardName = GetFileNames(form);
     if (form.CardName.empty()) return SetCaption(form);
-    if (cardExists(form, form.CardName))
+    if (findCard(form, form.CardName))
         GetCardFile(form);
     else
         rememberNoFile(form);

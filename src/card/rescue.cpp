@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "card/document.h"
+#include "card/file_seen.h"
 #include "form/modified.h"
 #include "form/trace.h"
 #include "form/unsaved.h"
@@ -127,8 +128,7 @@ toolkit::Answer ask(const RescuedCard& card) {
 bool isSaved(const Zevlin& form, const RescuedCard& card) {
     bool saved = false;
     ignoringFailures([&] {
-        const auto file =
-            toolkit::findFile(form.DataFolder, card.name + std::string(cardExtension));
+        const auto file = findCard(form, card.name);
         saved = !card.name.empty() && file && isChanged(*file, card.file) &&
                 readCard(toolkit::readFile(*file)) == card.document;
     });
@@ -151,8 +151,7 @@ bool isBlank(const std::string& content) {
 /// A temporary card that lies about where no journal does is all that is left of a card. It becomes
 /// a journal, which a rebuild doesn't overwrite.
 void adoptTemporaryCard(Zevlin& form, Journals& journals) {
-    const auto file = toolkit::findFile(form.DataFolder, std::string(temporaryCardName) +
-                                                             std::string(cardExtension));
+    const auto file = findCard(form, temporaryCardName);
     if (!file || journals.hasLivingCopies) return;
     ignoringFailures([&] {
         const std::string content = toolkit::readFile(*file);

@@ -54,7 +54,8 @@ std::string chosenNameToSave(Zevlin& form) {
 bool isTaken(const Zevlin& form, const std::string& name) {
     const auto& names = form.FileList.List;
     return form.FileList.ListIndex >= 0 ||
-           std::ranges::find(names, form.TSaveAs.Text) != names.end() || cardExists(form, name);
+           std::ranges::find(names, form.TSaveAs.Text) != names.end() ||
+           findCard(form, name).has_value();
 }
 
 bool mayReplace() {

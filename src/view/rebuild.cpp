@@ -4,6 +4,7 @@
 
 #include "card/card_file.h"
 #include "card/document.h"
+#include "card/file_seen.h"
 #include "card/journal.h"
 #include "card/lifecycle.h"
 #include "card/load.h"
@@ -24,8 +25,7 @@ namespace {
 /// The temporary file goes; if it can't, the next rebuild replaces it.
 void deleteTemporaryCard(Zevlin& form) {
     ignoringFailures([&] {
-        const auto name = std::string(temporaryCardName) + std::string(cardExtension);
-        if (const auto file = toolkit::findFile(form.DataFolder, name)) toolkit::deleteFile(*file);
+        if (const auto file = findCard(form, temporaryCardName)) toolkit::deleteFile(*file);
     });
 }
 

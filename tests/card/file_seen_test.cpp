@@ -27,6 +27,13 @@ class FileSeen : public CardFormTest {
                                  "yours over it?");
         EXPECT_EQ(boxes[0].buttons, toolkit::Buttons::YesNoSaveAs);
     }
+    /// Saving asks, and No leaves the other program's file.
+    void expectNoKeepsTheirs() {
+        answer(toolkit::Answer::No);
+        choose("File>Save");
+        expectQuestion();
+        EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    }
 
   private:
     std::string theirs_;
@@ -57,10 +64,7 @@ TEST_F(FileSeen, YesSavesOverIt) {
 TEST_F(FileSeen, NoLeavesBothAsTheyAre) {
     openAndChange();
     changeBehindTheProgramsBack();
-    answer(toolkit::Answer::No);
-    choose("File>Save");
-    expectQuestion();
-    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    expectNoKeepsTheirs();
     EXPECT_TRUE(form.CardModified);
     EXPECT_TRUE(form.AMark[2].Visible);
 }
@@ -92,10 +96,7 @@ TEST_F(FileSeen, AFileThatCameMeanwhileIsAChange) {
     openNamed("Jones");
     clickMark(1);
     changeBehindTheProgramsBack();
-    answer(toolkit::Answer::No);
-    choose("File>Save");
-    expectQuestion();
-    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    expectNoKeepsTheirs();
 }
 
 TEST_F(FileSeen, LeavingWithNoToTheQuestionStays) {
@@ -135,10 +136,7 @@ TEST_F(FileSeen, AnotherCardsFileIsNotOverwrittenByOneWhoseNameLostItsExtension)
     ASSERT_EQ(form.CardName, "Jones");
     ASSERT_TRUE(form.AMark[1].Visible);
     clickMark(2);
-    answer(toolkit::Answer::No);
-    choose("File>Save");
-    expectQuestion();
-    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    expectNoKeepsTheirs();
     EXPECT_TRUE(form.CardModified);
 }
 
@@ -148,10 +146,7 @@ TEST_F(FileSeen, AnotherCardsFileIsNotOverwrittenByOneWhoseNameIsTrimmed) {
     start(" Jones");
     ASSERT_TRUE(form.AMark[1].Visible);
     clickMark(2);
-    answer(toolkit::Answer::No);
-    choose("File>Save");
-    expectQuestion();
-    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    expectNoKeepsTheirs();
 }
 
 /// Nothing of it was seen: the blank card that stands for it is not to replace it unasked.
@@ -163,10 +158,7 @@ TEST_F(FileSeen, AFileThatCouldntBeReadIsNotOverwrittenUnasked) {
     fs::remove(dataFile("Jones.zev"));
     changeBehindTheProgramsBack();
     clickMark(1);
-    answer(toolkit::Answer::No);
-    choose("File>Save");
-    expectQuestion();
-    EXPECT_EQ(dataFileContent("Jones.zev"), theirs());
+    expectNoKeepsTheirs();
 }
 
 TEST_F(FileSeen, ABadCardIsOverwrittenWithoutAQuestion) {

@@ -31,6 +31,13 @@ class RescueTest : public CardFormTest {
         fs::last_write_time(journal(number),
                             fs::file_time_type::clock::now() - std::chrono::hours(10 - number));
     }
+    /// The player decides neither on it nor on a card to open.
+    void expectQuestionAtNextStart() {
+        answer(toolkit::Answer::Cancel);
+        answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
+        const SecondRun run(window);
+        EXPECT_EQ(boxes.size(), 1U);
+    }
     static constexpr const char* temporaryCard =
         "' This contains the settings for the card called: $$Tempcard\r\n"
         "' Program version: 2.0.0\r\n\"Pat\",\"\"\r\n1\r\n1,1,0\r\n1\r\n1,\"old\",0\r\n";
@@ -126,10 +133,7 @@ TEST_F(RescueTest, OfMoreThanTheCardsFileHoldsIsAsked) {
     choose("File>Save");
     clickMark(1);
     kill();
-    answer(toolkit::Answer::Cancel);
-    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
-    const SecondRun run(window);
-    EXPECT_EQ(boxes.size(), 1U);
+    expectQuestionAtNextStart();
     EXPECT_TRUE(fs::exists(journal()));
 }
 
@@ -139,10 +143,7 @@ TEST_F(RescueTest, OfACardThatAnotherProgramHasChangedSinceIsAsked) {
     typeInto(1, "mine");
     kill();
     writeCard("Jones", cardFile({.texts = {"1,\"theirs\",0"}}));
-    answer(toolkit::Answer::Cancel);
-    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
-    const SecondRun run(window);
-    EXPECT_EQ(boxes.size(), 1U);
+    expectQuestionAtNextStart();
     ASSERT_TRUE(fs::exists(journal()));
     EXPECT_EQ(readRescue(toolkit::readFile(journal())).document.texts[0].text, "mine");
 }
@@ -156,10 +157,7 @@ TEST_F(RescueTest, OfAChangeThatWasTakenBackByHandIsAsked) {
     clickMark(1);
     clickMark(1);
     kill();
-    answer(toolkit::Answer::Cancel);
-    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
-    const SecondRun run(window);
-    EXPECT_EQ(boxes.size(), 1U);
+    expectQuestionAtNextStart();
     EXPECT_TRUE(fs::exists(journal()));
 }
 
