@@ -5,8 +5,10 @@
 #include "card/lifecycle.h"
 #include "events/edit_field.h"
 #include "text/set_sym.h"
-#include "toolkit/application.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/application.h"
 #include "view/rebuild.h"
 
 namespace {

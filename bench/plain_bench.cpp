@@ -5,9 +5,12 @@
 #include <random>
 
 #include "card/card_file.h"
+#include "card/write_card.h"
 #include "form/options_file.h"
+#include "form/write_options.h"
 #include "layout/layout_file.h"
 #include "layout/skip_comment.h"
+#include "layout/write_layout.h"
 #include "text/escapes.h"
 #include "text/fit.h"
 #include "view/halve_picture.h"

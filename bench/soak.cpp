@@ -9,9 +9,13 @@
 
 #include "bench_program.h"
 #include "monkey/heap.h"
-#include "toolkit/application.h"
-#include "toolkit/clock.h"
-#include "toolkit/key.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/application.h"
+#include "toolkit/window/dialog_answers.h"
 
 namespace {
 

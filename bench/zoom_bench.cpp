@@ -19,7 +19,8 @@
 #include <QtWidgets/QWidget>
 
 #include "bench_program.h"
-#include "toolkit/application.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/application.h"
 #include "view/rebuild.h"
 #include "view/zoom.h"
 

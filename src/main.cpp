@@ -2,9 +2,9 @@
 #include "app/form_load.h"
 #include "app/wiring.h"
 #include "form/zevlin.h"
-#include "toolkit/application.h"
-#include "toolkit/program.h"
-#include "toolkit/window.h"
+#include "toolkit/window/application.h"
+#include "toolkit/window/program.h"
+#include "toolkit/window/window.h"
 
 int main(int argumentCount, char** arguments) {
     toolkit::Application application(argumentCount, arguments);

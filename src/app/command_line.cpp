@@ -1,6 +1,6 @@
 #include "app/command_line.h"
 
-#include "toolkit/ansi.h"
+#include "toolkit/base/path_text.h"
 
 namespace zev {
 

@@ -11,11 +11,14 @@
 #include "form/settings.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev {
 namespace {

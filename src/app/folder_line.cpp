@@ -6,10 +6,10 @@
 #include "form/options.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/popup_menu.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

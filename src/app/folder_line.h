@@ -1,7 +1,7 @@
 // The line on the chooser that tells the data folder, and its pop-up.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -6,8 +6,8 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/initialize_run.h"
-#include "toolkit/dialog.h"
-#include "toolkit/program.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

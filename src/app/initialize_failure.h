@@ -1,7 +1,7 @@
 // What a failed start-up step tells the player.
 #pragma once
 
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace zev {
 

@@ -4,7 +4,6 @@
 
 #include "form/zevlin.h"
 #include "layout/initialize_run.h"
-#include "toolkit/screen.h"
 #include "view/task_bar.h"
 
 namespace zev {

@@ -9,8 +9,8 @@
 #include "form/printer_facts.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 

@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "toolkit/panel.h"
+#include "toolkit/model/panel.h"
 
 namespace zev {
 

@@ -1,7 +1,7 @@
 // Which procedure runs for which event: the one place where the form is wired.
 #pragma once
 
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace zev {
 

@@ -6,9 +6,9 @@
 #include "layout/skip_comment.h"
 #include "layout/version.h"
 #include "text/escapes.h"
-#include "toolkit/ansi.h"
-#include "toolkit/error.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/error.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/text_input.h"
+#include "toolkit/base/text_input.h"
 
 namespace zev {
 
@@ -86,10 +86,6 @@ struct CardDocument {
     std::vector<Text> texts;
     friend bool operator==(const CardDocument&, const CardDocument&) = default;
 };
-
-/// The whole file, byte for byte, with CR LF line ends. The format has no double quote inside a
-/// text and no runs of ampersands: they come back as load.h tells.
-[[nodiscard]] std::string writeCard(const CardDocument& document);
 
 /// Reads what writeCard wrote, whole or not at all; the name isn't part of it. Failures as those of
 /// CardReader, and 9 for a field number that isn't one of the counted.

@@ -1,8 +1,8 @@
 #include "card/card_names.h"
 
 #include "card/card_file.h"
-#include "toolkit/ansi.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 

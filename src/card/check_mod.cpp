@@ -7,7 +7,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "text/edit_box.h"
-#include "toolkit/dialog.h"
+#include "toolkit/window/dialog.h"
 
 namespace zev {
 namespace {

@@ -9,11 +9,12 @@
 #include "form/panels.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/file_names.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/file_names.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

@@ -5,9 +5,8 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/key.h"
-#include "toolkit/program.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/key.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // What mouse and keys do on the chooser's panel.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

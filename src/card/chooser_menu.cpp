@@ -12,10 +12,12 @@
 #include "form/trace.h"
 #include "form/unsaved.h"
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/popup_menu.h"
 
 namespace zev {
 namespace {

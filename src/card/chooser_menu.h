@@ -1,7 +1,7 @@
 // The pop-up menu of a card in the chooser's list.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

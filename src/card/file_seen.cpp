@@ -1,7 +1,7 @@
 #include "card/file_seen.h"
 
 #include "form/zevlin.h"
-#include "toolkit/files.h"
+#include "toolkit/base/folder.h"
 
 namespace zev {
 

@@ -2,8 +2,8 @@
 
 #include <sstream>
 
-#include "toolkit/error.h"
-#include "toolkit/files.h"
+#include "toolkit/base/error.h"
+#include "toolkit/base/files.h"
 
 namespace zev {
 namespace {

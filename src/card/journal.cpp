@@ -10,7 +10,7 @@
 #include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "text/escapes.h"
-#include "toolkit/files.h"
+#include "toolkit/base/write_file.h"
 
 namespace zev {
 namespace {

@@ -15,8 +15,6 @@
 #include "form/zevlin.h"
 #include "text/edit_box.h"
 #include "text/set_sym.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
 
 namespace zev {
 namespace {

@@ -15,9 +15,9 @@
 #include "form/zevlin.h"
 #include "layout/read_comment.h"
 #include "text/escapes.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/dialog.h"
 
 namespace zev {
 namespace {

@@ -11,8 +11,8 @@
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/set_sym.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/window/dialog.h"
 
 namespace zev {
 namespace {

@@ -13,11 +13,12 @@
 #include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "layout/build_fields.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev {
 namespace {

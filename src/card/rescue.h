@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "card/rescue_file.h"
-#include "toolkit/file_lock.h"
+#include "toolkit/base/file_lock.h"
 
 namespace zev {
 

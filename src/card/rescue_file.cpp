@@ -1,5 +1,6 @@
 #include "card/rescue_file.h"
 
+#include "card/write_card.h"
 #include <utility>
 
 namespace zev {

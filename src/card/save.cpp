@@ -9,16 +9,18 @@
 #include "card/document.h"
 #include "card/file_seen.h"
 #include "card/journal.h"
+#include "card/write_card.h"
 #include "form/file_failures.h"
 #include "form/modified.h"
 #include "form/time_stamp.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "text/edit_box.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

@@ -1,9 +1,10 @@
+#include "card/write_card.h"
+
 #include <algorithm>
 
-#include "card/card_file.h"
 #include "text/escapes.h"
-#include "toolkit/ansi.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -7,8 +7,8 @@
 #include "form/marks_state.h"
 #include "form/zevlin.h"
 #include "text/edit_box.h"
-#include "toolkit/color.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/color.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // Adding a field to the design by pressing the right button on bare card.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "form/design_state.h"
-#include "toolkit/color.h"
-#include "toolkit/label.h"
+#include "toolkit/base/color.h"
+#include "toolkit/model/label.h"
 
 namespace zev {
 

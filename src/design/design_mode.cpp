@@ -14,9 +14,9 @@
 #include "layout/field.h"
 #include "layout/text_fields.h"
 #include "text/set_sym.h"
-#include "toolkit/dialog.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/program.h"
 #include "view/colors.h"
 
 namespace zev {

@@ -3,7 +3,7 @@
 #include "design/field_colors.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

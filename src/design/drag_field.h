@@ -2,7 +2,7 @@
 #pragma once
 
 #include "design/design_field.h"
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

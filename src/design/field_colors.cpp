@@ -6,8 +6,8 @@
 #include "form/field_values.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/dialog.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/popup_menu.h"
 
 namespace zev {
 namespace {

@@ -4,7 +4,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/twips.h"
 
 namespace zev {
 namespace {

@@ -4,8 +4,8 @@
 #include "design/design_field.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

@@ -11,7 +11,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "marks/hit_test.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

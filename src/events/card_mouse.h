@@ -1,7 +1,7 @@
 // The mouse on bare card: setting marks, and dragging the card.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -10,8 +10,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "text/edit_box.h"
-#include "toolkit/ansi.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // Opening a text field for editing.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

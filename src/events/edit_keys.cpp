@@ -13,11 +13,10 @@
 #include "text/escapes.h"
 #include "text/fit_text.h"
 #include "text/styles.h"
-#include "toolkit/clipboard.h"
-#include "toolkit/dialog.h"
-#include "toolkit/key.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/input/clipboard.h"
+#include "toolkit/window/popup_menu.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // What the keys and the mouse do in an open field.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

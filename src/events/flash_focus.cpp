@@ -3,8 +3,8 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "marks/move_card.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // Showing for a moment where the keyboard is.
 #pragma once
 
-#include "toolkit/screen.h"
+#include "toolkit/window/cursor.h"
 
 namespace zev {
 

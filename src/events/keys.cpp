@@ -9,9 +9,8 @@
 #include "form/zevlin.h"
 #include "help/help_page.h"
 #include "marks/move_card.h"
-#include "toolkit/key.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/number_text.h"
 #include "view/fit.h"
 #include "view/zoom.h"
 

@@ -1,7 +1,7 @@
 // The keys of the form and of the card.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -8,7 +8,7 @@
 #include "form/panels.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

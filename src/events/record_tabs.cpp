@@ -3,8 +3,8 @@
 #include "events/flash_focus.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/dialog.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/dialog.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // Recording a TAB sequence by clicking on the fields in their order.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

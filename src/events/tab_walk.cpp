@@ -12,8 +12,8 @@
 #include "layout/field.h"
 #include "marks/move_card.h"
 #include "text/edit_box.h"
-#include "toolkit/number_text.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/cursor.h"
 
 namespace zev {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "form/slots.h"
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

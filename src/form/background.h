@@ -1,7 +1,7 @@
 // What the form shows round the card.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

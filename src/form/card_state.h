@@ -8,10 +8,10 @@
 
 #include "card/card_file.h"
 #include "card/file_state.h"
-#include "toolkit/alarm.h"
-#include "toolkit/control.h"
-#include "toolkit/file_lock.h"
-#include "toolkit/panel.h"
+#include "toolkit/base/file_lock.h"
+#include "toolkit/model/control.h"
+#include "toolkit/model/panel.h"
+#include "toolkit/window/alarm.h"
 
 namespace zev {
 

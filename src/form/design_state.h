@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -1,7 +1,7 @@
 #include "form/field_values.h"
 
 #include "form/zevlin.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 

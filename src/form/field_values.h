@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/color.h"
-#include "toolkit/error.h"
-#include "toolkit/label.h"
+#include "toolkit/base/color.h"
+#include "toolkit/base/error.h"
+#include "toolkit/model/label.h"
 
 namespace zev {
 

@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/dialog.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // The help page's share of the form's state.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "layout/tab_table.h"
-#include "toolkit/color.h"
+#include "toolkit/base/color.h"
 
 namespace zev {
 

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/control.h"
-#include "toolkit/control_array.h"
-#include "toolkit/label.h"
-#include "toolkit/screen.h"
+#include "toolkit/model/control.h"
+#include "toolkit/model/control_array.h"
+#include "toolkit/model/label.h"
+#include "toolkit/window/cursor.h"
 
 namespace zev {
 

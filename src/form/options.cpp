@@ -8,11 +8,14 @@
 #include "form/printer_facts.h"
 #include "form/services.h"
 #include "form/trace.h"
+#include "form/write_options.h"
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/screen.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 #include "form/options_file.h"
 
-#include "toolkit/ansi.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

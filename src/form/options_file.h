@@ -6,8 +6,8 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/printer.h"
-#include "toolkit/system.h"
+#include "toolkit/base/system.h"
+#include "toolkit/print/printer.h"
 
 namespace zev {
 
@@ -68,8 +68,5 @@ struct OptionsDocument {
     std::string memoryLoad; ///< with its unit
     toolkit::MemoryUsage usage;
 };
-
-/// The whole file, byte for byte, with CR LF line ends.
-[[nodiscard]] std::string writeOptions(const OptionsDocument& document);
 
 } // namespace zev

@@ -6,10 +6,10 @@
 #include <string>
 
 #include "form/options_file.h"
-#include "toolkit/control.h"
-#include "toolkit/print_job.h"
-#include "toolkit/printer.h"
-#include "toolkit/printer_question.h"
+#include "toolkit/model/control.h"
+#include "toolkit/print/print_job.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printer_question.h"
 
 namespace zev {
 

@@ -1,9 +1,9 @@
 // How the panels over the form look: alike, and measured by the text font.
 #pragma once
 
-#include "toolkit/color.h"
-#include "toolkit/control.h"
-#include "toolkit/font.h"
+#include "toolkit/base/color.h"
+#include "toolkit/model/control.h"
+#include "toolkit/text/font.h"
 
 namespace zev {
 

@@ -1,7 +1,7 @@
 // What lies over the form besides the card.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "form/zevlin.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
 
 namespace zev {
 namespace {

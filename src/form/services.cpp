@@ -4,8 +4,8 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/version.h"
-#include "toolkit/number_text.h"
-#include "toolkit/system.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/system.h"
 
 namespace zev {
 

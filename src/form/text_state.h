@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/control.h"
-#include "toolkit/control_array.h"
-#include "toolkit/label.h"
+#include "toolkit/model/control.h"
+#include "toolkit/model/control_array.h"
+#include "toolkit/model/label.h"
 
 namespace zev {
 

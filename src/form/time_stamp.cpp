@@ -6,7 +6,7 @@
 #include "form/settings.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/clock.h"
+#include "toolkit/base/clock.h"
 
 namespace zev {
 namespace {

@@ -3,12 +3,14 @@
 #include <algorithm>
 
 #include "form/zevlin.h"
-#include "toolkit/ansi.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
-#include "toolkit/system.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/base/system.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace zev {
 

@@ -6,11 +6,11 @@
 #include <optional>
 #include <string>
 
-#include "toolkit/control.h"
-#include "toolkit/control_array.h"
-#include "toolkit/form.h"
-#include "toolkit/label.h"
-#include "toolkit/panel.h"
+#include "toolkit/model/control.h"
+#include "toolkit/model/control_array.h"
+#include "toolkit/model/form.h"
+#include "toolkit/model/label.h"
+#include "toolkit/model/panel.h"
 #include "view/card_picture.h"
 #include "view/row_work.h"
 #include "view/scale_picture.h"

@@ -1,8 +1,9 @@
+#include "form/write_options.h"
+
 #include <cmath>
 
-#include "form/options_file.h"
-#include "toolkit/application.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/application.h"
 
 namespace zev {
 namespace {

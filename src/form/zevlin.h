@@ -10,7 +10,7 @@
 #include "form/output_state.h"
 #include "form/text_state.h"
 #include "form/view_state.h"
-#include "toolkit/form.h"
+#include "toolkit/model/form.h"
 
 namespace zev {
 

@@ -7,9 +7,9 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "help/help_text.h"
-#include "toolkit/ansi.h"
-#include "toolkit/key.h"
-#include "toolkit/program.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

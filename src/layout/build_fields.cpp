@@ -15,9 +15,9 @@
 #include "layout/read_comment.h"
 #include "layout/text_fields.h"
 #include "text/set_sym.h"
-#include "toolkit/ansi.h"
-#include "toolkit/files.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/path_text.h"
 
 namespace zev {
 namespace {

@@ -5,7 +5,8 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/ink.h"
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/text/draw_text.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // Measuring where the ink of marks and text falls inside their labels on this machine.
 #pragma once
 
-#include "toolkit/label.h"
+#include "toolkit/model/label.h"
 
 namespace zev {
 

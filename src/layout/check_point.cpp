@@ -9,7 +9,8 @@
 #include "form/zevlin.h"
 #include "layout/layout_text.h"
 #include "layout/save_layout.h"
-#include "toolkit/files.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
 
 namespace zev {
 namespace {

@@ -9,11 +9,12 @@
 #include "layout/layout_file.h"
 #include "layout/layout_text.h"
 #include "layout/version.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

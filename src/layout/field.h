@@ -1,8 +1,8 @@
 // What is a field of the card, and what only keeps the numbers of the others.
 #pragma once
 
-#include "toolkit/control_array.h"
-#include "toolkit/label.h"
+#include "toolkit/model/control_array.h"
+#include "toolkit/model/label.h"
 
 namespace zev {
 

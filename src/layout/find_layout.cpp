@@ -9,11 +9,14 @@
 #include "layout/initialize_run.h"
 #include "layout/layout_file.h"
 #include "layout/layout_text.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/files.h"
-#include "toolkit/number_text.h"
-#include "toolkit/program.h"
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/program.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev {
 namespace {

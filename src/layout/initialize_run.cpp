@@ -1,7 +1,7 @@
 #include "layout/initialize_run.h"
 
 #include "form/trace.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 

@@ -6,7 +6,7 @@
 
 #include "form/file_failures.h"
 #include "layout/layout_file.h"
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace zev {
 

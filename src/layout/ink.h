@@ -3,7 +3,7 @@
 
 #include <optional>
 
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace zev {
 

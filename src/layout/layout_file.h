@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "layout/tab_table.h"
-#include "toolkit/text_input.h"
+#include "toolkit/base/text_input.h"
 
 namespace zev {
 
@@ -82,8 +82,5 @@ struct LayoutDocument {
     std::vector<FieldRecord> texts;
     const TabTable* tabTable = nullptr;
 };
-
-/// The whole file, byte for byte, with CR LF line ends. An empty tab table leaves out the tab part.
-[[nodiscard]] std::string writeLayout(const LayoutDocument& document);
 
 } // namespace zev

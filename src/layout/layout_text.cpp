@@ -5,8 +5,9 @@
 #include "form/zevlin.h"
 #include "layout/layout_file.h"
 #include "layout/pixels.h"
-#include "toolkit/ansi.h"
-#include "toolkit/screen.h"
+#include "layout/write_layout.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/window/screen.h"
 
 namespace zev {
 namespace {

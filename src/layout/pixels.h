@@ -1,7 +1,7 @@
 // Between twips and the whole pixels of the layout file.
 #pragma once
 
-#include "toolkit/color.h"
+#include "toolkit/base/color.h"
 
 namespace zev {
 

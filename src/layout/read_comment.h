@@ -1,7 +1,7 @@
 // Moving an open file to its next data line, under the form's eyes.
 #pragma once
 
-#include "toolkit/text_input.h"
+#include "toolkit/base/text_input.h"
 
 namespace zev {
 

@@ -8,8 +8,10 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/layout_text.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

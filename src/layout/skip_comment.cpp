@@ -1,6 +1,6 @@
 #include "layout/skip_comment.h"
 
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 namespace zev {
 namespace {

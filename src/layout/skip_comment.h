@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "toolkit/text_input.h"
+#include "toolkit/base/text_input.h"
 
 namespace zev {
 

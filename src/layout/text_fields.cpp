@@ -9,7 +9,7 @@
 #include "layout/field.h"
 #include "layout/initialize_run.h"
 #include "layout/layout_file.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -1,6 +1,6 @@
 #include "layout/version.h"
 
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 namespace zev {
 

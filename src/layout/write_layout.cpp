@@ -1,7 +1,8 @@
+#include "layout/write_layout.h"
+
 #include <cstddef>
 
-#include "layout/layout_file.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

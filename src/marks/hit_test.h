@@ -3,8 +3,8 @@
 
 #include <optional>
 
-#include "toolkit/control_array.h"
-#include "toolkit/label.h"
+#include "toolkit/model/control_array.h"
+#include "toolkit/model/label.h"
 
 namespace zev {
 

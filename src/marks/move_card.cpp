@@ -6,9 +6,9 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/key.h"
-#include "toolkit/number_text.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/window/cursor.h"
 #include "view/task_bar.h"
 
 namespace zev {

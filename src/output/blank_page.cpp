@@ -5,7 +5,7 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/twips.h"
 
 namespace zev {
 namespace {

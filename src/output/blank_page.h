@@ -3,8 +3,6 @@
 
 #include <string_view>
 
-#include "toolkit/bitmap.h"
-
 namespace toolkit {
 struct PictureBox;
 }

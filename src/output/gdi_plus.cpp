@@ -5,8 +5,10 @@
 #include <exception>
 #include <utility>
 
-#include "toolkit/ansi.h"
-#include "toolkit/error.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/error.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/picture/bitmap_file.h"
 
 namespace zev {
 namespace {

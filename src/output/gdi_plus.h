@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "toolkit/image_codecs.h"
+#include "toolkit/picture/image_codecs.h"
 
 namespace zev {
 

@@ -1,7 +1,7 @@
 // A picture in shades of grey.
 #pragma once
 
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace zev {
 

@@ -1,6 +1,6 @@
 #include "output/image_name.h"
 
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 namespace zev {
 

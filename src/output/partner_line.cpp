@@ -1,6 +1,6 @@
 #include "output/partner_line.h"
 
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 namespace zev {
 namespace {

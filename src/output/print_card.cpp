@@ -18,9 +18,9 @@
 #include "output/print_picture.h"
 #include "output/printed_size.h"
 #include "text/edit_box.h"
-#include "toolkit/dialog.h"
-#include "toolkit/flattened_card.h"
-#include "toolkit/program.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/flattened_card.h"
+#include "toolkit/window/program.h"
 #include "view/image_size.h"
 #include "view/rebuild.h"
 

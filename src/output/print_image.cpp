@@ -4,7 +4,7 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

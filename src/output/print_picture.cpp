@@ -11,11 +11,11 @@
 #include "output/print_image.h"
 #include "output/printed_size.h"
 #include "output/save_image.h"
-#include "toolkit/ansi.h"
-#include "toolkit/clipboard.h"
-#include "toolkit/dialog.h"
-#include "toolkit/flattened_card.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/flattened_card.h"
+#include "toolkit/window/input/clipboard.h"
 #include "view/image_size.h"
 
 namespace zev {

@@ -4,8 +4,8 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/printers.h"
-#include "toolkit/program.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

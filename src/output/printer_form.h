@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "toolkit/modal_form.h"
-#include "toolkit/printer.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/window/modal_form.h"
 
 namespace zev {
 

@@ -8,10 +8,10 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "output/printer_form.h"
-#include "toolkit/number_text.h"
-#include "toolkit/print_dialog.h"
-#include "toolkit/printers.h"
-#include "toolkit/program.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/print/print_dialog.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {

@@ -7,10 +7,10 @@
 #include "form/zevlin.h"
 #include "output/gdi_plus.h"
 #include "output/image_name.h"
-#include "toolkit/ansi.h"
-#include "toolkit/dialog.h"
-#include "toolkit/image_codecs.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/base/path_text.h"
+#include "toolkit/picture/image_codecs.h"
+#include "toolkit/window/dialog.h"
 
 namespace zev {
 namespace {

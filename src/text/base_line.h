@@ -1,7 +1,7 @@
 // Where a field's text stands over the line printed for it.
 #pragma once
 
-#include "toolkit/label.h"
+#include "toolkit/model/label.h"
 
 namespace zev {
 

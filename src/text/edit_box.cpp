@@ -11,7 +11,7 @@
 #include "text/fit.h"
 #include "text/fit_text.h"
 #include "text/set_sym.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <functional>
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

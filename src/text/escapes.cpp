@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 namespace zev {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/font.h"
+#include "toolkit/text/font.h"
 
 namespace zev {
 

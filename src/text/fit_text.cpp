@@ -4,7 +4,7 @@
 #include "form/zevlin.h"
 #include "text/base_line.h"
 #include "text/fit.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

@@ -1,7 +1,7 @@
 // Finding the font in which a field's text fits.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -9,7 +9,7 @@
 #include "form/zevlin.h"
 #include "layout/field.h"
 #include "text/escapes.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

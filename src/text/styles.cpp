@@ -13,8 +13,7 @@
 #include "text/edit_box.h"
 #include "text/escapes.h"
 #include "text/fit_text.h"
-#include "toolkit/clipboard.h"
-#include "toolkit/dialog.h"
+#include "toolkit/window/input/clipboard.h"
 
 namespace zev {
 namespace {

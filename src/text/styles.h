@@ -1,7 +1,7 @@
 // A field's own style, its one level of undo, and the private clipboard.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 
 namespace zev {
 

@@ -2,7 +2,9 @@
 
 #include <utility>
 
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/bitmap_file.h"
+#include "toolkit/picture/embedded_file.h"
+#include "toolkit/picture/indexed_picture.h"
 #include "view/halve_picture.h"
 #include "view/scale_picture.h"
 

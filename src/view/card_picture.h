@@ -5,7 +5,7 @@
 #include <memory>
 #include <optional>
 
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace zev {
 

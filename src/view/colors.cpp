@@ -7,7 +7,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {

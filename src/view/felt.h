@@ -1,7 +1,7 @@
 // The pattern of the window's background.
 #pragma once
 
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace zev {
 

@@ -3,7 +3,6 @@
 #include "form/time_stamp.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/screen.h"
 #include "view/rebuild.h"
 #include "view/task_bar.h"
 #include "view/zoom_run.h"

@@ -1,7 +1,7 @@
 // The next smaller step of the pyramid of halves.
 #pragma once
 
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace zev {
 

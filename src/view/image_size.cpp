@@ -8,8 +8,7 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/number_text.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/number_text.h"
 #include "view/scale_picture.h"
 
 namespace zev {

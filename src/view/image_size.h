@@ -1,7 +1,7 @@
 // The card's picture at the size of the view.
 #pragma once
 
-#include "toolkit/control.h"
+#include "toolkit/model/control.h"
 #include "view/card_picture.h"
 
 namespace zev {

@@ -16,7 +16,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "text/edit_box.h"
-#include "toolkit/files.h"
+#include "toolkit/base/files.h"
 #include "view/image_size.h"
 
 namespace zev {

@@ -5,8 +5,8 @@
 #include <memory>
 #include <utility>
 
-#include "toolkit/bitmap.h"
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/indexed_picture.h"
 #include "view/row_work.h"
 
 namespace zev {

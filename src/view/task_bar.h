@@ -1,7 +1,7 @@
 // The task bar's place.
 #pragma once
 
-#include "toolkit/screen.h"
+#include "toolkit/window/screen.h"
 
 namespace zev {
 

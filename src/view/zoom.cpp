@@ -4,7 +4,7 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "toolkit/program.h"
+#include "toolkit/window/program.h"
 #include "view/rebuild.h"
 #include "view/zoom_run.h"
 

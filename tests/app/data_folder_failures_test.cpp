@@ -1,9 +1,11 @@
 #include "app/data_folder.h"
 #include "app/layouts.h"
 #include "form/settings.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
-#include "toolkit/program_overrides.h"
+#include "layout/write_layout.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/program_overrides.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

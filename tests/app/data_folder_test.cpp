@@ -1,8 +1,10 @@
 #include "app/data_folder.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 #include "app/layouts.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

@@ -3,7 +3,10 @@
 
 #include "card/chooser.h"
 #include "support/form_test.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
 namespace {

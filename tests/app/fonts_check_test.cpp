@@ -1,7 +1,9 @@
 #include <cmath>
 
 #include "app/layouts.h"
-#include "toolkit/bitmap.h"
+#include "form/write_options.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/bitmap_file.h"
 
 namespace zev::test {
 namespace {

@@ -1,9 +1,11 @@
 #include "app/form_load.h"
 #include "app/layouts.h"
+#include "card/write_card.h"
 #include "form/settings.h"
-#include "toolkit/files.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
+#include "layout/write_layout.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
 
 namespace zev::test {
 namespace {

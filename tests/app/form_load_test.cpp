@@ -1,11 +1,17 @@
 #include "app/form_load.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 #include "app/layouts.h"
 #include "card/lifecycle.h"
-#include "toolkit/bitmap.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/bitmap_file.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,6 +1,7 @@
 #include "app/hooks.h"
 
 #include "support/form_test.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
 namespace {

@@ -4,8 +4,11 @@
 #include "app/initialize.h"
 #include "app/layouts.h"
 #include "app/read_options.h"
+#include "card/write_card.h"
 #include "form/options.h"
-#include "toolkit/files.h"
+#include "layout/write_layout.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/dialog_answers.h"
 
 namespace zev::test {
 namespace {

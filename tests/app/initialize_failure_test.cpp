@@ -1,8 +1,8 @@
 #include "app/layouts.h"
 #include "form/settings.h"
 #include "layout/layout_text.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "layout/write_layout.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

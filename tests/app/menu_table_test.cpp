@@ -1,4 +1,5 @@
 #include "app/menu_table.h"
+#include "layout/write_layout.h"
 
 #include <algorithm>
 #include <set>
@@ -7,7 +8,9 @@
 #include "card/lifecycle.h"
 #include "card/save.h"
 #include "layout/save_layout.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 #include "view/color_panel.h"
 
 namespace zev::test {

@@ -6,7 +6,7 @@
 #include "app/form_load.h"
 #include "app/wiring.h"
 #include "form/zevlin.h"
-#include "toolkit/window.h"
+#include "toolkit/window/window.h"
 
 namespace zev::test {
 

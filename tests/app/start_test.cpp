@@ -1,6 +1,8 @@
 #include "support/form_test.h"
-#include "toolkit/key.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/window/screen.h"
 
 namespace zev::test {
 namespace {

@@ -1,12 +1,17 @@
 #include "app/unload.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 #include <algorithm>
 
 #include "app/layouts.h"
-#include "toolkit/files.h"
-#include "toolkit/print_dialog.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/print_dialog.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

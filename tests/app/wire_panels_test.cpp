@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "support/form_test.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

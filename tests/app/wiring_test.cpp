@@ -1,7 +1,9 @@
 #include "app/wiring.h"
+#include "layout/write_layout.h"
 
 #include "app/layouts.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace zev::test {
 namespace {

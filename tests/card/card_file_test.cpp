@@ -1,9 +1,10 @@
 #include "card/card_file.h"
+#include "card/write_card.h"
 
 #include <gtest/gtest.h>
 
 #include "layout/skip_comment.h"
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace zev {
 namespace {

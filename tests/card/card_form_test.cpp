@@ -1,4 +1,9 @@
 #include "card_form_test.h"
+#include "card/write_card.h"
+#include "layout/write_layout.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 #include <algorithm>
 

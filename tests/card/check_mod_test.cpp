@@ -2,6 +2,8 @@
 
 #include "card/check_mod.h"
 #include "card_form_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,12 @@
 // What mouse and keys do on the chooser's panel.
 #include "card/chooser_events.h"
+#include "card/write_card.h"
 
 #include "chooser_form_test.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

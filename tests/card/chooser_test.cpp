@@ -1,11 +1,17 @@
 // Showing the chooser and taking its name.
 #include "card/chooser.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
 
 #include <filesystem>
 
 #include "card/lifecycle.h"
 #include "card/save.h"
 #include "chooser_form_test.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,8 @@
 #include "card/file_seen.h"
+#include "card/write_card.h"
 
 #include "card_form_test.h"
-#include "toolkit/files.h"
+#include "toolkit/base/write_file.h"
 
 namespace zev::test {
 namespace {

@@ -2,7 +2,10 @@
 #include <random>
 
 #include "card/load.h"
+#include "card/write_card.h"
 #include "card_form_test.h"
+#include "form/write_options.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

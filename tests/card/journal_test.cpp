@@ -7,9 +7,12 @@
 #include "card/save.h"
 #include "card_form_test.h"
 #include "support/immutable_folder.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
-#include "toolkit/program.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/program.h"
 
 namespace zev::test {
 namespace {

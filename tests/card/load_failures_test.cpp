@@ -1,4 +1,5 @@
 #include "card/load.h"
+#include "card/write_card.h"
 #include "card_form_test.h"
 
 namespace zev::test {

@@ -1,4 +1,6 @@
 #include "card/load.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
 
 #include "card_form_test.h"
 

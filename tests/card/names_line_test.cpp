@@ -1,4 +1,6 @@
 #include "card/names_line.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 #include "card_form_test.h"
 

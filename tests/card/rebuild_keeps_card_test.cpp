@@ -1,7 +1,7 @@
 #include "card/document.h"
 #include "card/save.h"
 #include "card_form_test.h"
-#include "toolkit/files.h"
+#include "toolkit/base/folder.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

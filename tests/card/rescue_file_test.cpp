@@ -1,8 +1,9 @@
 #include "card/rescue_file.h"
+#include "card/write_card.h"
 
 #include <gtest/gtest.h>
 
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace zev {
 namespace {

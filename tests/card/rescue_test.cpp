@@ -1,9 +1,14 @@
 #include "card/rescue.h"
+#include "card/write_card.h"
 
 #include "app/second_run.h"
 #include "card_form_test.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/dialog_answers.h"
 
 namespace zev::test {
 namespace {

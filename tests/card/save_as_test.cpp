@@ -1,6 +1,6 @@
 #include "card/save.h"
+#include "card/write_card.h"
 #include "card_form_test.h"
-#include "toolkit/files.h"
 
 namespace zev::test {
 namespace {

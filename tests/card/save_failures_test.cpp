@@ -2,7 +2,6 @@
 
 #include "card/save.h"
 #include "card_form_test.h"
-#include "toolkit/files.h"
 
 namespace zev::test {
 namespace {

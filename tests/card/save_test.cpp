@@ -1,8 +1,10 @@
 #include "card/save.h"
+#include "card/write_card.h"
 
 #include "card_form_test.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace zev::test {
 namespace {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "card/card_file.h"
+#include "card/write_card.h"
 #include "layout/skip_comment.h"
 
 namespace zev {

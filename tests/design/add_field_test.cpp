@@ -1,6 +1,9 @@
 #include "design/add_field.h"
+#include "layout/write_layout.h"
 
 #include "design/design_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

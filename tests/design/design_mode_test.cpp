@@ -4,6 +4,8 @@
 
 #include "card/save.h"
 #include "design/design_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -3,6 +3,8 @@
 #include "design/design_test.h"
 #include "events/mark_clicks.h"
 #include "form/field_values.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
 namespace {

@@ -1,6 +1,7 @@
 #include "design/field_colors.h"
 
 #include "design/design_test.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
 namespace {

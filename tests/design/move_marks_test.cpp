@@ -1,10 +1,11 @@
 #include "design/move_marks.h"
+#include "form/write_options.h"
 
 #include <vector>
 
 #include "design/design_test.h"
-#include "toolkit/key.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace zev::test {
 namespace {

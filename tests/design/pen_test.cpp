@@ -1,6 +1,7 @@
 #include "design/pen.h"
 
 #include "support/form_test.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

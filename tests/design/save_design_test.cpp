@@ -2,6 +2,7 @@
 // anew.
 #include "design/design_test.h"
 #include "layout/save_layout.h"
+#include "toolkit/testing/test_window.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

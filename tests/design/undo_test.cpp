@@ -1,6 +1,7 @@
 #include "design/undo.h"
 
 #include "design/design_test.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace zev::test {
 namespace {

@@ -1,6 +1,7 @@
 #include "events/card_mouse.h"
 
 #include "text/edit_test.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
 namespace {

@@ -3,6 +3,9 @@
 #include <cmath>
 
 #include "text/edit_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/window/cursor.h"
 
 namespace zev::test {
 namespace {

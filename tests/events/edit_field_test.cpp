@@ -4,6 +4,9 @@
 #include "text/edit_box.h"
 #include "text/edit_test.h"
 #include "text/set_sym.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

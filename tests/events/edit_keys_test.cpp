@@ -1,6 +1,9 @@
 #include "events/edit_keys.h"
 
 #include "text/edit_test.h"
+#include "toolkit/testing/test_clipboard.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

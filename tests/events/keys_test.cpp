@@ -1,7 +1,8 @@
 #include "events/keys.h"
 
 #include "text/edit_test.h"
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace zev::test {
 namespace {

@@ -4,6 +4,9 @@
 #include <vector>
 
 #include "text/edit_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -3,6 +3,12 @@
 #include "events/edit_field.h"
 #include "events/mark_clicks.h"
 #include "text/edit_test.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
+#include "toolkit/window/dialog_answers.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

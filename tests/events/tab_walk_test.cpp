@@ -3,6 +3,12 @@
 #include "events/flash_focus.h"
 #include "events/keys.h"
 #include "text/edit_test.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
+#include "toolkit/window/screen.h"
 
 namespace zev::test {
 namespace {

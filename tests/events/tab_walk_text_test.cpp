@@ -1,6 +1,10 @@
 
 #include "events/flash_focus.h"
 #include "text/edit_test.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
 
 namespace zev::test {
 namespace {

@@ -6,8 +6,10 @@
 #include <utility>
 
 #include "app/second_run.h"
-#include "toolkit/clock.h"
-#include "toolkit/program.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/dialog_answers.h"
+#include "toolkit/window/shell_folders.h"
 
 /// The painting of the platform deals its work to threads, which a forked process doesn't have:
 /// here it does the work at once.

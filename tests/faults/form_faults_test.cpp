@@ -2,12 +2,15 @@
 #include <algorithm>
 
 #include "app/second_run.h"
+#include "card/write_card.h"
 #include "faults/fault_test.h"
 #include "faults/faults.h"
 #include "output/export_card.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
-#include "toolkit/program.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

@@ -9,7 +9,9 @@
 
 #include <gtest/gtest.h>
 
-#include "toolkit/files.h"
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/temporary_folder.h"
 
 namespace test_faults {

@@ -6,8 +6,9 @@
 
 #include "faults/faults.h"
 #include "faults/power_cut.h"
-#include "toolkit/error.h"
-#include "toolkit/files.h"
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/error.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/temporary_folder.h"
 
 namespace test_faults {

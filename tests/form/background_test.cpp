@@ -1,6 +1,8 @@
 #include "form/background.h"
+#include "form/write_options.h"
 
 #include "app/layouts.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,9 @@
 // A build of the developers' own: this program has the services of one.
 #include "app/form_load.h"
 #include "support/form_test.h"
-#include "toolkit/files.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,3 +1,4 @@
+#include "card/write_card.h"
 #include "form/empty_operations.h"
 
 #include "card/document.h"

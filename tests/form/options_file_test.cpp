@@ -1,4 +1,5 @@
 #include "form/options_file.h"
+#include "form/write_options.h"
 
 #include <gtest/gtest.h>
 

@@ -3,11 +3,12 @@
 #include "app/read_options.h"
 #include "app/second_run.h"
 #include "form/options.h"
-#include "toolkit/application.h"
-#include "toolkit/files.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
-#include "toolkit/program.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/window/application.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

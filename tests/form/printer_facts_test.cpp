@@ -1,8 +1,8 @@
 #include "form/printer_facts.h"
 
 #include "support/form_test.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
 
 namespace zev::test {
 namespace {

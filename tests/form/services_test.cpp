@@ -5,8 +5,8 @@
 #include "form/trace.h"
 #include "layout/version.h"
 #include "support/form_test.h"
-#include "toolkit/error.h"
-#include "toolkit/system.h"
+#include "toolkit/base/error.h"
+#include "toolkit/base/system.h"
 
 namespace zev::test {
 namespace {

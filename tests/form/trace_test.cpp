@@ -1,14 +1,18 @@
 #include "form/trace.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 #include <algorithm>
 #include <chrono>
 #include <sstream>
 
 #include "app/layouts.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
-#include "toolkit/program.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

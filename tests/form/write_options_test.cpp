@@ -1,7 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "form/options_file.h"
-#include "toolkit/application.h"
+#include "form/write_options.h"
+#include "toolkit/window/application.h"
 
 namespace zev {
 namespace {

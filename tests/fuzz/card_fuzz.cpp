@@ -5,9 +5,10 @@
 #include <cstdlib>
 
 #include "card/card_file.h"
+#include "card/write_card.h"
 #include "layout/skip_comment.h"
 #include "text/escapes.h"
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace {
 

@@ -8,7 +8,8 @@
 #include "layout/pixels.h"
 #include "layout/skip_comment.h"
 #include "layout/version.h"
-#include "toolkit/error.h"
+#include "layout/write_layout.h"
+#include "toolkit/base/error.h"
 
 namespace {
 

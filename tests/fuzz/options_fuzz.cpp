@@ -5,7 +5,7 @@
 
 #include "form/options_file.h"
 #include "layout/skip_comment.h"
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 namespace {
 

@@ -6,9 +6,8 @@
 
 #include "form/settings.h"
 #include "form/zevlin.h"
-#include "toolkit/key.h"
-#include "toolkit/program.h"
-#include "toolkit/program_overrides.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/program_overrides.h"
 
 namespace {
 

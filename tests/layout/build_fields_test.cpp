@@ -1,6 +1,9 @@
 #include "app/layouts.h"
 #include "app/second_run.h"
+#include "form/write_options.h"
 #include "layout/save_layout.h"
+#include "layout/write_layout.h"
+#include "toolkit/window/screen.h"
 
 namespace zev::test {
 namespace {

@@ -3,7 +3,8 @@
 #include <cmath>
 
 #include "support/form_test.h"
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/text/draw_text.h"
 
 namespace zev::test {
 namespace {

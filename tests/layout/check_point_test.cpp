@@ -1,8 +1,9 @@
 #include "layout/check_point.h"
+#include "layout/write_layout.h"
 
 #include "layout/save_layout.h"
 #include "support/form_test.h"
-#include "toolkit/files.h"
+#include "toolkit/base/write_file.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

@@ -1,9 +1,12 @@
 #include "layout/check_update.h"
+#include "layout/write_layout.h"
 
 #include "support/form_test.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/screen.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

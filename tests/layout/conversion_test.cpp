@@ -1,9 +1,11 @@
 // Layouts of the real card on screens of 96, 110 and 120 dots per inch.
 #include "app/second_run.h"
+#include "layout/write_layout.h"
 #include "support/form_test.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/window/screen.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

@@ -1,8 +1,14 @@
 // Fields that no record stands for: they keep the numbers of the others and nothing else.
+#include "card/write_card.h"
 #include "layout/field.h"
+#include "layout/write_layout.h"
 
 #include "app/layouts.h"
 #include "text/edit_test.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

@@ -1,8 +1,12 @@
 #include "app/layouts.h"
 #include "app/second_run.h"
 #include "form/settings.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/screen.h"
+#include "toolkit/window/shell_folders.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

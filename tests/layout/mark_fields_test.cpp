@@ -1,4 +1,7 @@
 #include "app/layouts.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
+#include "toolkit/window/screen.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

@@ -1,6 +1,7 @@
 #include "layout/position.h"
 
 #include "support/form_test.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace zev::test {
 namespace {

@@ -1,5 +1,7 @@
 #include "app/initialize.h"
+#include "form/write_options.h"
 #include "layout/save_layout.h"
+#include "layout/write_layout.h"
 #include "support/form_test.h"
 #include "view/rebuild.h"
 

@@ -1,7 +1,8 @@
 
+#include "form/write_options.h"
 #include "layout/save_layout.h"
+#include "layout/write_layout.h"
 #include "support/form_test.h"
-#include "toolkit/files.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

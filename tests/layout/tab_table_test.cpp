@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace zev {
 namespace {

@@ -1,6 +1,8 @@
 #include <algorithm>
 
 #include "app/layouts.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

@@ -2,6 +2,7 @@
 
 #include "layout/layout_file.h"
 #include "layout/skip_comment.h"
+#include "layout/write_layout.h"
 
 namespace zev {
 namespace {

@@ -1,6 +1,7 @@
 #include "marks/move_card.h"
 
 #include "text/edit_test.h"
+#include "toolkit/window/screen.h"
 
 namespace zev::test {
 namespace {

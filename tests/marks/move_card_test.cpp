@@ -1,6 +1,12 @@
 #include "marks/move_card.h"
 
 #include "text/edit_test.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
+#include "toolkit/window/screen.h"
 
 namespace zev::test {
 namespace {

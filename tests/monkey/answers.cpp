@@ -3,8 +3,12 @@
 #include <array>
 
 #include "monkey/monkey.h"
-#include "toolkit/ansi.h"
-#include "toolkit/key.h"
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -6,8 +6,8 @@
 #include "card/document.h"
 #include "card/rescue_file.h"
 #include "monkey/monkey.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/files.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

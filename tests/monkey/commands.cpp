@@ -6,13 +6,18 @@
 
 #include "card/card_file.h"
 #include "monkey/monkey.h"
-#include "toolkit/clipboard.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
-#include "toolkit/print_dialog.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/key.h"
+#include "toolkit/print/print_dialog.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_dialogs.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/input/clipboard.h"
 
 namespace zev::test {
 namespace {

@@ -3,8 +3,10 @@
 
 #include "card/document.h"
 #include "monkey/monkey.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

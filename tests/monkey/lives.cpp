@@ -7,9 +7,11 @@
 #include "app/form_load.h"
 #include "app/wiring.h"
 #include "card/journal.h"
+#include "card/write_card.h"
 #include "monkey/monkey.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/program.h"
 
 namespace zev::test {
 namespace {

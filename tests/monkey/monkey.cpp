@@ -1,18 +1,25 @@
 // The monkey's home, its dice, and the course of its events.
 #include "monkey/monkey.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 #include <algorithm>
 #include <array>
 #include <iostream>
 
 #include "monkey/small_card.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/gif_file.h"
-#include "toolkit/print_dialog.h"
-#include "toolkit/printer.h"
-#include "toolkit/program.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/picture/gif_file.h"
+#include "toolkit/print/print_dialog.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/testing/test_clipboard.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/dialog_answers.h"
+#include "toolkit/window/program.h"
+#include "toolkit/window/screen.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

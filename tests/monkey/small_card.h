@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "support/form_test.h"
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/indexed_picture.h"
 
 namespace zev::test {
 

@@ -1,12 +1,18 @@
 // The program goes on for hours: what it does over and over keeps no memory. A longer run is the
 // benchmark "soak".
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "monkey/heap.h"
 #include "monkey/small_card.h"
 #include "support/form_test.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/gif_file.h"
-#include "toolkit/key.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/picture/gif_file.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -9,8 +9,9 @@
 #include <sys/resource.h>
 
 #include "card/save.h"
-#include "toolkit/files.h"
-#include "toolkit/program.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

@@ -5,9 +5,12 @@
 
 #include "marks/hit_test.h"
 #include "monkey/monkey.h"
-#include "toolkit/clipboard.h"
-#include "toolkit/key.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_clipboard.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/window/cursor.h"
+#include "toolkit/window/input/clipboard.h"
 
 namespace zev::test {
 namespace {

@@ -1,8 +1,13 @@
+#include "form/write_options.h"
 #include "output/export_card.h"
 
 #include "output/print_test.h"
-#include "toolkit/bitmap.h"
-#include "toolkit/printers.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/bitmap_file.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_clipboard.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/screen.h"
 #include "view/halve_picture.h"
 
 namespace zev::test {

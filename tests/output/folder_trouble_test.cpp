@@ -6,10 +6,15 @@
 
 #include "card/document.h"
 #include "card/save.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
 #include "output/print_test.h"
 #include "support/immutable_folder.h"
 #include "support/small_disk.h"
-#include "toolkit/program.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace {

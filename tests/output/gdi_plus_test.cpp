@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/system.h"
-#include "toolkit/files.h"
+#include "toolkit/base/files.h"
 
 namespace zev {
 namespace {

@@ -4,6 +4,8 @@
 
 #include "card/save.h"
 #include "output/print_test.h"
+#include "toolkit/testing/test_clipboard.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,9 +1,13 @@
+#include "form/write_options.h"
 #include "output/print_card.h"
 
 #include "card/save.h"
 #include "form/options.h"
 #include "output/print_test.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/screen.h"
 #include "view/fit.h"
 
 namespace zev::test {

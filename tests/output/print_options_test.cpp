@@ -1,6 +1,7 @@
 #include "output/print_options.h"
 
 #include "output/print_test.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,10 @@
+#include "card/write_card.h"
 #include "output/print_partner.h"
 
 #include "output/print_test.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

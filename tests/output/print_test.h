@@ -7,9 +7,11 @@
 
 #include "app/layouts.h"
 #include "support/form_test.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/printer.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/files.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 

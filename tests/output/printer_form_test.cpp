@@ -1,8 +1,11 @@
+#include "form/write_options.h"
 #include "output/printer_form.h"
 
 #include "output/print_test.h"
 #include "output/printer_setup.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_dialogs.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -7,9 +7,11 @@
 
 #include "form/printer_facts.h"
 #include "support/form_test.h"
-#include "toolkit/key.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
+#include "toolkit/base/key.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "output/print_test.h"
-#include "toolkit/print_dialog.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/print_dialog.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_dialogs.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

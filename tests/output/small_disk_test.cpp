@@ -7,7 +7,8 @@
 #include "output/print_card.h"
 #include "output/print_test.h"
 #include "support/small_disk.h"
-#include "toolkit/bitmap.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/picture/bitmap_file.h"
 
 namespace zev::test {
 namespace {

@@ -1,4 +1,7 @@
 #include "support/form_test.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -8,14 +11,20 @@
 #include "app/form_load.h"
 #include "app/wiring.h"
 #include "support/system.h"
-#include "toolkit/clock.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
-#include "toolkit/program.h"
-#include "toolkit/program_overrides.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/clock.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/program_overrides.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/dialog_answers.h"
+#include "toolkit/window/program.h"
+#include "toolkit/window/screen.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev::test {
 namespace fs = std::filesystem;

@@ -13,10 +13,11 @@
 #include <gtest/gtest.h>
 
 #include "form/zevlin.h"
-#include "toolkit/dialog.h"
-#include "toolkit/program.h"
-#include "toolkit/test_support.h"
-#include "toolkit/window.h"
+#include "toolkit/testing/test_boxes.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/popup_menu.h"
+#include "toolkit/window/shell_folders.h"
+#include "toolkit/window/window.h"
 
 namespace zev::test {
 

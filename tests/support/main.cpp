@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "support/system.h"
-#include "toolkit/application.h"
-#include "toolkit/window.h"
+#include "toolkit/window/application.h"
+#include "toolkit/window/window.h"
 
 int main(int argumentCount, char** arguments) {
     test_system::presetVariable("QT_QPA_PLATFORM", "offscreen");

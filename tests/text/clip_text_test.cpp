@@ -1,6 +1,9 @@
 // Copy, cut and paste in a field: the private copy, and what goes to and comes from other programs.
 #include "text/edit_test.h"
 #include "text/styles.h"
+#include "toolkit/testing/test_clipboard.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,7 +1,10 @@
 
+#include "card/write_card.h"
 #include "form/modified.h"
 #include "text/edit_box.h"
 #include "text/edit_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

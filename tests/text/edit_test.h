@@ -4,7 +4,9 @@
 #include <string>
 
 #include "support/form_test.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
 

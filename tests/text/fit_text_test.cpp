@@ -1,3 +1,4 @@
+#include "form/write_options.h"
 #include "text/fit_text.h"
 
 #include <cmath>

@@ -1,6 +1,8 @@
 #include "text/set_sym.h"
 
 #include "text/edit_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

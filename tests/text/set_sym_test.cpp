@@ -1,6 +1,10 @@
+#include "card/write_card.h"
 #include "text/set_sym.h"
 
 #include "text/edit_test.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

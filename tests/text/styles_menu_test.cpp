@@ -1,6 +1,8 @@
 // The pop-up menu of an open field: styles, undo, copy and paste as the player chooses them.
 #include "text/edit_test.h"
 #include "text/styles.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

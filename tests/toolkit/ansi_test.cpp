@@ -1,4 +1,4 @@
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 #include <set>
 

@@ -1,4 +1,4 @@
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,4 +1,4 @@
-#include "toolkit/clock.h"
+#include "toolkit/base/clock.h"
 
 #include <ctime>
 

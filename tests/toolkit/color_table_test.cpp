@@ -1,4 +1,4 @@
-#include "toolkit/color_table.h"
+#include "toolkit/picture/color_table.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolkit/color.h"
+#include "toolkit/base/color.h"
 
 #include <gtest/gtest.h>
 

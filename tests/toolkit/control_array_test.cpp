@@ -1,9 +1,9 @@
-#include "toolkit/control_array.h"
+#include "toolkit/model/control_array.h"
 
 #include <gtest/gtest.h>
 
 #include "toolkit/failure_of.h"
-#include "toolkit/label.h"
+#include "toolkit/model/label.h"
 
 namespace toolkit {
 namespace {

@@ -2,7 +2,8 @@
 #include <QtGui/QCursor>
 #include <gtest/gtest.h>
 
-#include "toolkit/screen.h"
+#include "toolkit/window/cursor.h"
+#include "toolkit/window/screen.h"
 
 namespace toolkit {
 namespace {

@@ -1,4 +1,4 @@
-#include "toolkit/deflate.h"
+#include "toolkit/print/deflate.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 #include <cerrno>
 #include <filesystem>

@@ -4,7 +4,7 @@
 #include <optional>
 #include <utility>
 
-#include "toolkit/error.h"
+#include "toolkit/base/error.h"
 
 namespace toolkit::test {
 

@@ -1,4 +1,4 @@
-#include "toolkit/file_lock.h"
+#include "toolkit/base/file_lock.h"
 
 #include <fstream>
 

@@ -1,4 +1,4 @@
-#include "toolkit/file_names.h"
+#include "toolkit/base/file_names.h"
 
 #include <string>
 

@@ -1,4 +1,7 @@
-#include "toolkit/files.h"
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/write_file.h"
 
 #include <chrono>
 
@@ -93,46 +96,6 @@ TEST(Files, AFolderInThePlaceOfAFileIsFailure75) {
 TEST(Files, ANameTooLongIsFailure52) {
     const TemporaryFolder folder;
     EXPECT_EQ(failureOf([&] { writeFile(folder / std::string(300, 'n'), "x"); }), 52);
-}
-
-TEST(Files, ACopyHasContentAndTimeAndIsWritable) {
-    const TemporaryFolder folder;
-    writeFile(folder / "from", "content");
-    fs::last_write_time(folder / "from",
-                        fs::last_write_time(folder / "from") - std::chrono::hours(48));
-    fs::permissions(folder / "from", fs::perms::owner_read);
-    copyFile(folder / "from", folder / "to");
-    EXPECT_EQ(readFile(folder / "to"), "content");
-    EXPECT_EQ(fileTime(folder / "to"), fileTime(folder / "from"));
-    EXPECT_EQ(fs::last_write_time(folder / "to"), fs::last_write_time(folder / "from"));
-    EXPECT_NE(fs::status(folder / "to").permissions() & fs::perms::owner_write, fs::perms::none);
-    // Else some systems don't let it be removed.
-    fs::permissions(folder / "from", fs::perms::owner_all);
-}
-
-TEST(Files, ACopyReplacesItsTarget) {
-    const TemporaryFolder folder;
-    writeFile(folder / "from", "new");
-    writeFile(folder / "to", "old and longer");
-    copyFile(folder / "from", folder / "to");
-    EXPECT_EQ(readFile(folder / "to"), "new");
-}
-
-TEST(Files, ACopyTakesItsTargetsPlaceAndIsNeverHalfThere) {
-    const TemporaryFolder folder;
-    writeFile(folder / "from", "new");
-    writeFile(folder / "to", "old");
-    fs::create_hard_link(folder / "to", folder / "before");
-    copyFile(folder / "from", folder / "to");
-    EXPECT_EQ(readFile(folder / "to"), "new");
-    EXPECT_EQ(readFile(folder / "before"), "old");
-}
-
-TEST(Files, ACopyOntoItselfFailsAndKeepsTheContent) {
-    const TemporaryFolder folder;
-    writeFile(folder / "f", "content");
-    EXPECT_EQ(failureOf([&] { copyFile(folder / "f", folder / "f"); }), 70);
-    EXPECT_EQ(readFile(folder / "f"), "content");
 }
 
 TEST(Files, RenamingMovesTheFile) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "toolkit/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/temporary_folder.h"
 
 namespace toolkit {

@@ -1,4 +1,4 @@
-#include "toolkit/font.h"
+#include "toolkit/text/font.h"
 
 #include <cmath>
 #include <string>

@@ -1,4 +1,4 @@
-#include "toolkit/form.h"
+#include "toolkit/model/form.h"
 
 #include <gtest/gtest.h>
 

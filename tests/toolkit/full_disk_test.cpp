@@ -1,5 +1,7 @@
 // A disk that fills up, and other files that only a system with devices among its files can show.
-#include "toolkit/files.h"
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
 
 #include <csignal>
 #include <iterator>

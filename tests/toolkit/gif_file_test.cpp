@@ -1,11 +1,12 @@
-#include "toolkit/gif_file.h"
+#include "toolkit/picture/gif_file.h"
 
 #include <gtest/gtest.h>
 
-#include "toolkit/bitmap.h"
-#include "toolkit/color_table.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
-#include "toolkit/files.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/bitmap_file.h"
+#include "toolkit/picture/color_table.h"
 #include "toolkit/temporary_folder.h"
 
 namespace toolkit::test {

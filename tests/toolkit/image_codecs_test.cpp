@@ -1,9 +1,10 @@
-#include "toolkit/image_codecs.h"
+#include "toolkit/picture/bitmap_file.h"
+#include "toolkit/picture/image_codecs.h"
 
 #include <gtest/gtest.h>
 
+#include "toolkit/base/files.h"
 #include "toolkit/failure_of.h"
-#include "toolkit/files.h"
 #include "toolkit/temporary_folder.h"
 
 namespace toolkit::test {

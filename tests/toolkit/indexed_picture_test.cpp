@@ -1,4 +1,5 @@
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/embedded_file.h"
+#include "toolkit/picture/indexed_picture.h"
 
 #include <cstring>
 #include <random>

@@ -1,4 +1,4 @@
-#include "toolkit/label.h"
+#include "toolkit/model/label.h"
 
 #include <limits>
 

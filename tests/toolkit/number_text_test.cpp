@@ -1,4 +1,4 @@
-#include "toolkit/number_text.h"
+#include "toolkit/base/number_text.h"
 
 #include <clocale>
 #include <cmath>

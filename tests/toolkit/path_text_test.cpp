@@ -1,4 +1,4 @@
-#include "toolkit/ansi.h"
+#include "toolkit/base/path_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolkit/pdf_page.h"
+#include "toolkit/print/pdf_page.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
-#include "toolkit/pixel_memory.h"
+#include "toolkit/picture/pixel_memory.h"
 
 #include <gtest/gtest.h>
 
-#include "toolkit/bitmap.h"
-#include "toolkit/system.h"
+#include "toolkit/base/system.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace toolkit::test {
 namespace {

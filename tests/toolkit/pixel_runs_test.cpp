@@ -1,8 +1,8 @@
-#include "toolkit/pixel_runs.h"
+#include "toolkit/print/pixel_runs.h"
 
 #include <gtest/gtest.h>
 
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace toolkit::test {
 namespace {

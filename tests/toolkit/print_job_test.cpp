@@ -1,12 +1,14 @@
-#include "toolkit/print_job.h"
+#include "toolkit/print/print_job.h"
 
 #include <gtest/gtest.h>
 
-#include "toolkit/dialog.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
-#include "toolkit/files.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/printers.h"
 #include "toolkit/temporary_folder.h"
+#include "toolkit/window/dialog.h"
+#include "toolkit/window/dialog_answers.h"
 
 namespace toolkit::test {
 namespace {

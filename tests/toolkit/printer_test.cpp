@@ -1,5 +1,5 @@
-#include "toolkit/printer.h"
-#include "toolkit/printers.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
-#include "toolkit/qt_run_picture.h"
+#include "toolkit/text/qt_run_picture.h"
 
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <gtest/gtest.h>
 
-#include "toolkit/text_painter.h"
+#include "toolkit/text/text_painter.h"
 
 namespace toolkit {
 namespace {

@@ -1,4 +1,4 @@
-#include "toolkit/system.h"
+#include "toolkit/base/system.h"
 
 #include <regex>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "toolkit/qt_task_bar.h"
+#include "toolkit/window/qt_task_bar.h"
 
 #include <gtest/gtest.h>
 

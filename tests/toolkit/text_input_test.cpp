@@ -1,4 +1,4 @@
-#include "toolkit/text_input.h"
+#include "toolkit/base/text_input.h"
 
 #include <gtest/gtest.h>
 

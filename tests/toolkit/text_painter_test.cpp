@@ -1,4 +1,5 @@
-#include "toolkit/text_painter.h"
+#include "toolkit/text/font.h"
+#include "toolkit/text/text_painter.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,8 +10,10 @@
 #include <QtGui/QPainter>
 #include <gtest/gtest.h>
 
-#include "toolkit/bitmap.h"
-#include "toolkit/screen.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/text/draw_text.h"
+#include "toolkit/window/screen.h"
 
 namespace toolkit {
 namespace {

@@ -1,4 +1,4 @@
-#include "toolkit/typed_text.h"
+#include "toolkit/text/typed_text.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "toolkit/utf8.h"
+#include "toolkit/base/utf8.h"
 
 #include <vector>
 

@@ -3,9 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include "toolkit/base/file_handle.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
-#include "toolkit/file_handle.h"
-#include "toolkit/files.h"
 #include "toolkit/temporary_folder.h"
 
 namespace toolkit {

@@ -1,4 +1,6 @@
-#include "toolkit/alarm.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/alarm.h"
+#include "toolkit/window/program.h"
 
 #include "fixture.h"
 

@@ -1,5 +1,6 @@
 // The run of the program.
 #include "fixture.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,6 @@
 // What a press, a move and a release send to the card and its labels.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace window_test {
 namespace {

@@ -1,6 +1,8 @@
 // The picture of the card, and a handler's changes on it.
 #include "painting.h"
-#include "toolkit/pixel_memory.h"
+#include "toolkit/picture/pixel_memory.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

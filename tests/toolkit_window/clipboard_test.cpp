@@ -1,8 +1,8 @@
-#include "toolkit/clipboard.h"
+#include "toolkit/window/input/clipboard.h"
 
 #include <gtest/gtest.h>
 
-#include "toolkit/test_support.h"
+#include "toolkit/testing/test_clipboard.h"
 
 namespace toolkit::test {
 namespace {

@@ -1,5 +1,7 @@
 // Place, colours and visibility of edit boxes and lists on the screen.
 #include "fixture.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

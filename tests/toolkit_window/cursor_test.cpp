@@ -1,5 +1,7 @@
 // The place of the cursor.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/window/cursor.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,8 @@
 // Message boxes, and input boxes, on the screen and answered by a test.
 #include "fixture.h"
+#include "toolkit/testing/test_boxes.h"
+#include "toolkit/window/dialog_answers.h"
+#include "toolkit/window/popup_menu.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,10 @@
 // Text and selection of an edit box, by the player and by the program.
 #include "fixture.h"
+#include "toolkit/testing/test_clipboard.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
 
 namespace window_test {
 namespace {

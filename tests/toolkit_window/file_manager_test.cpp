@@ -1,5 +1,5 @@
 // The desktop's file manager, on a bus that these tests start, where nothing else is.
-#include "toolkit/qt_file_manager.h"
+#include "toolkit/window/qt_file_manager.h"
 
 #include <chrono>
 #include <fstream>

@@ -8,13 +8,14 @@
 
 #include <gtest/gtest.h>
 
-#include "toolkit/application.h"
-#include "toolkit/key.h"
-#include "toolkit/program.h"
-#include "toolkit/program_overrides.h"
-#include "toolkit/screen.h"
-#include "toolkit/test_support.h"
-#include "toolkit/window.h"
+#include "toolkit/base/key.h"
+#include "toolkit/base/program_overrides.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/application.h"
+#include "toolkit/window/dialog_answers.h"
+#include "toolkit/window/screen.h"
+#include "toolkit/window/window.h"
 
 namespace window_test {
 

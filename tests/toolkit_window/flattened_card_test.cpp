@@ -1,6 +1,7 @@
 // The card as one picture, whatever of it the screen shows.
 #include "painting.h"
-#include "toolkit/flattened_card.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/flattened_card.h"
 
 namespace window_test {
 namespace {

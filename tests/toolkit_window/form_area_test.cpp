@@ -1,5 +1,8 @@
 // What the form paints behind its controls.
 #include "fixture.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/text/draw_text.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,8 @@
 // Place, size and frame of the form.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/screen.h"
 
 namespace window_test {
 namespace {

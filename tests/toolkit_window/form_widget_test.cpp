@@ -1,5 +1,6 @@
 // The window of the form: its menu bar above, its inside below.
 #include "fixture.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

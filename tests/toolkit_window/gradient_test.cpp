@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "fixture.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

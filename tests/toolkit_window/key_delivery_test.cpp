@@ -1,6 +1,8 @@
 // The way of a key: form, menu, control, character, control's own handling.
 #include "fixture.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,6 @@
 // Codes and characters of keys.
 #include "fixture.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace window_test {
 namespace {

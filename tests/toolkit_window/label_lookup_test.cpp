@@ -1,5 +1,6 @@
 // Which label is under the pointer.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace window_test {
 namespace {

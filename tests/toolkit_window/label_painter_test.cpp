@@ -2,6 +2,8 @@
 #include <cmath>
 
 #include "painting.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/text/draw_text.h"
 
 namespace window_test {
 namespace {

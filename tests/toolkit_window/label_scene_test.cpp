@@ -1,5 +1,7 @@
 // Which labels the card paints, in which order, and when again.
 #include "painting.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

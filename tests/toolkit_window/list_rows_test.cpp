@@ -1,5 +1,7 @@
 // The rows of a list.
 #include "list_fixture.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 #include <chrono>
 

@@ -1,5 +1,8 @@
 // What mouse and keys do to a list.
 #include "list_fixture.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

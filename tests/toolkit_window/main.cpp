@@ -3,7 +3,7 @@
 
 #include "fixture.h"
 #include "support/system.h"
-#include "toolkit/application.h"
+#include "toolkit/window/application.h"
 
 toolkit::Application* window_test::application = nullptr;
 

@@ -1,5 +1,7 @@
 // The menu bar: what can be chosen and which shortcuts act.
 #include "fixture.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,6 @@
 // A small form that waits for the player.
-#include "toolkit/modal_form.h"
+#include "toolkit/testing/test_dialogs.h"
+#include "toolkit/window/modal_form.h"
 
 #include "fixture.h"
 

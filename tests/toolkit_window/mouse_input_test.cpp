@@ -1,5 +1,6 @@
 // Buttons, modifiers and places as handlers see them.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,6 @@
 // A text that the player only reads.
 #include "fixture.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

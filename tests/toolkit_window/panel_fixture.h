@@ -2,6 +2,9 @@
 #pragma once
 
 #include "fixture.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 

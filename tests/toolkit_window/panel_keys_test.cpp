@@ -1,5 +1,6 @@
 // What keys do on a panel.
 #include "panel_fixture.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace window_test {
 namespace {

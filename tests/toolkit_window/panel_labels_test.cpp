@@ -1,5 +1,6 @@
 // How a panel's labels are painted.
 #include "panel_fixture.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

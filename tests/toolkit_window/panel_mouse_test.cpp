@@ -1,5 +1,8 @@
 // What the mouse does on a panel, and how it comes and goes.
 #include "panel_fixture.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

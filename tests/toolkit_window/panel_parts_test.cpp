@@ -1,6 +1,10 @@
 // The controls of a panel.
 #include "panel_fixture.h"
-#include "toolkit/program.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/program.h"
 
 namespace window_test {
 namespace {

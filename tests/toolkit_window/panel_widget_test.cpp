@@ -1,5 +1,7 @@
 // Panels on the form.
 #include "painting.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

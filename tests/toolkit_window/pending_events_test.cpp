@@ -1,6 +1,8 @@
 // Paint and timers in the middle of a procedure.
 #include "fixture.h"
-#include "toolkit/program.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/program.h"
 
 #include <chrono>
 

@@ -1,5 +1,8 @@
 // Keys of the system itself, which come while a procedure waits.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/program.h"
 
 #include <array>
 

@@ -1,5 +1,7 @@
 // The mouse pointer over the card: the arrow, and the hand that drags.
 #include "painting.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

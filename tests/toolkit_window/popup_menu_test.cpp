@@ -1,5 +1,7 @@
 // Pop-up menus on the screen.
 #include "fixture.h"
+#include "toolkit/testing/test_boxes.h"
+#include "toolkit/window/popup_menu.h"
 
 namespace window_test {
 namespace {

@@ -1,5 +1,6 @@
 // The icon that the desktop shows for the window.
 #include "fixture.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

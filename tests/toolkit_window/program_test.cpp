@@ -1,7 +1,9 @@
 // Events and waits in the middle of a procedure.
 #include "fixture.h"
-#include "toolkit/program.h"
-#include "toolkit/program_overrides.h"
+#include "toolkit/base/program_overrides.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/program.h"
 
 #include <chrono>
 

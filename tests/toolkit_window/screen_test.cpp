@@ -1,5 +1,9 @@
-// Twips, pixels, the screens and their bar.
+// The screens and their bar.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
+#include "toolkit/window/screen.h"
 
 namespace window_test {
 namespace {
@@ -7,16 +11,6 @@ namespace {
 using namespace toolkit;
 
 class ScreenTest : public WindowTest {};
-
-TEST_F(ScreenTest, TwipsAreRoundedToPixelsHalvesToEven) {
-    overrideScreen({.twipsPerPixel = 10});
-    EXPECT_EQ(pixelsFromTwips(14), 1);
-    EXPECT_EQ(pixelsFromTwips(15), 2);
-    EXPECT_EQ(pixelsFromTwips(25), 2);
-    EXPECT_EQ(pixelsFromTwips(-15), -2);
-    EXPECT_EQ(pixelsFromTwips(-25), -2);
-    EXPECT_EQ(pixelsFromTwips(-14), -1);
-}
 
 TEST_F(ScreenTest, ScreenIsMeasuredInTwips) {
     const Screen found = screen();

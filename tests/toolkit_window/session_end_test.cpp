@@ -1,7 +1,10 @@
 // Signals that ask the program to end.
 #include "fixture.h"
-#include "toolkit/application.h"
-#include "toolkit/program_overrides.h"
+#include "toolkit/base/program_overrides.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/application.h"
+#include "toolkit/window/program.h"
 
 #ifndef _WIN32
 

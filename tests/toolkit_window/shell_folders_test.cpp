@@ -6,8 +6,9 @@
 #include <fstream>
 
 #include "support/system.h"
-#include "toolkit/program.h"
-#include "toolkit/program_overrides.h"
+#include "toolkit/base/program_overrides.h"
+#include "toolkit/window/program.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace window_test {
 namespace {

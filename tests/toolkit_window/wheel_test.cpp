@@ -1,5 +1,6 @@
 // The wheel: one event a notch.
 #include "fixture.h"
+#include "toolkit/testing/test_mouse.h"
 
 namespace window_test {
 namespace {

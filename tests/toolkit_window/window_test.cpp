@@ -1,5 +1,9 @@
 // Where the keys go, which events tell so, and what lies over what.
 #include "fixture.h"
+#include "toolkit/testing/test_boxes.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace window_test {
 namespace {

@@ -2,7 +2,8 @@
 
 #include "support/form_test.h"
 #include "support/scaled_picture.h"
-#include "toolkit/files.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/picture/bitmap_file.h"
 
 namespace zev::test {
 namespace {

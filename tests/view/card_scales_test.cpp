@@ -9,7 +9,8 @@
 
 #include "support/form_test.h"
 #include "support/scaled_picture.h"
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/embedded_file.h"
+#include "toolkit/picture/indexed_picture.h"
 #include "view/halve_picture.h"
 #include "view/rebuild.h"
 #include "view/scale_picture.h"

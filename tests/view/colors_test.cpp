@@ -1,3 +1,4 @@
+#include "layout/write_layout.h"
 #include "view/colors.h"
 
 #include "app/layouts.h"

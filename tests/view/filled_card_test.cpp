@@ -6,10 +6,13 @@
 #include <string>
 
 #include "card/load.h"
+#include "card/write_card.h"
 #include "events/edit_field.h"
 #include "support/form_test.h"
 #include "support/scaled_picture.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 #include "view/rebuild.h"
 
 namespace zev::test {

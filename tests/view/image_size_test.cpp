@@ -1,8 +1,12 @@
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "view/image_size.h"
 
 #include "app/layouts.h"
 #include "support/scaled_picture.h"
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/bitmap_file.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {

@@ -1,3 +1,5 @@
+#include "card/write_card.h"
+#include "layout/write_layout.h"
 #include "view/rebuild.h"
 
 #ifndef _WIN32
@@ -12,8 +14,8 @@
 #include "card/lifecycle.h"
 #include "card/save.h"
 #include "form/background.h"
-#include "toolkit/files.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
 
 namespace zev::test {
 namespace {

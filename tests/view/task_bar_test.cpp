@@ -1,6 +1,7 @@
 #include "view/task_bar.h"
 
 #include "support/form_test.h"
+#include "toolkit/window/screen.h"
 
 namespace zev::test {
 namespace {

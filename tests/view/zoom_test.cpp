@@ -1,3 +1,6 @@
+#include "card/write_card.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "view/zoom.h"
 
 #include <algorithm>
@@ -5,7 +8,10 @@
 
 #include "app/layouts.h"
 #include "design/design_mode.h"
-#include "toolkit/key.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/screen.h"
 #include "view/fit.h"
 
 namespace zev::test {

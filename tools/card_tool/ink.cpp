@@ -1,6 +1,6 @@
 #include "card_tool/ink.h"
 
-#include "toolkit/bitmap.h"
+#include "toolkit/picture/bitmap.h"
 
 namespace card_tool {
 namespace {

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "toolkit/color.h"
+#include "toolkit/base/color.h"
 
 namespace card_tool {
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "card_tool/failure.h"
-#include "toolkit/utf8.h"
+#include "toolkit/base/utf8.h"
 
 namespace card_tool {
 namespace {

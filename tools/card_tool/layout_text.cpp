@@ -9,6 +9,7 @@
 #include "card_tool/program_version.h"
 #include "layout/layout_file.h"
 #include "layout/tab_table.h"
+#include "layout/write_layout.h"
 
 namespace card_tool {
 namespace {

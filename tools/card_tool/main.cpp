@@ -15,9 +15,9 @@
 #include "card_tool/preview.h"
 #include "card_tool/sample_card.h"
 #include "card_tool/typesetter.h"
-#include "toolkit/error.h"
-#include "toolkit/files.h"
-#include "toolkit/gif_file.h"
+#include "toolkit/base/error.h"
+#include "toolkit/base/write_file.h"
+#include "toolkit/picture/gif_file.h"
 
 namespace {
 

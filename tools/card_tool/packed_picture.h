@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/indexed_picture.h"
 
 namespace card_tool {
 

@@ -8,7 +8,7 @@
 
 #include "card_tool/failure.h"
 #include "card_tool/units.h"
-#include "toolkit/color_table.h"
+#include "toolkit/picture/color_table.h"
 #include "view/halve_picture.h"
 
 namespace card_tool {

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "card_tool/sheet.h"
-#include "toolkit/bitmap.h"
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/indexed_picture.h"
 
 namespace card_tool {
 

@@ -6,7 +6,7 @@
 #include "card_tool/sample_card.h"
 #include "card_tool/sheet.h"
 #include "card_tool/typeface.h"
-#include "toolkit/indexed_picture.h"
+#include "toolkit/picture/indexed_picture.h"
 
 namespace card_tool {
 

@@ -6,10 +6,11 @@
 #include <utility>
 
 #include "card/card_file.h"
+#include "card/write_card.h"
 #include "card_tool/failure.h"
 #include "card_tool/program_version.h"
 #include "text/escapes.h"
-#include "toolkit/ansi.h"
+#include "toolkit/base/ansi.h"
 
 namespace card_tool {
 namespace {

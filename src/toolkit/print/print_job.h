@@ -1,0 +1,54 @@
+// A document on a printer: opened, one picture drawn into it, closed.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/print/printer.h"
+
+namespace toolkit {
+
+/// What the printer is to be told beside the picture.
+struct DocumentInfo {
+    std::string title;                ///< of the document, in the code page
+    std::filesystem::path filePreset; ///< offered by a printer that asks for a file
+};
+
+class PrintJob {
+  public:
+    PrintJob();
+    ~PrintJob();
+    PrintJob(PrintJob&&) noexcept;
+    PrintJob& operator=(PrintJob&&) noexcept;
+
+    /// Opens a document on the printer as it is set up; the one that is open is given up. False if
+    /// the player was asked for a file and cancelled. Failure 482 if the document is refused, with
+    /// the reason behind the description where one is known.
+    [[nodiscard]] bool start(const Printer& printer, const DocumentInfo& info);
+    [[nodiscard]] bool isOpen() const { return document_ != nullptr; }
+
+    /// Printer pixels from the corner of the printable part of the page.
+    struct Place {
+        int left = 0;
+        int top = 0;
+        int width = 0;
+        int height = 0;
+    };
+    /// Draws the picture stretched to the place. False if no document is open.
+    bool stretch(std::shared_ptr<const Bitmap> picture, const Place& place);
+
+    /// Closes the document; when it returns the page is with the printer. Failures 482 and those of
+    /// writeFile. Nothing happens if no document is open.
+    void finish();
+    /// Gives the open document up.
+    void abandon();
+
+  private:
+    struct Document;
+    std::unique_ptr<Document> document_;
+};
+
+} // namespace toolkit

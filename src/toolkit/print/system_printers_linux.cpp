@@ -1,0 +1,209 @@
+#include "toolkit/print/system_printers.h"
+
+#include <algorithm>
+#include <memory>
+#include <span>
+
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/error.h"
+#include "toolkit/base/utf8.h"
+#include "toolkit/print/cups_library.h"
+
+namespace toolkit {
+namespace {
+
+constexpr float hundredthsOfMillimetres = 2540; ///< in an inch
+constexpr int usualResolution = 600;
+constexpr int systemToken = 2;
+constexpr int monochromeDepth = 8;
+
+/// The service's own name for the player, or where it has none one made of the keyword: "Letter
+/// (8.5x11in)" of "na_letter_8.5x11in", "Top" of "top".
+std::string nameOf(const char* localized, const std::string& keyword) {
+    if (localized != nullptr && keyword != localized) return ansiFromUtf8(localized);
+    std::string name = keyword;
+    std::string size;
+    const std::size_t first = keyword.find('_');
+    const std::size_t last = keyword.rfind('_');
+    if (first != last) {
+        name = keyword.substr(first + 1, last - first - 1);
+        size = " (" + keyword.substr(last + 1) + ")";
+    }
+    if (!name.empty() && name[0] >= 'a' && name[0] <= 'z')
+        name[0] = static_cast<char>(name[0] - 'a' + 'A');
+    return ansiFromUtf8(name + size);
+}
+
+/// A printer of the service with what it can do.
+class Destination {
+  public:
+    Destination(const CupsLibrary& cups, const std::string& name)
+        : cups_(cups), destination_(cups.getNamedDest(CUPS_HTTP_DEFAULT, name.c_str(), nullptr)) {
+        if (destination_ != nullptr) info_ = cups.copyDestInfo(CUPS_HTTP_DEFAULT, destination_);
+    }
+    ~Destination() {
+        if (info_ != nullptr) cups_.freeDestInfo(info_);
+        if (destination_ != nullptr) cups_.freeDests(1, destination_);
+    }
+    Destination(const Destination&) = delete;
+    Destination& operator=(const Destination&) = delete;
+
+    [[nodiscard]] bool exists() const { return info_ != nullptr; }
+
+    void fill(Printer& printer) const {
+        readColor(printer);
+        readResolution(printer);
+        readPapers(printer);
+        readTrays(printer);
+    }
+
+  private:
+    [[nodiscard]] std::vector<std::string> supported(const char* option) const {
+        ipp_attribute_t* values =
+            cups_.findDestSupported(CUPS_HTTP_DEFAULT, destination_, info_, option);
+        std::vector<std::string> texts;
+        const int count = values == nullptr ? 0 : cups_.getCount(values);
+        for (int i = 0; i < count; ++i)
+            if (const char* text = cups_.getString(values, i, nullptr)) texts.emplace_back(text);
+        return texts;
+    }
+
+    void readColor(Printer& printer) const {
+        const auto modes = supported(CUPS_PRINT_COLOR_MODE);
+        const bool isColor = std::ranges::find(modes, "color") != modes.end();
+        const char* chosen = cups_.getOption(CUPS_PRINT_COLOR_MODE, destination_->num_options,
+                                             destination_->options);
+        const bool isGrey = chosen != nullptr && std::string_view(chosen) == "monochrome";
+        printer.ColorMode = isColor && !isGrey ? 2 : 1;
+        printer.BitsPerPixel = printer.ColorMode == 2 ? 24 : monochromeDepth;
+    }
+
+    void readResolution(Printer& printer) const {
+        printer.PixelsPerInchX = printer.PixelsPerInchY = usualResolution;
+        ipp_attribute_t* value =
+            cups_.findDestDefault(CUPS_HTTP_DEFAULT, destination_, info_, "printer-resolution");
+        if (value == nullptr) return;
+        int y = 0;
+        ipp_res_t unit = IPP_RES_PER_INCH;
+        const int x = cups_.getResolution(value, 0, &y, &unit);
+        if (x <= 0 || y <= 0 || unit != IPP_RES_PER_INCH) return;
+        printer.PixelsPerInchX = x;
+        printer.PixelsPerInchY = y;
+    }
+
+    [[nodiscard]] Paper paperOf(cups_size_t size, int code) const {
+        const auto inches = [](int length) {
+            return static_cast<float>(length) / hundredthsOfMillimetres;
+        };
+        const char* name = cups_.localizeDestMedia(CUPS_HTTP_DEFAULT, destination_, info_,
+                                                   CUPS_MEDIA_FLAGS_DEFAULT, &size);
+        return {.code = code,
+                .name = nameOf(name, size.media),
+                .keyword = size.media,
+                .width = inches(size.width),
+                .height = inches(size.length),
+                .sideMargin = inches(std::max(size.left, size.right)),
+                .endMargin = inches(std::max(size.top, size.bottom))};
+    }
+
+    void readPapers(Printer& printer) const {
+        cups_size_t size{};
+        const int count = cups_.getDestMediaCount(CUPS_HTTP_DEFAULT, destination_, info_,
+                                                  CUPS_MEDIA_FLAGS_DEFAULT);
+        for (int i = 0; i < count; ++i)
+            if (cups_.getDestMediaByIndex(CUPS_HTTP_DEFAULT, destination_, info_, i,
+                                          CUPS_MEDIA_FLAGS_DEFAULT, &size) != 0)
+                printer.Papers.push_back(paperOf(size, i + 1));
+        if (printer.Papers.empty()) printer.Papers = usualPapers();
+        layOutPage(printer, defaultPaper(printer), Orientation::Portrait);
+    }
+
+    /// Of a queue that tells nothing of its paper, with the margins that most printers need.
+    [[nodiscard]] static std::vector<Paper> usualPapers() {
+        constexpr float margin = 0.25F;
+        return {{1, "Letter", "na_letter_8.5x11in", 8.5F, 11, margin, margin},
+                {2, "A4", "iso_a4_210x297mm", 8.27F, 11.69F, margin, margin}};
+    }
+
+    [[nodiscard]] int defaultPaper(const Printer& printer) const {
+        cups_size_t size{};
+        if (cups_.getDestMediaDefault(CUPS_HTTP_DEFAULT, destination_, info_,
+                                      CUPS_MEDIA_FLAGS_DEFAULT, &size) != 0) {
+            const auto found = std::ranges::find(printer.Papers, size.media, &Paper::keyword);
+            if (found != printer.Papers.end()) return found->code;
+        }
+        return printer.Papers.front().code;
+    }
+
+    void readTrays(Printer& printer) const {
+        int code = 0;
+        for (const std::string& keyword : supported(CUPS_MEDIA_SOURCE)) {
+            const char* name = cups_.localizeDestValue(CUPS_HTTP_DEFAULT, destination_, info_,
+                                                       CUPS_MEDIA_SOURCE, keyword.c_str());
+            printer.Trays.push_back({++code, nameOf(name, keyword), keyword});
+        }
+    }
+
+    const CupsLibrary& cups_;
+    cups_dest_t* destination_ = nullptr;
+    cups_dinfo_t* info_ = nullptr;
+};
+
+} // namespace
+
+std::vector<std::string> systemPrinterNames() {
+    const CupsLibrary* cups = cupsLibrary();
+    if (cups == nullptr) return {};
+    cups_dest_t* list = nullptr;
+    const int count = cups->getDests(&list);
+    std::vector<std::string> names;
+    for (const cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count))) {
+        const auto place = destination.is_default != 0 ? names.begin() : names.end();
+        if (destination.instance == nullptr) names.insert(place, ansiFromUtf8(destination.name));
+    }
+    cups->freeDests(count, list);
+    return names;
+}
+
+std::string systemDefaultPrinterName() {
+    const CupsLibrary* cups = cupsLibrary();
+    if (cups == nullptr) return {};
+    cups_dest_t* list = nullptr;
+    const int count = cups->getDests(&list);
+    std::string name;
+    for (const cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count)))
+        if (destination.is_default != 0) name = ansiFromUtf8(destination.name);
+    cups->freeDests(count, list);
+    return name;
+}
+
+void setSystemDefaultPrinter(std::string_view name) {
+    const CupsLibrary* cups = cupsLibrary();
+    if (cups == nullptr) throw RunTimeError(Failure::PrinterError);
+    cups_dest_t* list = nullptr;
+    const int count = cups->getDests(&list);
+    const std::string wanted = utf8FromAnsi(name);
+    bool isThere = false;
+    for (cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count))) {
+        const bool isWanted = destination.instance == nullptr && destination.name == wanted;
+        destination.is_default = isWanted ? 1 : 0;
+        isThere = isThere || isWanted;
+    }
+    const bool isSet = isThere && cups->setDests(CUPS_HTTP_DEFAULT, count, list) == 0;
+    cups->freeDests(count, list);
+    if (!isSet) throw RunTimeError(Failure::PrinterError);
+}
+
+Printer systemPrinter(std::string_view name) {
+    Printer printer;
+    const CupsLibrary* cups = cupsLibrary();
+    if (cups == nullptr) return printer;
+    const Destination destination(*cups, utf8FromAnsi(name));
+    if (!destination.exists()) return printer;
+    printer.DeviceName = name;
+    printer.hdc = systemToken;
+    destination.fill(printer);
+    return printer;
+}
+
+} // namespace toolkit

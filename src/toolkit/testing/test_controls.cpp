@@ -1,0 +1,76 @@
+#include "toolkit/testing/test_controls.h"
+
+#include <stdexcept>
+
+#include <QtGui/QHelpEvent>
+#include <QtGui/QWheelEvent>
+#include <QtWidgets/QToolTip>
+
+#include "toolkit/base/qt_geometry.h"
+#include "toolkit/base/qt_text.h"
+#include "toolkit/testing/qt_test_window.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/window/control/qt_list_view.h"
+
+namespace toolkit::test {
+namespace {
+
+QWidget& shownWidget(const Control& control) {
+    updateWindow();
+    QWidget* widget = window().widgetOf(&control);
+    if (widget == nullptr || !widget->isVisible()) throw std::logic_error("a control isn't shown");
+    return *widget;
+}
+
+/// The middle of the row in the list's own widget.
+QPoint middleOfRow(const ListBox& list, int row) {
+    const auto& view = dynamic_cast<const ListView&>(shownWidget(list));
+    const QPoint inViewport = view.visualRect(view.model()->index(row, 0)).center();
+    return view.viewport()->mapTo(&view, inViewport);
+}
+
+} // namespace
+
+PointOnCard pointIn(const Control& control, float x, float y) {
+    QWidget& widget = shownWidget(control);
+    const QPoint global = widget.mapToGlobal(QPoint(pixelsFromTwips(x), pixelsFromTwips(y)));
+    const QPoint place = window().card().mapFromGlobal(global);
+    return {twipsFromPixels(place.x()), twipsFromPixels(place.y())};
+}
+
+PointOnCard pointOn(const Control& control) {
+    return pointIn(control, control.Width / 2, control.Height / 2);
+}
+
+PointOnCard pointOn(const Panel& panel, const Label& label) {
+    return pointIn(panel, label.Left + label.Width / 2, label.Top + label.Height / 2);
+}
+
+PointOnCard pointOnRow(const ListBox& list, int row) {
+    const QPoint middle = middleOfRow(list, row);
+    return pointIn(list, twipsFromPixels(middle.x()), twipsFromPixels(middle.y()));
+}
+
+std::string toolTipAt(const Control& control, PointOnCard point) {
+    QWidget& widget = shownWidget(control);
+    const QPoint onCard(pixelsFromTwips(point.x), pixelsFromTwips(point.y));
+    const QPoint global = window().card().mapToGlobal(onCard);
+    QHelpEvent event(QEvent::ToolTip, widget.mapFromGlobal(global), global);
+    // A tip takes its time to go, so one that wasn't replaced tells that there is none.
+    const QString former = QStringLiteral("former tip");
+    QToolTip::showText(global, former, &widget);
+    send(widget, event);
+    return QToolTip::text() == former ? std::string() : ansiText(QToolTip::text());
+}
+
+void turnWheelOver(const Control& control, int rotation) {
+    QWidget& widget = shownWidget(control);
+    const QPointF place = QRectF(widget.rect()).center();
+    QWheelEvent event(place, widget.mapToGlobal(place), QPoint(), QPoint(0, rotation), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    send(widget, event);
+}
+
+bool isGreyed(const Control& control) { return !shownWidget(control).isEnabled(); }
+
+} // namespace toolkit::test

@@ -1,0 +1,178 @@
+#include "toolkit/testing/test_window.h"
+
+#include <cstring>
+#include <stdexcept>
+
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QCoreApplication>
+#include <QtCore/QTimer>
+#include <QtGui/QCloseEvent>
+#include <QtGui/QImage>
+#include <QtGui/QPaintEvent>
+#include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
+
+#include "toolkit/base/qt_text.h"
+#include "toolkit/testing/qt_test_window.h"
+#include "toolkit/window/input/qt_delivery.h"
+
+namespace toolkit::test {
+namespace {
+
+Bitmap bitmapOf(const QImage& image) {
+    Bitmap bitmap(image.width(), image.height());
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(bitmap.row(y), image.constScanLine(y),
+                    static_cast<std::size_t>(image.width()) * sizeof(std::uint32_t));
+    return bitmap;
+}
+
+/// On grey, so that what is white in the picture can be told from what is transparent.
+Bitmap onGrey(const QPixmap& picture) {
+    QImage image(picture.size(), QImage::Format_RGB32);
+    image.fill(Qt::gray);
+    QPainter(&image).drawPixmap(0, 0, picture);
+    return bitmapOf(image);
+}
+
+Bitmap grab(QWidget& widget, double pixelRatio = 1) {
+    updateWindow();
+    QImage image((QSizeF(widget.size()) * pixelRatio).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(pixelRatio);
+    image.fill(Qt::white);
+    widget.render(&image);
+    return bitmapOf(image);
+}
+
+/// Sees each paint before the widget does.
+class PaintCount : public QObject {
+  public:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            ++painted_.paints;
+            for (const QRect& area : static_cast<QPaintEvent*>(event)->region())
+                painted_.pixels += std::int64_t{area.width()} * area.height();
+        }
+        return QObject::eventFilter(watched, event);
+    }
+    [[nodiscard]] CardPaints painted() const { return painted_; }
+
+  private:
+    CardPaints painted_;
+};
+
+} // namespace
+
+bool chooseMenu(std::string_view captionPath) {
+    updateWindow();
+    const bool chosen = window().form().menuBar().choose(captionPath);
+    rethrowKept();
+    return chosen;
+}
+
+bool showsCheck(std::string_view captionPath) {
+    updateWindow();
+    const QAction* row = window().form().menuBar().offeredRow(captionPath);
+    return row != nullptr && row->isCheckable() && row->isChecked();
+}
+
+void resizeWindow(int wider, int higher) {
+    updateWindow();
+    QWidget& form = window().form();
+    form.resize(form.width() + wider, form.height() + higher);
+    settle();
+}
+
+void shiftWindow(int toTheRight, int down) {
+    updateWindow();
+    QWidget& form = window().form();
+    form.move(form.pos() + QPoint(toTheRight, down));
+    settle();
+}
+
+void requestClose() {
+    QCloseEvent event;
+    send(window().form(), event);
+}
+
+void closeWindow() {
+    requestClose();
+    settle();
+}
+
+void endSession() {
+    updateWindow();
+    window().delivery().askToEnd();
+    settle();
+}
+
+void whenRunning(std::function<void()> act) { QTimer::singleShot(0, qApp, std::move(act)); }
+
+/// Twice, because what runs first may queue more; not until nothing is left, for a blinking caret
+/// never comes to an end.
+void settle() {
+    updateWindow();
+    for (int round = 0; round < 2; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+    rethrowKept();
+}
+
+void endEvent() {
+    settle();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+Bitmap grabCard() { return grab(window().card()); }
+Bitmap grabCardAt(double pixelRatio) { return grab(window().card(), pixelRatio); }
+Bitmap grabWindow() { return grab(window().form()); }
+
+Bitmap shownPointer() {
+    updateWindow();
+    return onGrey(window().card().cursor().pixmap());
+}
+
+Bitmap shownIcon(int size) { return onGrey(window().form().windowIcon().pixmap(size)); }
+
+bool isShown(const Control& control) {
+    updateWindow();
+    const QWidget* widget = window().widgetOf(&control);
+    return widget != nullptr && widget->isVisible();
+}
+
+bool hasPlatformFocus(const Control& control) {
+    updateWindow();
+    const QWidget* widget = window().widgetOf(&control);
+    return widget != nullptr && window().form().focusWidget() == widget;
+}
+
+std::string shownText(const TextBox& box) {
+    updateWindow();
+    const auto* edit = dynamic_cast<EditBox*>(window().widgetOf(&box));
+    return edit == nullptr ? std::string() : ansiText(edit->text());
+}
+
+void elapseCardTimers() {
+    CardWidget& card = window().card();
+    for (const auto& timer : QAbstractEventDispatcher::instance()->registeredTimers(&card)) {
+        QTimerEvent elapsed(timer.timerId);
+        QCoreApplication::sendEvent(&card, &elapsed);
+    }
+}
+
+void elapseAlarms() {
+    for (QTimer* timer : qApp->findChildren<QTimer*>(QStringLiteral("alarm"))) {
+        QTimerEvent elapsed(timer->timerId());
+        QCoreApplication::sendEvent(timer, &elapsed);
+    }
+}
+
+CardPaints cardPaints() {
+    static PaintCount count;
+    // Once more is no more than once.
+    window().card().installEventFilter(&count);
+    return count.painted();
+}
+
+} // namespace toolkit::test

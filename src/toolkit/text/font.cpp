@@ -1,0 +1,59 @@
+#include "toolkit/text/font.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "toolkit/base/ansi.h"
+#include "toolkit/text/advance_table.h"
+#include "toolkit/text/qt_font_family.h"
+
+namespace toolkit {
+namespace {
+
+constexpr double twipsPerPoint = 20;
+
+float twips(std::int64_t units, const FontSpec& font, const AdvanceTable& table) {
+    const double scale = font.Size * twipsPerPoint / table.unitsPerEm;
+    return static_cast<float>(static_cast<double>(units) * scale);
+}
+
+} // namespace
+
+float textWidth(const FontSpec& font, std::string_view text) {
+    const AdvanceTable& table = advanceTable(font);
+    std::int64_t units = 0;
+    for (const char character : text) units += table.advances[code(character)];
+    return twips(units, font, table);
+}
+
+float textHeight(const FontSpec& font) {
+    const AdvanceTable& table = advanceTable(font);
+    return twips(table.ascent + table.descent, font, table);
+}
+
+float textAscent(const FontSpec& font) {
+    const AdvanceTable& table = advanceTable(font);
+    return twips(table.ascent, font, table);
+}
+
+std::string fontNameGiven(std::string_view name) { return fontFamily(name).nameGiven; }
+
+float fontSizeGiven(const FontSpec& font) {
+    constexpr float smallest = 1;
+    constexpr float largest = 2160;
+    // A size that is no number compares false with everything and becomes the smallest.
+    return font.Size > smallest ? std::min(font.Size, largest) : smallest;
+}
+
+std::string MeasureBox::SetFontName(std::string_view name) {
+    Font.Name = name;
+    return fontNameGiven(name);
+}
+
+float MeasureBox::SetFontSize(float points) {
+    Font.Size = points;
+    Font.Size = fontSizeGiven(Font);
+    return Font.Size;
+}
+
+} // namespace toolkit

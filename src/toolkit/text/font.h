@@ -1,0 +1,40 @@
+// The measures of fonts and of texts in them.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "toolkit/text/font_spec.h"
+
+namespace toolkit {
+
+/// Width of a text in twips: the sum of the unhinted, unkerned advances, so it scales exactly with
+/// the size. Each byte is one character; code 160 is as wide as a blank; nothing is an escape.
+[[nodiscard]] float textWidth(const FontSpec& font, std::string_view text);
+
+/// Height of a line in twips: ascent plus descent.
+[[nodiscard]] float textHeight(const FontSpec& font);
+
+/// Distance in twips from the top of a line to its base line.
+[[nodiscard]] float textAscent(const FontSpec& font);
+
+/// The name that the font system reports after this one was asked for: the same text where the font
+/// is installed or has a stand-in, else the name of the font that is used in its place.
+[[nodiscard]] std::string fontNameGiven(std::string_view name);
+
+/// The size in points that the font system gives for the one asked for: itself, within 1 to 2160.
+[[nodiscard]] float fontSizeGiven(const FontSpec& font);
+
+/// A surface that is never shown and only measures.
+struct MeasureBox {
+    FontSpec Font;
+
+    [[nodiscard]] float TextWidth(std::string_view text) const { return textWidth(Font, text); }
+    [[nodiscard]] float TextHeight(std::string_view /*text*/) const { return textHeight(Font); }
+    /// Sets the font's name and returns the name that the font system reports back.
+    std::string SetFontName(std::string_view name);
+    /// Sets the font's size and returns the size that the font system really gives.
+    float SetFontSize(float points);
+};
+
+} // namespace toolkit

@@ -1,0 +1,95 @@
+#include "toolkit/text/text_painter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include <QtCore/QCoreApplication>
+#include <QtGui/QGlyphRun>
+#include <QtGui/QPainter>
+#include <QtGui/QRawFont>
+
+#include "toolkit/base/ansi.h"
+#include "toolkit/base/twips.h"
+#include "toolkit/text/qt_font_face.h"
+
+namespace toolkit {
+namespace {
+
+constexpr double twipsPerPoint = 20;
+
+// Each holds a font engine with the glyphs that it has drawn, so they are worth keeping; all zooms,
+// half points and styles that a card can show come to far fewer than the limit.
+using SizedFonts = std::map<std::pair<const FontFace*, double>, QRawFont>;
+constexpr std::size_t mostSizedFonts = 512;
+
+SizedFonts& sizedFonts() {
+    static SizedFonts fonts;
+    return fonts;
+}
+
+// Font engines must not outlive the application object.
+void forgetSizedFonts() { sizedFonts().clear(); }
+
+const QRawFont& sizedFont(const FontSpec& font, const FontFace& face, double pixelSize) {
+    SizedFonts& fonts = sizedFonts();
+    const auto found = fonts.find({&face, pixelSize});
+    if (found != fonts.end()) return found->second;
+    if (fonts.size() >= mostSizedFonts) forgetSizedFonts();
+    if (fonts.empty()) qAddPostRoutine(forgetSizedFonts);
+    // Made from the font and then given its size: a size given to a QFont is rounded on the way.
+    QRawFont rawFont = QRawFont::fromFont(styledFont(font));
+    rawFont.setPixelSize(pixelSize);
+    return fonts.emplace(std::pair(&face, pixelSize), rawFont).first->second;
+}
+
+struct Run {
+    std::vector<quint32> glyphs;
+    std::vector<QPointF> positions;
+
+    void lay(const FontFace& face, double pixelSize, std::string_view text) {
+        glyphs.clear();
+        positions.clear();
+        const double pixelsPerUnit = pixelSize / face.measures.unitsPerEm;
+        // A file may bring a text of any length: its width is beyond an int.
+        double units = 0;
+        for (const char character : text) {
+            if (character != ' ' && character != noBreakSpace) {
+                glyphs.push_back(face.glyphs[code(character)]);
+                positions.emplace_back(units * pixelsPerUnit, 0);
+            }
+            units += face.measures.advances[code(character)];
+        }
+    }
+};
+
+} // namespace
+
+void drawRun(QPainter& painter, QPointF baselineOrigin, const FontSpec& font, double pixelsPerTwip,
+             Color color, std::string_view text) {
+    static Run run;
+    const double pixelSize = font.Size * twipsPerPoint * pixelsPerTwip;
+    if (!(pixelSize > 0)) return;
+    const FontFace& face = fontFace(font);
+    run.lay(face, pixelSize, text);
+    if (run.glyphs.empty()) return;
+    QGlyphRun glyphRun;
+    glyphRun.setRawFont(sizedFont(font, face, pixelSize));
+    glyphRun.setRawData(run.glyphs.data(), run.positions.data(),
+                        static_cast<int>(run.glyphs.size()));
+    painter.setPen(QColor(redOf(color), greenOf(color), blueOf(color)));
+    painter.drawGlyphRun(baselineOrigin, glyphRun);
+}
+
+QFont qtFont(const FontSpec& font) {
+    const double exactSize = std::max(font.Size * twipsPerPoint / twipsPerPixel(), 1.0);
+    const int wholeSize = static_cast<int>(std::lround(exactSize));
+    QFont sized = styledFont(font);
+    sized.setPixelSize(wholeSize);
+    sized.setLetterSpacing(QFont::PercentageSpacing, 100 * exactSize / wholeSize);
+    return sized;
+}
+
+} // namespace toolkit

@@ -1,0 +1,173 @@
+#include "toolkit/window/card/qt_card_widget.h"
+
+#include <chrono>
+
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+
+#include "toolkit/base/qt_geometry.h"
+#include "toolkit/picture/pixel_memory.h"
+#include "toolkit/picture/qt_picture.h"
+#include "toolkit/window/input/qt_mouse_input.h"
+
+namespace toolkit {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// Longer than from one key press to the next.
+constexpr std::chrono::milliseconds memoryIsKept = 2s;
+
+} // namespace
+
+CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery,
+                       Wheel& wheel)
+    : QWidget(&container), parts_(parts), mouse_(parts, delivery), wheel_(wheel) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setVisible(parts.card->Visible);
+}
+
+void CardWidget::push() {
+    if (isFrozen()) return pushWaitPointer();
+    pushPlace();
+    pushPointer();
+    if (picture_ != parts_.card->Picture) pushPicture();
+    const QRegion changes = scene_.takeOver(parts_);
+    if (!changes.isEmpty()) update(changes);
+    if (isHidden() == parts_.card->Visible) setVisible(parts_.card->Visible);
+}
+
+/// Zooms come in a row: a picture's memory is kept a while for the next but one.
+void CardWidget::pushPicture() {
+    const KeptPixelMemory kept;
+    picture_ = parts_.card->Picture;
+    sharp_.reset();
+    keepMemory_.start(static_cast<int>(memoryIsKept.count()), this);
+    update();
+}
+
+void CardWidget::timerEvent(QTimerEvent* event) {
+    if (event->timerId() != keepMemory_.timerId()) return QWidget::timerEvent(event);
+    keepMemory_.stop();
+    releaseKeptPixelMemory();
+}
+
+bool CardWidget::isFrozen() const {
+    return parts_.frozenCard != nullptr && parts_.frozenCard->Visible;
+}
+
+/// The card's own pointer would say that it can be worked upon.
+void CardWidget::pushWaitPointer() {
+    if (pointer_ == parts_.form->MousePointer) return;
+    pointer_ = parts_.form->MousePointer;
+    setPointer(*this, pointer_, grip_);
+}
+
+/// The size doesn't depend on where the card lies, or a drag would make it flicker by a pixel.
+void CardWidget::pushPlace() {
+    const PictureBox& card = *parts_.card;
+    const QRect place(pixelsFromTwips(card.Left), pixelsFromTwips(card.Top),
+                      pixelsFromTwips(card.Width), pixelsFromTwips(card.Height));
+    if (place != geometry()) setGeometry(place);
+}
+
+/// The hand closes when it takes the card along.
+void CardWidget::pushPointer() {
+    const Grip grip = dragged_ ? Grip::Closed : Grip::Open;
+    if (pointer_ == parts_.card->MousePointer && grip_ == grip) return;
+    pointer_ = parts_.card->MousePointer;
+    grip_ = grip;
+    setPointer(*this, pointer_, grip_);
+}
+
+/// Whether this screen gets a picture of its own, made when it is first painted there.
+bool CardWidget::findSharpPicture(double ratio) {
+    if (isFrozen()) return sharp_ && !sharp_->empty();
+    const SharpPicture& sharp = parts_.card->Sharp;
+    if (ratio <= 1 || !picture_ || sharp.of != picture_ || !sharp.drawn) return false;
+    if (!sharp_ || sharpRatio_ != ratio) {
+        sharp_ = sharp.drawn(static_cast<float>(ratio));
+        sharpRatio_ = ratio;
+    }
+    return !sharp_->empty();
+}
+
+/// Pixel by pixel where it has the screen's own, else stretched.
+void CardWidget::paintSharpPicture(QPainter& painter, const QRect& area) const {
+    const QImage image = imageOver(std::as_const(*sharp_));
+    const QSizeF size(picture_->width(), picture_->height());
+    painter.save();
+    painter.setClipRect(area);
+    if (image.size() == (size * sharpRatio_).toSize()) {
+        painter.scale(1 / sharpRatio_, 1 / sharpRatio_);
+        painter.drawImage(0, 0, image);
+    } else {
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF(QPointF(0, 0), size), image);
+    }
+    painter.restore();
+    for (const QRect& rest : QRegion(area) - QRect(QPoint(0, 0), size.toSize()))
+        painter.fillRect(rest, qColor(parts_.card->BackColor));
+}
+
+void CardWidget::paintPicture(QPainter& painter, const QRect& area) const {
+    QRect pictureArea;
+    if (picture_ && !picture_->empty()) {
+        pictureArea = area & QRect(0, 0, picture_->width(), picture_->height());
+        painter.drawImage(pictureArea.topLeft(), imageOver(*picture_), pictureArea);
+    }
+    if (pictureArea == area) return;
+    for (const QRect& rest : QRegion(area) - pictureArea)
+        painter.fillRect(rest, qColor(parts_.card->BackColor));
+}
+
+void CardWidget::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    const bool sharp = findSharpPicture(painter.deviceTransform().m11());
+    for (const QRect& area : event->region()) {
+        if (sharp)
+            paintSharpPicture(painter, area);
+        else
+            paintPicture(painter, area);
+    }
+    scene_.paint(painter, event->region());
+}
+
+CardPointer CardWidget::pointerOf(const QMouseEvent& event) const {
+    return {pixelUnder(event, *this), shiftOf(event.modifiers())};
+}
+
+void CardWidget::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    const int button = buttonOf(event->button());
+    const int others = buttonsOf(event->buttons()) & ~button;
+    if (button != 0)
+        mouse_.press(pointerOf(*event), button,
+                     others == 0 ? CardMouse::Held::None : CardMouse::Held::Others);
+}
+
+/// The second press of a double click is a press like any other.
+void CardWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(event); }
+
+void CardWidget::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    dragged_ = event->buttons() != Qt::NoButton;
+    mouse_.move(pointerOf(*event), buttonsOf(event->buttons()));
+}
+
+void CardWidget::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    const int button = buttonOf(event->button());
+    const int others = buttonsOf(event->buttons()) & ~button;
+    dragged_ = dragged_ && others != 0;
+    if (button != 0)
+        mouse_.release(pointerOf(*event), button,
+                       others == 0 ? CardMouse::Held::None : CardMouse::Held::Others);
+}
+
+void CardWidget::wheelEvent(QWheelEvent* event) { wheel_.turn(*event); }
+
+} // namespace toolkit

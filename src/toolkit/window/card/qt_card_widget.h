@@ -1,0 +1,55 @@
+// The card on the screen: its picture, its labels, its mouse. Internal to the toolkit's sources.
+#pragma once
+
+#include <QtCore/QBasicTimer>
+#include <QtWidgets/QWidget>
+
+#include "toolkit/window/card/qt_card_mouse.h"
+#include "toolkit/window/card/qt_label_scene.h"
+#include "toolkit/window/control/qt_pointer.h"
+#include "toolkit/window/input/qt_wheel.h"
+
+namespace toolkit {
+
+class CardWidget : public QWidget {
+  public:
+    CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery, Wheel& wheel);
+
+    /// Takes over what the program changed and asks for a repaint of just that.
+    void push();
+
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+  private:
+    [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
+    [[nodiscard]] bool isFrozen() const;
+    void pushPlace();
+    void pushPicture();
+    void pushWaitPointer();
+    void pushPointer();
+    void paintPicture(QPainter& painter, const QRect& area) const;
+    void paintSharpPicture(QPainter& painter, const QRect& area) const;
+    [[nodiscard]] bool findSharpPicture(double ratio);
+
+    const WindowParts& parts_;
+    CardMouse mouse_;
+    Wheel& wheel_;
+    LabelScene scene_;
+    std::shared_ptr<const Bitmap> picture_;
+    /// The picture in the pixels of the screen that it was last painted on, and their ratio.
+    std::shared_ptr<const Bitmap> sharp_;
+    double sharpRatio_ = 0;
+    QBasicTimer keepMemory_;
+    MousePointer pointer_ = MousePointer::Default;
+    Grip grip_ = Grip::Open;
+    bool dragged_ = false; ///< the mouse has moved since a button went down
+};
+
+} // namespace toolkit

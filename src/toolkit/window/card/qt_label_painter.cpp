@@ -1,0 +1,95 @@
+#include "toolkit/window/card/qt_label_painter.h"
+
+#include <algorithm>
+#include <cmath>
+#include <string_view>
+
+#include <QtGui/QPainter>
+
+#include "toolkit/base/qt_geometry.h"
+#include "toolkit/text/qt_run_picture.h"
+#include "toolkit/text/text_painter.h"
+
+namespace toolkit {
+namespace {
+
+/// Slanted glyphs lean out of their advances by less than this share of the line's height.
+constexpr float leaningShare = 0.4F;
+
+/// Distance in twips from the label's left edge to its text's; negative where the text is wider.
+float textOffset(const Label& label, float width) {
+    switch (label.Alignment) {
+    case Alignment::Left:
+        return 0;
+    case Alignment::Right:
+        return label.Width - width;
+    case Alignment::Center:
+        return (label.Width - width) / 2;
+    }
+    return 0;
+}
+
+/// Length of the words at the beginning that fit into the label; the first word always counts.
+std::size_t firstLine(const Label& label, std::string_view text) {
+    std::size_t length = std::min(text.find(' '), text.size());
+    float width = textWidth(label.Font, text.substr(0, length));
+    while (length < text.size()) {
+        const std::size_t end = std::min(text.find(' ', length + 1), text.size());
+        width += textWidth(label.Font, text.substr(length, end - length));
+        if (width > label.Width) break;
+        length = end;
+    }
+    return length;
+}
+
+/// A base line in the painter's own coordinates, and whether it is a whole row of the device.
+struct PaintedLine {
+    double y = 0;
+    bool isWhole = true;
+};
+
+/// Rounded once, from the exact place: the base line of a text keeps to its printed rule, and a
+/// mark to its box, as well as the rows of the screen allow.
+PaintedLine paintedLineOf(const Label& label, const QTransform& device) {
+    const double rowsPerTwip = device.m22() / twipsPerPixel();
+    const auto line = static_cast<double>(label.Top + textAscent(label.Font));
+    const auto rows = [&](float below) {
+        return (line + static_cast<double>(below)) * rowsPerTwip;
+    };
+    const BaseLine& base = label.BaseLine;
+    const double row = paintedLine(rows(base.Wanted), rows(base.Highest), rows(base.Lowest));
+    // The picture below begins on a whole row of the device, whatever lies above the card.
+    const double start = std::round(device.dy());
+    return {(row + start - device.dy()) / device.m22(), row == std::nearbyint(row)};
+}
+
+} // namespace
+
+QRect paintedRectangle(const Label& label) {
+    const QRect place = pixelRectangle(label);
+    if (label.Clips || label.Caption.empty()) return place;
+    const auto scale = static_cast<float>(twipsPerPixel());
+    const float width = textWidth(label.Font, paintedText(label.Caption)) / scale;
+    const float left = textOffset(label, width * scale) / scale;
+    const float height = textHeight(label.Font) / scale;
+    const float leaning = height * leaningShare;
+    const QRectF text(left - leaning, -1, width + 2 * leaning, height + 2);
+    return place.united(text.toAlignedRect().translated(place.topLeft()));
+}
+
+void paintLabel(QPainter& painter, const Label& label) {
+    const QRect place = pixelRectangle(label);
+    painter.setClipRect(paintedRectangle(label));
+    if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
+    std::string text = paintedText(label.Caption);
+    if (label.FirstLineOnly) text.resize(firstLine(label, text));
+    if (text.empty()) return;
+    const auto scale = static_cast<double>(twipsPerPixel());
+    const float offset = textOffset(label, textWidth(label.Font, text));
+    const PaintedLine line = paintedLineOf(label, painter.deviceTransform());
+    const QPointF origin(static_cast<double>(label.Left + offset) / scale, line.y);
+    const auto draw = line.isWhole ? drawRun : drawRunBetweenRows;
+    draw(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
+}
+
+} // namespace toolkit

@@ -1,0 +1,83 @@
+#include "toolkit/window/control/qt_list_view.h"
+
+#include <QtCore/QItemSelectionModel>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+
+#include "toolkit/base/qt_text.h"
+
+namespace toolkit {
+
+ListView::ListView(QWidget& parent, Form& form, ListBox& list, Delivery& delivery)
+    : QListView(&parent), list_(list), mouse_(form, delivery, list, nullptr, 0),
+      painter_(rows_, list) {
+    hide();
+    setFrameStyle(QFrame::Box | QFrame::Plain);
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, Qt::gray);
+    setPalette(colors);
+    setUniformItemSizes(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    setItemDelegate(&painter_);
+    setModel(&rows_);
+}
+
+ListView::~ListView() { setModel(nullptr); }
+
+void ListView::pull() {
+    if (isHidden() || currentIndex().row() == knownIndex_) return;
+    knownIndex_ = list_.ListIndex = currentIndex().row();
+}
+
+/// A hidden list keeps its old rows: comparing thousands of them after each event would cost.
+void ListView::push() {
+    if (list_.Visible) {
+        // Setting no current row keeps the view from choosing one when it gets the focus.
+        if (rows_.replace(list_.List)) setCurrentIndex({});
+        pushIndex();
+        if (const QString tip = qString(list_.ToolTip); tip != toolTip()) setToolTip(tip);
+    }
+    looks_.push(*this, list_, {});
+}
+
+void ListView::pushIndex() {
+    knownIndex_ = list_.ListIndex;
+    if (currentIndex().row() != list_.ListIndex) setCurrentIndex(rows_.index(list_.ListIndex));
+}
+
+void ListView::takeKey(QKeyEvent& event) {
+    const int before = currentIndex().row();
+    keyPressEvent(&event);
+    if (currentIndex().row() != before) mouse_.send(&Control::Click);
+}
+
+void ListView::mousePressEvent(QMouseEvent* event) {
+    list_.PointedIndex = indexAt(event->position().toPoint()).row();
+    if (mouse_.press(*this, *event) == ControlMouse::Own::Handle) QListView::mousePressEvent(event);
+    event->accept();
+}
+
+void ListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    mousePressEvent(event);
+    if (event->button() == Qt::LeftButton && list_.PointedIndex >= 0)
+        mouse_.send(&Control::DblClick);
+}
+
+void ListView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::RightButton) QListView::mouseReleaseEvent(event);
+    mouse_.release(*this, *event);
+    if (event->button() == Qt::LeftButton && list_.PointedIndex >= 0) mouse_.send(&Control::Click);
+    event->accept();
+}
+
+/// At its ends, too, the list keeps the wheel to itself, or the card behind it would move.
+void ListView::wheelEvent(QWheelEvent* event) {
+    QListView::wheelEvent(event);
+    event->accept();
+}
+
+} // namespace toolkit

@@ -1,0 +1,40 @@
+// A list box on the form or on a panel. Internal to the toolkit's sources.
+#pragma once
+
+#include <QtWidgets/QListView>
+
+#include "toolkit/model/window_parts.h"
+#include "toolkit/window/control/qt_control_looks.h"
+#include "toolkit/window/control/qt_list_rows.h"
+
+namespace toolkit {
+
+class ListView : public QListView {
+  public:
+    ListView(QWidget& parent, Form& form, ListBox& list, Delivery& delivery);
+    ~ListView() override;
+
+    void pull();
+    void push();
+    /// What the list does with a key that no handler has taken.
+    void takeKey(QKeyEvent& event);
+
+  protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    bool focusNextPrevChild(bool /*next*/) override { return false; }
+
+  private:
+    void pushIndex();
+
+    ListBox& list_;
+    ControlMouse mouse_;
+    ControlLooks looks_;
+    ListRows rows_;
+    ListRowPainter painter_;
+    int knownIndex_ = -1;
+};
+
+} // namespace toolkit

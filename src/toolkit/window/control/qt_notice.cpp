@@ -1,0 +1,30 @@
+#include "toolkit/window/control/qt_notice.h"
+
+#include "toolkit/base/qt_geometry.h"
+#include "toolkit/base/qt_text.h"
+#include "toolkit/window/control/qt_control_looks.h"
+
+namespace toolkit {
+
+Notice::Notice(QWidget& container, const TextBox& box) : QLabel(&container), box_(box) {
+    setTextFormat(Qt::PlainText);
+    setAlignment(Qt::AlignCenter);
+    setFrameShape(QFrame::Box);
+    setAutoFillBackground(true);
+    setVisible(false);
+}
+
+void Notice::push() {
+    if (const QString text = qString(box_.Text); text != this->text()) setText(text);
+    setGeometry(pixelsFromTwips(box_.Left), pixelsFromTwips(box_.Top), pixelsFromTwips(box_.Width),
+                pixelsFromTwips(box_.Height));
+    if (isHidden() != box_.Visible) return;
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, qColor(box_.BackColor));
+    colors.setColor(QPalette::WindowText, qColor(box_.ForeColor));
+    setPalette(colors);
+    setVisible(box_.Visible);
+    raise();
+}
+
+} // namespace toolkit

@@ -1,0 +1,21 @@
+// A text on the form, over the card, that the player only reads. Internal to the toolkit's sources.
+#pragma once
+
+#include <QtWidgets/QLabel>
+
+#include "toolkit/model/control.h"
+
+namespace toolkit {
+
+class Notice : public QLabel {
+  public:
+    Notice(QWidget& container, const TextBox& box);
+
+    /// Takes over what the program changed.
+    void push();
+
+  private:
+    const TextBox& box_;
+};
+
+} // namespace toolkit

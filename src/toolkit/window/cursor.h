@@ -1,0 +1,14 @@
+// The place of the mouse cursor.
+#pragma once
+
+namespace toolkit {
+
+struct CursorPosition {
+    int x = 0;
+    int y = 0;
+};
+/// The cursor's place in screen pixels: the one asked for last until the pointer really moves.
+[[nodiscard]] CursorPosition cursorPosition();
+void setCursorPosition(CursorPosition position);
+
+} // namespace toolkit

@@ -1,0 +1,116 @@
+#include "toolkit/window/input/qt_delivery.h"
+
+#include <exception>
+#include <utility>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QScopedValueRollback>
+#include <QtCore/QTimer>
+
+#include "toolkit/base/program_overrides.h"
+
+namespace toolkit {
+namespace {
+
+std::exception_ptr& kept() {
+    static std::exception_ptr exception;
+    return exception;
+}
+
+/// A number that is another one for a while.
+class Meanwhile {
+  public:
+    Meanwhile(int& number, int value) : number_(number), before_(std::exchange(number, value)) {}
+    Meanwhile(const Meanwhile&) = delete;
+    Meanwhile& operator=(const Meanwhile&) = delete;
+    ~Meanwhile() { number_ = before_; }
+
+  private:
+    int& number_;
+    int before_;
+};
+
+} // namespace
+
+void rethrowKept() {
+    if (kept()) std::rethrow_exception(std::exchange(kept(), nullptr));
+}
+
+void Delivery::guarded(const std::function<void()>& handler) {
+    try {
+        try {
+            handler();
+        } catch (const std::exception&) {
+            if (hooks_.unhandled) hooks_.unhandled(currentFailure());
+        }
+    } catch (...) {
+        kept() = std::current_exception();
+    }
+}
+
+void Delivery::run(const std::function<void()>& handler) {
+    hooks_.pull();
+    ++depth_;
+    guarded(handler);
+    --depth_;
+    hooks_.push();
+    if (depth_ == 0 && closeAsked_) scheduleClose();
+}
+
+void Delivery::askToClose() {
+    if (!std::exchange(closeAsked_, true)) scheduleClose();
+}
+
+void Delivery::askToEnd() {
+    // The very question that is being put.
+    if (isEnding_) return;
+    endAsked_ = true;
+    askToClose();
+}
+
+bool Delivery::mayEnd() {
+    if (depth_ > 0) {
+        askToEnd();
+        return false;
+    }
+    const bool isInWait = waits_ > 0;
+    bool ends = false;
+    {
+        const QScopedValueRollback asking(isEnding_, true);
+        run([&] { ends = hooks_.end(); });
+    }
+    // Only the wait was ended; the question comes again when its procedure has returned.
+    if (isInWait) endAsked_ = closeAsked_ = true;
+    return ends;
+}
+
+void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
+    // What runs meanwhile runs as if no handler were running.
+    const Meanwhile outermost(depth_, 0);
+    const Meanwhile wait(waits_, waits_ + 1);
+    if (closeAsked_) scheduleClose();
+    while (!isOver() && !kept()) {
+        if (programOverrides().player)
+            programOverrides().player();
+        else
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    rethrowKept();
+}
+
+void Delivery::close() {
+    if (!endAsked_) return run(hooks_.close);
+    endAsked_ = false;
+    static_cast<void>(mayEnd());
+}
+
+/// Queued: the close procedure may end the program, which must not happen below the platform's own
+/// close event. Another handler may have begun by then, so the depth is looked at again.
+void Delivery::scheduleClose() {
+    QTimer::singleShot(0, &timers_, [this] {
+        if (depth_ > 0 || !std::exchange(closeAsked_, false)) return;
+        close();
+    });
+}
+
+} // namespace toolkit

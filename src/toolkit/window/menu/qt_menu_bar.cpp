@@ -1,0 +1,162 @@
+#include "toolkit/window/menu/qt_menu_bar.h"
+
+#include <QtGui/QKeyEvent>
+
+#include "toolkit/base/qt_text.h"
+#include "toolkit/window/menu/qt_menu_rows.h"
+
+namespace toolkit {
+namespace {
+
+/// The action with this caption that the player could choose, nullptr where there is none.
+QAction* offeredAction(const QList<QAction*>& offered, std::string_view caption) {
+    for (QAction* action : offered) {
+        const QString text = action->text().section(u'\t', 0, 0);
+        if (action->isVisible() && action->isEnabled() && paintedText(ansiText(text)) == caption)
+            return action;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+MenuBar::MenuBar(QWidget& form, const WindowParts& parts, Delivery& delivery)
+    : QMenuBar(&form), parts_(parts), delivery_(delivery) {
+    setNativeMenuBar(false);
+    setFocusPolicy(Qt::NoFocus);
+    for (std::size_t row = 0; row < parts.menu.size(); ++row) {
+        const std::string_view text = parts.menu[row].shortcut;
+        shortcuts_.push_back(QKeySequence::fromString(qString(text), QKeySequence::PortableText));
+        if (parts.menu[row].level == 0) addEntry(row);
+    }
+}
+
+void MenuBar::addEntry(std::size_t row) {
+    Entry& entry = *entries_.emplace_back(std::make_unique<Entry>());
+    entry.row = row;
+    if (hasMenu(row)) {
+        entry.action = addMenu(&entry.menu);
+        connect(&entry.menu, &QMenu::aboutToShow, this, [this, &entry] {
+            entry.menu.clear();
+            for (QMenu* submenu :
+                 entry.menu.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly))
+                submenu->deleteLater();
+            fill(entry.menu, entry.row + 1, 1);
+        });
+    } else {
+        entry.action = addAction(QString());
+        connectRow(*entry.action, row);
+    }
+}
+
+void MenuBar::push() {
+    for (const auto& entry : entries_) {
+        const MenuItem& item = *parts_.menu[entry->row].item;
+        if (entry->caption != item.Caption) {
+            entry->caption = item.Caption;
+            entry->action->setText(qString(item.Caption));
+        }
+        entry->action->setVisible(item.Visible);
+        entry->action->setEnabled(item.Enabled);
+    }
+    const Form& form = *parts_.form;
+    if (isEnabled() == form.MenusEnabled) return;
+    showRest(form.MousePointer == MousePointer::Hourglass ? Rest::OfAMoment : Rest::Lasting);
+    setEnabled(form.MenusEnabled);
+}
+
+/// While the program works for a moment, words that turn grey and back would only flicker.
+void MenuBar::showRest(Rest rest) {
+    QPalette looks;
+    if (rest == Rest::OfAMoment)
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            looks.setColor(QPalette::Disabled, role, looks.color(QPalette::Active, role));
+    setPalette(looks);
+}
+
+bool MenuBar::hasMenu(std::size_t row) const {
+    return row + 1 < parts_.menu.size() && parts_.menu[row + 1].level > parts_.menu[row].level;
+}
+
+/// Adds the rows of one menu, from `first` up to the end of its level.
+void MenuBar::fill(QMenu& menu, std::size_t first, int level) {
+    std::size_t row = first;
+    while (row < parts_.menu.size() && parts_.menu[row].level >= level) row = addRow(menu, row);
+}
+
+/// Returns the row behind this one and its submenu.
+std::size_t MenuBar::addRow(QMenu& menu, std::size_t row) {
+    const MenuRow& shown = parts_.menu[row];
+    if (!hasMenu(row)) {
+        QAction& action = addMenuAction(menu, shown.item, shown.shortcut);
+        if (shown.item != nullptr) connectRow(action, row);
+        return row + 1;
+    }
+    QMenu& submenu = *menu.addMenu(qString(shown.item->Caption));
+    submenu.menuAction()->setVisible(shown.item->Visible);
+    submenu.setEnabled(shown.item->Enabled);
+    fill(submenu, row + 1, shown.level + 1);
+    do {
+        ++row;
+    } while (row < parts_.menu.size() && parts_.menu[row].level > shown.level);
+    return row;
+}
+
+void MenuBar::connectRow(QAction& action, std::size_t row) {
+    connect(&action, &QAction::triggered, this, [this, row] { run(row); });
+}
+
+void MenuBar::run(std::size_t row) {
+    delivery_.run([&] {
+        if (parts_.menu[row].Click) parts_.menu[row].Click();
+    });
+}
+
+std::optional<std::size_t> MenuBar::menuAround(std::size_t row) const {
+    const int level = parts_.menu[row].level;
+    while (row-- > 0)
+        if (parts_.menu[row].level < level) return row;
+    return std::nullopt;
+}
+
+bool MenuBar::mayAct(std::size_t row) const {
+    const MenuItem* item = parts_.menu[row].item;
+    if (!parts_.form->MenusEnabled || item == nullptr || !item->Visible || !item->Enabled)
+        return false;
+    const std::optional<std::size_t> around = menuAround(row);
+    return !around || mayAct(*around);
+}
+
+bool MenuBar::runShortcut(const QKeyEvent& event) {
+    const QKeyCombination pressed(event.modifiers() & ~Qt::KeypadModifier,
+                                  static_cast<Qt::Key>(event.key()));
+    const QKeySequence sequence(pressed);
+    for (std::size_t row = 0; row < shortcuts_.size(); ++row) {
+        if (shortcuts_[row].isEmpty() || shortcuts_[row] != sequence || !mayAct(row)) continue;
+        run(row);
+        return true;
+    }
+    return false;
+}
+
+bool MenuBar::choose(std::string_view captionPath) {
+    QAction* chosen = offeredRow(captionPath);
+    if (chosen != nullptr) chosen->trigger();
+    return chosen != nullptr;
+}
+
+QAction* MenuBar::offeredRow(std::string_view captionPath) {
+    QList<QAction*> offered = actions();
+    if (!isEnabled()) return nullptr;
+    for (;;) {
+        const std::size_t end = captionPath.find('>');
+        QAction* row = offeredAction(offered, captionPath.substr(0, end));
+        if (row == nullptr || end == std::string_view::npos) return row;
+        if (row->menu() == nullptr) return nullptr;
+        Q_EMIT row->menu()->aboutToShow();
+        offered = row->menu()->actions();
+        captionPath.remove_prefix(end + 1);
+    }
+}
+
+} // namespace toolkit

@@ -1,0 +1,248 @@
+#include "toolkit/window/panel/qt_panel_widget.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QtGui/QHelpEvent>
+#include <QtGui/QKeyEvent>
+#include <QtGui/QMouseEvent>
+#include <QtGui/QPainter>
+#include <QtGui/QWheelEvent>
+#include <QtWidgets/QToolTip>
+
+#include "toolkit/base/key.h"
+#include "toolkit/base/qt_geometry.h"
+#include "toolkit/base/qt_text.h"
+#include "toolkit/window/card/qt_label_painter.h"
+#include "toolkit/window/input/qt_mouse_input.h"
+#include "toolkit/window/panel/qt_gradient.h"
+#include "toolkit/window/panel/qt_panel_labels.h"
+
+namespace toolkit {
+namespace {
+
+bool canHaveFocus(const PanelPart& part) { return part.control->Visible && part.control->Enabled; }
+
+} // namespace
+
+PanelWidget::PanelWidget(QWidget& area, Form& form, const PanelContents& panel, Delivery& delivery)
+    : QWidget(&area), form_(form), panel_(panel), delivery_(delivery) {
+    hide();
+    setMouseTracking(true);
+    setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::PreventContextMenu);
+    const PanelSite site{*this, form, *panel.box, delivery};
+    for (const PanelControl& control : panel.controls) parts_.push_back(makePart(site, control));
+}
+
+void PanelWidget::pull() {
+    if (isHidden()) return;
+    for (const PanelPart& part : parts_) part.pull();
+}
+
+void PanelWidget::push() {
+    const Panel& box = *panel_.box;
+    if (box.Visible) {
+        if (const QRect place = pixelRectangle(box); place != geometry()) setGeometry(place);
+        for (const PanelPart& part : parts_) part.push();
+        pushPixels();
+    }
+    if (isHidden() == box.Visible) setVisible(box.Visible);
+}
+
+std::vector<const Label*> PanelWidget::labels() const {
+    std::vector<const Label*> all(panel_.labels.begin(), panel_.labels.end());
+    for (const LabelGroup& group : panel_.groups)
+        for (const Label& label : *group.labels) all.push_back(&label);
+    return all;
+}
+
+PanelWidget::Ground PanelWidget::wantedGround() const {
+    const Panel& box = *panel_.box;
+    return {box.Fill,      box.CornerRadius, box.Framed,
+            box.BackColor, form_.Background, parentWidget()->height()};
+}
+
+void PanelWidget::pushPixels() {
+    std::vector<Label> wanted;
+    for (const Label* label : labels()) wanted.push_back(*label);
+    Ground ground = wantedGround();
+    if (wanted == shown_ && ground_ == ground) return;
+    shown_ = std::move(wanted);
+    ground_ = std::move(ground);
+    update();
+}
+
+void PanelWidget::watch(KeyDelivery& keys) {
+    for (const PanelPart& part : parts_)
+        keys.watch(*part.widget, *part.control,
+                   [this, &part](QKeyEvent& event) { takeKey(part, event); });
+}
+
+QWidget* PanelWidget::widgetOf(const Control* control) {
+    if (control == panel_.box) return this;
+    const auto found = std::ranges::find(parts_, control, &PanelPart::control);
+    return found == parts_.end() ? nullptr : found->widget.get();
+}
+
+QRect PanelWidget::placeOf(const Label& label) { return pixelRectangle(label); }
+
+/// The corners let the form behind show through; smooth edges, not a mask.
+void PanelWidget::paintGround(QPainter& painter) const {
+    const Panel& box = *panel_.box;
+    const int formHeight = parentWidget()->height();
+    const bool goesOn =
+        box.Fill == PanelFill::FormGradient && form_.Background.backdrop == Backdrop::Gradient;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(goesOn ? gradientBrush(form_.Background, formHeight, y(), height())
+                            : QBrush(qColor(box.BackColor)));
+    painter.drawRoundedRect(rect(), box.CornerRadius, box.CornerRadius);
+    if (box.Framed) {
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(frameColor(goesOn ? gradientColor(form_.Background, y(), formHeight)
+                                         : qColor(box.BackColor)));
+        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), box.CornerRadius,
+                                box.CornerRadius);
+    }
+    painter.restore();
+}
+
+void PanelWidget::paintEvent(QPaintEvent* /*event*/) {
+    QPainter painter(this);
+    paintGround(painter);
+    for (const PanelLabel* label : panel_.labels) {
+        if (!label->Visible) continue;
+        if (label->BackStyle == BackStyle::Opaque)
+            paintFramedLabel(painter, *label);
+        else if (label->Wraps)
+            paintWrappedLabel(painter, *label);
+        else
+            paintLabel(painter, *label);
+    }
+    for (const LabelGroup& group : panel_.groups)
+        for (const Label& label : *group.labels)
+            if (label.Visible) paintFramedLabel(painter, label);
+}
+
+void PanelWidget::takeKey(const PanelPart& part, QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Tab:
+        return walk(part, 1);
+    case Qt::Key_Backtab:
+        return walk(part, -1);
+    case Qt::Key_Escape:
+        return clickWhere(&CommandButton::Cancel);
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        return part.button != nullptr ? click(*part.button) : clickWhere(&CommandButton::Default);
+    case Qt::Key_Space:
+        if (part.button != nullptr) return click(*part.button);
+        break;
+    default:
+        break;
+    }
+    part.takeKey(event);
+}
+
+/// From the first such step on, the platform shows where the focus is.
+void PanelWidget::walk(const PanelPart& from, int step) {
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
+    const auto count = static_cast<int>(parts_.size());
+    const auto start = static_cast<int>(&from - parts_.data());
+    for (int i = 1; i < count; ++i) {
+        const PanelPart& next =
+            parts_[static_cast<std::size_t>((start + i * step + i * count) % count)];
+        if (canHaveFocus(next)) return delivery_.run([&] { form_.SetFocus(*next.control); });
+    }
+}
+
+/// A key that is held down presses a button once.
+void PanelWidget::click(const CommandButton& button) {
+    if (!button.Visible || !button.Enabled || isKeyRepeat()) return;
+    delivery_.run([&] {
+        if (button.Click) button.Click();
+    });
+}
+
+void PanelWidget::clickWhere(bool CommandButton::*role) {
+    const auto found = std::ranges::find_if(parts_, [role](const PanelPart& part) {
+        return part.button != nullptr && part.button->*role;
+    });
+    if (found != parts_.end()) click(*found->button);
+}
+
+std::optional<PanelWidget::Target> PanelWidget::groupTargetAt(QPoint place) const {
+    for (const LabelGroup& group : panel_.groups) {
+        for (int index = group.labels->UBound(); index >= 0; --index) {
+            const Label& label = (*group.labels)[index];
+            if (!label.Visible || !placeOf(label).contains(place)) continue;
+            Target target{.label = &label};
+            if (group.MouseDown)
+                target.MouseDown = [&group, index](MouseArguments& mouse) {
+                    group.MouseDown(index, mouse);
+                };
+            if (group.Click) target.Click = [&group, index] { group.Click(index); };
+            return target;
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<PanelWidget::Target> PanelWidget::targetAt(QPoint place) const {
+    const auto found = std::ranges::find_if(panel_.labels, [place](const PanelLabel* label) {
+        return label->Visible && placeOf(*label).contains(place);
+    });
+    if (found == panel_.labels.end()) return groupTargetAt(place);
+    const PanelLabel& label = **found;
+    return Target{&label, label.MouseDown, label.Click, label.ToolTip};
+}
+
+void PanelWidget::mousePressEvent(QMouseEvent* event) {
+    event->accept();
+    const QPoint place = pixelUnder(*event, *this);
+    const auto target = targetAt(place);
+    pressed_ = target && event->button() == Qt::LeftButton ? target->label : nullptr;
+    if (!target || !target->MouseDown || buttonOf(event->button()) == 0) return;
+    const QPoint inside = place - placeOf(*target->label).topLeft();
+    MouseArguments arguments{buttonOf(event->button()), shiftOf(event->modifiers()),
+                             twipsFromPixels(inside.x()), twipsFromPixels(inside.y())};
+    delivery_.run([&] { target->MouseDown(arguments); });
+}
+
+void PanelWidget::mouseReleaseEvent(QMouseEvent* event) {
+    event->accept();
+    if (event->button() != Qt::LeftButton) return;
+    const auto target = targetAt(pixelUnder(*event, *this));
+    const Label* pressed = std::exchange(pressed_, nullptr);
+    if (target && target->label == pressed && target->Click) delivery_.run(target->Click);
+}
+
+/// A label that does something shows a hand.
+void PanelWidget::mouseMoveEvent(QMouseEvent* event) {
+    event->accept();
+    const auto target = targetAt(pixelUnder(*event, *this));
+    if (target && (target->Click || !target->ToolTip.empty())) {
+        setCursor(Qt::PointingHandCursor);
+    } else {
+        unsetCursor();
+    }
+}
+
+/// The wheel stays on the panel, or what lies behind it would move.
+void PanelWidget::wheelEvent(QWheelEvent* event) { event->accept(); }
+
+bool PanelWidget::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    const auto& help = *static_cast<QHelpEvent*>(event);
+    const auto target = targetAt(help.pos());
+    if (target && !target->ToolTip.empty())
+        QToolTip::showText(help.globalPos(), qString(target->ToolTip), this,
+                           placeOf(*target->label));
+    else
+        QToolTip::hideText();
+    return true;
+}
+
+} // namespace toolkit

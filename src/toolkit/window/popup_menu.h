@@ -1,0 +1,13 @@
+// Pop-up menus: modal, answered by the player or by a test.
+#pragma once
+
+#include <span>
+
+#include "toolkit/window/questions.h"
+
+namespace toolkit {
+
+/// Opens a pop-up menu at the pointer and waits; the chosen row's Click runs before it returns.
+void popupMenu(std::span<const PopupRow> rows);
+
+} // namespace toolkit

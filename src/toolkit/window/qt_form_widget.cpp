@@ -1,0 +1,63 @@
+#include "toolkit/window/qt_form_widget.h"
+
+#include <QtCore/QTimer>
+#include <QtGui/QCloseEvent>
+
+#include "toolkit/base/qt_text.h"
+#include "toolkit/window/control/qt_pointer.h"
+
+namespace toolkit {
+
+FormWidget::FormWidget(const WindowParts& parts, Delivery& delivery, Wheel& wheel)
+    : form_(*parts.form), delivery_(delivery), menuBar_(*this, parts, delivery),
+      area_(*this, *parts.form, wheel), place_(*parts.form, *this) {
+    setFocusPolicy(Qt::NoFocus);
+}
+
+/// A bar without entries takes no room.
+int FormWidget::menuHeight() const {
+    if (menuBar_.actions().isEmpty()) return 0;
+    return std::max(menuBar_.sizeHint().height(), menuBar_.heightForWidth(width()));
+}
+
+void FormWidget::pull() { place_.pull(menuHeight()); }
+
+void FormWidget::push() {
+    if (const QString title = qString(form_.Caption); title != windowTitle()) setWindowTitle(title);
+    menuBar_.push();
+    place_.pull(menuHeight());
+    place_.push();
+    layOut();
+    area_.push();
+    if (pointer_ != form_.MousePointer) setPointer(*this, pointer_ = form_.MousePointer);
+}
+
+void FormWidget::pushVisible() {
+    if (isHidden() == form_.Visible) setVisible(form_.Visible);
+}
+
+void FormWidget::layOut() {
+    const int height = menuHeight();
+    menuBar_.setGeometry(0, 0, width(), height);
+    area_.setGeometry(0, height, width(), std::max(0, this->height() - height));
+}
+
+void FormWidget::resizeEvent(QResizeEvent* /*event*/) { layOut(); }
+
+/// Whether the window goes away is for the program to decide.
+void FormWidget::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    delivery_.askToClose();
+}
+
+/// The frame shows its real size only with the first exposure, which no handler sees.
+bool FormWidget::event(QEvent* event) {
+    if (event->type() == QEvent::Paint)
+        QTimer::singleShot(0, this, [this] {
+            pull();
+            place_.push();
+        });
+    return QWidget::event(event);
+}
+
+} // namespace toolkit

@@ -1,0 +1,45 @@
+// The form's window: menu bar above, the background with the controls below. Internal to the
+// toolkit.
+#pragma once
+
+#include <QtWidgets/QWidget>
+
+#include "toolkit/model/window_parts.h"
+#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_wheel.h"
+#include "toolkit/window/menu/qt_menu_bar.h"
+#include "toolkit/window/qt_form_area.h"
+#include "toolkit/window/qt_form_place.h"
+
+namespace toolkit {
+
+class FormWidget : public QWidget {
+  public:
+    FormWidget(const WindowParts& parts, Delivery& delivery, Wheel& wheel);
+
+    [[nodiscard]] FormArea& area() { return area_; }
+    [[nodiscard]] MenuBar& menuBar() { return menuBar_; }
+
+    void pull();
+    void push();
+    /// Separate from push: what lies on the form is in its place before the form is seen.
+    void pushVisible();
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    bool event(QEvent* event) override;
+
+  private:
+    [[nodiscard]] int menuHeight() const;
+    void layOut();
+
+    Form& form_;
+    Delivery& delivery_;
+    MenuBar menuBar_;
+    FormArea area_;
+    FormPlace place_;
+    MousePointer pointer_ = MousePointer::Default;
+};
+
+} // namespace toolkit
