@@ -61,6 +61,18 @@ PPD = """*PPD-Adobe: "4.3"
 *InputSlot Upper/Upper Tray: "<</MediaPosition 0>>setpagedevice"
 *InputSlot Lower/Lower Tray: "<</MediaPosition 1>>setpagedevice"
 *CloseUI: *InputSlot
+*OpenUI *MediaType/Media Type: PickOne
+*OrderDependency: 10 AnySetup *MediaType
+*DefaultMediaType: Plain
+*MediaType Plain/Plain Paper: "<</MediaType(Plain)>>setpagedevice"
+*MediaType Glossy/Glossy Paper: "<</MediaType(Glossy)>>setpagedevice"
+*CloseUI: *MediaType
+*OpenUI *cupsPrintQuality/Quality: PickOne
+*OrderDependency: 10 AnySetup *cupsPrintQuality
+*DefaultcupsPrintQuality: Normal
+*cupsPrintQuality Normal/Normal: "<</PostRenderingEnhance false>>setpagedevice"
+*cupsPrintQuality High/High: "<</PostRenderingEnhance true>>setpagedevice"
+*CloseUI: *cupsPrintQuality
 """
 
 PDF = "application/pdf"

@@ -46,15 +46,12 @@ class SettingUpTest(whole_program.WholeProgramTest):
         size = re.search(r"Page size: +([0-9.]+) x ([0-9.]+) pts", told)
         return [float(points) / 72 for points in size.groups()], self.service.options(1)
 
-    def test_what_the_systems_set_up_chooses_reaches_the_job(self):
+    def test_what_the_set_up_chooses_reaches_the_job(self):
         program = self.start_with_card()
         program.choose_in_file_menu(printer_set_up.ROW)
-        self.press_in(program, "^Printer Setup$", "alt+r")
-        for keys in (("Tab", "Down", "Tab", "Tab", "Down"),  # A4, landscape
-                     ("ctrl+shift+Tab",), ("shift+Tab", "shift+Tab", "Down"),  # the lower tray
-                     ("Return",)):
-            self.press_in(program, "^Printer Properties$", *keys)
-        for keys in (("alt+o",), ("Tab", "Tab", "Tab", "Up", "Up", "Return")):  # three copies
+        for keys in (("alt+s", "Up"),  # A4
+                     ("alt+a", "End"), ("alt+e", "End"), ("alt+q", "End"),  # the last of each
+                     ("alt+i", "ctrl+a", "3"), ("alt+l",), ("Return",)):
             self.press_in(program, "^Printer Setup$", *keys)
         printer_set_up.wait_until_told(self.home)
         (width, height), options = self.page_and_options(program)
@@ -63,6 +60,18 @@ class SettingUpTest(whole_program.WholeProgramTest):
         self.assertEqual(options["copies"], "3")
         self.assertEqual(options["PageSize"], "A4")
         self.assertEqual(options["InputSlot"], "Lower")
+        self.assertEqual(options["MediaType"], "Glossy")
+        self.assertEqual(options["cupsPrintQuality"], "High")
+        self.leave(program)
+
+    def test_grey_is_asked_of_a_colour_printer(self):
+        program = self.start_with_card()
+        program.choose_in_file_menu(printer_set_up.ROW)
+        for keys in (("alt+n", "Down"), ("Return",)):
+            self.press_in(program, "^Printer Setup$", *keys)
+        printer_set_up.wait_until_told(self.home)
+        _, options = self.page_and_options(program)
+        self.assertEqual(options["print-color-mode"], "monochrome")
         self.leave(program)
 
     def test_what_the_alternate_set_up_chooses_reaches_the_job(self):

@@ -30,12 +30,18 @@ class ModalFormOnScreen : public WindowTest {
         };
         option.Caption = "Option";
         shown.Caption = "Title";
+        number.Label = "&Number";
+        number.Min = 1;
+        number.Max = 9;
+        number.Value = 2;
         shown.combos = {&list};
+        shown.numbers = {&number};
         shown.options = {&option};
         shown.buttons = {&ok, &cancel};
     }
     ModalForm shown;
     ComboBox list;
+    NumberBox number;
     OptionButton option;
     CommandButton ok;
     CommandButton cancel;
@@ -45,11 +51,14 @@ TEST_F(ModalFormOnScreen, RunsTheHandlersWithTheNewValues) {
     test::driveNextDialog([](test::DialogDriver& dialog) {
         EXPECT_EQ(dialog.title(), "Title");
         dialog.choose(0, 1);
+        EXPECT_EQ(dialog.number("Number"), 2);
+        dialog.setNumber("Number", 12);
         dialog.turnOn("Option");
         dialog.press("OK");
     });
     showModal(shown);
     EXPECT_EQ(log, (Log{"click 1", "ok"}));
+    EXPECT_EQ(number.Value, 9);
     EXPECT_TRUE(option.Value);
 }
 
@@ -57,11 +66,17 @@ TEST_F(ModalFormOnScreen, AHandlersChangesAreShown) {
     list.Click = [this] {
         list.List = {"three"};
         list.ListIndex = 0;
+        list.Enabled = false;
+        number.Enabled = false;
+        number.Value = 5;
         option.Enabled = false;
     };
     test::driveNextDialog([](test::DialogDriver& dialog) {
         dialog.choose(0, 1);
         EXPECT_EQ(dialog.listRows(0), Log{"three"});
+        EXPECT_FALSE(dialog.isListEnabled(0));
+        EXPECT_FALSE(dialog.isNumberEnabled("Number"));
+        EXPECT_EQ(dialog.number("Number"), 5);
         EXPECT_FALSE(dialog.isEnabled("Option"));
         dialog.press("OK");
     });

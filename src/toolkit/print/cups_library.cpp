@@ -42,6 +42,7 @@ std::optional<CupsLibrary> load() {
                           find(library, "cupsCancelJob", cups.cancelJob) &&
                           find(library, "cupsLastErrorString", cups.lastErrorString) &&
                           find(library, "ippGetCount", cups.getCount) &&
+                          find(library, "ippGetInteger", cups.getInteger) &&
                           find(library, "ippGetString", cups.getString) &&
                           find(library, "ippGetResolution", cups.getResolution);
     return complete ? std::optional(cups) : std::nullopt;

@@ -31,6 +31,7 @@ struct CupsLibrary {
     decltype(&::cupsCancelJob) cancelJob = nullptr;
     decltype(&::cupsLastErrorString) lastErrorString = nullptr;
     decltype(&::ippGetCount) getCount = nullptr;
+    decltype(&::ippGetInteger) getInteger = nullptr;
     decltype(&::ippGetString) getString = nullptr;
     decltype(&::ippGetResolution) getResolution = nullptr;
 };

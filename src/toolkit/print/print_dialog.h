@@ -1,4 +1,4 @@
-// The system's own dialog for choosing printer, paper and tray.
+// The dialog for choosing printer, paper and tray: the system's own, or ours where it has none.
 #pragma once
 
 #include <functional>

@@ -22,16 +22,11 @@ struct Paper {
     float endMargin = 0;  ///< likewise above and below
 };
 
-struct PaperTray {
-    int code = 0;
+/// A tray, a kind of paper or a quality that a printer offers.
+struct PrinterOption {
+    int code = 0; ///< from 1 on
     std::string name;
     std::string keyword;
-};
-
-/// A choice beyond what the program knows of, in the print service's own words.
-struct JobOption {
-    std::string keyword;
-    std::string value;
 };
 
 enum class Orientation : int { Portrait = 1, Landscape = 2 };
@@ -47,8 +42,10 @@ struct Printer {
     float ScaleHeight = 0; ///< of the printable part
     float ScaleWidth = 0;
     int Orientation = 1; ///< 1 portrait, 2 landscape
-    int PaperBin = 0;
+    int PaperBin = 0;    ///< this, PaperType and Quality are 0 where the printer decides
     int PaperSize = 1;
+    int PaperType = 0;
+    int Quality = 0;
     float TwipsPerPixelX = 0;
     float TwipsPerPixelY = 0;
     int PixelsPerInchX = 0;
@@ -60,8 +57,9 @@ struct Printer {
     int BitsPerPixel = 24;
     bool CanTurn = true; ///< whether the orientation can be chosen
     std::vector<Paper> Papers;
-    std::vector<PaperTray> Trays;
-    std::vector<JobOption> JobOptions;
+    std::vector<PrinterOption> Trays;
+    std::vector<PrinterOption> PaperTypes;
+    std::vector<PrinterOption> Qualities;
     /// What the system's dialog was told, where the system keeps it in a device of its own.
     std::shared_ptr<void> SystemDevice{};
 };

@@ -47,23 +47,26 @@ std::string hundredthsOfMillimetres(float inches) {
     return std::to_string(std::lround(inches * inAnInch));
 }
 
-/// The service heeds a tray only together with the paper in it.
+/// The service heeds tray and kind of paper only together with the paper's size.
 void addMedia(Options& options, const Printer& printer) {
     const Paper* paper = itemWithCode(printer.Papers, printer.PaperSize);
     if (paper == nullptr) return;
-    const PaperTray* tray = itemWithCode(printer.Trays, printer.PaperBin);
-    if (tray == nullptr) return options.add(CUPS_MEDIA, paper->keyword);
-    options.add("media-col", "{media-size={x-dimension=" + hundredthsOfMillimetres(paper->width) +
-                                 " y-dimension=" + hundredthsOfMillimetres(paper->height) +
-                                 "} media-source=" + tray->keyword + "}");
+    const PrinterOption* tray = itemWithCode(printer.Trays, printer.PaperBin);
+    const PrinterOption* type = itemWithCode(printer.PaperTypes, printer.PaperType);
+    if (tray == nullptr && type == nullptr) return options.add(CUPS_MEDIA, paper->keyword);
+    std::string media = "{media-size={x-dimension=" + hundredthsOfMillimetres(paper->width) +
+                        " y-dimension=" + hundredthsOfMillimetres(paper->height) + "}";
+    if (tray != nullptr) media += " media-source=" + tray->keyword;
+    if (type != nullptr) media += " media-type=" + type->keyword;
+    options.add("media-col", media + "}");
 }
 
 /// The page comes at its own size and direction, so the service must neither scale nor turn it.
 void addChoices(Options& options, const Printer& printer) {
-    for (const JobOption& option : printer.JobOptions)
-        options.add(option.keyword.c_str(), option.value);
     options.add("print-scaling", "none");
     addMedia(options, printer);
+    if (const PrinterOption* quality = itemWithCode(printer.Qualities, printer.Quality))
+        options.add(CUPS_PRINT_QUALITY, quality->keyword);
     // A grey page on its own is mixed from all inks.
     if (printer.ColorMode == 1)
         options.add(CUPS_PRINT_COLOR_MODE, CUPS_PRINT_COLOR_MODE_MONOCHROME);

@@ -27,7 +27,7 @@ void setPaper(QPrinter& device, const Printer& printer) {
 /// driver's order.
 void setTray(QPrinter& device, const Printer& printer) {
     const auto sources = device.supportedPaperSources();
-    const auto tray = std::ranges::find(printer.Trays, printer.PaperBin, &PaperTray::code);
+    const auto tray = std::ranges::find(printer.Trays, printer.PaperBin, &PrinterOption::code);
     const auto index = static_cast<qsizetype>(tray - printer.Trays.begin());
     if (index < sources.size()) device.setPaperSource(sources[index]);
 }

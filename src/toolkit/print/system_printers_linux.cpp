@@ -1,8 +1,10 @@
 #include "toolkit/print/system_printers.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <span>
+#include <utility>
 
 #include "toolkit/base/ansi.h"
 #include "toolkit/base/error.h"
@@ -54,7 +56,9 @@ class Destination {
         readColor(printer);
         readResolution(printer);
         readPapers(printer);
-        readTrays(printer);
+        printer.Trays = offered(CUPS_MEDIA_SOURCE);
+        printer.PaperTypes = offered(CUPS_MEDIA_TYPE);
+        readQualities(printer);
     }
 
   private:
@@ -135,13 +139,29 @@ class Destination {
         return printer.Papers.front().code;
     }
 
-    void readTrays(Printer& printer) const {
-        int code = 0;
-        for (const std::string& keyword : supported(CUPS_MEDIA_SOURCE)) {
+    [[nodiscard]] std::vector<PrinterOption> offered(const char* option) const {
+        std::vector<PrinterOption> options;
+        for (const std::string& keyword : supported(option)) {
             const char* name = cups_.localizeDestValue(CUPS_HTTP_DEFAULT, destination_, info_,
-                                                       CUPS_MEDIA_SOURCE, keyword.c_str());
-            printer.Trays.push_back({++code, nameOf(name, keyword), keyword});
+                                                       option, keyword.c_str());
+            const int code = static_cast<int>(options.size()) + 1;
+            options.push_back({code, nameOf(name, keyword), keyword});
         }
+        return options;
+    }
+
+    /// They are numbers, for which the service has no names.
+    void readQualities(Printer& printer) const {
+        constexpr std::array names{std::pair{IPP_QUALITY_DRAFT, "Draft"},
+                                   std::pair{IPP_QUALITY_NORMAL, "Normal"},
+                                   std::pair{IPP_QUALITY_HIGH, "High"}};
+        ipp_attribute_t* values =
+            cups_.findDestSupported(CUPS_HTTP_DEFAULT, destination_, info_, CUPS_PRINT_QUALITY);
+        const int count = values == nullptr ? 0 : cups_.getCount(values);
+        for (int i = 0; i < count; ++i)
+            for (const auto& [quality, name] : names)
+                if (cups_.getInteger(values, i) == quality)
+                    printer.Qualities.push_back({quality, name, std::to_string(quality)});
     }
 
     const CupsLibrary& cups_;

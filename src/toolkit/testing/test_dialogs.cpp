@@ -14,6 +14,7 @@
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
+#include <QtWidgets/QSpinBox>
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/picture/qt_picture.h"
@@ -45,6 +46,14 @@ Button& buttonWith(std::string_view caption) {
     const auto buttons = openDialog()->findChildren<Button*>();
     return **std::ranges::find(buttons, caption,
                                [](const Button* button) { return plain(button->text()); });
+}
+
+/// What the label with this text stands beside.
+QSpinBox& numberBeside(std::string_view text) {
+    const auto labels = openDialog()->findChildren<QLabel*>();
+    const auto label =
+        std::ranges::find(labels, text, [](const QLabel* each) { return plain(each->text()); });
+    return dynamic_cast<QSpinBox&>(*(*label)->buddy());
 }
 
 } // namespace
@@ -100,6 +109,18 @@ void DialogDriver::typeInto(int list, int keyCode, std::string_view text) {
     const KeyStroke stroke = keyStrokeOf(keyCode, 0);
     QKeyEvent event(QEvent::KeyPress, stroke.key, stroke.modifiers, qString(text));
     QCoreApplication::sendEvent(&listAt(list), &event);
+}
+
+bool DialogDriver::isListEnabled(int list) const { return listAt(list).isEnabled(); }
+
+void DialogDriver::setNumber(std::string_view label, int value) {
+    numberBeside(label).setValue(value);
+}
+
+int DialogDriver::number(std::string_view label) const { return numberBeside(label).value(); }
+
+bool DialogDriver::isNumberEnabled(std::string_view label) const {
+    return numberBeside(label).isEnabled();
 }
 
 void DialogDriver::turnOn(std::string_view option) { buttonWith<QRadioButton>(option).click(); }

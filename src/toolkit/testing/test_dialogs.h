@@ -16,7 +16,8 @@ struct ShownDialog {
 /// The next dialog that is no box is noted and cancelled.
 void endNextDialog(ShownDialog& seen);
 
-/// Works the lists, options and buttons of a form that is open. Lists are counted from the top.
+/// Works the lists, numbers, options and buttons of a form that is open. Lists are counted from the
+/// top; captions and labels are told without their marks of access keys.
 class DialogDriver {
   public:
     [[nodiscard]] std::string title() const;
@@ -27,6 +28,10 @@ class DialogDriver {
     [[nodiscard]] bool choose(std::string_view row);
     void choose(int list, int row);
     void typeInto(int list, int keyCode, std::string_view text);
+    [[nodiscard]] bool isListEnabled(int list) const;
+    void setNumber(std::string_view label, int value);
+    [[nodiscard]] int number(std::string_view label) const;
+    [[nodiscard]] bool isNumberEnabled(std::string_view label) const;
     void turnOn(std::string_view option);
     [[nodiscard]] bool isOn(std::string_view option) const;
     [[nodiscard]] bool isEnabled(std::string_view option) const;

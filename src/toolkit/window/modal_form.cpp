@@ -8,6 +8,7 @@
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QRadioButton>
+#include <QtWidgets/QSpinBox>
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/window/input/qt_delivery.h"
@@ -37,6 +38,7 @@ class ComboWidget : public QComboBox {
             addItems(shown_ = rows);
         }
         setCurrentIndex(box_.ListIndex);
+        setEnabled(box_.Enabled);
     }
 
   protected:
@@ -62,6 +64,7 @@ class FormDialog : public QDialog {
         setWindowTitle(qString(form.Caption));
         auto* layout = new QFormLayout(this); // owned by the dialog
         for (ComboBox* box : form.combos) addCombo(*layout, *box);
+        for (NumberBox* box : form.numbers) addNumber(*layout, *box);
         addOptions(*layout);
         addButtons(*layout);
         push();
@@ -83,6 +86,13 @@ class FormDialog : public QDialog {
             if (box.Click) box.Click();
             push();
         });
+    }
+
+    void addNumber(QFormLayout& layout, NumberBox& box) {
+        auto* widget = new QSpinBox(this); // owned by the dialog
+        layout.addRow(qString(box.Label), widget);
+        numbers_.push_back(widget);
+        connect(widget, &QSpinBox::valueChanged, this, [&box](int value) { box.Value = value; });
     }
 
     void addOptions(QFormLayout& layout) {
@@ -116,6 +126,13 @@ class FormDialog : public QDialog {
 
     void push() {
         for (ComboWidget* combo : combos_) combo->push();
+        for (std::size_t i = 0; i < numbers_.size(); ++i) {
+            const NumberBox& box = *form_.numbers[i];
+            const QSignalBlocker blocker(numbers_[i]);
+            numbers_[i]->setRange(box.Min, box.Max);
+            numbers_[i]->setValue(box.Value);
+            numbers_[i]->setEnabled(box.Enabled);
+        }
         for (std::size_t i = 0; i < options_.size(); ++i) {
             const QSignalBlocker blocker(options_[i]);
             options_[i]->setChecked(form_.options[i]->Value);
@@ -126,6 +143,7 @@ class FormDialog : public QDialog {
 
     ModalForm& form_;
     std::vector<ComboWidget*> combos_;
+    std::vector<QSpinBox*> numbers_;
     std::vector<QRadioButton*> options_;
 };
 
