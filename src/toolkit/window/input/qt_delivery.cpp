@@ -17,19 +17,6 @@ std::exception_ptr& kept() {
     return exception;
 }
 
-/// A number that is another one for a while.
-class Meanwhile {
-  public:
-    Meanwhile(int& number, int value) : number_(number), before_(std::exchange(number, value)) {}
-    Meanwhile(const Meanwhile&) = delete;
-    Meanwhile& operator=(const Meanwhile&) = delete;
-    ~Meanwhile() { number_ = before_; }
-
-  private:
-    int& number_;
-    int before_;
-};
-
 } // namespace
 
 void rethrowKept() {
@@ -86,8 +73,8 @@ bool Delivery::mayEnd() {
 
 void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
     // What runs meanwhile runs as if no handler were running.
-    const Meanwhile outermost(depth_, 0);
-    const Meanwhile wait(waits_, waits_ + 1);
+    const QScopedValueRollback outermost(depth_, 0);
+    const QScopedValueRollback wait(waits_, waits_ + 1);
     if (closeAsked_) scheduleClose();
     while (!isOver() && !kept()) {
         if (programOverrides().player)
