@@ -212,7 +212,7 @@ TEST_F(EditKeys, CtrlMAndCtrlBracketAreNeitherEnterNorEsc) {
     startSmall();
     openWith("1NT");
     typeKey('M', toolkit::shift::ctrl);
-    typeKey(219, toolkit::shift::ctrl);
+    typeKey('[', toolkit::shift::ctrl);
     EXPECT_TRUE(isEditing());
     EXPECT_EQ(shownText(form.CText), "1NT");
 }

@@ -101,11 +101,10 @@ TEST_F(EditBox, CutAndPasteByTheOtherKeysGiveOutSuitSignsAndKeepEscapes) {
     test::typeKey(key::deleteKey, shift::shift);
     EXPECT_EQ(box.Text, "1");
     EXPECT_EQ(test::clipboardText(), "\u2665\u2660");
-    constexpr int insert = 45;
-    test::typeKey(insert, shift::shift);
+    test::typeKey(key::insert, shift::shift);
     EXPECT_EQ(box.Text, "1^H^s");
     select(1, 2);
-    test::typeKey(insert, shift::ctrl);
+    test::typeKey(key::insert, shift::ctrl);
     EXPECT_EQ(test::clipboardText(), "\u2665");
     EXPECT_EQ(box.Text, "1^H^s");
 }

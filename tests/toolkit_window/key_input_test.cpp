@@ -69,6 +69,14 @@ TEST_F(KeyInput, NamedKeysHaveTheirCodes) {
                                      "KeyUp " + std::to_string(code) + "/0"}));
 }
 
+TEST_F(KeyInput, AKeyThatNoHandlerKnowsBringsItsCharacterOnly) {
+    openBox("");
+    test::typeKey(';', 0, ";");
+    EXPECT_EQ(times("box.KeyDown 255/0"), 1);
+    EXPECT_EQ(times("box.KeyPress 59"), 1);
+    EXPECT_EQ(box.Text, ";");
+}
+
 TEST_F(KeyInput, CharacterOutsideTheCodePageIsItsBaseLetterOrAQuestionMark) {
     openBox("");
     test::typeText("\u0141\u4e2d");

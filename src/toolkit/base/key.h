@@ -16,6 +16,7 @@ constexpr int left = 37;
 constexpr int up = 38;
 constexpr int right = 39;
 constexpr int down = 40;
+constexpr int insert = 45;
 constexpr int deleteKey = 46;
 constexpr int digit0 = 48;
 constexpr int add = 107;

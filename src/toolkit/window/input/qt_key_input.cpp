@@ -21,24 +21,16 @@ constexpr int backspaceCharacter = 8;
 
 using KeyPair = std::pair<int, int>; // Qt's key, virtual key
 
-constexpr std::array keypadKeys{
-    KeyPair{Qt::Key_Asterisk, 106},        KeyPair{Qt::Key_Plus, key::add},
-    KeyPair{Qt::Key_Minus, key::subtract}, KeyPair{Qt::Key_Period, 110},
-    KeyPair{Qt::Key_Comma, 110},           KeyPair{Qt::Key_Slash, 111},
-};
+constexpr std::array keypadKeys{KeyPair{Qt::Key_Plus, key::add},
+                                KeyPair{Qt::Key_Minus, key::subtract}};
 
+/// Those that handlers and edit boxes know; all others are unknown keys.
 constexpr std::array namedKeys{
     KeyPair{Qt::Key_Backspace, key::backspace},
     KeyPair{Qt::Key_Tab, key::tab},
     KeyPair{Qt::Key_Backtab, key::tab},
-    KeyPair{Qt::Key_Clear, 12},
     KeyPair{Qt::Key_Return, key::enter},
     KeyPair{Qt::Key_Enter, key::enter},
-    KeyPair{Qt::Key_Shift, 16},
-    KeyPair{Qt::Key_Control, 17},
-    KeyPair{Qt::Key_Alt, 18},
-    KeyPair{Qt::Key_Pause, 19},
-    KeyPair{Qt::Key_CapsLock, 20},
     KeyPair{Qt::Key_Escape, key::escape},
     KeyPair{Qt::Key_Space, key::space},
     KeyPair{Qt::Key_PageUp, key::pageUp},
@@ -49,33 +41,12 @@ constexpr std::array namedKeys{
     KeyPair{Qt::Key_Up, key::up},
     KeyPair{Qt::Key_Right, key::right},
     KeyPair{Qt::Key_Down, key::down},
-    KeyPair{Qt::Key_Insert, 45},
+    KeyPair{Qt::Key_Insert, key::insert},
     KeyPair{Qt::Key_Delete, key::deleteKey},
-    KeyPair{Qt::Key_Meta, 91},
-    KeyPair{Qt::Key_NumLock, 144},
-    KeyPair{Qt::Key_ScrollLock, 145},
-    KeyPair{Qt::Key_Semicolon, 186},
-    KeyPair{Qt::Key_Colon, 186},
     KeyPair{Qt::Key_Plus, key::plus},
     KeyPair{Qt::Key_Equal, key::plus},
-    KeyPair{Qt::Key_Comma, 188},
-    KeyPair{Qt::Key_Less, 188},
     KeyPair{Qt::Key_Minus, key::minus},
     KeyPair{Qt::Key_Underscore, key::minus},
-    KeyPair{Qt::Key_Period, 190},
-    KeyPair{Qt::Key_Greater, 190},
-    KeyPair{Qt::Key_Slash, 191},
-    KeyPair{Qt::Key_Question, 191},
-    KeyPair{Qt::Key_QuoteLeft, 192},
-    KeyPair{Qt::Key_AsciiTilde, 192},
-    KeyPair{Qt::Key_BracketLeft, 219},
-    KeyPair{Qt::Key_BraceLeft, 219},
-    KeyPair{Qt::Key_Backslash, 220},
-    KeyPair{Qt::Key_Bar, 220},
-    KeyPair{Qt::Key_BracketRight, 221},
-    KeyPair{Qt::Key_BraceRight, 221},
-    KeyPair{Qt::Key_Apostrophe, 222},
-    KeyPair{Qt::Key_QuoteDbl, 222},
 };
 
 template <std::size_t Size>
