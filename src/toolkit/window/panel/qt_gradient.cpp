@@ -22,6 +22,9 @@ QColor gradientColor(const FormBackground& background, int y, int height) {
             component(blueOf(top), blueOf(bottom), share)};
 }
 
+// Not QLinearGradient, which looks its colors up in a table: on forms 480 to 1600 pixels high, 5 to
+// 59 of 100 lines came out one shade off, and 3 to 47 of 100 lines of a panel another shade than
+// the form beside them.
 QBrush gradientBrush(const FormBackground& background, int height, int top, int count) {
     QImage lines(1, std::max(count, 1), QImage::Format_RGB32);
     for (int y = 0; y < lines.height(); ++y)
