@@ -1,5 +1,8 @@
 #include "toolkit/text/qt_run_picture.h"
 
+#include <string>
+#include <utility>
+
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <gtest/gtest.h>
@@ -49,6 +52,17 @@ TEST(RunPicture, LooksTheSameEachTime) {
     const QImage first = drawn(drawRunBetweenRows, {20.3, 25.4}, "4 spades?");
     EXPECT_EQ(drawn(drawRunBetweenRows, {20.3, 25.4}, "4 spades?"), first);
     EXPECT_NE(drawn(drawRunBetweenRows, {20.3, 25.7}, "4 spades?"), first);
+}
+
+TEST(RunPicture, TheOldestOfVeryManyLooksTheSame) {
+    const auto text = [](int number) { return "1NT: " + std::to_string(number); };
+    const QImage first = drawn(drawRunBetweenRows, {20.3, 25.4}, text(0));
+    QImage before = first;
+    for (int number = 1; number < 600; ++number) {
+        QImage next = drawn(drawRunBetweenRows, {20.3, 25.4}, text(number));
+        ASSERT_NE(next, std::exchange(before, next)) << number;
+    }
+    EXPECT_EQ(drawn(drawRunBetweenRows, {20.3, 25.4}, text(0)), first);
 }
 
 TEST(RunPicture, BlanksPaintNothing) {

@@ -122,6 +122,16 @@ TEST_F(TextPainter, SizesBetweenWholePixelsAreDrawnAsAskedFor) {
     EXPECT_FALSE(samePixels(drawn("H", 20, 5, smaller), drawn("H", 20, 5, larger)));
 }
 
+TEST_F(TextPainter, TheOldestOfVeryManySizesLooksTheSame) {
+    const auto sized = [](int number) {
+        return FontSpec{.Name = "Arial", .Size = 5 + static_cast<float>(number) / 20};
+    };
+    const Bitmap first = drawn("H", 20, 5, sized(0));
+    for (int number = 1; number < 600; ++number) (void)drawn("H", 20, 5, sized(number));
+    EXPECT_TRUE(samePixels(drawn("H", 20, 5, sized(0)), first));
+    EXPECT_FALSE(samePixels(drawn("H", 20, 5, sized(300)), first));
+}
+
 TEST_F(TextPainter, ItalicLeansAndBoldIsHeavier) {
     const auto weight = [](const Bitmap& bitmap) {
         long darkness = 0;

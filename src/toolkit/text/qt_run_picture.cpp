@@ -5,11 +5,11 @@
 #include <array>
 #include <cmath>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
-#include <tuple>
-#include <utility>
 
+#include <QtCore/QCache>
 #include <QtCore/QCoreApplication>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -30,7 +30,7 @@ constexpr double outlineSize = 64;
 /// Parts of a pixel that a text's place is told in.
 constexpr double places = 64;
 /// More texts than a card has areas.
-constexpr std::size_t mostPictures = 512;
+constexpr qsizetype mostPictures = 512;
 /// A file may bring a text of any length; one that is wider stands on a row after all.
 constexpr int widestPicture = 4096;
 
@@ -70,9 +70,10 @@ struct RunLook {
     int down = 0;
     std::string text;
 
-    [[nodiscard]] auto key() const { return std::tie(face, pixelSize, color, across, down, text); }
-    friend bool operator<(const RunLook& left, const RunLook& right) {
-        return left.key() < right.key();
+    friend bool operator==(const RunLook&, const RunLook&) = default;
+    friend std::size_t qHash(const RunLook& look, std::size_t seed) {
+        return qHashMulti(seed, look.face, look.pixelSize, look.color, look.across, look.down,
+                          QByteArrayView(look.text));
     }
 };
 
@@ -113,13 +114,12 @@ RunPicture paintedRun(const FontSpec& font, const RunLook& look) {
     return picture;
 }
 
-const RunPicture& runPicture(const FontSpec& font, RunLook look) {
-    static std::map<RunLook, RunPicture> pictures;
-    const auto found = pictures.find(look);
-    if (found != pictures.end()) return found->second;
-    if (pictures.size() >= mostPictures) pictures.clear();
-    RunPicture picture = paintedRun(font, look);
-    return pictures.emplace(std::move(look), std::move(picture)).first->second;
+RunPicture runPicture(const FontSpec& font, const RunLook& look) {
+    static QCache<RunLook, RunPicture> pictures(mostPictures);
+    if (const RunPicture* known = pictures.object(look)) return *known;
+    const RunPicture picture = paintedRun(font, look);
+    pictures.insert(look, std::make_unique<RunPicture>(picture).release());
+    return picture;
 }
 
 } // namespace
@@ -133,12 +133,12 @@ void drawRunBetweenRows(QPainter& painter, QPointF baselineOrigin, const FontSpe
     const QPointF origin = device.map(baselineOrigin);
     const QPointF whole(std::floor(origin.x()), std::floor(origin.y()));
     const auto part = [](double from, double to) { return qRound((to - from) * places); };
-    const RunPicture& picture = runPicture(font, {.face = &fontFace(font),
-                                                  .pixelSize = pixelSize,
-                                                  .color = color,
-                                                  .across = part(whole.x(), origin.x()),
-                                                  .down = part(whole.y(), origin.y()),
-                                                  .text = std::string(text)});
+    const RunPicture picture = runPicture(font, {.face = &fontFace(font),
+                                                 .pixelSize = pixelSize,
+                                                 .color = color,
+                                                 .across = part(whole.x(), origin.x()),
+                                                 .down = part(whole.y(), origin.y()),
+                                                 .text = std::string(text)});
     if (picture.image.isNull())
         return drawRun(painter, baselineOrigin, font, pixelsPerTwip, color, text);
     const QPointF corner = device.inverted().map(whole + picture.corner);

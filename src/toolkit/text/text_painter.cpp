@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <map>
+#include <memory>
 #include <utility>
 #include <vector>
 
+#include <QtCore/QCache>
 #include <QtCore/QCoreApplication>
 #include <QtGui/QGlyphRun>
 #include <QtGui/QPainter>
@@ -22,27 +23,26 @@ constexpr double twipsPerPoint = 20;
 
 // Each holds a font engine with the glyphs that it has drawn, so they are worth keeping; all zooms,
 // half points and styles that a card can show come to far fewer than the limit.
-using SizedFonts = std::map<std::pair<const FontFace*, double>, QRawFont>;
-constexpr std::size_t mostSizedFonts = 512;
+using SizedFonts = QCache<std::pair<const FontFace*, double>, QRawFont>;
+constexpr qsizetype mostSizedFonts = 512;
 
 SizedFonts& sizedFonts() {
-    static SizedFonts fonts;
+    static SizedFonts fonts(mostSizedFonts);
     return fonts;
 }
 
 // Font engines must not outlive the application object.
 void forgetSizedFonts() { sizedFonts().clear(); }
 
-const QRawFont& sizedFont(const FontSpec& font, const FontFace& face, double pixelSize) {
+QRawFont sizedFont(const FontSpec& font, const FontFace& face, double pixelSize) {
     SizedFonts& fonts = sizedFonts();
-    const auto found = fonts.find({&face, pixelSize});
-    if (found != fonts.end()) return found->second;
-    if (fonts.size() >= mostSizedFonts) forgetSizedFonts();
-    if (fonts.empty()) qAddPostRoutine(forgetSizedFonts);
+    if (const QRawFont* known = fonts.object({&face, pixelSize})) return *known;
+    if (fonts.isEmpty()) qAddPostRoutine(forgetSizedFonts);
     // Made from the font and then given its size: a size given to a QFont is rounded on the way.
     QRawFont rawFont = QRawFont::fromFont(styledFont(font));
     rawFont.setPixelSize(pixelSize);
-    return fonts.emplace(std::pair(&face, pixelSize), rawFont).first->second;
+    fonts.insert({&face, pixelSize}, std::make_unique<QRawFont>(rawFont).release());
+    return rawFont;
 }
 
 struct Run {
