@@ -37,6 +37,13 @@ TEST(Font, HeightAndAscentScaleExactlyWithTheSize) {
     EXPECT_FLOAT_EQ(textAscent(arial(1)), 1854 * 20.0F / 2048);
 }
 
+TEST(Font, HeightAndAscentAreThoseOfTheFontsHeader) {
+    // Its other table says 1888 and 431.
+    const FontSpec narrow{.Name = "Arial Narrow", .Size = 1};
+    EXPECT_FLOAT_EQ(textHeight(narrow), (1916 + 434) * 20.0F / 2048);
+    EXPECT_FLOAT_EQ(textAscent(narrow), 1916 * 20.0F / 2048);
+}
+
 TEST(Font, Code160IsAsWideAsABlank) {
     for (const char* name : {"Arial", "Arial Narrow", "Symbol"}) {
         const FontSpec font{.Name = name, .Size = 11};
