@@ -16,7 +16,7 @@ TEST(GifFile, IsReadBackPixelByPixel) {
     Bitmap source(37, 23, white);
     for (int i = 0; i < 200; ++i) source.setPixel(i % 37, i / 37, rgb(i, 255 - i, i / 2));
     const TemporaryFolder folder;
-    writeFile(folder / "a.gif", gifFile(nearlyIndexed(source).picture));
+    writeFile(folder / "a.gif", gifFile(nearlyIndexed(source)));
     const Bitmap read = loadBitmap(folder / "a.gif");
     ASSERT_EQ(read.width(), 37);
     ASSERT_EQ(read.height(), 23);
@@ -25,12 +25,12 @@ TEST(GifFile, IsReadBackPixelByPixel) {
 }
 
 TEST(GifFile, ASingleColourIsEnough) {
-    EXPECT_TRUE(gifFile(nearlyIndexed(Bitmap(5, 5, black)).picture).starts_with("GIF8"));
+    EXPECT_TRUE(gifFile(nearlyIndexed(Bitmap(5, 5, black))).starts_with("GIF8"));
 }
 
 TEST(GifFile, WhatTheFormatCantHoldFails) {
     EXPECT_EQ(failureOf([] { (void)gifFile({}); }), static_cast<int>(Failure::InvalidPicture));
-    EXPECT_EQ(failureOf([] { (void)gifFile(nearlyIndexed(Bitmap(65536, 1)).picture); }),
+    EXPECT_EQ(failureOf([] { (void)gifFile(nearlyIndexed(Bitmap(65536, 1))); }),
               static_cast<int>(Failure::InvalidPicture));
 }
 

@@ -42,6 +42,16 @@ TEST_F(ImageCodecs, APictureOfManyColoursKeepsThemAllInPngAndBmp) {
     }
 }
 
+TEST_F(ImageCodecs, MoreThan256ColoursThatLookAlikeStayApartInPng) {
+    Bitmap source(20, 20);
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 20; ++x) source.setPixel(x, y, rgb(200 + x, 200 + y, 250));
+    saveImage(source, folder / "a.png", encoderOf("*.PNG"), {});
+    const Bitmap read = loadBitmap(folder / "a.png");
+    for (int y = 0; y < 20; ++y)
+        for (int x = 0; x < 20; ++x) EXPECT_EQ(read.pixel(x, y), source.pixel(x, y));
+}
+
 TEST_F(ImageCodecs, APictureOfFewColoursIsWrittenWithAPalette) {
     Bitmap source(100, 100, white);
     source.fill(10, 10, 30, 30, rgb(195, 17, 25));

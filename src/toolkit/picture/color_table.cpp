@@ -107,18 +107,13 @@ std::optional<Counts> replacementsWithin(const std::vector<std::uint32_t>& pixel
     return replacements;
 }
 
-struct Replacements {
-    Counts colors;
-    int reach = 0;
-};
-
-Replacements replacementsOf(const Counts& counts) {
+Counts replacementsOf(const Counts& counts) {
     const std::vector<std::uint32_t> pixels = byFrequency(counts);
     constexpr std::array reaches{0, 2, 3, 4, 5, 6, 7, 8, 12, 16, 24, 32, 64, 128};
     for (const int reach : reaches)
-        if (auto colors = replacementsWithin(pixels, reach)) return {*std::move(colors), reach};
+        if (auto replacements = replacementsWithin(pixels, reach)) return *std::move(replacements);
     constexpr int everything = 255;
-    return {*replacementsWithin(pixels, everything), everything};
+    return *replacementsWithin(pixels, everything);
 }
 
 /// The picture in the colours that stand for its pixels' own, asked for once in a run of one
@@ -146,10 +141,9 @@ std::optional<IndexedPicture> exactlyIndexed(const Bitmap& picture) {
     return indexed(picture, std::identity());
 }
 
-NearPicture nearlyIndexed(const Bitmap& picture) {
-    const Replacements replacements = replacementsOf(countColors(picture));
-    const auto standIn = [&](std::uint32_t pixel) { return replacements.colors.at(pixel); };
-    return {*indexed(picture, standIn), replacements.reach};
+IndexedPicture nearlyIndexed(const Bitmap& picture) {
+    const Counts replacements = replacementsOf(countColors(picture));
+    return *indexed(picture, [&](std::uint32_t pixel) { return replacements.at(pixel); });
 }
 
 } // namespace toolkit

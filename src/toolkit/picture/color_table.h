@@ -11,12 +11,8 @@ namespace toolkit {
 /// The picture with exactly its own colours; none where they are more than 256.
 [[nodiscard]] std::optional<IndexedPicture> exactlyIndexed(const Bitmap& picture);
 
-struct NearPicture {
-    IndexedPicture picture;
-    int shift = 0; ///< how far a channel of a pixel is at most from what it was
-};
 /// The picture in at most 256 of its own colours: the frequent ones stay exactly as they are, the
-/// others take one that is near.
-[[nodiscard]] NearPicture nearlyIndexed(const Bitmap& picture);
+/// others take one that is near. For formats that have no more.
+[[nodiscard]] IndexedPicture nearlyIndexed(const Bitmap& picture);
 
 } // namespace toolkit

@@ -1,5 +1,7 @@
 #include "toolkit/picture/image_codecs.h"
 
+#include <png.h>
+
 #include <algorithm>
 
 #include <QtCore/QBuffer>
@@ -23,8 +25,6 @@ constexpr CodecId idOf(Format format) {
             0,    0,    0,    0,    0,    0,    0, static_cast<std::uint8_t>(format)};
 }
 
-/// A shift that nobody sees; beyond it all colours are kept.
-constexpr int largestPaletteShift = 8;
 /// Of the palette files: half the time of the usual level for a tenth more bytes.
 constexpr int pngCompression = 20;
 
@@ -45,17 +45,36 @@ QImage imageOver(const IndexedPicture& picture) {
     return image;
 }
 
+/// Without filters over the rows, which Qt can't leave out: of a card they make a larger file, and
+/// its export would take longer by a sixth, 70 ms instead of 60.
+std::string trueColorPng(const Bitmap& picture) {
+    const QImage rows = imageOver(picture).convertToFormat(QImage::Format_RGB888);
+    png_image file{};
+    file.version = PNG_IMAGE_VERSION;
+    file.width = static_cast<png_uint_32>(rows.width());
+    file.height = static_cast<png_uint_32>(rows.height());
+    file.format = PNG_FORMAT_RGB;
+    file.flags = PNG_IMAGE_FLAG_FAST;
+    png_alloc_size_t size = PNG_IMAGE_PNG_SIZE_MAX(file);
+    std::string content(size, '\0');
+    if (png_image_write_to_memory(&file, content.data(), &size, 0, rows.constBits(),
+                                  static_cast<png_int_32>(rows.bytesPerLine()), nullptr) == 0)
+        throw RunTimeError(Failure::InvalidPicture);
+    content.resize(size);
+    return content;
+}
+
 std::string pngContent(const Bitmap& picture) {
-    const NearPicture indexed = nearlyIndexed(picture);
-    if (indexed.shift > largestPaletteShift) return contentOf(imageOver(picture), "png", -1, -1);
-    return contentOf(imageOver(indexed.picture), "png", -1, pngCompression);
+    const auto indexed = exactlyIndexed(picture);
+    if (!indexed) return trueColorPng(picture);
+    return contentOf(imageOver(*indexed), "png", -1, pngCompression);
 }
 
 std::string encoded(const Bitmap& picture, const CodecId& encoder, std::optional<int> quality) {
     if (encoder == idOf(Format::Bmp)) return contentOf(imageOver(picture), "bmp", -1, -1);
     if (encoder == idOf(Format::Jpeg))
         return contentOf(imageOver(picture), "jpeg", quality.value_or(-1), -1);
-    if (encoder == idOf(Format::Gif)) return gifFile(nearlyIndexed(picture).picture);
+    if (encoder == idOf(Format::Gif)) return gifFile(nearlyIndexed(picture));
     if (encoder == idOf(Format::Png)) return pngContent(picture);
     throw RunTimeError(Failure::InvalidProcedureCall);
 }
