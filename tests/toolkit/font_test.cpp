@@ -73,6 +73,24 @@ TEST(Font, AnAmpersandIsNoEscape) {
     EXPECT_EQ(textWidth(arial(11), "&&"), textWidth(arial(11), "&") * 2);
 }
 
+TEST(Font, ALineEndsAtABlankAndTearsNoWord) {
+    const FontSpec font = arial(11);
+    const std::string text = "opens 15-17 2/1";
+    const auto lengthWithin = [&](std::string_view shown) {
+        return lengthOfLine(font, text, textWidth(font, shown) + 1);
+    };
+    EXPECT_EQ(lengthWithin("opens 15-1"), 5U);
+    EXPECT_EQ(lengthWithin("opens 15-17"), 11U);
+    EXPECT_EQ(lengthWithin("opens 15-17 2/"), 11U);
+    EXPECT_EQ(lengthWithin(text), text.size());
+}
+
+TEST(Font, ALineHasAWordHoweverNarrowItIs) {
+    EXPECT_EQ(lengthOfLine(arial(11), "Notrump", 0), 7U);
+    EXPECT_EQ(lengthOfLine(arial(11), "Notrump opens", 0), 7U);
+    EXPECT_EQ(lengthOfLine(arial(11), "", 0), 0U);
+}
+
 TEST(Font, AStandInReportsTheNameAskedFor) {
     for (const char* name : {"Arial", "Arial Narrow", "Wingdings", "Symbol", "arial"})
         EXPECT_EQ(fontNameGiven(name), name);

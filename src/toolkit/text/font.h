@@ -1,6 +1,7 @@
 // The measures of fonts and of texts in them.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -17,6 +18,10 @@ namespace toolkit {
 
 /// Distance in twips from the top of a line to its base line.
 [[nodiscard]] float textAscent(const FontSpec& font);
+
+/// Length of the words at the beginning of a text that fit into a line of this width, twips; the
+/// first word always counts. The next line begins behind the blank that follows.
+[[nodiscard]] std::size_t lengthOfLine(const FontSpec& font, std::string_view text, float width);
 
 /// The name that the font system reports after this one was asked for: the same text where the font
 /// is installed or has a stand-in, else the name of the font that is used in its place.

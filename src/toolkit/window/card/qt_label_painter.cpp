@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <string_view>
+#include <string>
 
 #include <QtGui/QPainter>
 
@@ -27,19 +27,6 @@ float textOffset(const Label& label, float width) {
         return (label.Width - width) / 2;
     }
     return 0;
-}
-
-/// Length of the words at the beginning that fit into the label; the first word always counts.
-std::size_t firstLine(const Label& label, std::string_view text) {
-    std::size_t length = std::min(text.find(' '), text.size());
-    float width = textWidth(label.Font, text.substr(0, length));
-    while (length < text.size()) {
-        const std::size_t end = std::min(text.find(' ', length + 1), text.size());
-        width += textWidth(label.Font, text.substr(length, end - length));
-        if (width > label.Width) break;
-        length = end;
-    }
-    return length;
 }
 
 /// A base line in the painter's own coordinates, and whether it is a whole row of the device.
@@ -82,7 +69,7 @@ void paintLabel(QPainter& painter, const Label& label) {
     painter.setClipRect(paintedRectangle(label));
     if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
     std::string text = paintedText(label.Caption);
-    if (label.FirstLineOnly) text.resize(firstLine(label, text));
+    if (label.FirstLineOnly) text.resize(lengthOfLine(label.Font, text, label.Width));
     if (text.empty()) return;
     const auto scale = static_cast<double>(twipsPerPixel());
     const float offset = textOffset(label, textWidth(label.Font, text));

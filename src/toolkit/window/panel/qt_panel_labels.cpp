@@ -1,6 +1,8 @@
 #include "toolkit/window/panel/qt_panel_labels.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
 
 #include <QtGui/QPainter>
 
@@ -15,17 +17,6 @@ constexpr int frameDarkness = 140;
 /// A dark ground has a lighter frame instead.
 constexpr int darkestGround = 60;
 constexpr int frameLightness = 250;
-
-/// As much of the caption as fits, up to a blank; at least one word.
-std::size_t lengthOfLine(const Label& label, std::string_view caption) {
-    std::size_t fitting = caption.find(' ');
-    for (std::size_t end = fitting; end != std::string_view::npos;) {
-        end = caption.find(' ', end + 1);
-        if (textWidth(label.Font, paintedText(caption.substr(0, end))) > label.Width) break;
-        fitting = end;
-    }
-    return std::min(fitting, caption.size());
-}
 
 } // namespace
 
@@ -53,10 +44,11 @@ void paintFramedLabel(QPainter& painter, const Label& label) {
 void paintWrappedLabel(QPainter& painter, const Label& label) {
     Label line = label;
     line.Height = textHeight(label.Font);
-    std::string_view rest = label.Caption;
+    const std::string text = paintedText(label.Caption);
+    std::string_view rest = text;
     while (!rest.empty() && line.Top + line.Height <= label.Top + label.Height + line.Height / 2) {
-        const std::size_t length = lengthOfLine(label, rest);
-        line.Caption = rest.substr(0, length);
+        const std::size_t length = lengthOfLine(label.Font, rest, label.Width);
+        line.Caption = captionFor(rest.substr(0, length));
         paintLabel(painter, line);
         line.Top += line.Height;
         rest.remove_prefix(std::min(rest.size(), length + 1));
