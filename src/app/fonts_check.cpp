@@ -30,25 +30,17 @@ void setSizes(Zevlin& form) {
 
 /// Each size becomes the one that the font system really gives.
 void snapSizes(Zevlin& form) {
-    form.Testtext.SetFontName(form.TextFontName);
-    for (std::size_t i = 1; i <= 3; ++i) {
-        form.TextFontSize[i] = form.Testtext.SetFontSize(form.TextFontSize[i]);
-    }
-    form.Testtext.SetFontName(form.MarkFontName);
-    for (std::size_t i = 1; i <= 3; ++i) {
-        form.MarkFontSize[i] = form.Testtext.SetFontSize(form.MarkFontSize[i]);
-    }
+    for (auto* sizes : {&form.TextFontSize, &form.MarkFontSize})
+        for (std::size_t i = 1; i <= 3; ++i) (*sizes)[i] = toolkit::fontSizeGiven((*sizes)[i]);
 }
 
-bool isDefective(const Zevlin& form) {
-    return form.Testtext.TextHeight("|") / form.P1.Height > defectiveHeight;
+bool isDefective(const Zevlin& form, const std::string& fontName) {
+    const toolkit::FontSpec font{.Name = fontName, .Size = form.TextFontSize[1]};
+    return toolkit::textHeight(font) / form.P1.Height > defectiveHeight;
 }
 
 void checkTextFont(Zevlin& form) {
-    form.Testtext.Font = {};
-    form.Testtext.SetFontName(form.TextFontName);
-    form.Testtext.SetFontSize(form.TextFontSize[1]);
-    if (!isDefective(form)) return;
+    if (!isDefective(form, form.TextFontName)) return;
     // Another size is no reason to take the program away from the card.
     if (form.Carried)
         return Traceit(form, "Error in Initialize step 1100: the text font is defective");
@@ -58,16 +50,18 @@ void checkTextFont(Zevlin& form) {
     toolkit::endProgram(EXIT_FAILURE);
 }
 
-void chooseNarrowFont(Zevlin& form) {
-    if (form.Testtext.SetFontName(form.NarrowFontName) == form.NarrowFontName) return;
+/// The name of the font to test in place of the narrow one.
+std::string narrowFontFound(const Zevlin& form) {
+    if (toolkit::fontNameGiven(form.NarrowFontName) == form.NarrowFontName)
+        return form.NarrowFontName;
     // The fallback alone never satisfies the second test: the text font is what remains.
-    if (form.Testtext.SetFontName(form.FallbackFontName) == form.NarrowFontName) return;
-    form.Testtext.SetFontName(form.TextFontName);
+    if (toolkit::fontNameGiven(form.FallbackFontName) == form.NarrowFontName)
+        return form.FallbackFontName;
+    return form.TextFontName;
 }
 
-void checkNarrowFont(Zevlin& form) {
-    form.Testtext.SetFontSize(form.TextFontSize[1]);
-    if (!isDefective(form)) return;
+void checkNarrowFont(Zevlin& form, const std::string& fontName) {
+    if (!isDefective(form, fontName)) return;
     Traceit(form, "Error in Initialize step 1250: the narrow text font is defective, using the "
                   "normal text font instead");
     form.NarrowFontName = form.TextFontName;
@@ -83,9 +77,9 @@ void checkFonts(Zevlin& form, InitializeRun& run) {
     run.step = 1100;
     checkTextFont(form);
     run.step = 1200;
-    chooseNarrowFont(form);
+    const std::string narrow = narrowFontFound(form);
     run.step = 1250;
-    checkNarrowFont(form);
+    checkNarrowFont(form, narrow);
 }
 
 } // namespace zev

@@ -64,8 +64,8 @@ void setPaperBin(Zevlin& form, const OptionLine& line) {
 }
 
 /// A font is taken only if the font system reports its name back.
-void setFont(Zevlin& form, std::string& name, const OptionLine& line) {
-    if (form.Testtext.SetFontName(line.value) == line.value) name = line.value;
+void setFont(std::string& name, const OptionLine& line) {
+    if (toolkit::fontNameGiven(line.value) == line.value) name = line.value;
 }
 
 void setColorScheme(Zevlin& form, const OptionLine& line) {
@@ -97,12 +97,12 @@ constexpr auto setters = std::to_array<std::pair<std::string_view, Setter>>({
     {"printer", setPrinter},
     {"paperbin", setPaperBin},
     {"normalfont",
-     [](Zevlin& form, const OptionLine& line) { setFont(form, form.TextFontName, line); }},
+     [](Zevlin& form, const OptionLine& line) { setFont(form.TextFontName, line); }},
     {"narrowfont",
-     [](Zevlin& form, const OptionLine& line) { setFont(form, form.NarrowFontName, line); }},
+     [](Zevlin& form, const OptionLine& line) { setFont(form.NarrowFontName, line); }},
     {"symfont", [](Zevlin& /*form*/, const OptionLine& /*line*/) {}},
     {"suitfont",
-     [](Zevlin& form, const OptionLine& line) { setFont(form, form.SuitFontName, line); }},
+     [](Zevlin& form, const OptionLine& line) { setFont(form.SuitFontName, line); }},
     {"fillincheckmarks",
      [](Zevlin& form, const OptionLine& line) { form.mFillIn.Checked = line.number == 1; }},
     {"colorscheme", setColorScheme},

@@ -37,11 +37,12 @@ void dressControls(Zevlin& form) {
 }
 
 /// Of what stands between the margins.
-float innerWidth(Zevlin& form, const PanelMeasures& measures) {
+float innerWidth(const Zevlin& form, const PanelMeasures& measures) {
+    const toolkit::FontSpec font = panelFont(form);
     const float wanted =
         std::max({measures.letter * narrowestInLetters,
-                  form.Testtext.TextWidth(toolkit::paintedText(form.LSaveAs.Caption)),
-                  form.Testtext.TextWidth(toolkit::paintedText(form.LPath.Caption))});
+                  toolkit::textWidth(font, toolkit::paintedText(form.LSaveAs.Caption)),
+                  toolkit::textWidth(font, toolkit::paintedText(form.LPath.Caption))});
     const float room = form.ScaleWidth() - measures.lines(4 * panelMargin);
     return measures.whole(std::min(wanted, room));
 }

@@ -66,9 +66,8 @@ void addMark(Zevlin& form, const toolkit::MouseArguments& mouse) {
     store(form.MarkColors, index, mark.ForeColor);
     mark.Caption = std::string(1, chosenSymbol(form));
     mark.Clips = false;
-    form.Testtext.Font = mark.Font;
-    mark.Move(mouse.X, mouse.Y, form.Testtext.TextWidth(mark.Caption),
-              form.Testtext.TextHeight(mark.Caption));
+    mark.Move(mouse.X, mouse.Y, toolkit::textWidth(mark.Font, mark.Caption),
+              toolkit::textHeight(mark.Font));
     mark.Visible = true;
     form.P1Stack.bringToFront(mark);
     holdAdded(form, {FieldKind::Mark, index});
@@ -99,8 +98,8 @@ void addText(Zevlin& form, const toolkit::MouseArguments& mouse) {
     toolkit::Label& text = form.AText.Load(index);
     form.Highlight.Load(index);
     dressNewText(form, text, index);
-    form.Testtext.Font = text.Font;
-    text.Move(mouse.X, mouse.Y, form.Testtext.TextWidth("abc"), form.Testtext.TextHeight("["));
+    text.Move(mouse.X, mouse.Y, toolkit::textWidth(text.Font, "abc"),
+              toolkit::textHeight(text.Font));
     text.Visible = true;
     form.P1Stack.bringToFront(text);
     form.TIndex = index;

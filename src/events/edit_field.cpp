@@ -88,7 +88,7 @@ toolkit::TextBox& showClosedField(Zevlin& form, int index, float x) {
     commitFormerField(form);
     takeOpeningState(form, index);
     toolkit::TextBox& box = showBox(form, index);
-    placeCaret(form, box, x);
+    placeCaret(box, x);
     return box;
 }
 

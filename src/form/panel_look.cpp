@@ -18,11 +18,11 @@ toolkit::FontSpec panelFont(const Zevlin& form) {
 
 float PanelMeasures::whole(float twips) const { return std::round(twips / pixel) * pixel; }
 
-PanelMeasures measurePanel(Zevlin& form) {
-    form.Testtext.Font = panelFont(form);
+PanelMeasures measurePanel(const Zevlin& form) {
+    const toolkit::FontSpec font = panelFont(form);
     PanelMeasures measures{.pixel = static_cast<float>(form.TwipsPerPixel)};
-    measures.line = std::floor(form.Testtext.TextHeight("A") / measures.pixel) * measures.pixel;
-    measures.letter = form.Testtext.TextWidth("n");
+    measures.line = std::floor(toolkit::textHeight(font) / measures.pixel) * measures.pixel;
+    measures.letter = toolkit::textWidth(font, "n");
     return measures;
 }
 

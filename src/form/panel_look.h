@@ -36,8 +36,7 @@ struct PanelMeasures {
     /// The nearest whole pixel.
     [[nodiscard]] float whole(float twips) const;
 };
-/// Takes them with Testtext, which keeps the panel's font.
-[[nodiscard]] PanelMeasures measurePanel(Zevlin& form);
+[[nodiscard]] PanelMeasures measurePanel(const Zevlin& form);
 
 /// Puts OK and Cancel side by side with their right edge at `right`, no wider than `room` together.
 /// Returns their bottom.

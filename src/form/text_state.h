@@ -20,10 +20,10 @@ struct TextState {
     std::vector<toolkit::Color> SuitColors;          ///< standard colour of each SText
     std::vector<std::vector<int>> ShownSymbols;      ///< by field: its SText elements on screen
 
-    toolkit::TextBox CText; ///< edits centred fields
-    toolkit::TextBox LText; ///< edits left-justified fields
-    toolkit::TextBox UText; ///< never shown: the field as it was when opened
-    toolkit::MeasureBox Testtext;
+    toolkit::TextBox CText;       ///< edits centred fields
+    toolkit::TextBox LText;       ///< edits left-justified fields
+    toolkit::TextBox UText;       ///< never shown: the field as it was when opened
+    toolkit::MeasureBox Testtext; ///< the font of the text fitted last; at first that of the suits
 
     std::string TextFontName;
     std::string NarrowFontName;

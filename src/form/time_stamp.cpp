@@ -36,9 +36,8 @@ void placeStamp(Zevlin& form) {
     if (form.CardScale == 0) return;
     toolkit::Label& stamp = form.Timestamp;
     stamp.Font.Size = scaledPoints(form, stampPoints);
-    form.Testtext.Font = stamp.Font;
-    stamp.Height = form.Testtext.TextHeight("|");
-    stamp.Width = form.Testtext.TextWidth(stamp.Caption);
+    stamp.Height = toolkit::textHeight(stamp.Font);
+    stamp.Width = toolkit::textWidth(stamp.Font, stamp.Caption);
     stamp.Left = form.P1.Width - stamp.Width;
     stamp.Top = form.LargeMarkBottom == 0
                     ? form.P1.Height - stamp.Height - 4 * static_cast<float>(form.TwipsPerPixel)
@@ -66,9 +65,8 @@ void PositionTimeStamp(Zevlin& form) {
 void PositionCreditLabel(Zevlin& form) {
     toolkit::Label& credit = form.CreditLabel;
     credit.Font.Size = scaledPoints(form, creditPoints);
-    form.Testtext.Font = credit.Font;
-    credit.Height = form.Testtext.TextHeight("[");
-    credit.Width = form.Testtext.TextWidth(credit.Caption);
+    credit.Height = toolkit::textHeight(credit.Font);
+    credit.Width = toolkit::textWidth(credit.Font, credit.Caption);
     credit.Top = form.LargeMarkBottom == 0 ? form.P1.Height - credit.Height : form.LargeMarkBottom;
     credit.Left = (form.P1.Width - form.Timestamp.Width - credit.Width) / 2;
 }

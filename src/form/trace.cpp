@@ -84,14 +84,14 @@ std::string measuresOf(const toolkit::FontSpec& font) {
 
 std::string dimensions(Zevlin& form) {
     const toolkit::Label& first = form.AText[1];
-    form.Testtext.Font = first.Font;
+    toolkit::FontSpec narrow = first.Font;
+    narrow.Name = form.NarrowFontName;
     std::string block =
         joined({"Dimensions:", lineEnd, "    AText(1) font name, size, height, textheight: ",
                 measuresOf(first.Font), " ", toolkit::numberText(first.Height), " ",
-                toolkit::numberText(form.Testtext.TextHeight("|")), lineEnd});
-    form.Testtext.SetFontName(form.NarrowFontName);
-    block += joined({"    Test font name, size, textheight: ", measuresOf(form.Testtext.Font), " ",
-                     toolkit::numberText(form.Testtext.TextHeight("|")), lineEnd});
+                toolkit::numberText(toolkit::textHeight(first.Font)), lineEnd});
+    block += joined({"    Test font name, size, textheight: ", measuresOf(narrow), " ",
+                     toolkit::numberText(toolkit::textHeight(narrow)), lineEnd});
     // Form, P1, P2 and P3 all measure in twips.
     block += joined({"    Scalemodes - Form,P1,P2,P3: ", "1 1 1 1", lineEnd});
     return block + memoryLines(form);

@@ -25,20 +25,18 @@ void bringToFront(Zevlin& form, toolkit::Control& control) {
     control.Stack = std::max({form.P1.Stack, form.THelp.Stack, form.PopHelp.Stack}) + 1;
 }
 
-float widestLine(const toolkit::MeasureBox& measure, const std::vector<std::string>& lines) {
+float widestLine(const toolkit::ListBox& list) {
     float widest = 0;
-    for (const auto& line : lines) widest = std::max(widest, measure.TextWidth(line));
+    for (const auto& line : list.List)
+        widest = std::max(widest, toolkit::textWidth(list.Font, line));
     return widest;
 }
 
 void sizeToText(Zevlin& form) {
-    form.Testtext.SetFontName(form.THelp.Font.Name);
-    form.Testtext.SetFontSize(form.THelp.Font.Size);
-    form.Testtext.Font.Bold = form.THelp.Font.Bold;
     const auto pixel = static_cast<float>(form.TwipsPerPixel);
     const auto lines = static_cast<float>(form.THelp.List.size());
-    const float width = widestLine(form.Testtext, form.THelp.List) + widthMargin * pixel;
-    const float height = form.Testtext.TextHeight("A") * lines + heightMargin * pixel;
+    const float width = widestLine(form.THelp) + widthMargin * pixel;
+    const float height = toolkit::textHeight(form.THelp.Font) * lines + heightMargin * pixel;
     form.THelp.Width = std::min(width, form.Width - freeWidth * pixel);
     form.THelp.Height = std::min(height, form.Height - freeHeight * pixel);
 }

@@ -74,13 +74,11 @@ void computeCorrections(Zevlin& form, InitializeRun& run) {
 }
 
 void sizeSymbolTemplate(Zevlin& form) {
-    form.Testtext.Font = {};
-    form.Testtext.SetFontName(form.SuitFontName);
-    form.Testtext.SetFontSize(form.TextFontSize[1]);
     toolkit::Label& symbol = form.SText[0];
-    symbol.Font = form.Testtext.Font;
+    symbol.Font = {.Name = form.SuitFontName, .Size = toolkit::fontSizeGiven(form.TextFontSize[1])};
+    form.Testtext.Font = symbol.Font;
     symbol.Clips = false;
-    symbol.Width = form.Testtext.TextWidth("\xA9");
+    symbol.Width = toolkit::textWidth(symbol.Font, "\xA9");
     symbol.Height = form.AText[0].Height;
     unloadSymbols(form);
 }

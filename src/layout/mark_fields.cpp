@@ -60,14 +60,13 @@ void fillMark(Zevlin& form, const FieldRecord& record, int symbol, const MarkDre
                  .Size = dress.points,
                  .Bold = symbol == checkCode,
                  .Italic = false};
-    form.Testtext.Font = mark.Font;
     mark.Caption = symbolText(symbol);
     mark.ForeColor = fieldColor(form, record.color);
     mark.BackColor = toolkit::white;
     mark.Clips = false;
     const float scale = form.MarkScale * static_cast<float>(form.TwipsPerPixel);
     mark.Move(record.left * scale + dress.correctionLeft, record.top * scale + dress.correctionTop,
-              form.Testtext.TextWidth(mark.Caption), form.Testtext.TextHeight(mark.Caption));
+              toolkit::textWidth(mark.Font, mark.Caption), toolkit::textHeight(mark.Font));
 }
 
 void buildMark(Zevlin& form, const InitializeRun& run, LayoutReader& layout, int index) {

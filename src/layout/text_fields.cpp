@@ -31,15 +31,17 @@ TextDress dressOf(Zevlin& form, const InitializeRun& run, int size, int index) {
     return {form.TextFontSize[cell], correction[inkLeft], correction[inkBottom]};
 }
 
-/// A line holds the normal and the narrow font alike.
-float lineHeight(Zevlin& form, const toolkit::FontSpec& font) {
-    form.Testtext.Font = font;
-    const float normal = form.Testtext.TextHeight("y");
-    form.Testtext.Font.Name = form.NarrowFontName;
-    return std::max(normal, form.Testtext.TextHeight("y"));
+toolkit::FontSpec narrowed(const Zevlin& form, toolkit::FontSpec font) {
+    font.Name = form.NarrowFontName;
+    return font;
 }
 
-float fieldHeight(Zevlin& form, const toolkit::FontSpec& font, int index) {
+/// A line holds the normal and the narrow font alike.
+float lineHeight(const Zevlin& form, const toolkit::FontSpec& font) {
+    return std::max(toolkit::textHeight(font), toolkit::textHeight(narrowed(form, font)));
+}
+
+float fieldHeight(const Zevlin& form, const toolkit::FontSpec& font, int index) {
     const float height = lineHeight(form, font);
     if (index != form.FirstBigText) return height;
     const float fullWidth =
@@ -61,15 +63,10 @@ std::string fontText(const toolkit::FontSpec& font) {
            std::string(truthText(font.Bold));
 }
 
-float heightIn(const Zevlin& form, const toolkit::FontSpec& font, const std::string& name) {
-    toolkit::MeasureBox box = form.Testtext;
-    box.Font = font;
-    box.SetFontName(name);
-    return box.TextHeight("y");
-}
-
 void traceSpecs(Zevlin& form, const toolkit::Label& text) {
     const auto& card = form.P1;
+    // The text's own font is the normal one here.
+    const toolkit::FontSpec narrow = narrowed(form, text.Font);
     const auto& symbols = form.AMark.exists(1) ? form.AMark[1].Font : form.AMark[0].Font;
     Traceit(form, "    Init specs - p1 dims, mode:           " +
                       joinedValues({card.Left, card.Top, card.Width, card.Height}, " ") + ", " +
@@ -77,12 +74,11 @@ void traceSpecs(Zevlin& form, const toolkit::Label& text) {
     Traceit(form, "    Init specs - AText dims:              " +
                       joinedValues({text.Left, text.Top, text.Width, text.Height}, " "));
     Traceit(form, "    Init specs - AText font,size,bold:    " + fontText(text.Font));
-    Traceit(form, "    Init specs - font height norm,nar:    " +
-                      joinedValues({heightIn(form, text.Font, form.TextFontName),
-                                    heightIn(form, text.Font, form.NarrowFontName)},
-                                   ", "));
-    Traceit(form, "    Init specs - testtext font,sz,bld,ht: " + fontText(form.Testtext.Font) +
-                      ", " + toolkit::numberText(form.Testtext.TextHeight("y")));
+    Traceit(form,
+            "    Init specs - font height norm,nar:    " +
+                joinedValues({toolkit::textHeight(text.Font), toolkit::textHeight(narrow)}, ", "));
+    Traceit(form, "    Init specs - testtext font,sz,bld,ht: " + fontText(narrow) + ", " +
+                      toolkit::numberText(toolkit::textHeight(narrow)));
     Traceit(form, "    Init specs - symfont font,sz,bld,ht:  " + fontText(symbols) + ", " +
                       toolkit::numberText(toolkit::textHeight(symbols)));
     Traceit(

@@ -82,12 +82,11 @@ bool isEditing(const Zevlin& form) {
 
 toolkit::TextBox& openBox(Zevlin& form) { return form.LText.Visible ? form.LText : form.CText; }
 
-void placeCaret(Zevlin& form, toolkit::TextBox& box, float x) {
-    form.Testtext.Font = box.Font;
+void placeCaret(toolkit::TextBox& box, float x) {
+    const auto width = [&](std::string_view text) { return toolkit::textWidth(box.Font, text); };
     const bool centered = box.Alignment == toolkit::Alignment::Center;
-    const float offset = centered ? (box.Width - form.Testtext.TextWidth(box.Text)) / 2 : 0;
-    const int caret = caretAt(box.Text, x, offset,
-                              [&](std::string_view text) { return form.Testtext.TextWidth(text); });
+    const float offset = centered ? (box.Width - width(box.Text)) / 2 : 0;
+    const int caret = caretAt(box.Text, x, offset, width);
     box.SelStart = std::min(caret, static_cast<int>(box.Text.size()));
     box.SelLength = 0;
 }
@@ -100,7 +99,7 @@ void SetTextBox(Zevlin& form, toolkit::TextBox& box, int index) {
 void PositionTextCursor(Zevlin& form, toolkit::TextBox& box, float x) {
     if (box.Text.empty()) return;
     Traceit(form, "PositionTextCursor");
-    trapped(form, "Error in PositionTextCursor: #", [&] { placeCaret(form, box, x); });
+    trapped(form, "Error in PositionTextCursor: #", [&] { placeCaret(box, x); });
 }
 
 void xText_LostFocus(Zevlin& form, toolkit::TextBox& box, const std::function<void()>& next) {
@@ -151,8 +150,7 @@ void xText_GotFocus(Zevlin& form, toolkit::TextBox& box) {
             return;
         }
         FitText(form, box, form.TIndex);
-        form.Testtext.Font = box.Font;
-        box.Height = form.Testtext.TextHeight("|") - 3 * static_cast<float>(form.TwipsPerPixel);
+        box.Height = toolkit::textHeight(box.Font) - 3 * static_cast<float>(form.TwipsPerPixel);
     });
 }
 

@@ -22,7 +22,7 @@ void SetTextBox(Zevlin& form, toolkit::TextBox& box, int index);
 void PositionTextCursor(Zevlin& form, toolkit::TextBox& box, float x);
 
 /// The same without a trace line; an empty text has its caret where the box begins.
-void placeCaret(Zevlin& form, toolkit::TextBox& box, float x);
+void placeCaret(toolkit::TextBox& box, float x);
 
 void xText_GotFocus(Zevlin& form, toolkit::TextBox& box);
 

@@ -100,14 +100,14 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
     const toolkit::Label& label = form.AText[index];
     toolkit::Label& symbol = newSymbol(form, isRed(place.suit) ? form.ColorRed : toolkit::black);
     symbol.Tag = toolkit::numberText(index);
-    symbol.Font.Size = form.Testtext.Font.Size + pointsAboveText;
+    symbol.Font.Size = label.Font.Size + pointsAboveText;
     symbol.Font.Bold = false;
     const auto suit = static_cast<std::size_t>(place.suit) - 1;
     symbol.Caption = form.SuitChars.substr(suit, 1);
     const auto twips = static_cast<float>(form.TwipsPerPixel);
     const auto position = static_cast<std::size_t>(place.position) - 1;
     symbol.Move(left, label.Top - pixelsAboveField * twips,
-                form.Testtext.TextWidth(std::string_view(scanBuffer).substr(position, 2)),
+                toolkit::textWidth(label.Font, std::string_view(scanBuffer).substr(position, 2)),
                 label.Height + pixelsHigher * twips);
     // A symbol is larger than its text, but stands on the same line.
     symbol.BaseLine = label.BaseLine.movedBy(baseLineOf(label) - baseLineOf(symbol));
@@ -124,7 +124,6 @@ void layOver(Zevlin& form, int index) {
     label.Caption = blanked.caption;
     AmpRem(blanked.scanBuffer);
     hideOldSymbols(form, index);
-    form.Testtext.Font = label.Font;
     SymbolLeads leads(label.Font, label.Caption);
     const float start = textLeft(label);
     for (const SuitPlace& place : suitPlaces(blanked.scanBuffer)) {

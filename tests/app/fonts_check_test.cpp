@@ -53,9 +53,8 @@ TEST_F(FontsCheck, SizesGoWithTheCardsScaleAndAreWhatTheFontSystemGives) {
     writeOptions("Zoom=3\r\n");
     start();
     const float scale = 799.0F / 1198;
-    EXPECT_EQ(form.TextFontSize[1], toolkit::fontSizeGiven({"Arial", scale * 11, false, false}));
-    EXPECT_EQ(form.MarkFontSize[3],
-              toolkit::fontSizeGiven({"Wingdings", scale * 30, false, false}));
+    EXPECT_EQ(form.TextFontSize[1], toolkit::fontSizeGiven(scale * 11));
+    EXPECT_EQ(form.MarkFontSize[3], toolkit::fontSizeGiven(scale * 30));
 }
 
 TEST_F(FontsCheck, ADefectiveTextFontEndsTheProgram) {

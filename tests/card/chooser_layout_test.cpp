@@ -43,7 +43,7 @@ TEST_F(ChooserLayout, WithoutAListThePanelIsLower) {
     layOut(5);
     const float withList = form.P3.Height;
     layOut(0);
-    EXPECT_LT(form.P3.Height, withList - 5 * form.Testtext.TextHeight("A"));
+    EXPECT_LT(form.P3.Height, withList - 5 * toolkit::textHeight(form.TSaveAs.Font));
 }
 
 TEST_F(ChooserLayout, AListOfManyCardsStaysInTheForm) {

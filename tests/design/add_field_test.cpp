@@ -38,7 +38,6 @@ TEST_F(AddField, ARightPressOnBareCardAddsACheckmark) {
     EXPECT_TRUE(mark.Font.Bold);
     EXPECT_EQ(mark.Width, toolkit::textWidth(mark.Font, mark.Caption));
     EXPECT_EQ(mark.Height, toolkit::textHeight(mark.Font));
-    EXPECT_EQ(form.Testtext.Font, mark.Font);
     EXPECT_TRUE(mark.Visible);
     EXPECT_GT(mark.Stack, form.AMark[4].Stack);
     EXPECT_EQ(form.UndoIndex, 5);

@@ -20,7 +20,7 @@ class PanelLook : public FormTest {
 TEST_F(PanelLook, LinesAreWholePixels) {
     const PanelMeasures measures = measured();
     EXPECT_GT(measures.line, 10 * 15);
-    EXPECT_LE(measures.line, form.Testtext.TextHeight("A"));
+    EXPECT_LE(measures.line, toolkit::textHeight(panelFont(form)));
     for (const float lines : {0.5F, 1.0F, 1.7F}) {
         EXPECT_EQ(std::fmod(measures.lines(lines), 15.0F), 0);
         EXPECT_NEAR(measures.lines(lines), lines * measures.line, 7.5F);

@@ -97,6 +97,14 @@ TEST_F(BuildFields, TheSymbolTemplateIsAsWideAsAHeartInTheSuitFont) {
     EXPECT_EQ(form.SText[0].Width, toolkit::textWidth(form.SText[0].Font, "\xA9"));
 }
 
+TEST_F(BuildFields, TheMeasuringFontBeginsAsTheSuits) {
+    writeLayout(fewFields());
+    start();
+    form.Testtext.Font = {.Name = "Arial Narrow", .Size = 30, .Bold = true};
+    form.Slots.initialize();
+    EXPECT_EQ(form.Testtext.Font, (toolkit::FontSpec{.Name = "Symbol", .Size = 11}));
+}
+
 TEST_F(BuildFields, TheTraceTellsThatTheLayoutIsOpened) {
     start();
     EXPECT_TRUE(

@@ -128,21 +128,11 @@ TEST(Font, MarksAndSuitsHaveTheirCharacters) {
 }
 
 TEST(Font, SizesAreGivenAsAskedForWithinTheirBounds) {
-    EXPECT_EQ(fontSizeGiven(arial(4.675F)), 4.675F);
-    EXPECT_EQ(fontSizeGiven(arial(0)), 1);
-    EXPECT_EQ(fontSizeGiven(arial(-3)), 1);
-    EXPECT_EQ(fontSizeGiven(arial(std::nanf(""))), 1);
-    EXPECT_EQ(fontSizeGiven(arial(1e9F)), 2160);
-}
-
-TEST(MeasureBox, TakesANameAndASizeAndMeasuresWithThem) {
-    MeasureBox box;
-    EXPECT_EQ(box.SetFontName("Arial Narrow"), "Arial Narrow");
-    EXPECT_EQ(box.SetFontSize(9.5F), 9.5F);
-    const FontSpec narrow{.Name = "Arial Narrow", .Size = 9.5F};
-    EXPECT_EQ(box.TextWidth("abc"), textWidth(narrow, "abc"));
-    EXPECT_EQ(box.TextHeight("abc"), textHeight(narrow));
-    EXPECT_NE(box.SetFontName("No Such Font"), "No Such Font");
+    EXPECT_EQ(fontSizeGiven(4.675F), 4.675F);
+    EXPECT_EQ(fontSizeGiven(0), 1);
+    EXPECT_EQ(fontSizeGiven(-3), 1);
+    EXPECT_EQ(fontSizeGiven(std::nanf("")), 1);
+    EXPECT_EQ(fontSizeGiven(1e9F), 2160);
 }
 
 } // namespace

@@ -53,22 +53,11 @@ std::size_t lengthOfLine(const FontSpec& font, std::string_view text, float widt
 
 std::string fontNameGiven(std::string_view name) { return fontFamily(name).nameGiven; }
 
-float fontSizeGiven(const FontSpec& font) {
+float fontSizeGiven(float points) {
     constexpr float smallest = 1;
     constexpr float largest = 2160;
     // A size that is no number compares false with everything and becomes the smallest.
-    return font.Size > smallest ? std::min(font.Size, largest) : smallest;
-}
-
-std::string MeasureBox::SetFontName(std::string_view name) {
-    Font.Name = name;
-    return fontNameGiven(name);
-}
-
-float MeasureBox::SetFontSize(float points) {
-    Font.Size = points;
-    Font.Size = fontSizeGiven(Font);
-    return Font.Size;
+    return points > smallest ? std::min(points, largest) : smallest;
 }
 
 } // namespace toolkit

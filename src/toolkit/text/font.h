@@ -28,18 +28,11 @@ namespace toolkit {
 [[nodiscard]] std::string fontNameGiven(std::string_view name);
 
 /// The size in points that the font system gives for the one asked for: itself, within 1 to 2160.
-[[nodiscard]] float fontSizeGiven(const FontSpec& font);
+[[nodiscard]] float fontSizeGiven(float points);
 
-/// A surface that is never shown and only measures.
+/// A surface that is never shown: it tells in which font a text was measured.
 struct MeasureBox {
     FontSpec Font;
-
-    [[nodiscard]] float TextWidth(std::string_view text) const { return textWidth(Font, text); }
-    [[nodiscard]] float TextHeight(std::string_view /*text*/) const { return textHeight(Font); }
-    /// Sets the font's name and returns the name that the font system reports back.
-    std::string SetFontName(std::string_view name);
-    /// Sets the font's size and returns the size that the font system really gives.
-    float SetFontSize(float points);
 };
 
 } // namespace toolkit
