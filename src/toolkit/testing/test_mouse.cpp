@@ -4,17 +4,12 @@
 #include <QtCore/QPointer>
 #include <QtGui/QMouseEvent>
 #include <QtGui/QWheelEvent>
+#include <QtTest/QSpontaneKeyEvent>
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/testing/qt_test_window.h"
 #include "toolkit/window/input/qt_mouse_input.h"
 #include "toolkit/window/qt_cursor.h"
-
-/// Marks events as come from outside. The platform lets a class of this very name do so.
-class QSpontaneKeyEvent {
-  public:
-    static void mark(QEvent& event) { event.setSpontaneous(); }
-};
 
 namespace toolkit::test {
 namespace {
@@ -103,7 +98,7 @@ void turnWheel(int rotation) {
     QWheelEvent event(widget.mapFromGlobal(place), place, QPoint(), QPoint(0, rotation),
                       Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
     // Only wheel events from outside go on to the widget behind one that can't use them.
-    QSpontaneKeyEvent::mark(event);
+    QSpontaneKeyEvent::setSpontaneous(&event);
     QCoreApplication::instance()->notify(&widget, &event);
     rethrowKept();
 }
