@@ -1,6 +1,5 @@
-#include "form/modified.h"
-
 #include "card/check_mod.h"
+
 #include "card_form_test.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
@@ -8,71 +7,16 @@
 namespace zev::test {
 namespace {
 
-class Modified : public CardFormTest {};
+class CheckMod : public CardFormTest {};
 
-TEST_F(Modified, TitleTellsTheNameAndTheChange) {
-    start();
-    EXPECT_EQ(form.Caption, "Zevlin  (unnamed)");
-    clickMark(1);
-    EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
-    form.CardName = "Jones";
-    SetCaption(form);
-    EXPECT_EQ(form.Caption, "Zevlin  ( Jones ) *");
-    choose("File>Save");
-    EXPECT_EQ(form.Caption, "Zevlin  ( Jones )");
-}
-
-TEST_F(Modified, TitleIsNotTouchedByTheNameOfARebuild) {
-    start();
-    clickMark(1);
-    form.CardName = "$$Tempcard";
-    form.CardModified = false;
-    SetCaption(form);
-    EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
-}
-
-TEST_F(Modified, SettingTellsTheOldFlagAndAllowsUndo) {
-    start();
-    form.mpopUndo.Enabled = false;
-    SetMod(form);
-    EXPECT_TRUE(form.mpopUndo.Enabled);
-    EXPECT_TRUE(form.CardModified);
-    EXPECT_TRUE(tracedInOrder({"SetMod 0", "SetCaption", "MakeTimeStamp"}));
-    SetMod(form);
-    EXPECT_TRUE(tracedInOrder({"SetMod 1", "SetCaption", "MakeTimeStamp"}));
-}
-
-TEST_F(Modified, ResettingDropsTheUndo) {
-    start();
-    typeInOpenField(1, "x");
-    ASSERT_TRUE(form.CardModified);
-    ResetMod(form);
-    EXPECT_FALSE(form.CardModified);
-    EXPECT_EQ(form.OrigIndex, 0);
-    EXPECT_EQ(form.TIndex, 0);
-    EXPECT_EQ(form.OrigText, "");
-    EXPECT_TRUE(tracedInOrder({"ResetMod 1", "SetCaption", "MakeTimeStamp"}));
-}
-
-TEST_F(Modified, ResettingStandsStillWhilePrinting) {
-    start();
-    typeInto(1, "x");
-    form.Printing = true;
-    ResetMod(form);
-    EXPECT_EQ(traceLines().back(), "ResetMod 1");
-    EXPECT_TRUE(form.CardModified);
-    EXPECT_EQ(form.OrigIndex, 1);
-    EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
-}
-
-TEST_F(Modified, QuestionIsAskedOnlyForAChange) {
+TEST_F(CheckMod, QuestionIsAskedOnlyForAChange) {
     start();
     EXPECT_FALSE(CheckMod(form));
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(traceLines().back(), "CheckMod False, False, False");
 }
 
-TEST_F(Modified, QuestionHasItsTextAndButtons) {
+TEST_F(CheckMod, QuestionHasItsTextAndButtons) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Cancel);
@@ -85,7 +29,7 @@ TEST_F(Modified, QuestionHasItsTextAndButtons) {
     EXPECT_TRUE(form.CardModified);
 }
 
-TEST_F(Modified, NoDropsTheChangeAndGoesOn) {
+TEST_F(CheckMod, NoDropsTheChangeAndGoesOn) {
     start();
     clickMark(1);
     answer(toolkit::Answer::No);
@@ -93,7 +37,7 @@ TEST_F(Modified, NoDropsTheChangeAndGoesOn) {
     EXPECT_FALSE(form.CardModified);
 }
 
-TEST_F(Modified, YesSavesANamedCardAndGoesOn) {
+TEST_F(CheckMod, YesSavesANamedCardAndGoesOn) {
     start();
     form.CardName = "Jones";
     clickMark(1);
@@ -102,7 +46,7 @@ TEST_F(Modified, YesSavesANamedCardAndGoesOn) {
     EXPECT_NE(dataFileContent("Jones.zev").find("1,1,0\r\n"), std::string::npos);
 }
 
-TEST_F(Modified, YesRefusesWhenTheNamingIsCancelled) {
+TEST_F(CheckMod, YesRefusesWhenTheNamingIsCancelled) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Yes);
@@ -111,7 +55,7 @@ TEST_F(Modified, YesRefusesWhenTheNamingIsCancelled) {
     EXPECT_TRUE(form.CardModified);
 }
 
-TEST_F(Modified, NothingIsAskedWhilePrinting) {
+TEST_F(CheckMod, NothingIsAskedWhilePrinting) {
     start();
     typeInOpenField(1, "x");
     form.Printing = true;
@@ -121,7 +65,7 @@ TEST_F(Modified, NothingIsAskedWhilePrinting) {
     EXPECT_TRUE(boxes.empty());
 }
 
-TEST_F(Modified, NothingIsAskedInTheDesignView) {
+TEST_F(CheckMod, NothingIsAskedInTheDesignView) {
     start();
     clickMark(1);
     form.MShowShapes.Checked = true;
@@ -131,7 +75,7 @@ TEST_F(Modified, NothingIsAskedInTheDesignView) {
     EXPECT_TRUE(tracedInOrder({"CheckMod True, False, True", "ResetMod 1"}));
 }
 
-TEST_F(Modified, AnOpenEditCountsWithoutAKeyRelease) {
+TEST_F(CheckMod, AnOpenEditCountsWithoutAKeyRelease) {
     start();
     clickText(1);
     toolkit::test::compose("", "abc");
@@ -144,7 +88,7 @@ TEST_F(Modified, AnOpenEditCountsWithoutAKeyRelease) {
     EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
 }
 
-TEST_F(Modified, ACommittedEditCountsThoughItsFlagWasLost) {
+TEST_F(CheckMod, ACommittedEditCountsThoughItsFlagWasLost) {
     start();
     typeInto(1, "abc");
     form.CardModified = false;
@@ -153,7 +97,7 @@ TEST_F(Modified, ACommittedEditCountsThoughItsFlagWasLost) {
     EXPECT_TRUE(traced("SetMod 0"));
 }
 
-TEST_F(Modified, LeavingAsksAndCancelStays) {
+TEST_F(CheckMod, LeavingAsksAndCancelStays) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Cancel);

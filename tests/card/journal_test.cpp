@@ -3,10 +3,9 @@
 #include <cstdlib>
 
 #include "card/chooser_menu.h"
+#include "card/journal_fixture.h"
 #include "card/rescue.h"
 #include "card/save.h"
-#include "card_form_test.h"
-#include "support/immutable_folder.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/write_file.h"
@@ -19,11 +18,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-class Journal : public CardFormTest {
+class Journal : public JournalTest {
   protected:
-    [[nodiscard]] fs::path file() const { return home / "state" / "changes-1.zev"; }
-    [[nodiscard]] bool isThere() const { return fs::exists(file()); }
-    [[nodiscard]] RescuedCard content() const { return readRescue(toolkit::readFile(file())); }
     [[nodiscard]] std::string text(std::size_t field) const {
         return content().document.texts.at(field - 1).text;
     }
@@ -142,69 +138,6 @@ TEST_F(Journal, IsNotMadeForACardWithoutChanges) {
     flushJournal(form);
     EXPECT_FALSE(isThere());
     EXPECT_FALSE(fs::exists(home / "state"));
-}
-
-TEST_F(Journal, GoesWhenTheCardIsSaved) {
-    start();
-    openCard("Jones", {});
-    clickMark(2);
-    toolkit::test::elapseAlarms();
-    ASSERT_TRUE(isThere());
-    choose("File>Save");
-    EXPECT_FALSE(isThere());
-    toolkit::test::elapseAlarms();
-    EXPECT_FALSE(isThere());
-}
-
-TEST_F(Journal, ThatCantBeRemovedWhenTheCardIsSavedIsEmptied) {
-    start();
-    openCard("Jones", {});
-    clickMark(2);
-    toolkit::test::elapseAlarms();
-    ASSERT_TRUE(isThere());
-    {
-        const test_system::ImmutableFolder immutable(home / "state");
-        if (!immutable.isThere()) GTEST_SKIP() << "no file here can be made immutable";
-        choose("File>Save");
-        EXPECT_EQ(toolkit::readFile(file()), "");
-        clickMark(1);
-        toolkit::test::elapseAlarms();
-        EXPECT_TRUE(content().document.marks[0]);
-    }
-    choose("File>Save");
-    EXPECT_FALSE(isThere());
-}
-
-TEST_F(Journal, GoesWhenTheChangesAreGivenUpByAnswer) {
-    start();
-    clickMark(2);
-    toolkit::test::elapseAlarms();
-    ASSERT_TRUE(isThere());
-    answer(toolkit::Answer::No);
-    choose("File>New");
-    EXPECT_FALSE(isThere());
-}
-
-TEST_F(Journal, IsWrittenAnewWhereTheSameIsDoneAfterItWasGivenUp) {
-    start();
-    clickMark(2);
-    toolkit::test::elapseAlarms();
-    answer(toolkit::Answer::No);
-    choose("File>New");
-    ASSERT_FALSE(isThere());
-    clickMark(2);
-    toolkit::test::elapseAlarms();
-    ASSERT_TRUE(isThere());
-    EXPECT_TRUE(content().document.marks[1]);
-}
-
-TEST_F(Journal, StaysWhenTheQuestionIsCancelled) {
-    start();
-    clickMark(2);
-    toolkit::test::elapseAlarms();
-    answer(toolkit::Answer::Cancel);
-    choose("File>New");
-    EXPECT_TRUE(isThere());
 }
 
 TEST_F(Journal, IsWrittenBeforeARebuildAndStaysThroughIt) {

@@ -1,6 +1,5 @@
 #include "events/tab_walk.h"
 
-#include "events/flash_focus.h"
 #include "events/keys.h"
 #include "text/edit_test.h"
 #include "toolkit/base/twips.h"
@@ -256,11 +255,6 @@ TEST_F(MarkWalk, StepToAMarkThatDoesNotExistIsTraced) {
     announceError("Error in");
     TabToMark(form, 1099);
     EXPECT_TRUE(traced("Error in TabToMark: #340, Control array element '99' doesn't exist"));
-    FlashFocus(form, 99);
-    EXPECT_TRUE(traced("Error in FlashFocus: #340, Control array element '99' doesn't exist"));
-    FlashFocus(form, 0);
-    FlashFocus(form, -3);
-    EXPECT_TRUE(traced("FlashFocus -3"));
 }
 
 } // namespace

@@ -6,20 +6,7 @@
 namespace toolkit {
 namespace {
 
-class Printers : public testing::Test {
-  protected:
-    void TearDown() override {
-        overridePrinters({});
-        overrideNoPrinter(false);
-    }
-};
-
-TEST_F(Printers, ThereIsAlwaysPrintToPdf) {
-    EXPECT_EQ(printerNames().back(), "Print to PDF");
-    EXPECT_NE(defaultPrinter().hdc, 0);
-}
-
-TEST_F(Printers, PrintToPdfTakesALetterSheetAt600Dots) {
+TEST(PrinterFacts, PrintToPdfTakesALetterSheetAt600Dots) {
     const Printer printer = printerNamed(printToPdfName);
     EXPECT_EQ(printer.PixelsPerInchX, 600);
     EXPECT_EQ(printer.PixelsPerInchY, 600);
@@ -32,18 +19,7 @@ TEST_F(Printers, PrintToPdfTakesALetterSheetAt600Dots) {
     EXPECT_EQ(printer.ColorMode, 2);
 }
 
-TEST_F(Printers, PrintersOfTheSystemStandBeforeIt) {
-    Printer laser;
-    laser.DeviceName = "Laser";
-    laser.hdc = 7;
-    overridePrinters({laser});
-    EXPECT_EQ(printerNames(), (std::vector<std::string>{"Laser", "Print to PDF"}));
-    EXPECT_EQ(printerNamed("Laser").hdc, 7);
-    EXPECT_EQ(printerNamed("Gone").hdc, 0);
-    EXPECT_EQ(defaultPrinter().DeviceName, "Laser");
-}
-
-TEST_F(Printers, APageOnItsSideChangesPlacesWithItsMargins) {
+TEST(PrinterFacts, APageOnItsSideChangesPlacesWithItsMargins) {
     Printer printer;
     printer.PixelsPerInchX = 300;
     printer.PixelsPerInchY = 600;
@@ -67,18 +43,11 @@ TEST_F(Printers, APageOnItsSideChangesPlacesWithItsMargins) {
     EXPECT_EQ(printer.PaperSize, 3);
 }
 
-TEST_F(Printers, APaperThatIsntThereChangesNothing) {
+TEST(PrinterFacts, APaperThatIsntThereChangesNothing) {
     Printer printer = printerNamed(printToPdfName);
     layOutPage(printer, 77, Orientation::Landscape);
     EXPECT_EQ(printer.Orientation, 1);
     EXPECT_EQ(printer.PhysicalWidth, 5100);
-}
-
-TEST_F(Printers, AMachineWithoutPrinterHasNoDeviceContext) {
-    overrideNoPrinter(true);
-    EXPECT_EQ(defaultPrinter().hdc, 0);
-    overrideNoPrinter(false);
-    EXPECT_NE(defaultPrinter().hdc, 0);
 }
 
 } // namespace

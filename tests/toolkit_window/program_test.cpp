@@ -5,21 +5,12 @@
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/program.h"
 
-#include <chrono>
-
 namespace window_test {
 namespace {
 
 using namespace toolkit;
 
 class Program : public WindowTest {};
-
-TEST_F(Program, ShortWaitsAreOverAtOnce) {
-    overrideProgram({.shortWaits = true});
-    const auto start = std::chrono::steady_clock::now();
-    wait(10000);
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
-}
 
 TEST_F(Program, WaitForThePlayerLetsThemActInTheMiddleOfAProcedure) {
     bool clicked = false;
@@ -50,12 +41,6 @@ TEST_F(Program, TheEndOfTheProgramEndsSuchAWait) {
     openBox("text");
     overrideProgram({.player = [] { test::click(px(30), px(30)); }});
     EXPECT_THROW(test::click(px(300), px(200)), ProgramEnded);
-}
-
-TEST_F(Program, BeepIsToldToATest) {
-    overrideProgram({.beep = [this] { note("beep"); }});
-    beep();
-    EXPECT_EQ(log, (Log{"beep"}));
 }
 
 } // namespace

@@ -17,11 +17,6 @@ using namespace toolkit;
 
 class ShellFolders : public WindowTest {};
 
-TEST_F(ShellFolders, FolderForTestsIsGiven) {
-    overrideProgram({.programFolder = "/somewhere/else"});
-    EXPECT_EQ(programFolder(), "/somewhere/else");
-}
-
 TEST_F(ShellFolders, DocumentsFolderIsMadeWhenAbsent) {
     const std::filesystem::path folder =
         std::filesystem::temp_directory_path() / "zevlin-window-test" / "Documents";
@@ -51,19 +46,6 @@ TEST_F(ShellFolders, TheStateFolderIsThatOfTheDesktop) {
     EXPECT_EQ(folderWith(""), home / ".local/state/zevlin");
 }
 #endif
-
-TEST_F(ShellFolders, TheStateFolderForTestsIsGivenAndNotMade) {
-    overrideProgram({.stateFolder = "/nowhere/state"});
-    EXPECT_EQ(stateFolder(), "/nowhere/state");
-    EXPECT_FALSE(std::filesystem::exists("/nowhere"));
-}
-
-TEST_F(ShellFolders, LaunchesAreToldToATest) {
-    overrideProgram({.launch = [this](const std::string& address) { note(address); }});
-    openWebPage("https://zevlin.example/history#faq");
-    showInFileManager("/home/a b/ZEV/ZEV.ini");
-    EXPECT_EQ(log, (Log{"https://zevlin.example/history#faq", "file:///home/a b/ZEV"}));
-}
 
 TEST_F(ShellFolders, AFileThatIsThereIsSelected) {
     overrideProgram({.launch = [this](const std::string& address) { note(address); }});
