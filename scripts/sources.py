@@ -4,11 +4,15 @@ import hashlib
 import os
 import pathlib
 import re
+import subprocess
+import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
-CACHE = ROOT / "build" / "lint"
-# A release build that was configured; another one for those who build elsewhere.
-BUILD = pathlib.Path(os.environ.get("ZEVLIN_BUILD", ROOT / "build" / "release"))
+# What passed, by checks and keys, for all copies of the project that this user has.
+CACHE = pathlib.Path(os.environ.get("XDG_CACHE_HOME") or "~/.cache").expanduser() / "zevlin-checks"
+KEPT_DAYS = 30
+# Configured for the checks alone: nothing is built there.
+BUILD = ROOT / "build" / "lint"
 GENERATED = BUILD / "generated"
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
@@ -54,26 +58,43 @@ def closure(path, known=None):
     return known.keys()
 
 
-def fingerprint_of(paths, *more):
-    """Changes whenever a file, one that it includes, or one of the further texts changes."""
+def configured():
+    """The build folder, with compile_commands.json and the generated headers."""
+    result = subprocess.run(["cmake", "--preset", "lint"], cwd=ROOT, capture_output=True, text=True)
+    if result.returncode:
+        raise SystemExit(result.stdout + result.stderr)
+    return BUILD
+
+
+def anywhere(command):
+    """A command as it would be in any other copy of the project."""
+    return command.replace(str(ROOT), "")
+
+
+def fingerprint(path, *more):
+    """Changes whenever the file, one that it includes, or one of the further texts changes."""
     digest = hashlib.sha256()
     for text in more:
         digest.update(text.encode() + b"\0")
-    known = {}
-    for path in paths:
-        closure(path, known)
-    for part in sorted(known):
-        digest.update(name(part).encode() if part.is_relative_to(ROOT) else b"")
+    for part in sorted(closure(path)):
+        digest.update(name(part).encode() + b"\0")
         digest.update(part.read_bytes() + b"\0")
     return digest.hexdigest()
 
 
-def fingerprint(path, *more):
-    return fingerprint_of([path], *more)
-
-
 def passed_before(check, key):
-    return (CACHE / check / key).is_file()
+    """Whether that has passed; what nobody asks for is forgotten in the end."""
+    mark = CACHE / check / key
+    if not mark.is_file():
+        return False
+    mark.touch()
+    return True
+
+
+def forget_old(check):
+    for mark in (CACHE / check).glob("*"):
+        if mark.stat().st_mtime < time.time() - KEPT_DAYS * 24 * 3600:
+            mark.unlink(missing_ok=True)
 
 
 def remember_pass(check, key):

@@ -11,7 +11,8 @@ constexpr float precision = 1.0F / 256;
 } // namespace
 
 toolkit::BaseLine baseLineOverRule(float base, const DesignPixel& pixel) {
-    if (!(pixel.ofFields > 0 && pixel.ofPrint > 0)) return {};
+    const bool isKnown = pixel.ofFields > 0 && pixel.ofPrint > 0;
+    if (!isKnown) return {};
     const float rule = std::ceil(base / pixel.ofFields - precision);
     return {.Wanted = 0,
             .Highest = (rule - 1) * pixel.ofPrint - base,

@@ -121,6 +121,7 @@ std::vector<double> RowSetter::itemWidths(const Cell& cell, const RowStyle& styl
     };
     const auto sharers = std::ranges::count_if(cell.items, takesShare);
     std::vector<double> widths;
+    widths.reserve(cell.items.size());
     for (const Item& item : cell.items)
         widths.push_back(itemWidth(item, style) +
                          (takesShare(item) ? spare / static_cast<double>(sharers) : 0));
