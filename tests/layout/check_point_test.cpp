@@ -1,6 +1,7 @@
 #include "layout/check_point.h"
 #include "layout/write_layout.h"
 
+#include "layout/layout_text.h"
 #include "layout/save_layout.h"
 #include "support/form_test.h"
 #include "toolkit/base/write_file.h"
@@ -12,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* setAside = "$$TempDef.Ini";
-constexpr const char* layoutName = "Definitions.Ini";
 
 class CheckPoint : public FormTest {
   protected:
@@ -23,31 +23,31 @@ class CheckPoint : public FormTest {
         form.AMark[1].Left += 150;
         CheckPointShapes(form);
         form.AMark[1].Left = left;
-        fs::rename(dataFile(layoutName), dataFile("checked"));
-        fs::create_directory(dataFile(layoutName));
+        fs::rename(dataFile(layoutFileName), dataFile("checked"));
+        fs::create_directory(dataFile(layoutFileName));
         announceError("Error in RestoreShapes: #75, Path/File access error");
         RestoreShapes(form);
     }
     void unblock() const {
-        fs::remove(dataFile(layoutName));
-        fs::rename(dataFile("checked"), dataFile(layoutName));
+        fs::remove(dataFile(layoutFileName));
+        fs::rename(dataFile("checked"), dataFile(layoutFileName));
     }
 };
 
 TEST_F(CheckPoint, SetsTheLayoutAsideAndWritesThePresentOne) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     form.AMark[1].Left += 150;
     CheckPointShapes(form);
     EXPECT_EQ(dataFileContent(setAside), before);
-    EXPECT_NE(dataFileContent(layoutName), before);
-    EXPECT_TRUE(dataFileContent(layoutName).starts_with("' ****"));
+    EXPECT_NE(dataFileContent(layoutFileName), before);
+    EXPECT_TRUE(dataFileContent(layoutFileName).starts_with("' ****"));
     EXPECT_TRUE(traced("CheckPointShapes"));
 }
 
 TEST_F(CheckPoint, ReplacesAnEarlierOne) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     toolkit::writeFile(dataFile(setAside), "earlier");
     CheckPointShapes(form);
     EXPECT_EQ(dataFileContent(setAside), before);
@@ -55,44 +55,44 @@ TEST_F(CheckPoint, ReplacesAnEarlierOne) {
 
 TEST_F(CheckPoint, IsUndoneByRestoring) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     form.AMark[1].Left += 150;
     CheckPointShapes(form);
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
 }
 
 TEST_F(CheckPoint, TakenTwiceIsUndoneToWhatWasBeforeTheFirst) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     for (int i = 0; i < 2; ++i) {
         form.AMark[1].Left += 150;
         CheckPointShapes(form);
     }
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
     EXPECT_EQ(form.LayoutInMemory, before);
 }
 
 TEST_F(CheckPoint, RestoringWithoutOneDoesNothing) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
     EXPECT_EQ(traceLines().back(), "RestoreShapes");
 }
 
 TEST_F(CheckPoint, RestoringBringsALayoutThatIsGone) {
     start();
     toolkit::writeFile(dataFile(setAside), "aside");
-    fs::remove(dataFile(layoutName));
+    fs::remove(dataFile(layoutFileName));
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layoutName), "aside");
+    EXPECT_EQ(dataFileContent(layoutFileName), "aside");
 }
 
 TEST_F(CheckPoint, LeftBehindIsRestoredAtTheNextStart) {
-    fs::copy_file(dataFile(layoutName), dataFile(setAside));
+    fs::copy_file(dataFile(layoutFileName), dataFile(setAside));
     writeLayout(smallLayout({{.left = 1, .top = 1, .width = 9, .height = 9}},
                             {{.left = 1, .top = 50, .width = 90, .height = 9}}));
     start();
@@ -102,28 +102,28 @@ TEST_F(CheckPoint, LeftBehindIsRestoredAtTheNextStart) {
 
 TEST_F(CheckPoint, WithoutALayoutIsTracedAndWritesNothing) {
     start();
-    fs::remove(dataFile(layoutName));
+    fs::remove(dataFile(layoutFileName));
     announceError("Error in CheckPointShapes 53, File not found");
     CheckPointShapes(form);
     EXPECT_TRUE(traced("Error in CheckPointShapes 53, File not found"));
-    EXPECT_FALSE(fs::exists(dataFile(layoutName)));
+    EXPECT_FALSE(fs::exists(dataFile(layoutFileName)));
 }
 
 TEST_F(CheckPoint, WithAFolderInItsPlaceIsTracedAndKeepsTheLayout) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     fs::create_directory(dataFile(setAside));
     announceError("Error in CheckPointShapes 75, Path/File access error");
     CheckPointShapes(form);
     EXPECT_TRUE(traced("Error in CheckPointShapes 75, Path/File access error"));
-    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
 }
 
 TEST_F(CheckPoint, RestoringOverAFolderIsTraced) {
     start();
     toolkit::writeFile(dataFile(setAside), "aside");
-    fs::remove(dataFile(layoutName));
-    fs::create_directory(dataFile(layoutName));
+    fs::remove(dataFile(layoutFileName));
+    fs::create_directory(dataFile(layoutFileName));
     announceError("Error in RestoreShapes: #75, Path/File access error");
     RestoreShapes(form);
     EXPECT_TRUE(traced("Error in RestoreShapes: #75, Path/File access error"));
@@ -132,22 +132,22 @@ TEST_F(CheckPoint, RestoringOverAFolderIsTraced) {
 
 TEST_F(CheckPoint, ThatCouldntBeUndoneIsUndoneBeforeTheNextOne) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     failToRestore();
     ASSERT_EQ(dataFileContent(setAside), before);
     unblock();
     form.AMark[1].Left += 150;
     CheckPointShapes(form);
     EXPECT_EQ(dataFileContent(setAside), before);
-    EXPECT_NE(dataFileContent(layoutName), before);
+    EXPECT_NE(dataFileContent(layoutFileName), before);
     RestoreShapes(form);
-    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
 }
 
 TEST_F(CheckPoint, ThatStillCantBeUndoneKeepsTheLayoutThatIsSetAside) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     failToRestore();
     CheckPointShapes(form);
     EXPECT_EQ(dataFileContent(setAside), before);
@@ -156,12 +156,12 @@ TEST_F(CheckPoint, ThatStillCantBeUndoneKeepsTheLayoutThatIsSetAside) {
 
 TEST_F(CheckPoint, ThatCouldntBeUndoneIsUndoneByARebuildWhichReadsThePlayersLayout) {
     start();
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     const float left = form.AMark[1].Left;
     failToRestore();
     unblock();
     RebuildScreenImage(form);
-    EXPECT_EQ(dataFileContent(layoutName), before);
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
     EXPECT_EQ(form.AMark[1].Left, left);
 }
@@ -169,7 +169,7 @@ TEST_F(CheckPoint, ThatCouldntBeUndoneIsUndoneByARebuildWhichReadsThePlayersLayo
 TEST_F(CheckPoint, ThatStillCantBeUndoneLeavesTheFieldsOfARebuildToMemory) {
     start();
     const float left = form.AMark[1].Left;
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     failToRestore();
     RebuildScreenImage(form);
     EXPECT_EQ(form.AMark[1].Left, left);
@@ -183,10 +183,10 @@ TEST_F(CheckPoint, ThatCouldntBeUndoneIsForgottenWhenThePlayerSavesADesign) {
     unblock();
     form.AMark[1].Left += 300;
     MSaveShapes_Click(form);
-    const std::string saved = dataFileContent(layoutName);
+    const std::string saved = dataFileContent(layoutFileName);
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
     RebuildScreenImage(form);
-    EXPECT_EQ(dataFileContent(layoutName), saved);
+    EXPECT_EQ(dataFileContent(layoutFileName), saved);
 }
 
 TEST_F(CheckPoint, BeforeTheFieldsExistTouchesNothing) {
@@ -194,7 +194,7 @@ TEST_F(CheckPoint, BeforeTheFieldsExistTouchesNothing) {
     form.DataFolder = dataFolder;
     writeLayout("untouched");
     CheckPointShapes(form);
-    EXPECT_EQ(dataFileContent(layoutName), "untouched");
+    EXPECT_EQ(dataFileContent(layoutFileName), "untouched");
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
 }
 

@@ -1,5 +1,6 @@
 // Layouts of the real card on screens of 96, 110 and 120 dots per inch.
 #include "app/second_run.h"
+#include "layout/layout_text.h"
 #include "layout/write_layout.h"
 #include "support/form_test.h"
 #include "toolkit/base/files.h"
@@ -12,8 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* layoutName = "Definitions.Ini";
-
 /// The parameter is the screen's twips per pixel.
 class Conversion : public FormTest, public testing::WithParamInterface<int> {
   protected:
@@ -22,7 +21,7 @@ class Conversion : public FormTest, public testing::WithParamInterface<int> {
     }
     [[nodiscard]] std::string number() const { return std::to_string(GetParam()); }
     [[nodiscard]] std::string installed() const {
-        return toolkit::readFile(programFolder / (std::string(layoutName) + "." + number()));
+        return toolkit::readFile(programFolder / (std::string(layoutFileName) + "." + number()));
     }
     /// The program with the layout of the usual screen, which the player keeps.
     void startWithUsualLayout() {
@@ -37,9 +36,9 @@ class Conversion : public FormTest, public testing::WithParamInterface<int> {
 };
 
 TEST_P(Conversion, NewPlayerGetsTheInstalledLayoutOfTheScreenUnchangedAndUnasked) {
-    fs::remove(dataFile(layoutName));
+    fs::remove(dataFile(layoutFileName));
     start();
-    EXPECT_EQ(dataFileContent(layoutName), installed());
+    EXPECT_EQ(dataFileContent(layoutFileName), installed());
     EXPECT_EQ(form.OriginalTwips, GetParam());
     EXPECT_TRUE(boxes.empty());
 }
@@ -63,9 +62,9 @@ TEST_P(Conversion, EveryFieldOfTheInstalledLayoutLiesOnTheCard) {
 }
 
 TEST_P(Conversion, UsualLayoutIsWrittenAnewForAnyOtherScreen) {
-    const std::string before = dataFileContent(layoutName);
+    const std::string before = dataFileContent(layoutFileName);
     startWithUsualLayout();
-    const std::string after = dataFileContent(layoutName);
+    const std::string after = dataFileContent(layoutFileName);
     EXPECT_EQ(after == before, GetParam() == 15);
     EXPECT_NE(after.find("\r\n" + number() + ","), std::string::npos);
     EXPECT_EQ(boxes.size(), GetParam() == 15 ? 0U : 1U);
@@ -111,7 +110,7 @@ TEST_P(Conversion, OffsetsWrittenAreThoseOfThisScreensFonts) {
             }
         }
     }
-    EXPECT_NE(dataFileContent(layoutName).find("\r\n" + offsets + "0\r\n"), std::string::npos);
+    EXPECT_NE(dataFileContent(layoutFileName).find("\r\n" + offsets + "0\r\n"), std::string::npos);
 }
 
 INSTANTIATE_TEST_SUITE_P(Screens, Conversion, testing::Values(15, 13, 12));

@@ -39,12 +39,6 @@ constexpr auto boxesOfTrouble = std::to_array<std::string_view>(
      "The original distribution file", "Sorry, program error", "Could not save card image",
      "Error ", "Program error ", "Printer error 'PPB1'", "'"});
 
-template <typename List>
-bool beginsAsOne(std::string_view text, const List& heads) {
-    return std::ranges::any_of(heads,
-                               [text](std::string_view head) { return text.starts_with(head); });
-}
-
 } // namespace
 
 /// While a box is open the program's alarms ring as ever.

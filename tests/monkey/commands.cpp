@@ -26,7 +26,6 @@ namespace fs = std::filesystem;
 using toolkit::Answer;
 
 constexpr std::string_view keepPartner = "Do you want to keep the same Partner's";
-constexpr std::string_view saveFirst = "Do you want to save the current card first?";
 
 /// Printers as they shouldn't be: gone, without a resolution, with a narrow page.
 toolkit::Printer oddPrinter(std::size_t kind) {

@@ -13,7 +13,7 @@ namespace {
 
 using namespace toolkit; // keys, buttons and shifts
 
-constexpr std::string_view saveFirst = "Do you want to save your card first?";
+constexpr std::string_view saveCardFirst = "Do you want to save your card first?";
 constexpr std::string_view menuItem = "Options>Show the Design Menu         Shift Ctrl  D";
 
 std::size_t changedMarks(const CardDocument& before, const CardDocument& after) {
@@ -85,7 +85,7 @@ void Monkey::enterDesign() {
     account_.commit();
     mayKill_ = chance(10);
     if (!choose(menuItem)) return;
-    const auto answer = answerTo(saveFirst);
+    const auto answer = answerTo(saveCardFirst);
     EXPECT_EQ(answer.has_value(), account_.star);
     if (zevlin().MShowShapes.Checked) {
         if (answer == Answer::Yes) finishSave();

@@ -14,14 +14,8 @@
 #include "toolkit/window/program.h"
 
 namespace zev::test {
-namespace {
-
 namespace fs = std::filesystem;
 using toolkit::Answer;
-
-constexpr std::string_view saveFirst = "Do you want to save the current card first?";
-
-} // namespace
 
 void Monkey::bringTrouble() {
     const auto kind =

@@ -19,6 +19,9 @@
 
 namespace zev::test {
 
+/// How the question about a changed card begins.
+constexpr std::string_view saveFirst = "Do you want to save the current card first?";
+
 class Monkey : public FormTest {
   protected:
     Monkey();

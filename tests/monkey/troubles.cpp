@@ -39,12 +39,6 @@ constexpr auto ofOptions =
     std::to_array<std::string_view>({"Error in IniWrite ", "Error in Initialize "});
 constexpr std::string_view ofJournal = "Error in the journal: #";
 
-template <typename List>
-bool beginsAsOne(std::string_view line, const List& heads) {
-    return std::ranges::any_of(heads,
-                               [line](std::string_view head) { return line.starts_with(head); });
-}
-
 /// Files can't become longer than this; those that are stay.
 void limitFiles(rlim_t bytes) {
     rlimit limit{};

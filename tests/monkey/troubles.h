@@ -1,6 +1,7 @@
 // What befalls the folders of the program while it runs, and its mending.
 #pragma once
 
+#include <algorithm>
 #include <filesystem>
 #include <memory>
 #include <string>
@@ -9,6 +10,13 @@
 #include "support/small_disk.h"
 
 namespace zev::test {
+
+/// Whether the text begins as one of the list does.
+template <typename List>
+bool beginsAsOne(std::string_view text, const List& heads) {
+    return std::ranges::any_of(heads,
+                               [text](std::string_view head) { return text.starts_with(head); });
+}
 
 class Troubles {
   public:

@@ -10,9 +10,6 @@ namespace {
 
 using namespace toolkit::test;
 
-constexpr std::size_t copyRow = 7;
-constexpr std::size_t pasteRow = 8;
-
 class ClipText : public EditTest {
   protected:
     void openWith(std::string_view text) {

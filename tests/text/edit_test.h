@@ -1,6 +1,7 @@
 // A card of a few fields at known places, for tests of editing and of walking.
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "support/form_test.h"
@@ -9,6 +10,10 @@
 #include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
+
+/// Rows of the menu of an open field, from the top.
+constexpr std::size_t copyRow = 7;
+constexpr std::size_t pasteRow = 8;
 
 /// Marks 1 to 3 (black, red, blue) in a row, texts 1 to 4 below each other; text 4 is too narrow
 /// for most texts. TAB goes from text 1 to 2, on to marks 1 and 2 and to text 3, where it ends.

@@ -9,7 +9,7 @@ namespace {
 
 using namespace toolkit::test;
 
-constexpr toolkit::Color red = toolkit::rgb(195, 17, 25);
+constexpr toolkit::Color inkRed = toolkit::rgb(195, 17, 25);
 
 class PaintedSymbols : public EditTest {
   protected:
@@ -36,7 +36,7 @@ TEST_F(PaintedSymbols, HeartShowsRedInkAtItsPlace) {
     const auto blank = grabCard();
     enter(1, "4^h");
     const toolkit::Label heart = form.SText[1];
-    EXPECT_GT(inkIn(grabCard(), red, heart), inkIn(blank, red, heart) + 15);
+    EXPECT_GT(inkIn(grabCard(), inkRed, heart), inkIn(blank, inkRed, heart) + 15);
 }
 
 TEST_F(PaintedSymbols, SpadeShowsBlackInkAndNoRed) {
@@ -45,7 +45,7 @@ TEST_F(PaintedSymbols, SpadeShowsBlackInkAndNoRed) {
     enter(1, "4^s");
     const toolkit::Label spade = form.SText[1];
     EXPECT_GT(inkIn(grabCard(), toolkit::black, spade), inkIn(blank, toolkit::black, spade) + 15);
-    EXPECT_EQ(inkIn(grabCard(), red, spade), inkIn(blank, red, spade));
+    EXPECT_EQ(inkIn(grabCard(), inkRed, spade), inkIn(blank, inkRed, spade));
 }
 
 TEST_F(PaintedSymbols, SymbolOfASmallTextIsNotCutAtItsLabel) {
@@ -78,7 +78,7 @@ TEST_F(PaintedSymbols, HiddenOldSymbolLeavesNoInk) {
     typeKey('A', toolkit::shift::ctrl);
     typeKey(toolkit::key::backspace);
     typeKey(toolkit::key::escape);
-    EXPECT_EQ(inkIn(grabCard(), red, heart), inkIn(blank, red, heart));
+    EXPECT_EQ(inkIn(grabCard(), inkRed, heart), inkIn(blank, inkRed, heart));
 }
 
 } // namespace

@@ -13,8 +13,6 @@ constexpr std::size_t undoRow = 0;
 constexpr std::size_t boldRow = 2;
 constexpr std::size_t italicRow = 3;
 constexpr std::size_t highlightRow = 5;
-constexpr std::size_t copyRow = 7;
-constexpr std::size_t pasteRow = 8;
 
 class StylesMenu : public EditTest {
   protected:

@@ -12,7 +12,7 @@
 namespace toolkit {
 namespace {
 
-const FontSpec textFont{.Name = "Arial", .Size = 11};
+const FontSpec runFont{.Name = "Arial", .Size = 11};
 constexpr double pixelsPerTwip = 1 / 15.0;
 
 using Draw = decltype(drawRun);
@@ -22,7 +22,7 @@ QImage drawn(Draw& draw, QPointF place, std::string_view text, double ratio = 1)
     image.fill(Qt::white);
     image.setDevicePixelRatio(ratio);
     QPainter painter(&image);
-    draw(painter, place, textFont, pixelsPerTwip, black, text);
+    draw(painter, place, runFont, pixelsPerTwip, black, text);
     return image;
 }
 

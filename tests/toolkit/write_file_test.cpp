@@ -15,10 +15,10 @@ namespace {
 namespace fs = std::filesystem;
 using test::failureOf;
 using test::TemporaryFolder;
-using Names = std::set<std::string>;
+using FileNames = std::set<std::string>;
 
-Names namesIn(const TemporaryFolder& folder) {
-    Names names;
+FileNames namesIn(const TemporaryFolder& folder) {
+    FileNames names;
     for (const auto& entry : fs::directory_iterator(folder.path()))
         names.insert(entry.path().filename().string());
     return names;
@@ -46,7 +46,7 @@ TEST(WriteFile, AFileOfTheLongestNameIsReplacedToo) {
     writeFile(folder / name, "new");
     EXPECT_EQ(readFile(folder / name), "new");
     EXPECT_EQ(readFile(folder / "before"), "old");
-    EXPECT_EQ(namesIn(folder), (Names{name, "before"}));
+    EXPECT_EQ(namesIn(folder), (FileNames{name, "before"}));
 }
 
 TEST(WriteFile, AFileOfAnySizeTakesThePlaceOfWhatWasThere) {
@@ -67,7 +67,7 @@ TEST(WriteFile, WhatADeadRunLeftBesideDoesntHinderAndGoes) {
     writeFile(folder / "$$f.part", "a longer content, left half way");
     writeFile(folder / "f", "new");
     EXPECT_EQ(readFile(folder / "f"), "new");
-    EXPECT_EQ(namesIn(folder), Names({"f", "g"}));
+    EXPECT_EQ(namesIn(folder), FileNames({"f", "g"}));
 }
 
 TEST(WriteFile, AnotherProgramsHalfWrittenFileIsNotTouched) {
@@ -77,7 +77,7 @@ TEST(WriteFile, AnotherProgramsHalfWrittenFileIsNotTouched) {
     other.write("other");
     writeFile(folder / "f", "new");
     EXPECT_EQ(readFile(folder / "f"), "new");
-    EXPECT_EQ(namesIn(folder), Names({"f", "$$f.part"}));
+    EXPECT_EQ(namesIn(folder), FileNames({"f", "$$f.part"}));
     other.write(" content");
     EXPECT_FALSE(other.renameOver(folder / "f"));
     EXPECT_EQ(readFile(folder / "f"), "other content");
@@ -108,13 +108,13 @@ TEST(WriteFile, ATemporaryFileIsWrittenWhereItStands) {
 
 TEST(WriteFile, OnlyWhatDeadRunsLeftIsDeleted) {
     const TemporaryFolder folder;
-    const Names others = {"$$Tempcard.zev", "$$part", "card.part", "$.part", "$$x.parts"};
+    const FileNames others = {"$$Tempcard.zev", "$$part", "card.part", "$.part", "$$x.parts"};
     for (const auto& name : others) writeFile(folder / name, "mine");
     for (const char* name : {"$$ZEV.Ini.part", "$$A card.zev.2.part", "$$.part"})
         writeTemporaryFile(folder / name, "half");
     const FileHandle living(folder / "$$living.part", FileMode::Beside);
     deleteLeftOvers(folder.path());
-    Names left = others;
+    FileNames left = others;
     left.insert("$$living.part");
     EXPECT_EQ(namesIn(folder), left);
     for (const auto& name : others) EXPECT_EQ(readFile(folder / name), "mine");

@@ -18,7 +18,7 @@
 namespace zev::test {
 namespace {
 
-constexpr float twips = 15;
+constexpr float twipsPerPixel = 15;
 constexpr int whole = 765;
 /// Ink that is no fringe.
 constexpr int clear = whole / 2;
@@ -92,7 +92,7 @@ class FilledCard : public FormTest {
 
     [[nodiscard]] static Area areaOf(const toolkit::Label& label) {
         const auto pixel = [](float length) {
-            return static_cast<int>(std::lround(length / twips));
+            return static_cast<int>(std::lround(length / twipsPerPixel));
         };
         return {pixel(label.Left), pixel(label.Top), pixel(label.Left + label.Width),
                 pixel(label.Top + label.Height)};
@@ -112,10 +112,11 @@ class FilledCard : public FormTest {
     /// The first row of the printed rule under a text area, on the full card.
     [[nodiscard]] std::optional<int> ruleOf(const toolkit::Label& label) const {
         const float base = label.Top + toolkit::textAscent(normalFont(label));
-        const auto at = static_cast<int>(inFull(static_cast<double>(base / twips)));
-        const auto left = static_cast<int>(inFull(static_cast<double>(label.Left / twips))) + 4;
+        const auto at = static_cast<int>(inFull(static_cast<double>(base / twipsPerPixel)));
+        const auto left =
+            static_cast<int>(inFull(static_cast<double>(label.Left / twipsPerPixel))) + 4;
         const int right =
-            left + static_cast<int>(inFull(static_cast<double>(label.Width / twips))) - 8;
+            left + static_cast<int>(inFull(static_cast<double>(label.Width / twipsPerPixel))) - 8;
         for (int y = at - 6; y < at + 8; ++y) {
             int x = left;
             while (x < right && darkness(full, x, y) > 0) ++x;
@@ -242,9 +243,9 @@ double footOf(const toolkit::Bitmap& pen, Area part) {
 Area secondHalfOf(const toolkit::Label& text) {
     const float middle = text.Left + text.Width / 2;
     const float half = toolkit::textWidth(text.Font, text.Caption) / 2;
-    return {static_cast<int>(middle / twips), static_cast<int>(text.Top / twips),
-            static_cast<int>((middle + half) / twips) + 1,
-            static_cast<int>((text.Top + text.Height) / twips)};
+    return {static_cast<int>(middle / twipsPerPixel), static_cast<int>(text.Top / twipsPerPixel),
+            static_cast<int>((middle + half) / twipsPerPixel) + 1,
+            static_cast<int>((text.Top + text.Height) / twipsPerPixel)};
 }
 
 /// At each zoom every text's stems end from none to two pixels of the full card above the rule.
@@ -292,7 +293,7 @@ TEST_F(FilledCard, TextsAreBlurredOnlyWhereNoRowIsNearEnough) {
     }
 }
 
-/// The lines that a label's caption may stand on, in twips from the card's top.
+/// The lines that a label's caption may stand on, in twipsPerPixel from the card's top.
 std::array<float, 3> linesOf(const toolkit::Label& label) {
     const float base = label.Top + toolkit::textAscent(label.Font);
     return {base + label.BaseLine.Wanted, base + label.BaseLine.Highest,
@@ -311,9 +312,9 @@ TEST_F(FilledCard, SuitsStandOnTheLineOfTheirText) {
                 EXPECT_NEAR(linesOf(suit)[i], lines[i], 0.1) << symbol << " at " << scale;
             Area around = areaOf(suit);
             around.bottom = areaOf(text).bottom; // the next line's suits begin below
-            const double row = toolkit::paintedLine(static_cast<double>(lines[0] / twips),
-                                                    static_cast<double>(lines[1] / twips),
-                                                    static_cast<double>(lines[2] / twips));
+            const double row = toolkit::paintedLine(static_cast<double>(lines[0] / twipsPerPixel),
+                                                    static_cast<double>(lines[1] / twipsPerPixel),
+                                                    static_cast<double>(lines[2] / twipsPerPixel));
             EXPECT_NEAR(inkIn(pen, around, clear).bottom, row, 1) << symbol << " at " << scale;
         }
     }

@@ -5,21 +5,15 @@
 
 #include "toolkit/base/error.h"
 #include "toolkit/base/file_calls.h"
+#include "toolkit/base/file_names.h"
 
 namespace toolkit {
-namespace {
-
-/// Of a file, on all platforms; some just say that a longer one isn't there.
-constexpr std::size_t longestName = 255;
-
-} // namespace
-
 void failFile(const std::filesystem::path& path, int errorCode) {
     std::error_code ignored;
     if (std::filesystem::is_directory(path, ignored)) throw RunTimeError(Failure::PathFileAccess);
     const std::filesystem::path folder = path.parent_path();
     const bool isMissing = errorCode == ENOENT;
-    if (isMissing && path.filename().native().size() > longestName)
+    if (isMissing && path.filename().native().size() > longestFileName)
         throw RunTimeError(Failure::BadFileName);
     if (isMissing && !folder.empty() && !std::filesystem::is_directory(folder, ignored))
         throw RunTimeError(Failure::PathNotFound);

@@ -9,8 +9,6 @@
 namespace toolkit {
 namespace {
 
-constexpr std::size_t longestName = 255;
-
 bool isControl(char character) { return code(character) < 32 || code(character) == 127; }
 
 #ifdef _WIN32
@@ -35,7 +33,7 @@ bool isDevice(std::string_view name) { return name == "." || name == ".."; }
 bool isPossibleFileName(std::string_view name) {
     return !name.empty() && std::ranges::none_of(name, isControl) &&
            name.find_first_of(forbidden) == std::string_view::npos && !isDevice(name) &&
-           utf8FromAnsi(name).size() <= longestName;
+           utf8FromAnsi(name).size() <= longestFileName;
 }
 
 } // namespace toolkit

@@ -14,7 +14,7 @@
 namespace toolkit {
 namespace {
 
-constexpr float hundredthsOfMillimetres = 2540; ///< in an inch
+constexpr float hundredthsPerInch = 2540; ///< of a millimetre
 constexpr int usualResolution = 600;
 constexpr int systemToken = 2;
 constexpr int monochromeDepth = 8;
@@ -97,7 +97,7 @@ class Destination {
 
     [[nodiscard]] Paper paperOf(cups_size_t size, int code) const {
         const auto inches = [](int length) {
-            return static_cast<float>(length) / hundredthsOfMillimetres;
+            return static_cast<float>(length) / hundredthsPerInch;
         };
         const char* name = cups_.localizeDestMedia(CUPS_HTTP_DEFAULT, destination_, info_,
                                                    CUPS_MEDIA_FLAGS_DEFAULT, &size);

@@ -10,8 +10,6 @@
 namespace toolkit {
 namespace {
 
-constexpr double twipsPerPoint = 20;
-
 float twips(std::int64_t units, const FontSpec& font, const AdvanceTable& table) {
     const double scale = font.Size * twipsPerPoint / table.unitsPerEm;
     return static_cast<float>(static_cast<double>(units) * scale);

@@ -5,6 +5,8 @@
 
 namespace toolkit {
 
+constexpr double twipsPerPoint = 20;
+
 /// What a control says about its font. Size in points; fractions count.
 struct FontSpec {
     std::string Name{"Arial"};

@@ -25,7 +25,6 @@
 namespace toolkit {
 namespace {
 
-constexpr double twipsPerPoint = 20;
 constexpr double outlineSize = 64;
 /// Parts of a pixel that a text's place is told in.
 constexpr double places = 64;

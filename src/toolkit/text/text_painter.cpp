@@ -19,8 +19,6 @@
 namespace toolkit {
 namespace {
 
-constexpr double twipsPerPoint = 20;
-
 // Each holds a font engine with the glyphs that it has drawn, so they are worth keeping; all zooms,
 // half points and styles that a card can show come to far fewer than the limit.
 using SizedFonts = QCache<std::pair<const FontFace*, double>, QRawFont>;

@@ -10,7 +10,7 @@
 namespace toolkit {
 namespace {
 
-WindowImplementation*& current() {
+WindowImplementation*& openWindow() {
     static WindowImplementation* window = nullptr;
     return window;
 }
@@ -23,12 +23,12 @@ bool quitUnlessRefused(const std::function<bool()>& refuses) {
 
 } // namespace
 
-WindowImplementation* currentWindow() { return current(); }
+WindowImplementation* currentWindow() { return openWindow(); }
 
 void updateWindow() {
-    if (current() == nullptr) return;
-    current()->pull();
-    current()->push();
+    if (openWindow() == nullptr) return;
+    openWindow()->pull();
+    openWindow()->push();
 }
 
 WindowImplementation::WindowImplementation(WindowParts shown)
@@ -54,7 +54,7 @@ WindowImplementation::WindowImplementation(WindowParts shown)
     for (TextBox* notice : parts_.notices)
         notices_.push_back(std::make_unique<Notice>(form_.area(), *notice));
     watchKeys();
-    current() = this;
+    openWindow() = this;
     reckonByScreenOf(&form_);
     // The bar's height belongs to the frame, by which the program sizes the form before its first
     // event.
@@ -64,7 +64,7 @@ WindowImplementation::WindowImplementation(WindowParts shown)
 
 WindowImplementation::~WindowImplementation() {
     reckonByScreenOf(nullptr);
-    current() = nullptr;
+    openWindow() = nullptr;
 }
 
 void WindowImplementation::watchKeys() {
