@@ -15,11 +15,10 @@
 namespace zev {
 
 bool Form_Unload(Zevlin& form, int unloadMode) {
-    Traceit(form, "Form_Unload " + toolkit::numberText(unloadMode));
     // While a job runs the card is between two rebuilds.
-    if (form.Printing) return true;
-    bool cancel = false;
-    trapped(form, "Error in Form_Unload: #", [&] {
+    bool cancel = form.Printing;
+    procedure(form, "Form_Unload", toolkit::numberText(unloadMode), [&] {
+        if (cancel) return;
         if (form.BCancel.Visible) {
             cancel = true;
             return BCancel_Click(form);
@@ -35,8 +34,7 @@ bool Form_Unload(Zevlin& form, int unloadMode) {
 }
 
 void MExit_Click(Zevlin& form) {
-    Traceit(form, "MExit_Click " + std::string(truthText(form.CardModified)));
-    trapped(form, "Error in MExit_Click: #", [&] {
+    procedure(form, "MExit_Click", truthText(form.CardModified), [&] {
         if (CheckMod(form)) return;
         if (!Form_Unload(form, unloadFromCode)) toolkit::leaveProgram();
     });

@@ -47,11 +47,12 @@ bool checkChanges(Zevlin& form) {
 } // namespace
 
 bool CheckMod(Zevlin& form) {
-    Traceit(form, "CheckMod " + std::string(truthText(form.CardModified)) + ", " +
-                      std::string(truthText(form.Printing)) + ", " +
-                      std::string(truthText(form.MShowShapes.Checked)));
     bool refused = false;
-    trapped(form, "Error in CheckMod: #", [&] { refused = checkChanges(form); });
+    procedure(form, "CheckMod",
+              std::string(truthText(form.CardModified)) + ", " +
+                  std::string(truthText(form.Printing)) + ", " +
+                  std::string(truthText(form.MShowShapes.Checked)),
+              [&] { refused = checkChanges(form); });
     return refused;
 }
 

@@ -112,9 +112,8 @@ void PopulateFileList(Zevlin& form) {
 }
 
 std::string GetFileNames(Zevlin& form) {
-    Traceit(form, "GetFileNames");
     std::string name;
-    trapped(form, "Error in GetFileNames: #", [&] {
+    procedure(form, "GetFileNames", [&] {
         letPlayerChoose(form);
         name = chosenName(form);
     });

@@ -59,8 +59,7 @@ void takeSelectedName(Zevlin& form) {
 void enableOk(Zevlin& form) { form.BOK.Enabled = hasName(form); }
 
 void BOK_Click(Zevlin& form) {
-    Traceit(form, "BOK_Click");
-    trapped(form, "Error in BOK_Click: #", [&] {
+    procedure(form, "BOK_Click", [&] {
         if (hasName(form)) form.ChooserTaken = true;
         enableOk(form);
     });

@@ -118,8 +118,7 @@ void mpopOpen_Click(Zevlin& form) {
 }
 
 void mpopDelete_Click(Zevlin& form) {
-    Traceit(form, "mpopDelete_Click");
-    trapped(form, "Error in mpopDelete_Click: #", [&] { deleteSelected(form); });
+    procedure(form, "mpopDelete_Click", [&] { deleteSelected(form); });
 }
 
 void mpopRename_Click(Zevlin& form) {

@@ -84,18 +84,15 @@ void openCard(Zevlin& form) {
 } // namespace
 
 void MNew_Click(Zevlin& form) {
-    Traceit(form, "MNew_Click");
-    trapped(form, "Error in MNew_Click: #", [&] { makeNewCard(form); });
+    procedure(form, "MNew_Click", [&] { makeNewCard(form); });
 }
 
 void MOpen_Click(Zevlin& form) {
-    Traceit(form, "MOpen_Click");
-    trapped(form, "Error in MOpen_Click: #", [&] { openCard(form); });
+    procedure(form, "MOpen_Click", [&] { openCard(form); });
 }
 
 void MOpenLast_Click(Zevlin& form) {
-    Traceit(form, "MOpenLast_Click");
-    trapped(form, "Error in MOpenLast_Click: #", [&] { MOpen_Click(form); });
+    procedure(form, "MOpenLast_Click", [&] { MOpen_Click(form); });
 }
 
 } // namespace zev

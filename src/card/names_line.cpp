@@ -107,19 +107,16 @@ void composeNamesLine(Zevlin& form, NamesUpdate update) {
 } // namespace
 
 void MMyID_Click(Zevlin& form) {
-    Traceit(form, "MMyID_Click");
-    trapped(form, "Error in MMyID_Click: #", [&] { changeMyId(form); });
+    procedure(form, "MMyID_Click", [&] { changeMyId(form); });
     tellFileFailures(form);
 }
 
 void MPartnerID_Click(Zevlin& form) {
-    Traceit(form, "MPartnerID_Click");
-    trapped(form, "Error in MPartnerID_Click: #", [&] { changePartnerId(form); });
+    procedure(form, "MPartnerID_Click", [&] { changePartnerId(form); });
 }
 
 void ShowNames(Zevlin& form, NamesUpdate update) {
-    Traceit(form, "ShowNames");
-    trapped(form, "Error in ShowNames: #", [&] {
+    procedure(form, "ShowNames", [&] {
         if (form.NamesField > 0) composeNamesLine(form, update);
     });
 }

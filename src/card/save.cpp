@@ -175,8 +175,7 @@ void MSave_Click(Zevlin& form) {
 }
 
 void MSaveAs_Click(Zevlin& form) {
-    Traceit(form, "MSaveAs_Click");
-    trapped(form, "Error in MSaveAs_Click: #", [&] { saveUnderNewName(form); });
+    procedure(form, "MSaveAs_Click", [&] { saveUnderNewName(form); });
 }
 
 } // namespace zev

@@ -158,13 +158,11 @@ void showDesignMenu(Zevlin& form) {
 } // namespace
 
 void MShowDesignMenu_Click(Zevlin& form) {
-    Traceit(form, "MShowDesignMenu_Click");
-    trapped(form, "Error in MShowDesignMenu_Click: #", [&] { showDesignMenu(form); });
+    procedure(form, "MShowDesignMenu_Click", [&] { showDesignMenu(form); });
 }
 
 void MShowShapes_Click(Zevlin& form) {
-    Traceit(form, "MShowShapes_Click");
-    trapped(form, "Error in MShowShapes_Click: #", [&] {
+    procedure(form, "MShowShapes_Click", [&] {
         if (form.MShowShapes.Checked) {
             leaveDesign(form);
         } else {

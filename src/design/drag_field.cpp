@@ -118,9 +118,8 @@ void AText_MouseMove(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
 }
 
 void AText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
-    Traceit(form, "AText_MouseUp " + toolkit::numberText(mouse.Button));
-    if (!form.MShowShapes.Checked) return;
-    trapped(form, "Error in AText_MouseUp: #", [&] {
+    procedure(form, "AText_MouseUp", toolkit::numberText(mouse.Button), [&] {
+        if (!form.MShowShapes.Checked) return;
         letGo(form);
         form.TextDragX = form.TextDragY = 0;
         form.MousePointer = toolkit::MousePointer::Default;

@@ -49,8 +49,7 @@ void openColorMenu(Zevlin& form, DesignField field) {
 }
 
 void mpopDesignColor_Click(Zevlin& form, int index) {
-    Traceit(form, "mpopDesignColor_Click");
-    trapped(form, "Error in mpopDesignColor_Click: #", [&] { recolor(form, index); });
+    procedure(form, "mpopDesignColor_Click", [&] { recolor(form, index); });
 }
 
 } // namespace zev

@@ -55,8 +55,7 @@ void undo(Zevlin& form) {
 } // namespace
 
 void P1_KeyPress(Zevlin& form, int& KeyAscii) {
-    Traceit(form, "P1_KeyPress " + toolkit::numberText(KeyAscii));
-    trapped(form, "Error in P1_KeyPress: #", [&] {
+    procedure(form, "P1_KeyPress", toolkit::numberText(KeyAscii), [&] {
         if (form.MShowShapes.Checked && KeyAscii == undoKey) undo(form);
     });
 }

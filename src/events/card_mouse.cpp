@@ -18,8 +18,8 @@ namespace {
 
 using toolkit::numberText;
 
-std::string pressTrace(const toolkit::MouseArguments& mouse) {
-    return "P1_MouseDown  B=" + numberText(mouse.Button) + " S=" + numberText(mouse.Shift) +
+std::string pressDetails(const toolkit::MouseArguments& mouse) {
+    return " B=" + numberText(mouse.Button) + " S=" + numberText(mouse.Shift) +
            " X=" + numberText(mouse.X) + " Y=" + numberText(mouse.Y);
 }
 
@@ -79,8 +79,7 @@ void clickCard(Zevlin& form) {
 } // namespace
 
 void P1_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
-    Traceit(form, pressTrace(mouse));
-    trapped(form, "Error in P1_MouseDown: #", [&] { pressCard(form, mouse); });
+    procedure(form, "P1_MouseDown", pressDetails(mouse), [&] { pressCard(form, mouse); });
 }
 
 void P1_MouseMove(Zevlin& form, toolkit::MouseArguments& mouse) {
@@ -88,8 +87,7 @@ void P1_MouseMove(Zevlin& form, toolkit::MouseArguments& mouse) {
 }
 
 void P1_MouseUp(Zevlin& form, toolkit::MouseArguments& mouse) {
-    Traceit(form, "P1_MouseUp " + numberText(mouse.Button));
-    trapped(form, "Error in P1_MouseUp: #", [&] {
+    procedure(form, "P1_MouseUp", numberText(mouse.Button), [&] {
         form.P1.MousePointer = toolkit::MousePointer::Default;
         form.MarkHitPending = false;
         if (mouse.Button == toolkit::button::right) letGoOfNewField(form);
@@ -97,8 +95,8 @@ void P1_MouseUp(Zevlin& form, toolkit::MouseArguments& mouse) {
 }
 
 void P1_Click(Zevlin& form) {
-    Traceit(form, "P1_Click " + numberText(form.LastX) + ", " + numberText(form.LastY));
-    trapped(form, "Error in P1_Click: #", [&] { clickCard(form); });
+    procedure(form, "P1_Click", numberText(form.LastX) + ", " + numberText(form.LastY),
+              [&] { clickCard(form); });
 }
 
 } // namespace zev

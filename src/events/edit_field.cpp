@@ -133,8 +133,7 @@ void AText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
 }
 
 void AText_Click(Zevlin& form, int index) {
-    Traceit(form, "AText_Click " + toolkit::numberText(index));
-    trapped(form, "Error in AText_Click: #", [&] {
+    procedure(form, "AText_Click", toolkit::numberText(index), [&] {
         const FieldClick click = takeClick(form, index);
         if (form.THelp.Visible) return hideHelp(form);
         if (form.MShowShapes.Checked) return;

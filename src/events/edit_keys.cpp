@@ -80,10 +80,10 @@ void insertSuit(toolkit::TextBox& box, int keyCode) {
     box.SelStart += 2;
 }
 
-std::string mouseTrace(const Zevlin& form, const toolkit::MouseArguments& mouse) {
-    return "xText_MouseDown ix=" + toolkit::numberText(form.TIndex) +
-           " B=" + toolkit::numberText(mouse.Button) + " S=" + toolkit::numberText(mouse.Shift) +
-           " X=" + toolkit::numberText(mouse.X) + " Y=" + toolkit::numberText(mouse.Y);
+std::string mouseDetails(const Zevlin& form, const toolkit::MouseArguments& mouse) {
+    return "ix=" + toolkit::numberText(form.TIndex) + " B=" + toolkit::numberText(mouse.Button) +
+           " S=" + toolkit::numberText(mouse.Shift) + " X=" + toolkit::numberText(mouse.X) +
+           " Y=" + toolkit::numberText(mouse.Y);
 }
 
 /// The box that fits the field's alignment now comes back with its caret.
@@ -113,8 +113,7 @@ void openPopup(Zevlin& form, toolkit::TextBox& box, const toolkit::MouseArgument
 
 /// A menu command and its key are one path.
 void pressKey(Zevlin& form, std::string_view name, int key) {
-    Traceit(form, name);
-    trapped(form, "Error in " + std::string(name) + ": #", [&] {
+    procedure(form, name, [&] {
         if (!isEditing(form)) return;
         int KeyAscii = key;
         xText_KeyPress(form, openBox(form), KeyAscii);
@@ -134,8 +133,8 @@ void xText_KeyDown(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& k
 }
 
 void xText_KeyPress(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
-    Traceit(form, "xText_KeyPress " + toolkit::numberText(KeyAscii));
-    trapped(form, "Error in xText_KeyPress: #", [&] { actOnKey(form, box, KeyAscii); });
+    procedure(form, "xText_KeyPress", toolkit::numberText(KeyAscii),
+              [&] { actOnKey(form, box, KeyAscii); });
 }
 
 void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key) {
@@ -152,8 +151,7 @@ void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key
 }
 
 void xText_MouseDown(Zevlin& form, toolkit::TextBox& /*box*/, toolkit::MouseArguments& mouse) {
-    Traceit(form, mouseTrace(form, mouse));
-    trapped(form, "Error in xText_MouseDown: #", [&] {
+    procedure(form, "xText_MouseDown", mouseDetails(form, mouse), [&] {
         if (mouse.Button != toolkit::button::right) return;
         mouse.Button = 0;
         openTextMenu(form);
@@ -181,8 +179,8 @@ void CText_KeyUp(Zevlin& form, toolkit::KeyArguments& key) {
 }
 
 void CText_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
-    Traceit(form, "CText_MouseDown " + toolkit::numberText(mouse.Button));
-    trapped(form, "Error in CText_MouseDown: #", [&] { openPopup(form, form.CText, mouse); });
+    procedure(form, "CText_MouseDown", toolkit::numberText(mouse.Button),
+              [&] { openPopup(form, form.CText, mouse); });
 }
 
 void LText_GotFocus(Zevlin& form) {
@@ -206,8 +204,8 @@ void Ltext_KeyUp(Zevlin& form, toolkit::KeyArguments& key) {
 }
 
 void Ltext_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
-    Traceit(form, "Ltext_MouseDown " + toolkit::numberText(mouse.Button));
-    trapped(form, "Error in Ltext_MouseDown: #", [&] { openPopup(form, form.LText, mouse); });
+    procedure(form, "Ltext_MouseDown", toolkit::numberText(mouse.Button),
+              [&] { openPopup(form, form.LText, mouse); });
 }
 
 void mpopUndo_Click(Zevlin& form) { pressKey(form, "mpopUndo_Click", control_key::z); }

@@ -44,8 +44,7 @@ toolkit::CursorPosition screenPlace(const Zevlin& form, float x, float y) {
 }
 
 void FlashFocus(Zevlin& form, int item) {
-    Traceit(form, "FlashFocus " + toolkit::numberText(item));
-    trapped(form, "Error in FlashFocus: #", [&] {
+    procedure(form, "FlashFocus", toolkit::numberText(item), [&] {
         if (item >= firstMarkItem) {
             // In normal use the cursor alone shows the mark.
             if (form.MShowShapes.Checked) blinkMark(form, item - firstMarkItem);

@@ -40,8 +40,7 @@ int fieldOf(const Zevlin& form, int symbol) {
 } // namespace
 
 void AMark_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
-    Traceit(form, "AMark_MouseDown " + numberText(mouse.Button));
-    trapped(form, "Error in AMark_MouseDown: #", [&] {
+    procedure(form, "AMark_MouseDown", numberText(mouse.Button), [&] {
         // The mark may be gone: the press went to it by number.
         static_cast<void>(form.AMark[index]);
         form.LastButton = static_cast<std::int16_t>(mouse.Button);
@@ -58,14 +57,13 @@ void AMark_Click(Zevlin& form, int index) {
 }
 
 void SText_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
-    Traceit(form, "SText_MouseDown " + numberText(index));
-    trapped(form, "Error in SText_MouseDown: #",
-            [&] { AText_MouseDown(form, fieldOf(form, index), mouse); });
+    procedure(form, "SText_MouseDown", numberText(index),
+              [&] { AText_MouseDown(form, fieldOf(form, index), mouse); });
 }
 
 void SText_Click(Zevlin& form, int index) {
-    Traceit(form, "SText_Click " + numberText(index));
-    trapped(form, "Error in SText_Click: #", [&] { AText_Click(form, fieldOf(form, index)); });
+    procedure(form, "SText_Click", numberText(index),
+              [&] { AText_Click(form, fieldOf(form, index)); });
 }
 
 void rememberTabMark(Zevlin& form, int index) {
@@ -82,9 +80,8 @@ void SText_MouseMove(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
 }
 
 void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
-    Traceit(form, "SText_MouseUp " + numberText(index));
-    trapped(form, "Error in SText_MouseUp: #",
-            [&] { AText_MouseUp(form, fieldOf(form, index), mouse); });
+    procedure(form, "SText_MouseUp", numberText(index),
+              [&] { AText_MouseUp(form, fieldOf(form, index), mouse); });
 }
 
 std::string focusText(const Zevlin& form, int index) {

@@ -46,8 +46,7 @@ void recordStep(Zevlin& form, std::int16_t item) {
 } // namespace
 
 void MSetTabs_Click(Zevlin& form) {
-    Traceit(form, "MSetTabs_Click");
-    trapped(form, "Error in MSetTabs_Click: #", [&] { switchRecording(form); });
+    procedure(form, "MSetTabs_Click", [&] { switchRecording(form); });
 }
 
 bool recordTabPress(Zevlin& form, int item, toolkit::MouseArguments& mouse) {

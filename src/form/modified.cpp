@@ -23,8 +23,7 @@ void composeTitle(Zevlin& form) {
 } // namespace
 
 void SetMod(Zevlin& form) {
-    Traceit(form, "SetMod " + flagText(form.CardModified));
-    trapped(form, "Error in SetMod: #", [&] {
+    procedure(form, "SetMod", flagText(form.CardModified), [&] {
         form.CardModified = true;
         form.mpopUndo.Enabled = true;
         noteChange(form);
@@ -33,8 +32,7 @@ void SetMod(Zevlin& form) {
 }
 
 void ResetMod(Zevlin& form) {
-    Traceit(form, "ResetMod " + flagText(form.CardModified));
-    trapped(form, "Error in ResetMod: #", [&] {
+    procedure(form, "ResetMod", flagText(form.CardModified), [&] {
         if (form.Printing) return;
         form.CardModified = false;
         if (!form.Carried) dropJournal(form);
@@ -46,8 +44,7 @@ void ResetMod(Zevlin& form) {
 }
 
 void SetCaption(Zevlin& form) {
-    Traceit(form, "SetCaption");
-    trapped(form, "Error in SetCaption: #", [&] {
+    procedure(form, "SetCaption", [&] {
         composeTitle(form);
         MakeTimeStamp(form);
     });

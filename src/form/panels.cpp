@@ -15,8 +15,7 @@ constexpr auto gradientFoot = toolkit::rgb(144, 154, 255);
 
 void GradientFill(Zevlin& form, IncludePanel includePanel) {
     const bool withPanel = includePanel == IncludePanel::Yes;
-    Traceit(form, "GradientFill " + std::string(truthText(withPanel)));
-    trapped(form, "Error in GradientFill: #", [&] {
+    procedure(form, "GradientFill", truthText(withPanel), [&] {
         form.Background = {
             .backdrop = toolkit::Backdrop::Gradient, .top = gradientTop, .bottom = gradientFoot};
         if (withPanel) form.P3.Fill = toolkit::PanelFill::FormGradient;
@@ -24,8 +23,7 @@ void GradientFill(Zevlin& form, IncludePanel includePanel) {
 }
 
 void MakeObjRounded(Zevlin& form, toolkit::Panel& panel, int radius) {
-    Traceit(form, "MakeObjRounded");
-    trapped(form, "Error in MakeObjRounded: #", [&] { panel.CornerRadius = radius; });
+    procedure(form, "MakeObjRounded", [&] { panel.CornerRadius = radius; });
 }
 
 void hideHelp(Zevlin& form) {

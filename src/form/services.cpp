@@ -10,16 +10,14 @@
 namespace zev {
 
 void AppVersion(Zevlin& form) {
-    Traceit(form, "AppVersion");
-    trapped(form, "Error in AppVersion: #", [&] {
+    procedure(form, "AppVersion", [&] {
         form.ProgramVersion = versionText(versionMajor, versionMinor, versionRevision);
     });
 }
 
 std::string WinVer(Zevlin& form) {
-    Traceit(form, "WinVer");
     std::string version;
-    trapped(form, "Error in WinVer: #", [&] { version = toolkit::systemVersion(); });
+    procedure(form, "WinVer", [&] { version = toolkit::systemVersion(); });
     return version;
 }
 

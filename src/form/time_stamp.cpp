@@ -47,8 +47,7 @@ void placeStamp(Zevlin& form) {
 } // namespace
 
 void MakeTimeStamp(Zevlin& form) {
-    Traceit(form, "MakeTimeStamp");
-    trapped(form, "Error in MakeTimeStamp: #", [&] {
+    procedure(form, "MakeTimeStamp", [&] {
         // Neither a zoom nor the temporary name of a rebuild belongs on the card.
         if (form.Zooming || form.CardName == temporaryCardName) return;
         form.Timestamp.Caption = withEachDoubled(stampText(form));
@@ -58,8 +57,7 @@ void MakeTimeStamp(Zevlin& form) {
 }
 
 void PositionTimeStamp(Zevlin& form) {
-    Traceit(form, "PositionTimeStamp");
-    trapped(form, "Error in PositionTimeStamp: #", [&] { placeStamp(form); });
+    procedure(form, "PositionTimeStamp", [&] { placeStamp(form); });
 }
 
 void PositionCreditLabel(Zevlin& form) {

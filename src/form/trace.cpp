@@ -144,6 +144,15 @@ void traceFailure(Zevlin& form, std::string_view head, const toolkit::RunTimeErr
                           tail}));
 }
 
+void traceCall(Zevlin& form, std::string_view name, std::string_view details) {
+    if (details.empty()) return Traceit(form, name);
+    Traceit(form, joined({name, " ", details}));
+}
+
+void traceFailureIn(Zevlin& form, std::string_view name) {
+    traceFailure(form, joined({"Error in ", name, ": #"}), toolkit::currentFailure());
+}
+
 std::string_view truthText(bool value) { return value ? "True" : "False"; }
 
 bool takeSpecsTurn(Zevlin& form) {

@@ -39,6 +39,31 @@ bool trapped(Zevlin& form, std::string_view head, Body body, std::string_view ta
     }
 }
 
+/// Traces the name of a procedure, and behind a blank what else there is to tell.
+void traceCall(Zevlin& form, std::string_view name, std::string_view details);
+
+/// Traces the failure in flight as "Error in NAME: #", its number and its description.
+void traceFailureIn(Zevlin& form, std::string_view name);
+
+/// A procedure of the form: traces its name, with the details behind a blank, then runs its body.
+/// A failure ends the body; it is traced with the name and goes no further, so that what follows
+/// the call runs in any case.
+template <typename Body>
+void procedure(Zevlin& form, std::string_view name, std::string_view details, const Body& body) {
+    traceCall(form, name, details);
+    try {
+        body();
+    } catch (const std::exception&) {
+        traceFailureIn(form, name);
+    }
+}
+
+/// The same with nothing to tell but the name.
+template <typename Body>
+void procedure(Zevlin& form, std::string_view name, const Body& body) {
+    procedure(form, name, {}, body);
+}
+
 /// Runs a statement whose failure doesn't matter.
 template <typename Body>
 void ignoringFailures(Body body) {

@@ -53,8 +53,7 @@ void showPage(Zevlin& form) {
 } // namespace
 
 void HelpCreate(Zevlin& form) {
-    Traceit(form, "HelpCreate");
-    trapped(form, "Error in HelpCreate: #", [&] {
+    procedure(form, "HelpCreate", [&] {
         auto help = helpText({form.ProgramVersion, toolkit::displayText(form.DataFolder),
                               webAddress, supportAddress});
         form.THelp.List = std::move(help.lines);
@@ -66,13 +65,11 @@ void HelpCreate(Zevlin& form) {
 
 void MHelp_Click(Zevlin& form) {
     if (form.THelp.List.empty()) return;
-    Traceit(form, "MHelp_Click");
-    trapped(form, "Error in MHelp_Click: #", [&] { showPage(form); });
+    procedure(form, "MHelp_Click", [&] { showPage(form); });
 }
 
 void THelp_KeyPress(Zevlin& form, int& KeyAscii) {
-    Traceit(form, "THelp_KeyPress");
-    trapped(form, "Error in THelp_KeyPress: #", [&] {
+    procedure(form, "THelp_KeyPress", [&] {
         if (KeyAscii != toolkit::key::enter && KeyAscii != toolkit::key::escape) return;
         hideHelp(form);
         bringToFront(form, form.P1);
@@ -80,8 +77,7 @@ void THelp_KeyPress(Zevlin& form, int& KeyAscii) {
 }
 
 void THelp_Click(Zevlin& form) {
-    Traceit(form, "THelp_Click");
-    trapped(form, "Error in THelp_Click: #", [&] {
+    procedure(form, "THelp_Click", [&] {
         const int line = form.THelp.ListIndex;
         if (line < 0 || (line != form.MoreInformationLine && line != form.WebsiteLine)) return;
         hideHelp(form);

@@ -7,8 +7,7 @@
 namespace zev {
 
 void PositionSave(Zevlin& form) {
-    Traceit(form, "PositionSave");
-    trapped(form, "Error in PositionSave: #", [&] {
+    procedure(form, "PositionSave", [&] {
         if (form.Printing || form.Zooming) commitOpenField(form);
         if (form.Initializing) return;
         form.SavedLeft = form.P1.Left;

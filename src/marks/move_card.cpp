@@ -177,8 +177,7 @@ void MouseWheel(Zevlin& form, int /*keys*/, int rotation, int /*x*/, int /*y*/) 
 }
 
 void CheckOnScreen(Zevlin& form, int item) {
-    Traceit(form, "CheckOnScreen " + numberText(item));
-    trapped(form, "Error in CheckOnScreen: #", [&] { pullOnScreen(form, item); });
+    procedure(form, "CheckOnScreen", numberText(item), [&] { pullOnScreen(form, item); });
 }
 
 bool moveCardByKey(Zevlin& form, int keyCode, int shift) {

@@ -20,9 +20,7 @@ void runWith(Zevlin& form, toolkit::MenuItem& flag, Pipeline pipeline) {
 } // namespace
 
 void mPrintToDisk_Click(Zevlin& form) {
-    Traceit(form, "mPrintToDisk_Click");
-    trapped(form, "Error in mPrintToDisk_Click: #",
-            [&] { runWith(form, form.mPrintToDisk, MPrint_Click); });
+    procedure(form, "mPrintToDisk_Click", [&] { runWith(form, form.mPrintToDisk, MPrint_Click); });
 }
 
 void mPrintToDiskGIF_Click(Zevlin& form) { runWith(form, form.mPrintToDiskGIF, MPrint_Click); }
@@ -48,9 +46,8 @@ void mPrintToDiskPartnerPNG_Click(Zevlin& form) {
 }
 
 void mPrintToClipboard_Click(Zevlin& form) {
-    Traceit(form, "mPrintToClipboard_Click");
-    trapped(form, "Error in mPrintToClipboard_Click: #",
-            [&] { runWith(form, form.mPrintToClipboard, MPrint_Click); });
+    procedure(form, "mPrintToClipboard_Click",
+              [&] { runWith(form, form.mPrintToClipboard, MPrint_Click); });
 }
 
 } // namespace zev

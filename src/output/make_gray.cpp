@@ -7,8 +7,7 @@
 namespace zev {
 
 void MakeGray(Zevlin& form, toolkit::PictureBox& picture) {
-    Traceit(form, "MakeGray");
-    trapped(form, "Error in MakeGray: #", [&] {
+    procedure(form, "MakeGray", [&] {
         if (picture.Picture)
             picture.Picture = std::make_shared<toolkit::Bitmap>(grayed(*picture.Picture));
     });

@@ -17,8 +17,7 @@ void toggle(Zevlin& form, toolkit::MenuItem& chosen, toolkit::MenuItem& other) {
 
 void mPrintAlt_Click(Zevlin& form) {
     if (form.Initializing) return;
-    Traceit(form, "mPrintAlt_Click");
-    trapped(form, "Error in mPrintAlt_Click: #", [&] {
+    procedure(form, "mPrintAlt_Click", [&] {
         form.mPrintAlt.Checked = !form.mPrintAlt.Checked;
         IniWrite(form);
         form.PrintMethod = form.mPrintAlt.Checked ? alternatePrintMethod : primaryPrintMethod;
@@ -26,13 +25,11 @@ void mPrintAlt_Click(Zevlin& form) {
 }
 
 void MColor_Click(Zevlin& form) {
-    Traceit(form, "MColor_Click");
-    trapped(form, "Error in MColor_Click: #", [&] { toggle(form, form.MColor, form.MMono); });
+    procedure(form, "MColor_Click", [&] { toggle(form, form.MColor, form.MMono); });
 }
 
 void MMono_Click(Zevlin& form) {
-    Traceit(form, "MMono_Click");
-    trapped(form, "Error in MMono_Click: #", [&] { toggle(form, form.MMono, form.MColor); });
+    procedure(form, "MMono_Click", [&] { toggle(form, form.MMono, form.MColor); });
 }
 
 } // namespace zev

@@ -52,14 +52,12 @@ void printPartner(Zevlin& form) {
 
 void MPrintPartner_Click(Zevlin& form) {
     if (form.Printing) return;
-    Traceit(form, "MPrintPartner_Click");
-    trapped(form, "Error in MPrintPartner_Click: #", [&] { printPartner(form); });
+    procedure(form, "MPrintPartner_Click", [&] { printPartner(form); });
 }
 
 void MPrintBoth_Click(Zevlin& form) {
     if (form.Printing) return;
-    Traceit(form, "MPrintBoth_Click");
-    trapped(form, "Error in MPrintBoth_Click: #", [&] {
+    procedure(form, "MPrintBoth_Click", [&] {
         MPrint_Click(form);
         MPrintPartner_Click(form);
     });

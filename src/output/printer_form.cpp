@@ -123,8 +123,7 @@ void cmdOK_Click(frmPrint& form) {
 void cmdCancel_Click(frmPrint& form) { form.form.Unloaded = true; }
 
 void showPrinterForm(Zevlin& form) {
-    Traceit(form, "frmPrint");
-    trapped(form, "Error in frmPrint: #", [&] {
+    procedure(form, "frmPrint", [&] {
         frmPrint shown(form.CurrentPrinter);
         Form_Load(shown);
         toolkit::showModal(shown.form);

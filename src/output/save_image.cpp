@@ -55,8 +55,7 @@ void saveImage(Zevlin& form, const toolkit::PictureBox& picture) {
 } // namespace
 
 void SaveImageToDisk(Zevlin& form, const toolkit::PictureBox& picture) {
-    Traceit(form, "SaveImageToDisk");
-    trapped(form, "Error in SaveImageToDisk: #", [&] { saveImage(form, picture); });
+    procedure(form, "SaveImageToDisk", [&] { saveImage(form, picture); });
 }
 
 } // namespace zev

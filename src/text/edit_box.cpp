@@ -56,16 +56,16 @@ void commit(Zevlin& form, toolkit::TextBox& box, const std::function<void()>& ne
     if (next) next();
 }
 
-std::string commitTrace(const Zevlin& form) {
-    return "xText_LostFocus tindex=" + toolkit::numberText(form.TIndex) +
+std::string commitDetails(const Zevlin& form) {
+    return "tindex=" + toolkit::numberText(form.TIndex) +
            ",  origindex=" + toolkit::numberText(form.OrigIndex) + ", " +
            std::string(truthText(form.TabActive));
 }
 
-std::string focusTrace(const Zevlin& form, const toolkit::TextBox& box) {
-    const auto index = toolkit::numberText(form.TIndex);
-    if (!form.TraceOn) return "xText_GotFocus " + index;
-    std::string text = "xText_GotFocus (" + index + "), at ";
+std::string focusDetails(const Zevlin& form, const toolkit::TextBox& box) {
+    auto index = toolkit::numberText(form.TIndex);
+    if (!form.TraceOn) return index;
+    std::string text = "(" + index + "), at ";
     for (const float value : {box.Left, box.Top, box.Width, box.Height}) {
         text += toolkit::numberText(value) + ", ";
     }
@@ -92,29 +92,24 @@ void placeCaret(toolkit::TextBox& box, float x) {
 }
 
 void SetTextBox(Zevlin& form, toolkit::TextBox& box, int index) {
-    Traceit(form, "SetTextBox " + toolkit::numberText(index));
-    trapped(form, "Error in SetTextBox: #", [&] { dressBox(form, box, index); });
+    procedure(form, "SetTextBox", toolkit::numberText(index), [&] { dressBox(form, box, index); });
 }
 
 void PositionTextCursor(Zevlin& form, toolkit::TextBox& box, float x) {
     if (box.Text.empty()) return;
-    Traceit(form, "PositionTextCursor");
-    trapped(form, "Error in PositionTextCursor: #", [&] { placeCaret(box, x); });
+    procedure(form, "PositionTextCursor", [&] { placeCaret(box, x); });
 }
 
 void xText_LostFocus(Zevlin& form, toolkit::TextBox& box, const std::function<void()>& next) {
-    Traceit(form, commitTrace(form));
-    trapped(form, "Error in xText_LostFocus: #", [&] { commit(form, box, next); });
+    procedure(form, "xText_LostFocus", commitDetails(form), [&] { commit(form, box, next); });
 }
 
 void CText_LostFocus(Zevlin& form) {
-    Traceit(form, "CText_LostFocus");
-    trapped(form, "Error in CText_LostFocus: #", [&] { xText_LostFocus(form, form.CText); });
+    procedure(form, "CText_LostFocus", [&] { xText_LostFocus(form, form.CText); });
 }
 
 void LText_LostFocus(Zevlin& form) {
-    Traceit(form, "Ltext_LostFocus");
-    trapped(form, "Error in Ltext_LostFocus: #", [&] { xText_LostFocus(form, form.LText); });
+    procedure(form, "Ltext_LostFocus", [&] { xText_LostFocus(form, form.LText); });
 }
 
 void commitOpenField(Zevlin& form) {
@@ -143,8 +138,7 @@ void takeOverTyping(Zevlin& form, toolkit::TextBox& box) {
 }
 
 void xText_GotFocus(Zevlin& form, toolkit::TextBox& box) {
-    Traceit(form, focusTrace(form, box));
-    trapped(form, "Error in xText_GotFocus: #", [&] {
+    procedure(form, "xText_GotFocus", focusDetails(form, box), [&] {
         if (form.MShowShapes.Checked) {
             form.MCoord.Caption = readOut(form.TIndex, form.AText[form.TIndex]);
             return;

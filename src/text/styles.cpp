@@ -172,15 +172,13 @@ void mpopHilite_Click(Zevlin& form) {
 }
 
 void mpopCopy_Click(Zevlin& form) {
-    Traceit(form, "mpopCopy_Click");
-    trapped(form, "Error in mpopCopy_Click: #", [&] {
+    procedure(form, "mpopCopy_Click", [&] {
         if (isEditing(form)) copy(form);
     });
 }
 
 void mpopPaste_Click(Zevlin& form) {
-    Traceit(form, "mpopPaste_Click");
-    trapped(form, "Error in mpopPaste_Click: #", [&] { paste(form); });
+    procedure(form, "mpopPaste_Click", [&] { paste(form); });
 }
 
 } // namespace zev

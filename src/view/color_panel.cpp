@@ -120,16 +120,14 @@ void mColorScheme_Click(Zevlin& form, int index) {
 }
 
 void ColorSample_Click(Zevlin& form, int index) {
-    Traceit(form, "ColorSample_Click");
-    trapped(form, "Error in ColorSample_Click: #", [&] {
+    procedure(form, "ColorSample_Click", [&] {
         chooseColor(form, form.ColorSample[index].BackColor);
         ColorSampleMark(form);
     });
 }
 
 void ColorID_Click(Zevlin& form, int index) {
-    Traceit(form, "ColorID_Click");
-    trapped(form, "Error in ColorID_Click: #", [&] {
+    procedure(form, "ColorID_Click", [&] {
         chooseColor(form, form.ColorID.at(static_cast<std::size_t>(index)).BackColor);
         ColorSampleMark(form);
     });
@@ -145,16 +143,14 @@ void ColorScroll_Scroll(Zevlin& form, int /*index*/) {
 }
 
 void ColorBut_Click(Zevlin& form, int index) {
-    Traceit(form, "ColorBut_Click");
-    trapped(form, "Error in ColorBut_Click: #", [&] {
+    procedure(form, "ColorBut_Click", [&] {
         index == okButton ? takeColor(form) : goBack(form);
         closePanel(form);
     });
 }
 
 void ColorSampleMark(Zevlin& form) {
-    Traceit(form, "ColorSampleMark");
-    trapped(form, "Error in ColorSampleMark: #", [&] {
+    procedure(form, "ColorSampleMark", [&] {
         const toolkit::Color chosen = form.ColorLabel.BackColor;
         for (toolkit::Label& sample : form.ColorSample)
             sample.Caption = sample.BackColor == chosen ? "X" : "";

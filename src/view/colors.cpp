@@ -49,8 +49,7 @@ void paintScheme(Zevlin& form) {
 } // namespace
 
 void SetGlobalColors(Zevlin& form) {
-    Traceit(form, "SetGlobalColors");
-    trapped(form, "Error in SetGlobalColors: #", [&] { paintScheme(form); });
+    procedure(form, "SetGlobalColors", [&] { paintScheme(form); });
 }
 
 void KeepFieldColors(Zevlin& form) {

@@ -71,8 +71,7 @@ void MFitScreenWidth_Click(Zevlin& form) {
 }
 
 void MFitScreenHeight_Click(Zevlin& form) {
-    Traceit(form, "MFitScreenHeight_Click");
-    trapped(form, "Error in MFitScreenHeight_Click: #", [&] {
+    procedure(form, "MFitScreenHeight_Click", [&] {
         runZoom(form, [&] { fitHeight(form); });
         MakeTimeStamp(form);
     });

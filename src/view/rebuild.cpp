@@ -95,9 +95,8 @@ void rebuild(Zevlin& form) {
 } // namespace
 
 void RebuildScreenImage(Zevlin& form) {
-    Traceit(form, "RebuildScreenImage");
     const bool designing = form.MShowShapes.Checked;
-    trapped(form, "Error in RebuildScreenImage: #", [&] {
+    procedure(form, "RebuildScreenImage", [&] {
         form.TabActive = false;
         // What fails here fails again, and is told, where the picture is wanted.
         if (!form.Initializing) ignoringFailures([&] { StartPicture(form); });

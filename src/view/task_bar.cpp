@@ -6,9 +6,8 @@
 namespace zev {
 
 toolkit::TaskBar GetTaskBarSize(Zevlin& form) {
-    Traceit(form, "GetTaskBarSize");
     toolkit::TaskBar bar;
-    trapped(form, "Error in GetTaskBarSize: #", [&] { bar = toolkit::taskBar(); });
+    procedure(form, "GetTaskBarSize", [&] { bar = toolkit::taskBar(); });
     return bar;
 }
 

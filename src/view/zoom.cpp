@@ -31,8 +31,7 @@ void goTo(Zevlin& form, int step) {
 } // namespace
 
 void MZoomIn_Click(Zevlin& form) {
-    Traceit(form, "MZoomIn_Click");
-    trapped(form, "Error in MZoomIn_Click: #", [&] {
+    procedure(form, "MZoomIn_Click", [&] {
         runZoom(form, [&] {
             leaveFit(form, stepBelowFit);
             goTo(form, form.ZoomLevel + 1);
@@ -41,8 +40,7 @@ void MZoomIn_Click(Zevlin& form) {
 }
 
 void MZoomOut_Click(Zevlin& form) {
-    Traceit(form, "MZoomOut_Click");
-    trapped(form, "Error in MZoomOut_Click: #", [&] {
+    procedure(form, "MZoomOut_Click", [&] {
         runZoom(form, [&] {
             leaveFit(form, stepAboveFit);
             goTo(form, form.ZoomLevel - 1);

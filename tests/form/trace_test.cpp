@@ -244,6 +244,37 @@ TEST_F(Trace, AFailureInAProcedureIsTracedAndTheProcedureEnds) {
     EXPECT_TRUE(traced("Error in Test: #11, Division by zero"));
 }
 
+TEST_F(Trace, AProcedureTracesItsNameAndThenRuns) {
+    bool wasTraced = false;
+    procedure(form, "MTest_Click",
+              [&] { wasTraced = form.Trace.front().ends_with(" MTest_Click"); });
+    EXPECT_TRUE(wasTraced);
+    EXPECT_EQ(form.Trace.size(), 1U);
+}
+
+TEST_F(Trace, WhatElseThereIsToTellFollowsTheNameOfAProcedureBehindABlank) {
+    procedure(form, "Test_MouseDown", "2", [] {});
+    EXPECT_TRUE(form.Trace.front().ends_with(" Test_MouseDown 2"));
+}
+
+TEST_F(Trace, AFailureEndsAProcedureAndIsTracedWithItsNameAlone) {
+    announceError("Error in Test_MouseDown: #");
+    bool wentOn = false;
+    procedure(form, "Test_MouseDown", "2", [&] {
+        toolkit::deleteFile(dataFile("not there"));
+        wentOn = true;
+    });
+    EXPECT_FALSE(wentOn);
+    EXPECT_TRUE(traced("Test_MouseDown 2"));
+    EXPECT_TRUE(traced("Error in Test_MouseDown: #53, File not found"));
+}
+
+TEST_F(Trace, AProcedureLetsNoFailureOfTheLibraryThroughEither) {
+    announceError("Error in MTest_Click: #");
+    procedure(form, "MTest_Click", [] { static_cast<void>(std::vector<int>().at(1)); });
+    EXPECT_TRUE(traced("Error in MTest_Click: #51, Internal error"));
+}
+
 TEST_F(Trace, TruthValuesAreWrittenAsWords) {
     EXPECT_EQ(truthText(true), "True");
     EXPECT_EQ(truthText(false), "False");
