@@ -17,7 +17,7 @@ struct TraceState {
     bool headerWritten = false;     ///< the file was emptied by this run
     bool dimensionsWritten = false; ///< the block of control sizes stands in it
     bool specsWritten = false;      ///< the figures of the first text field stand in it
-    bool isWriting = false;         ///< a block is being put together; nothing else is taken
+    bool isWriting = false;         ///< a block is being put together: further lines are dropped
 };
 
 struct AppState {
@@ -27,7 +27,7 @@ struct AppState {
     TraceState traceState;
 
     std::vector<std::string> FileFailures;     ///< still to be told, a line each
-    std::vector<std::string> FileFailuresTold; ///< by the last box, or none since then
+    std::vector<std::string> FileFailuresTold; ///< what was told last; empty once nothing failed
 
     ProcedureSlots Slots;
 
@@ -43,7 +43,7 @@ struct AppState {
 
     std::string VersionSeen;    ///< last version that SkipComment found
     std::string OptionsVersion; ///< of the options file
-    bool OptionsRead = false;   ///< or made by this run: the file's settings are in memory
+    bool OptionsRead = false;   ///< this run has read the options file, or made it
     /// The first run brought the options along from an older installation.
     bool OptionsCarriedOver = false;
     std::string LayoutVersion; ///< of the layout file

@@ -18,7 +18,7 @@ namespace zev {
 /// What a rebuild of the screen carries.
 struct CarriedCard {
     CardDocument document;
-    std::string name; ///< the card's own: meanwhile it goes by the temporary one
+    std::string name; ///< the card's own; during the rebuild it bears a temporary one
     bool modified = false;
 };
 
@@ -35,7 +35,7 @@ struct JournalState {
     toolkit::Alarm alarm;
     std::string written; ///< what stands in the file
     bool failureTraced = false;
-    bool isHeld = false; ///< what the fields show for the moment isn't the player's
+    bool isHeld = false; ///< nothing is written: the names line is lent to the partner
 };
 
 struct CardState {
@@ -54,7 +54,7 @@ struct CardState {
 
     bool ChooserCancelled = false;
     bool ChooserTaken = false;
-    toolkit::TextBox TSaveAs;    ///< the name as it will be used; the chooser leaves it
+    toolkit::TextBox TSaveAs;    ///< the name, typed or selected; it outlives the chooser
     toolkit::ListBox FileList;   ///< the cards of the data folder, without extension
     toolkit::PanelLabel LSaveAs; ///< the prompt
     toolkit::PanelLabel LPath;   ///< the data folder

@@ -19,7 +19,7 @@ struct DesignField {
 
 struct DesignState {
     bool DesignDirty = false;            ///< the layout in memory has changed
-    std::int16_t SchemeBeforeDesign = 0; ///< designing is done in the layout's own colours
+    std::int16_t SchemeBeforeDesign = 0; ///< to return to: design mode shows the layout's colours
 
     bool FieldHeld = false; ///< the last press took hold of a field: a move may drag it
     float DragLeft = 0;     ///< twips; the dragged field's place after the last step
@@ -27,12 +27,12 @@ struct DesignState {
     float TextDragX = 0; ///< twips in the text field; the pointer's last place over it
     float TextDragY = 0;
 
-    /// Added since the mode was entered and not taken away again; index 0 for none. Any other field
-    /// is the layout's and stays.
+    /// The field added last, while an undo can still remove it; index 0 for none. No other field
+    /// can be removed: card files know those of the layout by their numbers.
     DesignField FieldAdded;
     bool FieldAddedHeld = false; ///< the press that added it isn't over: a move shapes it
 
-    bool UndoValid = false;     ///< what can be undone began with a press on a field
+    bool UndoValid = false; ///< an undo puts the pressed field back; else it removes the added one
     std::int16_t UndoIndex = 0; ///< the field concerned; below 1 nothing can be undone
     bool UndoIsText = false;
     float UndoLeft = 0; ///< twips; the field as it was at the press
@@ -44,7 +44,8 @@ struct DesignState {
     std::int16_t PopupKind = 0;  ///< 1 a mark, 2 a text field
     std::array<toolkit::MenuItem, 4> mpopDesignColor{
         toolkit::MenuItem{}, toolkit::MenuItem{.Caption = "Black"},
-        toolkit::MenuItem{.Caption = "Red"}, toolkit::MenuItem{.Caption = "Blue"}}; ///< from 1
+        toolkit::MenuItem{.Caption = "Red"},
+        toolkit::MenuItem{.Caption = "Blue"}}; ///< indexed from 1
 
     toolkit::MenuItem MShowDesignMenu; ///< checked: the Design menu is shown
     toolkit::MenuItem MShapes;         ///< the Design menu

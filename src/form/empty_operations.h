@@ -1,5 +1,5 @@
-// The operations of the form that do nothing and that nothing calls: its list of operations holds
-// them, so they stay, here and nowhere else.
+// Operations of the form that have nothing left to do. Nothing calls them; they are here to keep
+// the form's list of operations complete.
 #pragma once
 
 namespace zev {

@@ -13,7 +13,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// Colour of the layout's code: 2 red, 3 blue, anything else black.
+/// The colour for a colour code of the layout: 2 red, 3 blue, anything else black.
 [[nodiscard]] toolkit::Color fieldColor(const Zevlin& form, int colorCode);
 
 /// The cell of a one-based array; an index outside it is failure 9.

@@ -17,13 +17,13 @@ constexpr std::string_view copyFailure = "A temporary copy of the card ($$Tempca
 
 void noteFileFailure(Zevlin& form, std::string_view what, const toolkit::RunTimeError& failure);
 
-/// What was noted of it and isn't told yet has been done since.
+/// Drops what was noted of it and isn't told yet: it has succeeded since.
 void forgetFileFailure(Zevlin& form, std::string_view what);
 
 /// Shows what was noted, unless that very box was the last one and nothing has succeeded since.
 void tellFileFailures(Zevlin& form);
 
-/// Runs a body whose failure is traced with the head given, noted, and got over; true if there was
+/// Runs a body. A failure is traced with the head given, noted and not passed on; true if there was
 /// none.
 template <typename Body>
 bool trappedAndNoted(Zevlin& form, std::string_view head, std::string_view what, Body body) {

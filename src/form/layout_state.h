@@ -33,13 +33,13 @@ struct LayoutState {
     std::vector<std::int16_t> TextSizes;
     zev::TabTable TabTable;
 
-    /// The layout file's content as it was read or written last: by it the fields are built where
-    /// the file can't give it.
+    /// The layout file's content as it was read or written last. A rebuild makes the fields from it
+    /// where the file can't be read.
     std::string LayoutInMemory;
-    /// What it is without the check-point in force; none while there is none.
+    /// What LayoutInMemory was before the check-point in force; none without a check-point.
     std::optional<std::string> LayoutSetAside;
-    /// The player's own layout file bears the name of the one set aside: a check-point is in force,
-    /// or putting the file back failed.
+    /// The player's layout file still bears the name under which it was set aside: a check-point is
+    /// in force, or putting the file back failed.
     bool LayoutFileAside = false;
 
     float SavedLeft = 0; ///< the card's place before a zoom, twips

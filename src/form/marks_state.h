@@ -35,7 +35,7 @@ struct MarksState {
     float LastY = 0;
     bool MarkHitPending = false; ///< the press was on an unset mark: no drag may start
 
-    bool TabActive = false; ///< the keyboard rests on a mark
+    bool TabActive = false; ///< the TAB walk has stopped on a mark
     int TabCursorX = 0;     ///< screen pixels
     int TabCursorY = 0;
     std::int16_t TabCode = 0; ///< item number: a mark is its index plus 1000

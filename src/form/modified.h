@@ -8,7 +8,7 @@ struct Zevlin;
 /// Marks the card as changed.
 void SetMod(Zevlin& form);
 
-/// Marks the card as unchanged and drops the undo. Stands still while printing.
+/// Marks the card as unchanged and drops the undo. Does nothing while printing.
 void ResetMod(Zevlin& form);
 
 /// Builds the form's title and renews the time stamp.

@@ -20,7 +20,7 @@
 namespace zev {
 namespace {
 
-/// For so long the end of the program waits for a print service that was asked.
+/// How long the program waits at its end for the answer of the print service.
 constexpr std::chrono::seconds longestFarewell{2};
 
 int checkedFit(const Zevlin& form) {
@@ -75,7 +75,8 @@ OptionsDocument documentOf(Zevlin& form) {
     return document;
 }
 
-/// A first run's file. One that turned up since the program looked for it is the player's.
+/// Writes the file of a first run, but not over one that has turned up since the program looked for
+/// it: that is the player's.
 void writeFirstOptions(Zevlin& form, const std::filesystem::path& file,
                        const std::string& content) {
     try {
@@ -88,12 +89,12 @@ void writeFirstOptions(Zevlin& form, const std::filesystem::path& file,
 }
 
 void writeOptionsFile(Zevlin& form) {
-    // However a job ends, no start is to find its view: the rebuild takes it from memory.
+    // The zoom and fit of a job must never reach the file: the next start would show them.
     if (form.HasJobView) {
         form.OptionsUnwritten = true;
         return;
     }
-    // A file that couldn't be written tells an old view.
+    // A file that couldn't be written has the settings of some time ago.
     form.OptionsUnwritten = !trappedAndNoted(form, "Error in IniWrite ", optionsFailure, [&] {
         const auto file = toolkit::resolveFile(form.DataFolder, optionsFileName);
         const std::string content = writeOptions(documentOf(form));
@@ -102,7 +103,7 @@ void writeOptionsFile(Zevlin& form) {
         else
             writeFirstOptions(form, file, content);
     });
-    // Whatever failed before, by the time it is told the settings stand in the file.
+    // The settings are in the file now: an earlier failure needn't be told any more.
     if (!form.OptionsUnwritten) forgetFileFailure(form, optionsFailure);
 }
 
@@ -114,7 +115,7 @@ bool hasUnreadOptions(const Zevlin& form) {
 
 void IniWrite(Zevlin& form) {
     Traceit(form, "IniWrite");
-    // A slow print service keeps nobody waiting: its printer gets into the file when it is known.
+    // Nobody waits for a slow print service: the printer gets into the file once it is known.
     askForPendingPrinter(form, [&form] { writeOptionsFile(form); });
     writeOptionsFile(form);
 }

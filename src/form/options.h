@@ -7,8 +7,8 @@ struct Zevlin;
 
 constexpr const char* optionsFileName = "ZEV.Ini";
 
-/// Whether there is an options file that this run hasn't read: the player's, while the settings in
-/// memory are none.
+/// Whether there is an options file that this run hasn't read: the player's settings are in it, and
+/// not in memory.
 [[nodiscard]] bool hasUnreadOptions(const Zevlin& form);
 
 /// Rewrites the options file from the present state, but not one that this run hasn't read. A

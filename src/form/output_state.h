@@ -26,9 +26,9 @@ struct OutputState {
     bool PrinterPending = false;     ///< the default printer's facts are still to be taken
     toolkit::PrinterQuestion PrinterAsked;
     bool Printing = false;
-    bool PrintAlertShown = false; ///< the narrow page was told in this run
+    bool PrintAlertShown = false; ///< the box about a narrow page was shown in this run
     bool HasJobView = false;      ///< zoom and fit are a job's, not the player's
-    /// The options file doesn't hold the present state: its last writing failed, or isn't due.
+    /// The options file doesn't hold the present state: writing it failed or was put off.
     bool OptionsUnwritten = false;
 
     toolkit::PictureBox P2;    ///< stands for the card while a job runs
@@ -41,7 +41,8 @@ struct OutputState {
     toolkit::MenuItem MPrintSetup;
     toolkit::MenuItem mExport;
     toolkit::MenuItem mExportPartner;
-    // Checked while their job runs: what the pipeline does with the card. BMP has no ending.
+    // Each is checked while its job runs and tells what becomes of the card: a file of the format
+    // in its name, BMP where it names none, or a picture on the clipboard.
     toolkit::MenuItem mPrintToDisk;
     toolkit::MenuItem mPrintToDiskGIF;
     toolkit::MenuItem mPrintToDiskPNG;

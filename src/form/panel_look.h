@@ -9,10 +9,10 @@ namespace zev {
 
 struct Zevlin;
 
-/// What the player writes into, or reads, outside the card.
+/// Background of what the player writes into, or reads, outside the card.
 constexpr toolkit::Color paleYellow = toolkit::rgb(255, 255, 225);
 
-/// A text that can be clicked.
+/// Colour of a text that can be clicked.
 constexpr toolkit::Color linkBlue = toolkit::rgb(0, 0, 128);
 
 constexpr int panelCornerRadius = 4; ///< pixels
@@ -31,7 +31,7 @@ struct PanelMeasures {
     float line = 0;   ///< height of a line, whole pixels
     float letter = 0; ///< width of an "n"
 
-    /// So many lines, in whole pixels.
+    /// The height of `count` lines, in whole pixels.
     [[nodiscard]] float lines(float count) const { return whole(count * line); }
     /// The nearest whole pixel.
     [[nodiscard]] float whole(float twips) const;

@@ -7,8 +7,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// Fills the form with the chooser's gradient, light above; with the panel, the chooser's panel P3
-/// goes on with it without a seam.
+/// Fills the form with the chooser's gradient, light above. With the panel, the chooser's panel P3
+/// continues the gradient without a seam.
 enum class IncludePanel { No, Yes };
 void GradientFill(Zevlin& form, IncludePanel includePanel);
 

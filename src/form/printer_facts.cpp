@@ -18,7 +18,7 @@ float inches(int physical, int offset, int pixelsPerInch) {
 
 void takeDefaultPrinter(Zevlin& form, int& step) {
     if (toolkit::isAskingSlow()) {
-        // There is always one.
+        // There is always a printer, if only the one that makes PDF files.
         form.PrinterPending = true;
         form.Myprinter.hdc = 1;
         step = 2010;
@@ -36,7 +36,7 @@ void takePendingPrinter(Zevlin& form) {
     if (!std::exchange(form.PrinterPending, false)) return;
     form.CurrentPrinter = form.PrinterAsked.answer();
     form.Myprinter.hdc = form.CurrentPrinter.hdc;
-    // The options may have named another one meanwhile.
+    // The options may have named a printer meanwhile.
     if (form.Myprinter.Devicename.empty())
         form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
     readPrinterFacts(form);

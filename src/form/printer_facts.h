@@ -17,8 +17,8 @@ void takeDefaultPrinter(Zevlin& form, int& step);
 /// Takes the facts that were put off, if any, and waits for them if need be.
 void takePendingPrinter(Zevlin& form);
 
-/// Takes them if they are there; else they are asked for, and `taken` runs when they have come
-/// later and were taken.
+/// Takes the facts that were put off, if they have arrived. Else it asks for them and returns;
+/// `taken` runs once they have arrived and were taken.
 void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken);
 
 /// Computes the facts of the printer object.

@@ -5,7 +5,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// A slot that runs the procedure over this form with whatever the event brings.
+/// A slot that runs the procedure over this form with the arguments of the event.
 template <typename... Arguments>
 auto run(Zevlin& form, void (*procedure)(Zevlin&, Arguments...)) {
     return [&form, procedure](Arguments... arguments) {

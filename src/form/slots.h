@@ -10,7 +10,7 @@ struct ProcedureSlots {
     std::function<void()>
         toggleDesignMode; ///< MShowShapes_Click: a rebuild and a save leave the mode
     std::function<void()> restorePicture; ///< the card's picture at the view's size
-    std::function<void()> ringJournal;    ///< the alarm of a change
+    std::function<void()> ringJournal;    ///< writes the journal when a change's alarm goes off
 };
 
 } // namespace zev

@@ -11,7 +11,7 @@
 namespace zev {
 namespace {
 
-constexpr float stampPoints = 11; ///< at design size on a screen of 15 twips a pixel
+constexpr float stampPoints = 11; ///< at design size on a screen of 15 twips per pixel
 constexpr float creditPoints = 7;
 
 /// Points that look alike on every screen.

@@ -33,7 +33,8 @@ std::string headerLine(const Zevlin& form) {
     return joined({toolkit::dateTimeText(), "\t", form.ProgramVersion, lineEnd});
 }
 
-/// Nothing that is asked for meanwhile traces, or a failure would come back for more.
+/// Lines that come meanwhile are dropped: a failure to measure would write the ring again, and so
+/// on.
 std::string memoryLines(Zevlin& form) {
     form.traceState.isWriting = true;
     const std::string load = MemoryLoad(form);

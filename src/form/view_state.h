@@ -18,7 +18,7 @@
 
 namespace zev {
 
-/// Width of the card in pixels at which the layout's places are told.
+/// Width of the card, in pixels, that the layout's places refer to.
 constexpr float designWidth = 1198;
 
 struct ViewState {
@@ -39,7 +39,7 @@ struct ViewState {
     RowWork PictureRows;                        ///< of P1's picture, while the screen is rebuilt
     bool Zooming = false;
 
-    std::int32_t ColorScheme = 0; ///< 0 ACBL, else a colour
+    std::int32_t ColorScheme = 0; ///< 0 the layout's own colours, else one colour for all
     std::int16_t LastSchemeIndex = 1;
     std::int16_t PreviousScheme = 0; ///< checked before the last click; what Cancel returns to
     std::array<toolkit::MenuItem, 2> mcolorscheme{

@@ -50,7 +50,7 @@ class SettingLines {
         add(key, std::string_view(numberText(value)), comment);
     }
 
-    /// As add; a line longer than the comment column moves it for this and all later lines.
+    /// Like add, but a line that reaches the comment column moves it, for this and all later lines.
     void addWidening(std::string_view key, std::string_view value, std::string_view comment) {
         commentColumn_ = std::max(commentColumn_, key.size() + 1 + value.size());
         add(key, value, comment);

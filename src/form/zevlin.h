@@ -25,7 +25,7 @@ struct Zevlin : toolkit::Form,
                 OutputState,
                 HelpState {
     Zevlin() = default;
-    // Events are wired to this very object.
+    // Events are wired to this object by reference.
     Zevlin(const Zevlin&) = delete;
     Zevlin& operator=(const Zevlin&) = delete;
 };
