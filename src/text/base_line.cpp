@@ -5,7 +5,8 @@
 namespace zev {
 namespace {
 
-/// A text that stands on its rule, to the precision of a place in twips, is above it.
+/// In design pixels. A text that is no further than this below a rule counts as standing on it:
+/// places in twips are no more precise.
 constexpr float precision = 1.0F / 256;
 
 } // namespace

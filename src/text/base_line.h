@@ -5,16 +5,18 @@
 
 namespace zev {
 
-/// A pixel of the design in twips on the shown card. The two differ by a trifle: fields go by the
-/// card's width in whole pixels of the screen, print by the scale itself.
+/// How many twips of the shown card a pixel of the card's design takes. The two figures differ a
+/// little: fields follow the card's width, rounded to whole pixels of the screen, and what is
+/// printed on the card follows its exact scale.
 struct DesignPixel {
     float ofFields = 0;
     float ofPrint = 0;
 };
 
-/// For a text whose font puts its base line `base` twips below the card's top. Layouts put texts
-/// less than a design pixel above the rule printed for them, and rules on whole design pixels: the
-/// base line may stand anywhere in between, as they are shown.
+/// The places allowed for the base line of a text whose font puts it `base` twips below the top of
+/// the card. Layouts put a text less than a design pixel above the rule printed for it, and rules
+/// on whole design pixels: the base line may stand anywhere between the rule and the design pixel
+/// above it, as both are shown.
 [[nodiscard]] toolkit::BaseLine baseLineOverRule(float base, const DesignPixel& pixel);
 
 } // namespace zev

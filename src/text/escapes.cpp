@@ -50,7 +50,7 @@ std::vector<SuitPlace> suitPlaces(std::string_view scanBuffer) {
     for (std::size_t caret = buffer.find('^'); caret != std::string::npos;
          caret = buffer.find('^', caret + 1)) {
         if (caret + 1 == buffer.size()) break;
-        // The letter is lower case already, but for an escape that the blanking passed over.
+        // The letter is in lower case already, except in an escape that the blanking passed over.
         const std::size_t suit = suitLetters.find(buffer[caret + 1]);
         if (suit == std::string_view::npos) continue;
         places.push_back({static_cast<int>(caret) + 1, static_cast<int>(suit) + 1});

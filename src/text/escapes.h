@@ -18,8 +18,8 @@ void AmpRem(std::string& text);
 /// A text with its escapes blanked. A "^" right behind an escape is passed over and stays.
 struct BlankedText {
     std::string caption; ///< three characters of code 160 for each escape
-    /// As long: "^", the letter in lower case, one character of code 160. One character shorter
-    /// where a "^" without a letter ends the text.
+    /// As long as the caption, with "^", the letter in lower case and one character of code 160 for
+    /// each escape. One character shorter where a "^" without a letter ends the text.
     std::string scanBuffer;
 };
 [[nodiscard]] BlankedText blankEscapes(std::string_view raw);

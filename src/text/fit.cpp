@@ -11,7 +11,7 @@ toolkit::FontSpec fittedFont(const FitRequest& request, const MeasureText& measu
     font.Name = request.narrowFontName;
     while (font.Size > request.smallSize / 2 && measure(font, measured) > request.width) {
         const float smaller = font.Size - step;
-        // A size too large for half a point to count would never end.
+        // From a size so large that half a point is lost in rounding, the ladder would never end.
         if (!(smaller < font.Size)) break;
         font.Size = smaller;
     }

@@ -89,8 +89,8 @@ float baseLineOf(const toolkit::Label& label) {
     return label.Top + toolkit::textAscent(label.Font);
 }
 
-/// Whether any of a symbol can be seen: a text that is far too wide has more of them than the card
-/// could hold.
+/// Whether any part of a symbol can be seen: a text that is far too wide may have more symbols than
+/// there is room for on the card.
 bool liesNearCard(const Zevlin& form, float left) {
     return left > -form.P1.Width && left < form.P1.Width;
 }

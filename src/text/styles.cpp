@@ -46,14 +46,14 @@ void changeAlignment(Zevlin& form, toolkit::Alignment alignment) {
     const bool center = alignment == toolkit::Alignment::Center;
     toolkit::TextBox& from = center ? form.LText : form.CText;
     toolkit::TextBox& to = center ? form.CText : form.LText;
-    // The Tag is older than what was typed, and the box that is open need not be the field's: all
-    // fields may have been justified since.
+    // The Tag is older than what was typed. The box that is open needn't be the one for the field's
+    // alignment: all fields may have been justified since it was opened.
     const std::string typed = openBox(form).Text;
     form.AText[form.TIndex].Alignment = alignment;
     SetTextBox(form, to, form.TIndex);
     to.Text = typed;
     to.Visible = true;
-    // The focus moves on before the box goes, and nothing of the field is committed yet.
+    // The other box gets the focus in the same event, so that hiding this one commits nothing.
     from.Visible = false;
     form.ActiveControl = &to;
 }
@@ -71,7 +71,7 @@ void copy(Zevlin& form) {
     const std::string selected = selectedText(box);
     form.ClipText = selected.empty() ? field.Caption : selected;
     if (selected.empty()) AmpRem(form.ClipText);
-    // The caption may have blanks for its suits; others get the text that is edited.
+    // The caption may have blanks for its suits; other programs get the text that is edited.
     const std::string& given = selected.empty() ? box.Text : selected;
     if (!given.empty()) toolkit::setClipboardText(given);
 }

@@ -7,7 +7,7 @@ namespace zev {
 
 struct Zevlin;
 
-// By key: the field closes where the key is swallowed and the card gets the focus.
+// Called by a key, which they may set to 0. Where the card then has the focus the field is closed.
 void toggleBold(Zevlin& form, toolkit::TextBox& box, int& KeyAscii);
 void toggleItalic(Zevlin& form, toolkit::TextBox& box, int& KeyAscii);
 void toggleJustification(Zevlin& form, int& KeyAscii);
@@ -18,8 +18,8 @@ void mpopHilite_Click(Zevlin& form);
 void mpopCopy_Click(Zevlin& form);
 void mpopPaste_Click(Zevlin& form);
 
-/// Whether a paste takes the program's own copy: it counts only as long as nothing else has been
-/// copied anywhere.
+/// Whether a paste takes the program's own copy, which counts only until something else is copied,
+/// in whatever program.
 [[nodiscard]] bool takesCopy(const Zevlin& form);
 
 } // namespace zev
