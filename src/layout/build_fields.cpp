@@ -110,15 +110,15 @@ void buildFromFile(Zevlin& form, InitializeRun& run) {
     form.LayoutInMemory = std::move(content);
 }
 
-/// What is filled in must find its field again.
+/// Every mark and text of the card must find its field again.
 void requireRoomForCard(const Zevlin& form) {
     if (!hasRoomFor(form, form.Carried->document))
         throw toolkit::RunTimeError(toolkit::Failure::SubscriptOutOfRange,
                                     "It has too few fields for this card");
 }
 
-/// A check-point is in memory, whether a file took it or not. So is the layout that an earlier one
-/// has set aside, while its file can't be put back.
+/// Whether the layout in memory counts, and not the file's: a check-point is in force, which may
+/// not have reached the file, or the file that an earlier one set aside can't be put back.
 bool isInMemoryOnly(Zevlin& form) { return form.LayoutSetAside || !finishRestore(form); }
 
 /// A file that is missing, unreadable or damaged leaves the fields where they were.

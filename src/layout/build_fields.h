@@ -10,7 +10,7 @@ struct InitializeRun;
 /// Finds or copies the layout, reads it and makes the fields over the card.
 void buildFields(Zevlin& form, InitializeRun& run);
 
-/// Whether the fields that there are have room for everything that is filled in.
+/// Whether there is a field for everything that the document fills in.
 [[nodiscard]] bool hasRoomFor(const Zevlin& form, const CardDocument& document);
 
 } // namespace zev

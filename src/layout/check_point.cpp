@@ -15,7 +15,7 @@
 namespace zev {
 namespace {
 
-/// A file that can't be found may only be out of sight with its folder.
+/// Where the folder is out of sight, a file that can't be found may still exist.
 bool isFolderThere(const Zevlin& form) {
     std::error_code ignored;
     return std::filesystem::is_directory(form.DataFolder, ignored);
@@ -34,7 +34,7 @@ bool restoreFile(Zevlin& form) {
     return trapped(form, "Error in RestoreShapes: #", [&] { putFileBack(form); });
 }
 
-/// There is nothing to set aside.
+/// Traces why there is no file to set aside.
 void traceNoFile(Zevlin& form, toolkit::Failure failure) {
     traceFailure(form, "Error in CheckPointShapes ", toolkit::RunTimeError(failure));
 }
@@ -48,15 +48,15 @@ bool finishRestore(Zevlin& form) {
 
 void CheckPointShapes(Zevlin& form) {
     Traceit(form, "CheckPointShapes");
-    // Without fields no layout would be written in place of the one set aside.
+    // Without fields nothing would be written in place of the layout set aside.
     if (form.AMark.UBound() == 0 && form.AText.UBound() == 0) return;
-    // The rebuild goes by what is in memory, whatever becomes of the files.
+    // The rebuild takes the layout in memory, whatever becomes of the files.
     if (!form.LayoutSetAside) form.LayoutSetAside = form.LayoutInMemory;
     form.LayoutInMemory = layoutText(form);
-    // Else the player's own layout would be taken for what a dead run has left.
+    // The file set aside may still be the player's own: it must not be deleted below.
     if (!finishRestore(form)) return;
     const auto present = toolkit::findFile(form.DataFolder, layoutFileName);
-    // The rebuild brings the installed one.
+    // The rebuild copies the installed layout.
     if (!present) return traceNoFile(form, toolkit::Failure::FileNotFound);
     if (std::filesystem::is_directory(*present))
         return traceNoFile(form, toolkit::Failure::PathFileAccess);
@@ -65,7 +65,7 @@ void CheckPointShapes(Zevlin& form) {
             toolkit::deleteFile(*old);
         }
         form.LayoutFileAside = true;
-        // On the disk before another file gets the layout's name.
+        // It must be on the disk before another file gets the layout's name.
         toolkit::replaceByRename(*present, form.DataFolder / setAsideName);
     });
     if (!setAside || !saveShapesUnasked(form)) finishRestore(form);

@@ -1,4 +1,5 @@
-// Setting the layout file aside while something touches it without the player's wish.
+// Setting the layout file aside while the program needs another layout for a moment, which the
+// player hasn't asked to save.
 #pragma once
 
 namespace zev {

@@ -1,4 +1,5 @@
-// What is a field of the card, and what only keeps the numbers of the others.
+// Which controls are fields of the card, and which are only there so that the others keep their
+// numbers.
 #pragma once
 
 #include "toolkit/model/control_array.h"

@@ -116,7 +116,7 @@ void checkScreenFonts(Zevlin& form) {
                       form.OriginalTwips >= fewestTwips && form.TwipsPerPixel >= fewestTwips;
     if (same || form.FontChangeAsked) return;
     form.FontChangeAsked = true;
-    // The installed layout that was copied in this run is the best there is for this screen.
+    // This run has copied the installed layout, and there is no better one for this screen.
     if (form.LayoutCopied) return;
     const auto answer = toolkit::show({.text = std::string(screenFontsQuestion),
                                        .buttons = toolkit::Buttons::YesNo,

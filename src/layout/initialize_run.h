@@ -16,14 +16,14 @@ struct Zevlin;
 using Corrections = std::array<std::array<std::array<float, 3>, 4>, 4>;
 
 struct InitializeRun {
-    int step = 0; ///< told when a step fails
+    int step = 0; ///< named when a step fails
     bool firstRun = false;
     FileOffsets fileOffsets{};
     float ratio = 1; ///< twips per pixel of this screen over the layout's
     Corrections corrections{};
 };
 
-/// ", after step " with the step stands behind the failure.
+/// Traces the failure, followed by ", after step " and the step.
 void traceFailedInitialize(Zevlin& form, const toolkit::RunTimeError& failure, int step);
 
 /// Runs a part of a rebuild that the program can do without; true if it didn't fail. A failure is

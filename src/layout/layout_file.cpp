@@ -11,7 +11,7 @@ constexpr int filledSquare = 110;
 constexpr int oldCircle = 153;
 constexpr int circle = 161;
 
-/// A name and three sizes.
+/// A font's name and three sizes.
 constexpr int fontValueCount = 4;
 
 void readPlace(toolkit::TextInput& input, FieldRecord& record) {
@@ -50,7 +50,8 @@ LayoutReader::Environment LayoutReader::readEnvironment() {
 
 void LayoutReader::skipFontLine() {
     skip_(input_);
-    // Sizes were written by the locale once ("11,00"), so they aren't looked at as numbers.
+    // Old files have sizes in the notation of the player's country ("11,00"), so they aren't read
+    // as numbers.
     for (int value = 0; value < fontValueCount; ++value) static_cast<void>(input_.readText());
 }
 

@@ -32,8 +32,8 @@ struct NamedSizes {
     std::array<float, 3> sizes{}; ///< points at design size
 };
 
-/// The character that stands for a symbol today: 80 was a check mark, 153 a circle, and check marks
-/// are squares or checks as the option wants.
+/// The character that a symbol has today: 80 was once a check mark and 153 a circle, and check
+/// marks are squares or checks, as the option says.
 [[nodiscard]] int repairedSymbol(int symbol, bool fillIn);
 
 /// 12, 13 or 15: the installed layout for a screen.

@@ -7,7 +7,7 @@ struct Zevlin;
 struct InitializeRun;
 class LayoutReader;
 
-/// Reads the mark records and makes one unshown label for each.
+/// Reads the mark records and makes one hidden label for each.
 void buildMarks(Zevlin& form, InitializeRun& run, LayoutReader& layout);
 
 } // namespace zev

@@ -26,7 +26,7 @@ void saveLayout(Zevlin& form) {
 
 constexpr std::string_view trapHead = "Error in MSaveShapes ";
 
-/// `write` gets the fields as they are on a card, not as design mode shows them.
+/// Leaves design mode while `write` runs: the layout needs the fields as they are on a card.
 void saveShapes(Zevlin& form, const std::function<void()>& write) {
     Traceit(form, "MSaveShapes_Click");
     // A layout is never written before the controls exist.

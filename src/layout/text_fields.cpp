@@ -144,7 +144,7 @@ void buildTexts(Zevlin& form, InitializeRun& run, LayoutReader& layout) {
     run.step = 2200;
     for (int i = 1; i <= count; ++i) buildText(form, run, layout, i);
     sendHighlightsToBack(form);
-    // The names line needs a live field: a number out of sequence would name a hole.
+    // The names line needs a field: after a record out of sequence the number may be a hole's.
     const bool live = form.FirstBigText > 0 && isField(form.AText[form.FirstBigText]);
     form.NamesField = live ? form.FirstBigText : std::int16_t{0};
 }

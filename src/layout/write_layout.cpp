@@ -125,7 +125,7 @@ void appendCount(std::string& file, std::string_view comment, std::size_t count)
     file += lineEnd;
 }
 
-/// The values that marks and texts have in common, with their field number by position.
+/// The values that records of marks and texts begin with. The position gives the field number.
 std::string recordStart(const FieldRecord& record, std::size_t position) {
     std::string line = numberText(static_cast<int>(position) + 1);
     for (const float value : {record.left, record.top, record.width, record.height})
