@@ -13,7 +13,7 @@
 namespace zev {
 namespace {
 
-/// Ends a text of the old format behind its style flags, and begins them.
+/// Stands before and after the style flags that end a text of the old format.
 constexpr std::string_view flagMark = "\\\\";
 /// A record with this in place of its bit-switches counts as one of the old format.
 constexpr int noSwitches = -1;
@@ -38,7 +38,7 @@ void takeFlags(TextRecord& record) {
     record.text.resize(split);
 }
 
-/// Where the number's record goes in a list of so many.
+/// The index of a field number in a list of `count` fields; failure 9 where it has none.
 std::size_t placeOf(int number, std::size_t count) {
     if (number < 1 || static_cast<std::size_t>(number) > count)
         throw toolkit::RunTimeError(toolkit::Failure::SubscriptOutOfRange);
@@ -118,7 +118,7 @@ bool CardReader::hasSwitches() const { return !isBelow(versionSeen_, switchesVer
 
 CardDocument readCard(std::string content) {
     CardDocument document;
-    // A text may say "Program version:", too. It is the head that tells the format.
+    // The version of the head tells the format; a text of the card may say "Program version:", too.
     std::string version;
     const auto takeFirst = [&version](toolkit::TextInput& input) {
         std::string seen;

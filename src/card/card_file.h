@@ -26,11 +26,11 @@ struct TextRecord {
     int number = 0;
     std::string text; ///< double quotes put back, ampersands as they stand in the file
     int switches = 0; ///< new format only
-    /// How much of the style the record tells.
+    /// What the record says of the text's style.
     enum class Style {
-        Switches, ///< `switches` tells all of it
-        Suffix,   ///< an old record's flags told bold, italic and left: in `switches`, no highlight
-        None,     ///< an old record without flags: the styles stay as they are
+        Switches, ///< everything, in `switches`
+        Suffix,   ///< bold, italic and left, by an old record's flags, in `switches`
+        None,     ///< nothing, without flags in an old record: the field keeps its style
     } style = Style::None;
 };
 
@@ -54,7 +54,7 @@ class CardReader {
     CardReader(std::string content, const std::string& versionSeen, Skip skip);
 
     [[nodiscard]] std::string readPartnerName();
-    /// Stands behind the name in the same record.
+    /// The value after the name, in the same record.
     [[nodiscard]] std::string readPartnerNumber();
     [[nodiscard]] int readCount();
     [[nodiscard]] MarkRecord readMark();
@@ -72,7 +72,7 @@ class CardReader {
 /// in any case; else failure 13.
 [[nodiscard]] bool truthValue(std::string_view state);
 
-/// The content of a card. In memory it is the truth about the card; a file may hold a copy.
+/// The content of a card. While the program runs, this is what counts; a file may hold a copy.
 struct CardDocument {
     std::string cardName;
     std::string programVersion;
@@ -87,8 +87,8 @@ struct CardDocument {
     friend bool operator==(const CardDocument&, const CardDocument&) = default;
 };
 
-/// Reads what writeCard wrote, whole or not at all; the name isn't part of it. Failures as those of
-/// CardReader, and 9 for a field number that isn't one of the counted.
+/// Reads what writeCard wrote, whole or not at all; the card's name isn't in it. Failures are those
+/// of CardReader, and 9 for a field number beyond the count in the file.
 [[nodiscard]] CardDocument readCard(std::string content);
 
 } // namespace zev

@@ -6,13 +6,13 @@
 
 namespace zev {
 
-/// One leading path separator and a trailing ".zev" go.
+/// The name without one leading path separator and a trailing ".zev".
 [[nodiscard]] std::string cleanedCardName(std::string_view name);
 
 /// Whether one of / \ : * ? < > or the double quote stands in the name.
 [[nodiscard]] bool hasForbiddenCharacter(std::string_view name);
 
-/// Whether a card of this name would be the temporary one, which no player has made.
+/// Whether this is the name of the temporary card of a rebuild, which no player has made.
 [[nodiscard]] bool isTemporaryCard(std::string_view name);
 
 struct PlayerId {
@@ -28,7 +28,7 @@ struct PlayerId {
 /// "name #number", either part alone, or empty.
 [[nodiscard]] std::string playerLine(const PlayerId& player);
 
-/// What the names line says next.
+/// What the text of the names line is made from.
 struct NamesLine {
     std::string caption; ///< what stands there now
     std::string mine;

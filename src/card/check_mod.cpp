@@ -12,7 +12,8 @@
 namespace zev {
 namespace {
 
-/// An edit counts as a change although no key release was seen.
+/// Notices an edit that was committed without the release of a key, which would have marked the
+/// card as changed.
 void noticeCommittedEdit(Zevlin& form) {
     if (form.OrigIndex > 0 && form.AText[form.OrigIndex].Tag != form.OrigText) SetMod(form);
 }
@@ -29,7 +30,7 @@ bool refusesToLoseChanges(Zevlin& form) {
         return false;
     }
     MSave_Click(form);
-    // Still changed: the naming of an unnamed card was cancelled.
+    // Still changed if the player cancelled the question for a name.
     return form.CardModified;
 }
 

@@ -8,8 +8,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// Shows the panel and waits for the player. The name that they chose, trimmed; empty for cancel or
-/// a name that no file can have.
+/// Shows the panel and waits for the player. Returns the name that they chose, trimmed; empty for
+/// Cancel or a name that no file can have.
 [[nodiscard]] std::string GetFileNames(Zevlin& form);
 
 /// The names of the player's cards in the data folder.

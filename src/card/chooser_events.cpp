@@ -18,7 +18,7 @@ void selectName(Zevlin& form) {
     form.TSaveAs.SelLength = static_cast<int>(form.TSaveAs.Text.size());
 }
 
-/// Rows that the key moves the selection by.
+/// How many rows the key moves the selection.
 int rowsOf(const Zevlin& form, int keyCode) {
     const float lineHeight = toolkit::textHeight(form.FileList.Font);
     const int page = std::max(1, static_cast<int>(form.FileList.Height / lineHeight) - 1);

@@ -7,7 +7,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// OK can be pressed while the name has more than blanks.
+/// Enables OK while the name has more than blanks.
 void enableOk(Zevlin& form);
 
 /// The card that is selected in the list, if any, becomes the name.

@@ -11,7 +11,7 @@ namespace zev {
 namespace {
 
 constexpr float smallestPoints = 6;
-/// Letters that the panel has room for, whatever it says.
+/// The panel is at least this wide, in letters.
 constexpr float narrowestInLetters = 52;
 constexpr float fewestRows = 3;
 constexpr float fewestRowsWhereThereIsRoom = 8;
@@ -47,7 +47,7 @@ float innerWidth(const Zevlin& form, const PanelMeasures& measures) {
     return measures.whole(std::min(wanted, room));
 }
 
-/// A line that is too long for a small form is set smaller before it is cut.
+/// Where a line is too long for a small form, its font gets smaller before the line is cut.
 void placeLine(toolkit::Label& label, const PanelMeasures& measures, float top, float width) {
     label.Move(measures.lines(panelMargin), top, width, measures.line);
     while (label.Font.Size > smallestPoints &&

@@ -44,7 +44,7 @@ void deleteSelected(Zevlin& form) {
     if (isCurrent) {
         form.CardName.clear();
         SetCaption(form);
-        // Unsaved changes belong to no name any more.
+        // The unsaved changes now belong to an unnamed card: the journal has to say so.
         noteChange(form);
     }
     form.TSaveAs.Text.clear();
@@ -61,19 +61,21 @@ void tellNotRenamed(const toolkit::RunTimeError& failure) {
                   toolkit::Icon::Exclamation);
 }
 
-/// The title goes on to say what the chooser was opened for.
+/// Gives the card on the screen the name, while the title still says what the chooser was opened
+/// for.
 void nameCurrentCard(Zevlin& form, const std::string& name) {
     const std::string shown = "( " + form.CardName + " )";
     if (const auto at = form.Caption.find(shown); at != std::string::npos)
         form.Caption.replace(at, shown.size(), "( " + name + " )");
     form.CardName = name;
     if (form.CardFileSeen) form.CardFileSeen->cardName = name;
-    // Unsaved changes belong to the new name.
+    // The journal has to tell the new name.
     noteChange(form);
 }
 
-/// The same file in another case is itself no other card. The card on the screen goes along, or the
-/// next save would bring the old name back as a second card.
+/// A name that differs in case alone is the same file, not another card that is in the way. A card
+/// on the screen gets the new name, too: else the next save would make a second card of the old
+/// name.
 void renameCard(Zevlin& form, const std::string& name, const std::string& newName) {
     const auto path = cardPath(form, name);
     const auto target = cardPath(form, newName);

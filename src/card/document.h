@@ -1,4 +1,4 @@
-// The card between the controls that show it and the document that it is.
+// Between the card as the controls show it and the card as a document.
 #pragma once
 
 #include "card/card_file.h"

@@ -1,4 +1,4 @@
-// The card's file as this program knows it: what another program has made of it meanwhile.
+// The card's file as this program saw it last, to notice what another program has done to it.
 #pragma once
 
 #include <filesystem>
@@ -12,9 +12,9 @@ struct Zevlin;
 /// The file of the card with this name, in any case, if there is one.
 [[nodiscard]] std::optional<std::filesystem::path> findCard(const Zevlin& form,
                                                             std::string_view name);
-/// The same, or where the file would be made.
+/// The same, or the path at which the file would be made.
 [[nodiscard]] std::filesystem::path cardPath(const Zevlin& form, std::string_view name);
-/// That of the present card.
+/// The path of the present card.
 [[nodiscard]] std::filesystem::path cardPath(const Zevlin& form);
 
 /// Notes that the file of the present card, as opened or saved now, has this content.

@@ -27,7 +27,7 @@ FileState fileState(const fs::path& file, std::string_view content) {
 bool isChanged(const fs::path& file, const FileState& before) {
     std::error_code error;
     const bool exists = fs::exists(file, error);
-    // What can't be looked at is told by the save itself.
+    // If the file can't be examined, the save will fail and say why.
     if (error) return false;
     if (exists != before.exists) return true;
     if (!exists) return false;

@@ -15,7 +15,7 @@
 namespace zev {
 namespace {
 
-/// A job or a rebuild has the card in its hands: what the controls hold isn't the player's card.
+/// Whether a job or a rebuild uses the controls just now: what they hold isn't the player's card.
 bool isCardAway(const Zevlin& form) { return form.Printing || form.Carried || form.Journal.isHeld; }
 
 std::string journalText(const Zevlin& form) {
@@ -28,12 +28,12 @@ std::string journalText(const Zevlin& form) {
 }
 
 bool hasUnsavedChanges(const Zevlin& form) {
-    // What design mode shows isn't a card.
+    // What the fields show in design mode isn't the card.
     if (form.MShowShapes.Checked) return false;
     return form.CardModified || documentWithTyping(form) != documentOf(form);
 }
 
-/// Its file can be gone, with the folder or by a cleaning.
+/// The file may have been deleted, alone or with its folder.
 bool holds(const JournalState& journal, const std::string& text) {
     std::error_code ignored;
     return text == journal.written && std::filesystem::exists(journal.file, ignored);
@@ -47,8 +47,8 @@ void writeJournal(Zevlin& form) {
     form.Journal.written = std::move(text);
 }
 
-/// A journal that can't be written is told to the trace once; the program works on, and tries
-/// again: there may be room before there is another change.
+/// A failure is traced once. The program goes on and tries again, even without a further change:
+/// there may be room on the disk by then.
 bool tryToWrite(Zevlin& form) {
     try {
         writeJournal(form);

@@ -6,11 +6,12 @@ namespace zev {
 
 struct Zevlin;
 
-/// Writes what isn't in the journal yet. Does nothing while a job or a rebuild has the card in its
-/// hands: it was written before.
+/// Writes what isn't in the journal yet. Does nothing while a job or a rebuild uses the controls:
+/// they write it before they begin.
 void flushJournal(Zevlin& form);
 
-/// The alarm of a change rings: the same, or later where the card is away.
+/// Called when the alarm that a change has set goes off: the same, or later if a job or a rebuild
+/// uses the controls.
 void ringJournal(Zevlin& form);
 
 /// The same for a card whose saving failed, changed or not; false if it couldn't be written.

@@ -72,7 +72,7 @@ Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& 
     for (int i = 1; i <= marks; ++i) loadMark(form, card.readMark());
     const int texts = card.readCount();
     if (texts < 1) {
-        // No failure is pending here: its number is 0 and its text empty.
+        // The line has the form of a failure's, and there is none: number 0 and no text.
         Traceit(form, "Error in GetCardFile - bad card: " + toolkit::displayText(path) + ", 0, ");
         tellBadCard();
         return Loaded::Bad;
@@ -82,7 +82,8 @@ Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& 
 }
 
 void loadFile(Zevlin& form, const std::filesystem::path& path) {
-    // Until it is read, and where it bears another name, the card's own file is none that was seen.
+    // The card's own file counts as seen only once it is read, and not at all where the card has
+    // another name than the file.
     rememberNoFile(form);
     std::string content = toolkit::readFile(path);
     if (path == cardPath(form)) rememberFile(form, path, content);
@@ -104,7 +105,7 @@ void loadCarried(Zevlin& form) {
 void loadCard(Zevlin& form) {
     CreateBG(form, form.BGPat, 0, 0);
     form.VersionSeen.clear();
-    // The path goes by the name as it came, before it is cleaned.
+    // The path comes from the name before it is cleaned.
     const auto path = cardPath(form);
     form.CardName = cleanedCardName(form.CardName);
     ResetMod(form);

@@ -71,12 +71,12 @@ void changePartnerId(Zevlin& form) {
     form.PartnerName = partner.name;
     form.PartnerNumber = partner.number;
     ShowNames(form, NamesUpdate::Replace);
-    // A layout without a names line shows nothing of it, but the card holds it.
+    // The names are part of the card even where the layout has no line for them.
     if (!form.CardModified) SetMod(form);
 }
 
 std::string lineToShow(const Zevlin& form, NamesUpdate update) {
-    // During a rebuild the temporary name is nobody's.
+    // During a rebuild the card has a temporary name, which isn't for the names line.
     std::string text =
         composedNames({.caption = form.AText[form.NamesField].Tag,
                        .mine = playerLine({form.MyName, form.MyNumber}),
@@ -96,7 +96,7 @@ void composeNamesLine(Zevlin& form, NamesUpdate update) {
     line.Font.Bold = true;
     line.Caption = text;
     FitText(form, form.CText, form.NamesField);
-    // The suits of a line that stands as it was are laid already.
+    // If the line is as it was, its suits are in place already.
     if (changes || (!text.empty() && line.Font != font))
         SetSym(form, form.NamesField);
     else

@@ -35,7 +35,7 @@ fs::path fileOf(int number) {
 
 fs::path lockOf(fs::path file) { return file.replace_extension(lockExtension); }
 
-/// What stands in it is the player's alone.
+/// Nobody but the player may read what is in it.
 void makeStateFolder() {
     const fs::path folder = toolkit::stateFolder();
     std::error_code ignored;
@@ -54,7 +54,7 @@ bool isEmpty(const fs::path& path) {
     return fs::file_size(path, failed) == 0 && !failed;
 }
 
-/// The lock's own file can be gone, with the folder or by a cleaning.
+/// The lock's file may have been deleted, alone or with its folder.
 bool holdsLock(const JournalState& journal) {
     return journal.lock.isHeld() && isThere(lockOf(journal.file));
 }
@@ -99,8 +99,8 @@ Journals findJournals() {
     return journals;
 }
 
-/// What makes no sense is put aside: it can't be offered, but is nobody's to throw away. What the
-/// disk doesn't give now may be there at the next start.
+/// A file that makes no sense is renamed: it can't be offered, but it isn't ours to throw away. One
+/// that the disk can't read now is left for the next start.
 bool read(Zevlin& form, Rescue& rescue) {
     return trapped(form, "Error in a journal: #", [&] {
         const std::string content = toolkit::readFile(rescue.file);
@@ -124,8 +124,8 @@ toolkit::Answer ask(const RescuedCard& card) {
                           .preset = toolkit::Answer::Yes});
 }
 
-/// Whether the card's own file holds just this by now: its journal couldn't be removed after the
-/// card was saved.
+/// Whether the card's own file already holds the same: then only the journal's removal failed after
+/// the card was saved.
 bool isSaved(const Zevlin& form, const RescuedCard& card) {
     bool saved = false;
     ignoringFailures([&] {
@@ -136,7 +136,7 @@ bool isSaved(const Zevlin& form, const RescuedCard& card) {
     return saved;
 }
 
-/// What can't be read isn't blank: it is put aside with the others of its kind.
+/// Whether nothing is filled in. A card that can't be read doesn't count as blank.
 bool isBlank(const std::string& content) {
     bool isFilledIn = true;
     ignoringFailures([&] {
@@ -149,8 +149,8 @@ bool isBlank(const std::string& content) {
     return !isFilledIn;
 }
 
-/// A temporary card that lies about where no journal does is all that is left of a card. It becomes
-/// a journal, which a rebuild doesn't overwrite.
+/// A temporary card without any journal is all that is left of a card. It becomes a journal, which
+/// no rebuild overwrites.
 void adoptTemporaryCard(Zevlin& form, Journals& journals) {
     const auto file = findCard(form, temporaryCardName);
     if (!file || journals.hasLivingCopies) return;
@@ -177,7 +177,8 @@ void openJournal(Zevlin& form) {
         const fs::path file = fileOf(number);
         if (isThere(file) || !form.Journal.lock.take(lockOf(file))) continue;
         form.Journal.file = file;
-        // Another copy may have come and gone between the two.
+        // Another copy of the program may have made the file, and ended, before this one had the
+        // lock.
         if (!isThere(file)) return;
     }
     throw toolkit::RunTimeError(toolkit::Failure::PermissionDenied);
@@ -201,7 +202,7 @@ void openRescued(Zevlin& form, Rescue rescue) {
     form.CardFileSeen = SeenFile{.cardName = form.CardName, .state = rescue.card.file};
     showDocument(form, rescue.card.document);
     SetMod(form);
-    // Where the layout has no field for a part of it the file stays, to be offered again.
+    // Where the layout lacks a field for part of the card, the file stays and is offered again.
     if (!hasRoomFor(form, rescue.card.document)) return;
     form.Journal.file = std::move(rescue.file);
     form.Journal.lock = std::move(rescue.lock);

@@ -16,7 +16,7 @@ std::string headLine(std::string_view key, std::string_view value) {
     return std::string(key).append(value).append(headLineEnd);
 }
 
-/// The value behind the key, which begins a line of the head.
+/// The value after the key, which begins a line of the head.
 std::string_view valueIn(std::string_view content, std::string_view key) {
     if (!content.starts_with(rescueBanner)) return {};
     const std::size_t place = content.find(key);

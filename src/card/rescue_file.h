@@ -1,5 +1,5 @@
-// The file in which unsaved changes wait for the next start: the card as any card file has it,
-// behind what only the journal knows of it.
+// The file in which unsaved changes wait for the next start: a head with what only the journal
+// knows, and then the card as in any card file.
 #pragma once
 
 #include <string>

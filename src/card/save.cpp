@@ -51,8 +51,8 @@ std::string chosenNameToSave(Zevlin& form) {
     return name;
 }
 
-/// A selected card, the name as typed among the listed ones, or any file that the save would
-/// replace.
+/// Whether a card is selected, or the name is that of a listed card or of any file that the save
+/// would replace.
 bool isTaken(const Zevlin& form, const std::string& name) {
     const auto& names = form.FileList.List;
     return form.FileList.ListIndex >= 0 ||
@@ -75,7 +75,7 @@ void saveUnderNewName(Zevlin& form) {
     if (name.empty()) return;
     if (isTaken(form, name) && !mayReplace()) return;
     form.CardName = name;
-    // Whether a file of this name may go was asked just now.
+    // The player has just been asked whether a file of this name may be replaced.
     form.CardFileSeen.reset();
     if (keepPartner == toolkit::Answer::No) {
         form.PartnerName.clear();
@@ -85,7 +85,7 @@ void saveUnderNewName(Zevlin& form) {
     if (showsTitle(form)) SetCaption(form);
 }
 
-/// Under a trimmed name the card goes into another file than it came from.
+/// If the trimmed name differs, the card goes into another file than it came from.
 void trimName(Zevlin& form) {
     const auto trimmed = std::string(toolkit::trim(form.CardName));
     if (trimmed == form.CardName) return;
@@ -102,7 +102,7 @@ bool hasName(Zevlin& form) {
     return !form.CardName.empty();
 }
 
-/// The player decides between what they have made of the card and what another program has.
+/// What the player decides where another program has changed the card's file.
 enum class Decision { Overwrite, LeaveIt, SaveElsewhere };
 
 Decision askAboutChangedFile(const Zevlin& form) {
@@ -125,7 +125,7 @@ void finishSave(Zevlin& form) {
     if (showsTitle(form)) SetCaption(form);
 }
 
-/// The copy that a rebuild leaves in the folder for its own time. Nothing depends on it.
+/// The copy that lies in the folder while a rebuild runs. Nothing depends on it.
 void saveTemporary(Zevlin& form) {
     toolkit::writeTemporaryFile(cardPath(form), writeCard(documentOf(form)));
     finishSave(form);
@@ -133,7 +133,7 @@ void saveTemporary(Zevlin& form) {
 
 void writeToFile(Zevlin& form, const std::filesystem::path& file) {
     const std::string content = writeCard(documentOf(form));
-    // The file could fail half way.
+    // Writing the file could fail half way.
     flushJournal(form);
     toolkit::writeFile(file, content);
     rememberFile(form, file, content);
@@ -150,7 +150,7 @@ void saveCard(Zevlin& form) {
     if (decision == Decision::SaveElsewhere) MSaveAs_Click(form);
 }
 
-/// The program ends as soon as nothing is lost by that.
+/// Ends the program if nothing is lost by that; else asks the player to make room.
 void endAfterFailedSave(Zevlin& form) {
     if (keepForNextStart(form)) toolkit::endProgram(EXIT_FAILURE);
     toolkit::tell("'" + form.CardName +

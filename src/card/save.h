@@ -13,7 +13,7 @@ void MSave_Click(Zevlin& form);
 /// Asks for a name and saves the card under it.
 void MSaveAs_Click(Zevlin& form);
 
-/// Neither printing nor a zoom shows its work in the title.
+/// False while printing and during a zoom, which don't touch the title.
 [[nodiscard]] bool showsTitle(const Zevlin& form);
 
 } // namespace zev

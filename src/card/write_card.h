@@ -7,8 +7,9 @@
 
 namespace zev {
 
-/// The whole file, byte for byte, with CR LF line ends. The format has no double quote inside a
-/// text and no runs of ampersands: they come back as load.h tells.
+/// The whole file, byte for byte, with CR LF line ends. The format can't hold a double quote inside
+/// a text, nor a run of ampersands: a superscript two stands for the quote and one ampersand for
+/// the run.
 [[nodiscard]] std::string writeCard(const CardDocument& document);
 
 } // namespace zev

@@ -45,7 +45,7 @@ float fieldHeight(const Zevlin& form, const toolkit::FontSpec& font, int index) 
     const float height = lineHeight(form, font);
     if (index != form.FirstBigText) return height;
     const float fullWidth =
-        static_cast<float>(form.PBase.width()) * static_cast<float>(form.TwipsPerPixel);
+/// The height of a line, which must hold the normal and the narrow font.
     return std::min(height, form.P1.Width / fullWidth * namesLineHeight);
 }
 
