@@ -8,8 +8,8 @@
 
 namespace zev {
 
-/// Whether the point is strictly inside the label less five pixels at its right, top and bottom: a
-/// pen needs a firm target to set a mark, though any part of a set mark clears it.
+/// Whether the point is strictly inside the label less five pixels at its right, top and bottom.
+/// The target for setting a mark is smaller than the mark, any part of which clears it.
 [[nodiscard]] bool hitsMark(const toolkit::Label& mark, float x, float y, int twipsPerPixel);
 
 /// The lowest mark from 1 up that the point (twips on the card) hits, shown or not.

@@ -27,7 +27,7 @@ bool isEditing(const Zevlin& form) { return form.CText.Visible || form.LText.Vis
 
 float wholeTwips(float twips) { return static_cast<float>(toolkit::roundToInteger(twips)); }
 
-/// The low limit is tested first: a card smaller than the form is pinned to the far side.
+/// The low limit is tested first, so a card smaller than the form goes to the right or bottom edge.
 float clamped(float place, float room, float size) {
     if (room - size > place) return room - size;
     return std::min(place, 0.0F);
@@ -51,7 +51,7 @@ std::optional<Place> cornerOf(const Zevlin& form, int keyCode) {
     }
 }
 
-/// The place one step on: the view moves with the arrow, the card the other way.
+/// The card's place after one step: the view moves with the arrow, so the card moves the other way.
 std::optional<Place> stepped(const Zevlin& form, int keyCode) {
     const float step = stepOf(form);
     Place place{form.P1.Left, form.P1.Top};
@@ -91,7 +91,8 @@ bool cursorCanFollow(Zevlin& form, float x, float y) {
     return x > 0 && x < screen.Width - sideBar && y > 0 && y < screen.Height - lowerBar;
 }
 
-/// After an arrow the cursor follows the mark that the keyboard rests on, or gives it up.
+/// After an arrow the cursor moves along with the mark of the TAB walk; where it can't, the walk
+/// ends.
 void followWithCursor(Zevlin& form, const Place& before) {
     if (!form.TabActive) return;
     const auto twips = static_cast<float>(form.TwipsPerPixel);
@@ -107,7 +108,7 @@ void followWithCursor(Zevlin& form, const Place& before) {
     toolkit::setCursorPosition({form.TabCursorX, form.TabCursorY});
 }
 
-/// An item's place in the form and how much room it should have, twips.
+/// An item's place on the card and the margin that it should have around it, twips.
 struct ItemPlace {
     Place place;
     float marginX = 0;

@@ -28,7 +28,7 @@ const SharedPicture& builtInFull() {
     return picture;
 }
 
-/// Comes ready made with the program, so a start needs no full picture.
+/// Built into the program, so that a start needn't decode the full picture.
 const SharedPicture& builtInHalf() {
     static const auto picture = builtIn("/card/half.bin");
     return picture;

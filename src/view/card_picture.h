@@ -16,18 +16,18 @@ struct ScaleRequest;
 class CardPicture {
   public:
     CardPicture() = default;
-    /// Any other picture that is to be scaled.
+    /// Holds any other picture that is to be scaled.
     explicit CardPicture(const std::shared_ptr<const toolkit::Bitmap>& picture);
 
     /// Takes a picture file instead of the built-in card. Failure 481 if it is none.
     void load(const std::filesystem::path& path);
 
-    /// Full size in pixels.
+    /// The size of the full picture, in pixels.
     [[nodiscard]] int width() const;
     [[nodiscard]] int height() const;
 
-    /// The picture shrunk by the request's factor (0.2 to 1) of its full size: always made from the
-    /// smallest step of the pyramid of halves that isn't smaller.
+    /// Begins to make the picture at the request's factor (0.2 to 1) of its full size, from the
+    /// half picture where that is large enough.
     [[nodiscard]] PictureInMaking startScaled(const ScaleRequest& request) const;
 
   private:

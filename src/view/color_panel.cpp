@@ -19,7 +19,7 @@ constexpr std::array presets{toolkit::rgb(0, 0, 0),   toolkit::rgb(0, 0, 128),
                              toolkit::rgb(0, 128, 0), toolkit::rgb(128, 64, 255),
                              toolkit::rgb(160, 0, 0), toolkit::rgb(128, 64, 0)};
 
-/// Black as the options keep it: 0 is the ACBL's scheme.
+/// How the options store black, since 0 stands for the ACBL's scheme.
 constexpr toolkit::Color storedBlack = 1;
 
 constexpr int okButton = 0;
@@ -63,7 +63,7 @@ void openPanel(Zevlin& form) {
     loadSamples(form);
     ColorSampleMark(form);
     form.P1.Visible = false;
-    // Another command would work with a scheme that isn't chosen yet.
+    // No other command may run before the scheme is chosen.
     form.MenusEnabled = false;
     form.ColorPic.Visible = true;
     form.ColorPic.Stack = std::max(form.P1.Stack, form.THelp.Stack) + 1;
@@ -105,7 +105,7 @@ void chooseScheme(Zevlin& form, int index) {
     if (index < form.LastSchemeIndex) {
         form.ColorScheme = index;
     } else if (!form.Initializing) {
-        // Its buttons do the rest.
+        // The panel's buttons take the scheme or go back.
         return openPanel(form);
     }
     if (form.AMark.UBound() > 0) SetGlobalColors(form);

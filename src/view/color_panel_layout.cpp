@@ -24,7 +24,7 @@ constexpr float numberInLetters = 6;
 
 constexpr std::array primaries{toolkit::rgb(255, 0, 0), toolkit::rgb(0, 255, 0),
                                toolkit::rgb(0, 0, 255)};
-/// Readable on them.
+/// Colours of the numbers, readable on these.
 constexpr std::array numberInks{toolkit::white, toolkit::black, toolkit::white};
 
 void show(toolkit::PanelLabel& label, const toolkit::FontSpec& font, toolkit::BackStyle ground,
@@ -75,7 +75,7 @@ float sampleWidth(const PanelMeasures& measures, float width) {
     return measures.whole((width - (presetCount - 1) * sampleGap) / presetCount);
 }
 
-/// All six side by side, whether they are loaded already or not.
+/// Places all six side by side; those that aren't loaded yet take their place from the one before.
 float placeSamples(Zevlin& form, const PanelMeasures& measures, float top, float width) {
     const float each = sampleWidth(measures, width);
     float left = measures.lines(panelMargin);

@@ -6,7 +6,7 @@
 namespace zev {
 namespace {
 
-// An area that isn't a whole number of pixels wide touches at most so many.
+// The most pixels that an area of this width touches.
 int reachOf(double factor) { return static_cast<int>(std::ceil(1 / factor)) + 1; }
 
 void addPixel(Coverage& coverage, double from, double to, int last) {

@@ -1,4 +1,4 @@
-// Which pixels of a picture lie below each pixel of a smaller one, along one direction.
+// Which pixels of a picture each pixel of a smaller one covers, along one direction.
 #pragma once
 
 #include <vector>
@@ -16,11 +16,11 @@ struct Coverage {
     [[nodiscard]] const float* weightsOf(int output) const {
         return &weights[static_cast<std::size_t>(output) * static_cast<std::size_t>(reach)];
     }
-    /// Covered pixels that count.
+    /// How many of the covered pixels have a weight above 0.
     [[nodiscard]] int countOf(int output) const;
 };
 
-/// Of `length` pixels shrunk by `factor` (0 < factor <= 1), cut at `outputLength`.
+/// The coverage for `length` pixels shrunk by `factor` (0 < factor <= 1), cut at `outputLength`.
 [[nodiscard]] Coverage coverageOf(int length, double factor, int outputLength);
 
 } // namespace zev

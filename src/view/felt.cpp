@@ -11,7 +11,7 @@ constexpr int baseRed = 46;
 constexpr int baseGreen = 96;
 constexpr int baseBlue = 70;
 
-/// Noise without a seed of its own, so that the felt never changes.
+/// The next number of a noise that is the same in every run, so that the felt never changes.
 std::uint32_t nextNoise(std::uint32_t state) {
     state ^= state << 13U;
     state ^= state >> 17U;

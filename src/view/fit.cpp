@@ -10,7 +10,7 @@
 namespace zev {
 namespace {
 
-/// Pixels that fit to height keeps free.
+/// Pixels that a fit to the height keeps free.
 constexpr float heightMargin = 8;
 
 float widthScale(Zevlin& form) {

@@ -9,7 +9,7 @@ struct Zevlin;
 /// options ask for.
 void MFitScreenWidth_Click(Zevlin& form);
 
-/// The same for the height. Only a task bar at the bottom of the screen is spared.
+/// The same for the height. Only a task bar at the bottom of the screen is left uncovered.
 void MFitScreenHeight_Click(Zevlin& form);
 
 } // namespace zev

@@ -45,7 +45,7 @@ float shownScale(float scale) {
 Drawing drawingOf(const CardPicture& source, float scale) {
     Drawing drawing{.scale = shownScale(scale)};
     drawing.width = wholePixelsOf(static_cast<float>(source.width()) * drawing.scale);
-    // The strip goes by the scale asked for, also where another one is shown.
+    // The strip takes the scale asked for, even where the picture is shown at another one.
     drawing.strip = scale * stripPixels;
     drawing.height = wholePixelsOf(
         wholePixelsOf(static_cast<float>(source.height()) * drawing.scale) + drawing.strip);
@@ -79,13 +79,13 @@ void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& s
     auto making = pictureOf(form, source, requestOf(drawing));
     target.Picture = making.picture;
     target.Sharp = {target.Picture, [source, drawing](float ratio) {
-                        // More than its full size there isn't to see.
+                        // Beyond its full size the picture has nothing more to show.
                         const float most = std::max(largestScale / drawing.scale, 1.0F);
                         return source
                             .startScaled(requestOf(drawing.enlarged(std::min(ratio, most))))
                             .finished();
                     }};
-    // Nobody looks at the card before its rebuild is through.
+    // The card is hidden until its rebuild is done, so the rows may come later.
     if (form.Carried)
         form.PictureRows = std::move(making.rows);
     else
@@ -106,7 +106,7 @@ void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& 
 }
 
 void StartPicture(Zevlin& form) {
-    // What is printed has its size already.
+    // A print job has made its picture before the rebuild.
     if (form.Printing) return;
     const std::size_t step = ladderStep(form);
     if (step >= form.ZoomTable.size() || form.ZoomTable[step] == form.LastImageScale) return;

@@ -8,7 +8,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// Whether to scale even if the scale is the one of the last scaling.
+/// Whether to scale the picture even if the scale hasn't changed.
 enum class Rescale { IfChanged, Always };
 
 /// Bounds of the scales that can be shown; any other is shown at half size.
@@ -20,8 +20,8 @@ constexpr float largestScale = 1.0F;
 void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source, float scale,
                   Rescale rescale);
 
-/// Begins to make the picture that RestoreBackgroundPicture will soon give to the card, if it needs
-/// another one.
+/// Begins to make the picture that RestoreBackgroundPicture will soon give to the card, if the card
+/// needs another one.
 void StartPicture(Zevlin& form);
 
 /// Gives the card the size of the present zoom step or fit.

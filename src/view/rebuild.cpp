@@ -22,15 +22,15 @@
 namespace zev {
 namespace {
 
-/// The temporary file goes; if it can't, the next rebuild replaces it.
+/// Deletes the temporary card. Where that fails, the next rebuild replaces it.
 void deleteTemporaryCard(Zevlin& form) {
     ignoringFailures([&] {
         if (const auto file = findCard(form, temporaryCardName)) toolkit::deleteFile(*file);
     });
 }
 
-/// The card in memory for the time of a rebuild: whatever happens, content, name and star come
-/// back.
+/// Keeps the card in memory during a rebuild and gives it back, whatever happens: content, name and
+/// changed flag.
 class KeptCard {
   public:
     explicit KeptCard(Zevlin& form) : form_(form) {
@@ -45,7 +45,7 @@ class KeptCard {
         form_.PictureRows.finish();
         form_.P1.Visible = true;
     }
-    /// The fields show the card again.
+    /// To be called once the fields show the card again.
     void noteShown() { isShown_ = true; }
     void putBack() {
         form_.CardName = form_.Carried->name;
@@ -68,7 +68,7 @@ void carryThrough(Zevlin& form) {
     MSave_Click(form);
     ResetMod(form);
     MNew_Click(form);
-    // The places in it are those of the former size.
+    // The places kept for the undo are those of the former size.
     form.UndoIndex = 0;
     form.P1.Visible = false;
     form.Slots.initialize();
@@ -83,8 +83,7 @@ void carryThrough(Zevlin& form) {
     CreateBG(form, form.BGPat, 0, 0);
 }
 
-/// A rebuild in the middle of another one makes the fields anew once more; the card that the outer
-/// one carries stays with it.
+/// A rebuild inside another one only makes the fields anew: the outer one has the card.
 void rebuild(Zevlin& form) {
     if (form.Carried)
         form.Slots.initialize();
@@ -98,18 +97,18 @@ void RebuildScreenImage(Zevlin& form) {
     const bool designing = form.MShowShapes.Checked;
     procedure(form, "RebuildScreenImage", [&] {
         form.TabActive = false;
-        // What fails here fails again, and is told, where the picture is wanted.
+        // A failure here comes again, and is traced, where the picture is needed.
         if (!form.Initializing) ignoringFailures([&] { StartPicture(form); });
-        // What design mode shows is neither to be saved nor to be lost.
+        // Design mode ends first: what it shows must neither be saved as a card nor be lost.
         if (designing) form.Slots.toggleDesignMode();
-        // Before any other file is touched.
+        // The journal is written before any other file is touched.
         if (!form.Initializing) flushJournal(form);
         IniWrite(form);
         if (!form.Initializing) rebuild(form);
     });
     form.PictureStarted.reset();
     if (designing) form.Slots.toggleDesignMode();
-    // A job tells when it is over.
+    // A job tells them when it is over.
     if (!form.Printing && !form.Carried && !form.Initializing) tellFileFailures(form);
 }
 

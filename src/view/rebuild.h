@@ -5,9 +5,10 @@ namespace zev {
 
 struct Zevlin;
 
-/// Carries the card in memory around a new Initialize: the fields are made for one size only. Name,
-/// changed flag and content come back, whatever the data folder does meanwhile; what it didn't take
-/// or give is told at the end. While the program initializes only the options are written.
+/// Runs Initialize again, since fields are made for one size only, while the card waits in memory.
+/// Its name, changed flag and content come back, whatever happens to the data folder meanwhile;
+/// files that couldn't be written or read are told at the end. While the program initializes only
+/// the options are written.
 void RebuildScreenImage(Zevlin& form);
 
 } // namespace zev

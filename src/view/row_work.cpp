@@ -10,7 +10,8 @@
 namespace zev {
 namespace {
 
-// Few enough that all hands end together, enough that dealing costs nothing.
+// Few enough that all threads end at about the same time, enough that handing them out costs
+// little.
 constexpr int dealtRows = 16;
 // Fewer aren't worth a thread.
 constexpr int fewestRows = 64;
@@ -25,7 +26,7 @@ class RowWork::Shared {
             for (int hand = 1; hand < hands(rows); ++hand)
                 helpers_.emplace_back([this, hand] { worker_(hand, next_); });
         } catch (const std::system_error&) {
-            // No more threads to be had: those who are there do it all.
+            // The system gives no more threads: those that have started do all rows.
         }
     }
     Shared(const Shared&) = delete;
@@ -43,7 +44,8 @@ class RowWork::Shared {
     Worker worker_;
     std::atomic<int> dealt_ = 0;
     Next next_ = [this] { return deal(); };
-    std::vector<std::jthread> helpers_; ///< the last member: they end before the others go
+    std::vector<std::jthread>
+        helpers_; ///< the last member, so that they end before what they use is destroyed
 };
 
 RowWork::RowWork(int rows, Worker worker)

@@ -1,4 +1,4 @@
-// Work on the rows of a picture that goes on beside the program's own.
+// Work on the rows of a picture, done by threads while the program goes on.
 #pragma once
 
 #include <functional>
@@ -12,14 +12,14 @@ struct RowRange {
     int to = 0; ///< past the last one
 };
 
-/// Rows that the other processors work on from the start, and the caller from `finish` on. What it
-/// works upon must stay until then.
+/// Threads work on the rows from the start, and the caller joins them in `finish`. What they work
+/// on must exist until then.
 class RowWork {
   public:
-    /// Deals out rows that nobody else gets, a few at a time; none once all are dealt.
+    /// Hands out rows that nobody else gets, a few at a time; none once all are handed out.
     using Next = std::function<std::optional<RowRange>()>;
-    /// Does rows until there are none; must not throw. Each of those at work has a number below
-    /// `hands`, so that it can have its own room to work in.
+    /// Does rows until there are none; must not throw. Each thread at work has a number of its own,
+    /// below `hands`, so that it can have memory of its own.
     using Worker = std::function<void(int hand, const Next& next)>;
 
     RowWork() noexcept;
@@ -31,7 +31,7 @@ class RowWork {
     /// Returns when every row is done.
     void finish();
 
-    /// How many work on so many rows.
+    /// How many threads, the caller's with them, work on this many rows.
     [[nodiscard]] static int hands(int rows);
 
   private:

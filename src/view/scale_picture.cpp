@@ -29,7 +29,7 @@ constexpr Channels split(Pixel pixel) {
 
 constexpr Channels paperChannels{{255, 255, 255, 255}};
 
-// Joined in one go: the instructions that do it take several pixels.
+// How many pixels are joined at once: the instructions that do it take several.
 constexpr int joinedAtOnce = 16;
 
 void join(const std::array<Channels, joinedAtOnce>& sums, Pixel* output, int count) {
@@ -51,7 +51,7 @@ Palette fullPalette(const toolkit::IndexedPicture& picture) {
     return palette;
 }
 
-// What a scaler needs to know of a picture of palette indices...
+// What a scaler needs to know of a picture made of palette indices...
 class IndexedSource {
   public:
     using Element = std::uint8_t;
@@ -81,7 +81,7 @@ class IndexedSource {
     std::array<Channels, 256> channels_;
 };
 
-// ... and of one of pixels.
+// ... and of one made of pixels.
 class BitmapSource {
   public:
     using Element = Pixel;
@@ -99,10 +99,11 @@ class BitmapSource {
     std::shared_ptr<const toolkit::Bitmap> picture_;
 };
 
-// Most of a card is paper. Columns go in blocks, and a block without ink costs only the look at it.
+// Most of a card is blank paper. Columns are done in blocks, and a block without ink is only looked
+// at.
 constexpr int blockWidth = 8;
 
-// The output pixels that a block of columns has part in.
+// For each block of columns the output pixels that it contributes to.
 std::vector<RowRange> outputsOf(const Coverage& columns, int width) {
     const auto blocks = static_cast<std::size_t>((width + blockWidth - 1) / blockWidth);
     std::vector<RowRange> outputs(blocks, {columns.size(), 0});
@@ -237,7 +238,7 @@ class Scaler {
         for (std::size_t block = 0; block < blocks; ++block) {
             if (line.inked[block] == 0) continue;
             RowRange run = outputs_[block];
-            // Blocks beyond a picture that is cut have no part in it.
+            // Blocks beyond the edge of a picture that is cut contribute nothing.
             for (; block + 1 < blocks && line.inked[block + 1] != 0; ++block)
                 run.to = std::max(run.to, outputs_[block + 1].to);
             averageColumns<Reach>(line, output, run.from, run.to);
@@ -255,7 +256,7 @@ class Scaler {
                 const int column = x + i;
                 const int first = columns_.firsts[static_cast<std::size_t>(column)];
                 const Channels* average = &line.averages[static_cast<std::size_t>(first)];
-                // What is joined loses its fraction: a half more, and it is rounded.
+                // Joining cuts off the fraction, so half a shade more makes it round.
                 Lanes sum{0.5F, 0.5F, 0.5F, 0.5F};
                 for (int tap = 0; tap < reach; ++tap) sum += average[tap].shares * weights[tap];
                 sums[static_cast<std::size_t>(i)].shares = sum;

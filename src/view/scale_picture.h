@@ -24,7 +24,7 @@ struct ScaleRequest {
     bool operator==(const ScaleRequest&) const = default;
 };
 
-/// A picture that is still being made; it is whole when its rows are finished.
+/// A picture that is still being made; it is complete when its rows are finished.
 struct PictureInMaking {
     std::shared_ptr<const toolkit::Bitmap> picture;
     RowWork rows;
@@ -35,7 +35,7 @@ struct PictureInMaking {
     }
 };
 
-/// One that was begun before it is asked for.
+/// A picture that was begun before it was asked for.
 struct PictureAhead {
     ScaleRequest request;
     PictureInMaking making;

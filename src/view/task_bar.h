@@ -7,7 +7,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// In logical screen pixels; zero at 0, 0 where there is none.
+/// In logical screen pixels; all zero where there is none.
 toolkit::TaskBar GetTaskBarSize(Zevlin& form);
 
 } // namespace zev

@@ -32,7 +32,7 @@ void checkSize(Zevlin& form, Item chosen) {
     form.mNormalTextFont.Checked = normal;
 }
 
-/// The sizes are worked out anew with everything that depends on them.
+/// A rebuild works out the sizes with everything that depends on them. The changed flag stays.
 void rebuildKeepingChanges(Zevlin& form) {
     const bool changed = form.CardModified;
     form.P1.Visible = false;
@@ -41,7 +41,8 @@ void rebuildKeepingChanges(Zevlin& form) {
     if (changed) SetMod(form);
 }
 
-/// Unsaved design goes through the rebuild as the layout that is read anew. True in design mode.
+/// Leaves design mode, if it is on. A check-point of the layout carries unsaved design through the
+/// rebuild. Returns whether the mode was on.
 bool setDesignAside(Zevlin& form) {
     if (!form.MShowShapes.Checked) return false;
     CheckPointShapes(form);
@@ -66,7 +67,7 @@ void chooseSize(Zevlin& form, const char* name, Item chosen) {
     if (designing) bringDesignBack(form);
 }
 
-/// The symbols lie where the text's width puts them.
+/// Places the symbols again, since they depend on the text's width.
 void layOutAnew(Zevlin& form, int index) {
     form.AText[index].Caption = form.AText[index].Tag;
     SetSym(form, index);

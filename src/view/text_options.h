@@ -1,4 +1,4 @@
-// Options that dress all texts or marks of the card at once.
+// Options for the look of all texts or marks of the card at once.
 #pragma once
 
 namespace zev {
@@ -14,7 +14,7 @@ void mBigTextFont_Click(Zevlin& form);
 /// All texts bold, on every card from now on.
 void mBold_Click(Zevlin& form);
 
-/// All texts of the card at hand to the left, or all centred again.
+/// All texts of the present card to the left, or all centred again.
 void mLeftJustify_Click(Zevlin& form);
 
 /// Solid squares in place of checkmarks.

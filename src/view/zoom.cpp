@@ -13,7 +13,8 @@ namespace {
 
 using FindStep = std::optional<std::int16_t> (*)(const ZoomLadder&, std::int16_t);
 
-/// A fit ends on the ladder: on the step from which one more in the wanted direction passes it.
+/// Ends a fit on the step of the ladder beside it, from which one more step in the wanted direction
+/// passes the fit.
 void leaveFit(Zevlin& form, FindStep findStep) {
     if (form.ZoomTable[0] == 0) return;
     if (const auto step = findStep(form.ZoomTable, form.ZoomLevels)) form.ZoomLevel = *step;

@@ -7,7 +7,7 @@
 
 namespace zev {
 
-/// Cell 0 is the fit scale, 0 for none; the steps rise from cell 1 on.
+/// Cell 0 is the scale of a fit, 0 without one; the steps rise from cell 1 on.
 using ZoomLadder = std::array<float, 12>;
 
 /// The highest step from `highest` down that is smaller than the fit; none if all are larger.

@@ -6,7 +6,7 @@
 
 namespace zev {
 
-/// Zooming for as long as it lives.
+/// Sets Zooming for as long as it lives.
 class ZoomFlag {
   public:
     explicit ZoomFlag(Zevlin& form) : form_(form) { form_.Zooming = true; }
@@ -18,8 +18,8 @@ class ZoomFlag {
     Zevlin& form_;
 };
 
-/// Does `body` as a zoom: the open editor is committed first, and what it reaches can tell it from
-/// the player's own doing.
+/// Does `body` as a zoom: the open editor is committed first, and Zooming tells what runs meanwhile
+/// that it isn't a command of the player's.
 template <typename Body>
 void runZoom(Zevlin& form, Body body) {
     const ZoomFlag zooming(form);
