@@ -84,7 +84,7 @@ void dressNewText(Zevlin& form, toolkit::Label& text, int index) {
                  .Italic = false};
     text.ForeColor = chosenColor(form);
     store(form.TextColors, index, text.ForeColor);
-    // A yellow bar for as long as its width is being chosen.
+    // A yellow bar while its width is being chosen.
     text.BackStyle = toolkit::BackStyle::Opaque;
     text.BackColor = toolkit::qbColor(palette::yellow);
     text.Caption = newTextHead(index) + widthPattern("| ");

@@ -18,7 +18,7 @@ struct Zevlin;
 /// The colours of all fields of the kind, by field number.
 [[nodiscard]] std::vector<toolkit::Color>& colorsOf(Zevlin& form, FieldKind kind);
 
-/// The unit 256 times, without its last blank: fills the widest field, so that its width is seen.
+/// The unit 256 times, without its last blank: it fills the widest field and so shows its width.
 [[nodiscard]] std::string widthPattern(std::string unit);
 
 /// Shows the field's number, place and size on the menu bar.

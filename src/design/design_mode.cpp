@@ -24,7 +24,7 @@ namespace {
 
 using Item = toolkit::MenuItem Zevlin::*;
 
-/// Commands on a card, of which there is none to work on.
+/// Commands on a card. In design mode there is none.
 constexpr std::array<Item, 8> cardItems{&Zevlin::MNew,          &Zevlin::MOpen,      &Zevlin::MSave,
                                         &Zevlin::MSaveAs,       &Zevlin::MPartnerID, &Zevlin::MMyID,
                                         &Zevlin::MPrintPartner, &Zevlin::MPrintBoth};
@@ -38,7 +38,7 @@ void enable(Zevlin& form, const std::array<Item, Count>& items, bool enabled) {
     for (const Item item : items) (form.*item).Enabled = enabled;
 }
 
-/// Where the card lies, put back at the end: a new card is moved to the corner.
+/// Remembers where the card lies, since MNew_Click moves it to the corner.
 class KeptPlace {
   public:
     explicit KeptPlace(Zevlin& form) : form_(form), left_(form.P1.Left), top_(form.P1.Top) {}
@@ -56,9 +56,10 @@ void checkScheme(Zevlin& form, int index) {
     SetGlobalColors(form);
 }
 
-/// True unless the player would rather keep the card as it is.
+/// Offers to save a changed card, and gives it up. False if the player would rather keep it as it
+/// is.
 bool letsGoOfCard(Zevlin& form) {
-    // A print job comes by here with its own copy of the card and must not ask.
+    // A print job also gets here, with its own copy of the card, and must not ask.
     if (!form.CardModified || form.Printing) return true;
     const auto answer = toolkit::show({.text = "Do you want to save your card first?",
                                        .buttons = toolkit::Buttons::YesNoCancel,
@@ -68,7 +69,7 @@ bool letsGoOfCard(Zevlin& form) {
     if (answer == toolkit::Answer::Cancel) return false;
     if (answer == toolkit::Answer::Yes) {
         MSave_Click(form);
-        // Still changed: the naming of an unnamed card was cancelled.
+        // Still changed if the player cancelled the question for a name.
         return !form.CardModified;
     }
     ResetMod(form);
@@ -80,7 +81,7 @@ bool letsGoOfCard(Zevlin& form) {
 
 void showAllFields(Zevlin& form) {
     forEachField(form.AMark, [&](int i) { form.AMark[i].Visible = true; });
-    // Symbols belong to a text that isn't shown any more.
+    // The symbols belong to texts that aren't shown any more.
     unloadSymbols(form);
     forEachField(form.AText, [&](int i) {
         form.AText[i].Caption = "[ " + toolkit::numberText(i) + " " + widthPattern("] ");
@@ -101,21 +102,21 @@ void switchMode(Zevlin& form, bool designing) {
     form.MShowShapes.Checked = designing;
     enable(form, designItems, designing);
     enable(form, cardItems, !designing);
-    // The scheme that was left behind comes back: another one chosen meanwhile would be lost.
+    // The scheme of before comes back afterwards: one chosen meanwhile would be lost.
     for (auto& scheme : form.mcolorscheme) scheme.Enabled = !designing;
     form.TabRecordPrev = 0;
-    // SPACE would hide a field for as long as the mode lasts.
+    // SPACE would hide a mark until the mode ends.
     form.TabActive = false;
     form.FieldHeld = false;
-    // What can be taken back is what was done since.
+    // Only what is done from now on can be undone.
     form.UndoIndex = 0;
     keepAddedField(form);
     form.MCoord.Visible = designing;
     form.MCoord.Caption.clear();
 }
 
-/// Where the card has the focus nothing is open, and whoever only comes back to design mode must
-/// not show the blank card in between.
+/// Does nothing where the card has the focus: no field is open then, and a return to design mode
+/// after a rebuild must not show the blank card in between.
 void commitEdit(Zevlin& form) {
     if (form.ActiveControl == &form.P1) return;
     form.SetFocus(form.P1);
@@ -134,7 +135,7 @@ void enterDesign(Zevlin& form) {
     place.putBack();
 }
 
-/// What was designed stays in the controls until they are built anew.
+/// The design stays in the controls until they are built anew.
 void leaveDesign(Zevlin& form) {
     const KeptPlace place(form);
     switchMode(form, false);

@@ -33,7 +33,8 @@ void takeHold(Zevlin& form, DesignField field, const toolkit::MouseArguments& mo
     form.P1Stack.bringToFront(label);
 }
 
-/// X and Y are measured from the field, which moves along: the grab point stays under the pointer.
+/// X and Y count from the field, which has moved with the pointer: so the point that was grabbed
+/// stays under it.
 void drag(Zevlin& form, DesignField field, const toolkit::MouseArguments& mouse) {
     toolkit::Label& label = labelOf(form, field);
     const float left = form.DragLeft + mouse.X - form.LastX;
@@ -46,7 +47,7 @@ void drag(Zevlin& form, DesignField field, const toolkit::MouseArguments& mouse)
     showReadOut(form, field);
 }
 
-/// False where the step would leave no width: a field without one couldn't be taken hold of again.
+/// False where the step would leave no width: the field couldn't be grabbed any more.
 bool widen(Zevlin& form, DesignField field, float step) {
     toolkit::Label& label = labelOf(form, field);
     if (step == 0) return true;
@@ -86,7 +87,7 @@ void letGo(Zevlin& form) {
 void pressField(Zevlin& form, DesignField field, toolkit::MouseArguments& mouse) {
     takeHold(form, field, mouse);
     const int button = mouse.Button;
-    // Nothing else may come of the press.
+    // The press must have no other effect.
     mouse.Button = mouse.Shift = 0;
     form.LastButton = 0;
     form.FieldHeld = button == toolkit::button::left;

@@ -12,7 +12,7 @@
 namespace zev {
 namespace {
 
-/// The colours of the menu's rows, from 1.
+/// The colours of the menu's rows, indexed from 1.
 std::array<toolkit::Color, 4> menuColors(const Zevlin& form) {
     return {0, form.ColorBlack, form.ColorRed, form.ColorBlue};
 }

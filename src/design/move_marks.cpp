@@ -29,7 +29,7 @@ void moveLabel(toolkit::Label& label, const Step& step) {
     }
 }
 
-/// The character that a mark is drawn with is all that tells its kind; 0 for none.
+/// The character that a mark is drawn with, which alone tells its kind; 0 for none.
 char symbolOf(const toolkit::Label& mark) {
     return mark.Caption.size() == 1 ? mark.Caption.front() : '\0';
 }

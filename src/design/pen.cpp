@@ -20,7 +20,7 @@ void choose(Zevlin& form, std::string_view name, const Group& group, std::size_t
     for (std::size_t i = 0; i < group.size(); ++i) group[i]->Checked = i == chosen;
 }
 
-/// Taking back what was added goes by the checked shape, so a new one gives it up.
+/// An undo removes the last field of the checked shape, so it ends when another shape is chosen.
 void chooseShape(Zevlin& form, std::string_view name, std::size_t chosen) {
     choose(form, name, shapes(form), chosen);
     form.UndoIndex = 0;

@@ -25,8 +25,8 @@ void unloadLastText(Zevlin& form) {
     if (form.TIndex > last) form.TIndex = 0;
 }
 
-/// The last of its kind, where that was added. A field of the layout never goes: card files know
-/// the others by their numbers.
+/// Removes the last field of the checked shape, if it was added. A field of the layout is never
+/// removed: card files know the others by their numbers.
 void unloadLast(Zevlin& form) {
     form.UndoIndex = 0;
     const DesignField last = form.MText.Checked ? DesignField{FieldKind::Text, form.AText.UBound()}

@@ -5,7 +5,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// Fills the list anew. Called at start-up, and again when the data folder has been made.
+/// Fills the list anew. Called at start-up, and again once the data folder has been made.
 void HelpCreate(Zevlin& form);
 
 /// Sizes the list to its text, lays it over the card and gives it the focus.
