@@ -13,7 +13,7 @@ namespace {
 constexpr int columnsTested = 200; ///< pixels
 constexpr int columnStep = 5;
 
-/// None outside; without a picture the box shows its back colour.
+/// None outside the box. Without a picture the box shows its back colour.
 std::optional<toolkit::Color> colorAt(const toolkit::PictureBox& picture, int x, int y) {
     if (picture.Picture) return picture.Picture->pixel(x, y);
     const bool isInside =
@@ -21,7 +21,7 @@ std::optional<toolkit::Color> colorAt(const toolkit::PictureBox& picture, int x,
     return isInside ? std::optional(picture.BackColor) : std::nullopt;
 }
 
-/// The rows are bounded by the width: deliberately, a card is about as wide as high.
+/// Tests as many rows as the width has pixels: a card is about as wide as high.
 std::string_view verdict(const toolkit::PictureBox& picture) {
     const int rows = toolkit::pixelsFromTwips(picture.Width);
     for (int x = 0; x <= columnsTested; x += columnStep) {

@@ -68,7 +68,7 @@ int statusOf(const toolkit::RunTimeError& failure) {
     }
 }
 
-/// Behind the last "." of the name, which is what stands behind the last separator.
+/// What follows the last "." of the file's name.
 std::string extensionOf(const std::filesystem::path& file) {
     const std::string name = toolkit::displayText(file.filename());
     const std::size_t dot = name.rfind('.');

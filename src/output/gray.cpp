@@ -8,7 +8,7 @@ namespace {
 
 using Levels = std::array<std::uint32_t, 256>;
 
-/// The grey pixel for each luminance.
+/// The grey pixel for each luminance, lightened.
 Levels lightenedLevels() {
     constexpr double gamma = 3.2767;
     Levels levels{};

@@ -11,7 +11,7 @@ std::string offeredImageName(std::string_view cardName, std::string_view extensi
 
 std::optional<std::string> imageFileName(std::string_view answer, std::string_view extension) {
     std::string_view path = toolkit::trim(answer);
-    // Dots of folders are none of the name's.
+    // Dots in the names of folders don't count.
     const std::size_t separator = path.find_last_of("/\\");
     const std::size_t start = separator == std::string_view::npos ? 0 : separator + 1;
     std::string_view name = path.substr(start);

@@ -5,7 +5,7 @@
 namespace zev {
 namespace {
 
-/// The doubled ampersand shows as one.
+/// Joins two names; the doubled ampersand shows as one.
 std::string joined(std::string_view first, std::string_view second) {
     std::string text(first);
     if (!second.empty()) text.append(" && ").append(second);

@@ -14,8 +14,8 @@ struct PartnerLine {
     std::string_view caption{}; ///< of the card as it is
 };
 
-/// The partner's name first, or the card's where the partner has none; the caption as it is where
-/// neither has one.
+/// The line with the partner's name first, or the card's name where the partner has none; the
+/// present caption where neither has one.
 [[nodiscard]] std::string partnerCaption(const PartnerLine& line);
 
 } // namespace zev

@@ -30,7 +30,7 @@ namespace {
 constexpr std::string_view trapHead = "Error in mPrint: ";
 constexpr int monochromeDepth = 8;
 
-/// What the player sees and gets back.
+/// What a job changes of the view, to be put back afterwards.
 struct View {
     float fitScale = 0;
     std::int16_t zoomLevel = 0;
@@ -77,7 +77,7 @@ void beginJob(Zevlin& form) {
     TestBlankPage(form, "mPrint_Click before flatten for P1", form.P1);
 }
 
-/// The player goes on seeing the card as it is now.
+/// The player keeps seeing the card as it is now.
 void freezeScreen(Zevlin& form) {
     toolkit::doEvents();
     toolkit::flatten(form.P1);
@@ -145,15 +145,17 @@ void putViewBack(Zevlin& form, const View& view) {
     form.HasJobView = false;
 }
 
-/// A fit that came out otherwise has given the card and its fields another size.
+/// The rebuild may have given the card another size, if a fit came out differently: it returns to
+/// where it was.
 void putCardBack(Zevlin& form) { form.P1.Move(form.P2.Left, form.P2.Top); }
 
-/// Whatever happened, the card comes back: no step hinders the next.
+/// Whatever happened, the card comes back: a step that fails doesn't keep the next from running.
 void restore(Zevlin& form, const View& view) {
     const auto step = [&form](auto body) { trapped(form, trapHead, body); };
     const bool wasFrozen = form.P2.Visible;
     step([&] {
-        // The picture has the fields burnt in, so it is drawn anew even if the scale is the same.
+        // The fields are painted into the picture, so it is drawn anew even if the scale is the
+        // same.
         RestoreBackgroundPicture(form, Rescale::Always);
     });
     putViewBack(form, view);

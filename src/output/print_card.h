@@ -5,9 +5,9 @@ namespace zev {
 
 struct Zevlin;
 
-/// Makes the card anew at full size behind a frozen screen, hands it to the printer, the image file
-/// or the clipboard (the output items' checks tell which), and puts everything back, also after a
-/// failure. While it runs, every output command returns at once.
+/// Makes the card anew at full size while the screen shows a frozen copy, hands it to the printer,
+/// the image file or the clipboard (the checked menu items tell which), and puts everything back,
+/// also after a failure. While it runs, every output command returns at once.
 void MPrint_Click(Zevlin& form);
 
 } // namespace zev

@@ -5,10 +5,11 @@ namespace zev {
 
 struct Zevlin;
 
-/// Both methods from now on: the primary one, or the one for printers that it leaves blank.
+/// Changes between the two ways of printing: the primary one, and the one for printers on which
+/// that prints a blank page.
 void mPrintAlt_Click(Zevlin& form);
 
-/// Colour and black exclude each other; with neither the printer's depth decides.
+/// Colour and black exclude each other; with neither, the printer's colour depth decides.
 void MColor_Click(Zevlin& form);
 void MMono_Click(Zevlin& form);
 

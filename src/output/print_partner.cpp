@@ -15,7 +15,7 @@
 namespace zev {
 namespace {
 
-/// From the raw text: fitted, with its symbols.
+/// Shows a raw text as the names line, fitted and with its symbols.
 void setNamesLine(Zevlin& form, const std::string& text) {
     form.AText[form.NamesField].Caption = text;
     FitText(form, form.CText, form.NamesField);
@@ -33,10 +33,10 @@ std::string lineForPartner(const Zevlin& form, const std::string& ownLine) {
 }
 
 void printPartner(Zevlin& form) {
-    // An edit of the names line is part of the card and would cover what is printed.
+    // An open edit of the names line is part of the card, and its box would cover what is printed.
     commitOpenField(form);
     if (form.NamesField == 0) return MPrint_Click(form);
-    // The line that is lent to the partner isn't the card's.
+    // The journal must not keep the partner's line as the card's.
     flushJournal(form);
     form.Journal.isHeld = true;
     const toolkit::Label kept = form.AText[form.NamesField];

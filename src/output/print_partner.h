@@ -5,7 +5,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// The card with the partner's name first in its names line, which is put back afterwards.
+/// Prints the card with the partner's name first in its names line, and puts the line back.
 void MPrintPartner_Click(Zevlin& form);
 
 /// The player's card, then the partner's.

@@ -21,7 +21,7 @@
 namespace zev {
 namespace {
 
-constexpr float resting = 500; ///< twips, size of the export's box while nothing is exported
+constexpr float resting = 500; ///< twips; size of the box for exports while nothing is exported
 
 void traceAt(Zevlin& form, int step, const toolkit::RunTimeError& failure) {
     traceFailure(form, "Error in PrintPictureBox at step " + toolkit::numberText(step) + ": ",
@@ -37,7 +37,7 @@ void tellFailure(Zevlin& form, int step) {
                   toolkit::Icon::Exclamation);
 }
 
-/// One run; its steps are numbered for the trace of a failure.
+/// One delivery of a picture. Its steps have numbers for the trace of a failure.
 class PictureDelivery {
   public:
     PictureDelivery(Zevlin& form, toolkit::PictureBox& picture, const PagePlace& place)
@@ -57,7 +57,7 @@ class PictureDelivery {
     }
 
   private:
-    /// A failure is told, and the run goes on behind the step.
+    /// A failure is told, and the delivery goes on after the step.
     template <typename Body>
     void runStep(int step, Body body) {
         try {
@@ -130,7 +130,7 @@ class PictureDelivery {
         return true;
     }
 
-    /// Places in twips, as the printer object takes them.
+    /// The printer object takes places in twips.
     void paintThroughPrinter() {
         const toolkit::Printer& printer = form_.CurrentPrinter;
         const auto across = [&](float twips) {
@@ -165,7 +165,7 @@ class PictureDelivery {
             SaveImageToDisk(form_, form_.PDisk);
     }
 
-    /// The picture and what it was drawn from.
+    /// Drops the picture and what it was drawn from.
     static void forget(toolkit::PictureBox& box) {
         box.Picture.reset();
         box.Sharp = {};

@@ -1,4 +1,4 @@
-// A picture box on its way to the page, the image file or the clipboard.
+// Delivering a picture box to the page, an image file or the clipboard.
 #pragma once
 
 namespace toolkit {
@@ -9,7 +9,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// Place on the page: for the primary method printer pixels, for the other twips.
+/// Place on the page: printer pixels for the primary method, twips for the alternate one.
 struct PagePlace {
     float x = 0;
     float y = 0;

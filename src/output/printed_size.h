@@ -1,13 +1,13 @@
-// How large a card stands on the page, whatever the zoom on the screen.
+// How large a card is printed, whatever the zoom on the screen.
 #pragma once
 
 namespace zev {
 
 /// No card is printed wider.
 constexpr float widestCardInches = 8.1F;
-/// A page this narrow or narrower is one whose size couldn't be learned.
+/// A page this narrow or narrower counts as one of unknown size.
 constexpr float unknownPageInches = 2.0F;
-/// Below it the player is asked.
+/// On a narrower page the player is asked first.
 constexpr float narrowPageInches = 8.0F;
 
 /// The printable part of a page.

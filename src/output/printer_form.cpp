@@ -16,7 +16,7 @@ bool isChosen(const std::vector<int>& codes, int row) {
     return row >= 0 && static_cast<std::size_t>(row) < codes.size();
 }
 
-/// Fills a list with names and their codes; the row of the code given is chosen.
+/// Fills a list with names and their codes, and selects the row of the code given.
 template <typename Item>
 void fill(toolkit::ComboBox& box, std::vector<int>& codes, const std::vector<Item>& items,
           int chosen) {
@@ -33,7 +33,7 @@ void fill(toolkit::ComboBox& box, std::vector<int>& codes, const std::vector<Ite
     box.ListIndex = 0;
 }
 
-/// The lists take no text: what is typed and the arrows do nothing.
+/// Nothing can be typed into the list, and the arrows do nothing in it.
 void makeListOnly(toolkit::ComboBox& box) {
     box.KeyDown = [](toolkit::KeyArguments& key) { key.KeyCode = 0; };
     box.KeyPress = [](int& key) { key = 0; };

@@ -12,7 +12,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// Works on the printer object itself: it is the one chosen in the list also after Cancel.
+/// Works on the printer object itself, which remains the one chosen in the list even after Cancel.
 struct frmPrint {
     explicit frmPrint(toolkit::Printer& printerObject);
     frmPrint(const frmPrint&) = delete;
@@ -26,8 +26,8 @@ struct frmPrint {
     std::array<toolkit::OptionButton, 2> rbOrientation; ///< landscape, portrait
     toolkit::CommandButton cmdOK;
     toolkit::CommandButton cmdCancel;
-    std::vector<int> paperCodes; ///< of the rows of cbSize
-    std::vector<int> binCodes;   ///< of the rows of cbSource
+    std::vector<int> paperCodes; ///< for each row of cbSize
+    std::vector<int> binCodes;   ///< for each row of cbSource
 };
 
 void Form_Load(frmPrint& form);

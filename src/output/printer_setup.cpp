@@ -38,8 +38,9 @@ void hideWaitText(Zevlin& form) {
     toolkit::doEvents();
 }
 
-/// The system's dialog may change the default printer. What another program changes meanwhile is
-/// none of ours, so only the name before such a change is kept.
+/// The system's dialog may change the default printer, which is put back at the program's end. What
+/// another program changes at other times isn't: so the name is kept only if the dialog has changed
+/// it.
 std::optional<toolkit::Printer> askForPrinter(Zevlin& form) {
     const std::string before = toolkit::defaultPrinterName();
     auto chosen = toolkit::setUpOnScreen(form.CurrentPrinter);

@@ -1,4 +1,4 @@
-// An exported picture on its way to its file.
+// Writing an exported picture to its file.
 #pragma once
 
 namespace toolkit {
