@@ -38,13 +38,14 @@ void pressCard(Zevlin& form, const toolkit::MouseArguments& mouse) {
         Traceit(form,
                 "  P1_MouseDown Amark(" + numberText(*hit) + ") at " + placeText(form.AMark[*hit]));
     }
-    // Nothing to set here: the card is about to be dragged.
+    // There is no mark to set here: the card is about to be dragged.
     if (!form.MarkHitPending) form.P1.MousePointer = toolkit::MousePointer::Hand;
 }
 
 void moveCard(Zevlin& form, const toolkit::MouseArguments& mouse) {
     form.P1.MousePointer = toolkit::MousePointer::Hand;
-    // X is measured from the card, which moves along: the grab point stays under the pointer.
+    // X and Y count from the card, which has moved with the pointer: so the point that was grabbed
+    // stays under it.
     form.P1.Move(form.P1.Left + mouse.X - form.LastX, form.P1.Top + mouse.Y - form.LastY);
 }
 

@@ -26,7 +26,7 @@ struct FieldClick {
     float y = 0;
 };
 
-/// OpeningField for as long as a field is being opened, also when that fails.
+/// Sets OpeningField while a field is being opened, also when that fails.
 class OpeningGuard {
   public:
     explicit OpeningGuard(Zevlin& form) : form_(form) { form.OpeningField = true; }
@@ -73,7 +73,7 @@ toolkit::TextBox& showBox(Zevlin& form, int index) {
     return box;
 }
 
-/// What was typed so far stays in the box, and so does the way back.
+/// Shows the box again. What was typed so far stays in it, and can still be undone.
 toolkit::TextBox& showOpenBox(Zevlin& form, int index) {
     const std::string typed = form.LText.Visible ? form.LText.Text : form.CText.Text;
     const bool undo = form.mpopUndo.Enabled;
@@ -83,7 +83,7 @@ toolkit::TextBox& showOpenBox(Zevlin& form, int index) {
     return box;
 }
 
-/// With the caret where it was clicked: a pop-up that opens at once pastes there.
+/// Opens the field with the caret at the click, because a paste from the pop-up menu goes there.
 toolkit::TextBox& showClosedField(Zevlin& form, int index, float x) {
     commitFormerField(form);
     takeOpeningState(form, index);
@@ -92,7 +92,7 @@ toolkit::TextBox& showClosedField(Zevlin& form, int index, float x) {
     return box;
 }
 
-/// A right click opens the pop-up menu at once.
+/// Passes the press on to the box: a right click opens the pop-up menu at once.
 void passPress(toolkit::TextBox& box, const FieldClick& click) {
     if (click.index == 0 || !box.MouseDown) return;
     toolkit::MouseArguments press{.Button = click.button, .Shift = 0, .X = click.x, .Y = click.y};
@@ -105,13 +105,14 @@ void openField(Zevlin& form, int index, const FieldClick& click) {
     // The pop-up may have changed the alignment, and with it the box.
     toolkit::TextBox& box = form.LText.Visible ? form.LText : form.CText;
     PositionTextCursor(form, box, click.x);
-    // A centred text that is longer than its field begins left of it.
+    // Without a click the caret goes to the beginning: a centred text that is too long begins left
+    // of its field.
     if (click.index == 0) box.SelStart = 0;
     box.Height = form.AText[index].Height - boxLower * static_cast<float>(form.TwipsPerPixel);
 }
 
-/// The click is over with this, whatever comes of it: a field that is reached by key later must not
-/// find it.
+/// The click on this field, if there was one. It is used up, so that a field that is reached by key
+/// later doesn't find it.
 FieldClick takeClick(Zevlin& form, int index) {
     const int pressed = std::exchange(form.ClickIndex, std::int16_t{0});
     if (pressed != index) return {};

@@ -41,7 +41,7 @@ void highlightByKey(Zevlin& form, int& KeyAscii) {
     form.SetFocus(form.P1);
 }
 
-/// Key and menu are one path; the box itself does nothing more.
+/// The key does what the menu command does, and nothing in the box itself.
 void clipByKey(Zevlin& form, int& KeyAscii, void (*procedure)(Zevlin&)) {
     KeyAscii = 0;
     procedure(form);
@@ -72,7 +72,7 @@ void actOnKey(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
     }
 }
 
-/// F5 to F8 put a suit in front of the selection.
+/// F5 to F8 insert a suit before the selection.
 void insertSuit(toolkit::TextBox& box, int keyCode) {
     if (keyCode < toolkit::key::f5 || keyCode > toolkit::key::f8) return;
     const auto letter = suitLetters[static_cast<std::size_t>(keyCode - toolkit::key::f5)];
@@ -86,7 +86,7 @@ std::string mouseDetails(const Zevlin& form, const toolkit::MouseArguments& mous
            " Y=" + toolkit::numberText(mouse.Y);
 }
 
-/// The box that fits the field's alignment now comes back with its caret.
+/// Shows the box for the field's present alignment again, with its caret.
 void reopenBox(Zevlin& form, int caret) {
     if (form.TIndex <= 0) return;
     const bool centered = form.AText[form.TIndex].Alignment == toolkit::Alignment::Center;
@@ -107,11 +107,11 @@ void openPopup(Zevlin& form, toolkit::TextBox& box, const toolkit::MouseArgument
     toolkit::MouseArguments press = mouse;
     press.Shift = 0;
     xText_MouseDown(form, box, press);
-    // What was pasted stands before the caret.
+    // After a paste the caret stays behind what was pasted.
     reopenBox(form, box.Text == text ? caret : box.SelStart);
 }
 
-/// A menu command and its key are one path.
+/// A menu command does what its key does.
 void pressKey(Zevlin& form, std::string_view name, int key) {
     procedure(form, name, [&] {
         if (!isEditing(form)) return;
@@ -144,7 +144,7 @@ void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key
             key.KeyCode = 0;
             return;
         }
-        // Where a held key is released over and over, the first release counts.
+        // Some systems send releases while a key is held: only the first one counts.
         if (!toolkit::isKeyRepeat()) insertSuit(box, key.KeyCode);
         takeOverTyping(form, box);
     });

@@ -23,7 +23,7 @@ void xText_KeyPress(Zevlin& form, toolkit::TextBox& box, int& KeyAscii);
 void xText_KeyUp(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key);
 void xText_MouseDown(Zevlin& form, toolkit::TextBox& box, toolkit::MouseArguments& mouse);
 
-// The boxes' own events trace their names and pass on.
+// The boxes' own events trace their names and call what both boxes share.
 void CText_GotFocus(Zevlin& form);
 void CText_KeyDown(Zevlin& form, toolkit::KeyArguments& key);
 void CText_KeyPress(Zevlin& form, int& KeyAscii);
@@ -35,7 +35,7 @@ void Ltext_KeyPress(Zevlin& form, int& KeyAscii);
 void Ltext_KeyUp(Zevlin& form, toolkit::KeyArguments& key);
 void Ltext_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
 
-// The pop-up menu: what has a key, too, goes by the path of its key.
+// The pop-up menu. A command that has a key does what the key does.
 void mpopUndo_Click(Zevlin& form);
 void mpopBold_Click(Zevlin& form);
 void mpopItalic_Click(Zevlin& form);

@@ -26,7 +26,7 @@ void flashText(Zevlin& form, int item) {
     form.TabActive = false;
 }
 
-/// Twice inverted the mark is as it was.
+/// Inverted twice, the mark is as it was.
 void blinkMark(Zevlin& form, int index) {
     for (int turn = 0; turn < 2; ++turn) {
         if (!form.AMark.exists(index)) return;

@@ -50,8 +50,8 @@ void traceKeys(Zevlin& form, toolkit::KeyArguments& key) {
     }
 }
 
-/// A text that is being edited has the key for itself, whatever the menu would do at it. The other
-/// shortcuts of the menu mean nothing to a text. True if it was the key.
+/// Ctrl+A in an open text selects all of it and not what the menu has under that key. The menu's
+/// other shortcuts mean nothing in a text. True if it was this key.
 bool selectAllByKey(Zevlin& form, const toolkit::KeyArguments& key) {
     if (key.KeyCode != 'A' || key.Shift != toolkit::shift::ctrl) return false;
     toolkit::TextBox& box = form.LText.Visible ? form.LText : form.CText;
@@ -66,7 +66,7 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
     form.CursorPos = toolkit::cursorPosition();
     traceKeys(form, key);
     if (key.KeyCode == 0 && key.Shift == 0) return;
-    // What lies over the card has keys of its own.
+    // What lies over the card handles its keys itself.
     if (form.BOK.Visible || form.THelp.Visible || form.ColorPic.Visible) return;
     if (key.KeyCode == toolkit::key::f1) {
         consume(key);
@@ -76,12 +76,13 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
     }
 }
 
-/// The zoom keys with Ctrl alone; held down they go on along the ladder. True if it was one.
+/// The zoom keys, with Ctrl alone. Held down they walk on along the ladder. True if it was one of
+/// them.
 bool zoomByKey(Zevlin& form, const toolkit::KeyArguments& key) {
     if (key.Shift != toolkit::shift::ctrl) return false;
     switch (key.KeyCode) {
     case toolkit::key::digit0:
-        // Always on, whatever it was: leaving a fit is for the other two.
+        // This key always ends in a fit; the other two leave one.
         form.MFitScreenWidth.Checked = false;
         MFitScreenWidth_Click(form);
         return true;
@@ -98,7 +99,7 @@ bool zoomByKey(Zevlin& form, const toolkit::KeyArguments& key) {
     }
 }
 
-/// Arrows with any modifier, in design mode. True if it was one.
+/// Arrows with any modifier, in design mode. True if it was one of them.
 bool moveMarksByKey(Zevlin& form, const toolkit::KeyArguments& key) {
     if (key.Shift == 0 || !form.MShowShapes.Checked) return false;
     switch (key.KeyCode) {

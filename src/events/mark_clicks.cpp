@@ -41,7 +41,7 @@ int fieldOf(const Zevlin& form, int symbol) {
 
 void AMark_MouseDown(Zevlin& form, int index, toolkit::MouseArguments& mouse) {
     procedure(form, "AMark_MouseDown", numberText(mouse.Button), [&] {
-        // The mark may be gone: the press went to it by number.
+        // The press names a number whose mark may be gone: that is failure 340.
         static_cast<void>(form.AMark[index]);
         form.LastButton = static_cast<std::int16_t>(mouse.Button);
         form.FieldHeld = false;

@@ -1,4 +1,4 @@
-// Clicks on set marks and on suit symbols, and the keyboard's rest on a mark.
+// Clicks on set marks and on suit symbols, and the mark on which the TAB walk has stopped.
 #pragma once
 
 #include <string>

@@ -20,7 +20,7 @@ namespace {
 
 using toolkit::numberText;
 
-/// Pixels of travel that end the keyboard's rest on a mark.
+/// From so many pixels of travel on, the cursor counts as moved away from the mark of the walk.
 constexpr int cursorTravel = 5;
 
 bool cursorIsStill(Zevlin& form) {
@@ -42,8 +42,8 @@ bool isHole(const Zevlin& form, int item) {
     return fields.exists(index) && !isField(fields[index]);
 }
 
-/// The next item in one direction, past holes; 0 where the walk ends. A sequence of holes alone
-/// may go round.
+/// The next item in one direction, past holes; 0 where the walk ends. The count of turns ends a
+/// circle of holes alone.
 template <typename Step>
 int nextItem(const Zevlin& form, int from, Step step) {
     int item = step(from);
@@ -56,7 +56,8 @@ int nextItem(const Zevlin& form, int from, Step step) {
 
 int itemAfter(const Zevlin& form, int from) {
     return nextItem(form, from, [&](int item) {
-        // A hole may lie beyond the table; where the walk starts it is a failure.
+        // The walk may have reached a hole beyond the table, where it ends. If it starts there,
+        // that is failure 9.
         const bool ends = item != from && item > form.TabTable.UBound();
         return ends ? 0 : int{form.TabTable[item]};
     });
