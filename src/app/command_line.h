@@ -6,8 +6,8 @@
 
 namespace zev {
 
-/// Of a command line in UTF-8 the text behind the last "\" or "/", cut at its first "."; quotes
-/// aren't treated. Empty where the code page can't hold it, since no card can have that name.
+/// The text after the last "\" or "/" of a command line in UTF-8, cut at its first "."; quotes have
+/// no meaning. Empty where Windows-1252 can't hold it, since no card can have that name.
 [[nodiscard]] std::string cardNameOf(std::string_view commandLine);
 
 } // namespace zev

@@ -25,7 +25,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A program folder that holds it is shared, by players or with a developer, and keeps its files.
+/// A program folder with this file is shared, by players or with a developer, and keeps its files.
 constexpr const char* sharedFile = "zevlin.frm";
 
 struct Move {
@@ -36,15 +36,15 @@ struct Move {
     bool isShared = false;
 };
 
-/// A folder of that name is no target: copying over it fails, and the player is told. What all
-/// players have in the program folder replaces nothing of this one's.
+/// Whether the file that is there stays. A folder of that name doesn't: copying over it fails, and
+/// the player is told. Files of a shared program folder replace nothing.
 bool hasGoodTarget(const Move& move) {
     if (!fs::is_regular_file(move.target)) return false;
     return move.isShared ||
            isGoodTarget(toolkit::fileTime(move.source), toolkit::fileTime(move.target));
 }
 
-/// Before an installed card replaces one of the player's, that one gets the next free number.
+/// Keeps the player's card under the next free number before an installed one replaces it.
 void keepReplacedCard(const Move& move) {
     if (!move.lowerCaseName.ends_with(cardExtension) || !fs::is_regular_file(move.target)) return;
     const std::string content = toolkit::readFile(move.target);
@@ -55,7 +55,7 @@ void keepReplacedCard(const Move& move) {
                                                    stem + " (" + toolkit::numberText(number) + ")" +
                                                        std::string(cardExtension));
         if (!fs::exists(kept)) return toolkit::copyNewFile(move.target, kept);
-        // Kept already, by a former first run.
+        // An earlier first run has kept it already.
         if (fs::is_regular_file(kept) && toolkit::readFile(kept) == content) return;
     }
 }
@@ -66,7 +66,7 @@ bool isVerified(const Move& move) {
            toolkit::fileLength(move.source) == toolkit::fileLength(move.target);
 }
 
-/// A file that turns up meanwhile is the player's, and stays.
+/// Copies, unless a file has turned up meanwhile: that is the player's and stays.
 void copyWhereNoneIs(const Move& move) {
     try {
         toolkit::copyNewFile(move.source, move.target);
@@ -88,7 +88,8 @@ void moveFile(const Move& move) {
     ignoringFailures([&] { toolkit::deleteFile(move.source); });
 }
 
-/// Whether both names lead to one folder: each file would then be its own verified copy.
+/// Whether both names lead to one folder. Each file would then count as its own copy, and be
+/// deleted.
 bool isSameFolder(const fs::path& left, const fs::path& right) {
     std::error_code ignored;
     return fs::equivalent(left, right, ignored);
@@ -119,7 +120,7 @@ void hideMenuItem(Zevlin& form) {
     form.mDocsFolder.Checked = true;
 }
 
-/// There is nothing left to click for.
+/// Shows the folder as plain text: a click has nothing left to do.
 void showNewFolder(Zevlin& form) {
     form.LPath.Caption = toolkit::captionFor(toolkit::displayText(currentFolder(form)));
     form.LPath.ForeColor = toolkit::black;

@@ -7,15 +7,16 @@ namespace zev {
 
 struct Zevlin;
 
-/// Of the data folder in the documents folder.
+/// The data folder's name in the documents folder.
 constexpr const char* dataFolderName = "ZEV";
 
 /// The shell folder with this identifier (5 is Documents), empty on a failure.
 [[nodiscard]] std::filesystem::path GetSpecialFolder(Zevlin& form, int identifier);
 
-/// Makes the data folder and moves the installation's files for the player into it: a newer file
-/// there is never replaced, a card of other content only after a copy of it, and where the program
-/// folder is shared nothing is; a source goes only after its copy was verified.
+/// Makes the data folder and moves the installed files that are the player's into it. A newer file
+/// there is never replaced, and a card of other content only after a copy of it was kept; where the
+/// program folder is shared, nothing is replaced. A source is deleted only after its copy was
+/// verified.
 void mDocsFolder_Click(Zevlin& form);
 
 } // namespace zev

@@ -1,4 +1,4 @@
-// Which installed files go to the player's data folder, and when a copy counts.
+// Which installed files go to the player's data folder, and which copies there stay.
 #pragma once
 
 #include <ctime>
@@ -9,7 +9,7 @@ namespace zev {
 /// Whether a file of the program folder belongs to the player; the name in lower case.
 [[nodiscard]] bool isPlayersFile(std::string_view lowerCaseName);
 
-/// A target stands unless it is older than the source by at least one second.
+/// Whether the target stays: it isn't older than the source by a second or more.
 [[nodiscard]] bool isGoodTarget(std::time_t source, std::time_t target);
 
 /// A readme stays where it was installed.

@@ -1,4 +1,4 @@
-// The line on the chooser that tells the data folder, and its pop-up.
+// The line on the chooser that shows the data folder, and its pop-up menu.
 #pragma once
 
 #include "toolkit/model/control.h"
@@ -7,11 +7,11 @@ namespace zev {
 
 struct Zevlin;
 
-/// The left button shows the folder in the desktop's file manager; the right one opens the pop-up
-/// while the folder can be changed.
+/// The left button shows the folder in the file manager; the right one opens the pop-up menu while
+/// the folder can still be changed.
 void LPath_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
 
-/// Says where the cards would go, just before the pop-up opens.
+/// Just before the pop-up menu opens: says where the cards would go.
 void mpopFolderMenu_Click(Zevlin& form);
 void mpopMoveCards_Click(Zevlin& form);
 void mpopLeaveCards_Click(Zevlin& form);

@@ -12,7 +12,7 @@
 namespace zev {
 namespace {
 
-/// A line higher than this part of the card comes from a font that can't be right.
+/// A font whose lines are higher than this part of the card is defective.
 constexpr float defectiveHeight = 0.05F;
 
 float smallTextPoints(const Zevlin& form) {
@@ -28,7 +28,7 @@ void setSizes(Zevlin& form) {
     form.MarkFontSize = {0, scale * 18, scale * 22, scale * 30};
 }
 
-/// Each size becomes the one that the font system really gives.
+/// Each size becomes the one that the font system gives for it.
 void snapSizes(Zevlin& form) {
     for (auto* sizes : {&form.TextFontSize, &form.MarkFontSize})
         for (std::size_t i = 1; i <= 3; ++i) (*sizes)[i] = toolkit::fontSizeGiven((*sizes)[i]);
@@ -41,7 +41,7 @@ bool isDefective(const Zevlin& form, const std::string& fontName) {
 
 void checkTextFont(Zevlin& form) {
     if (!isDefective(form, form.TextFontName)) return;
-    // Another size is no reason to take the program away from the card.
+    // While a card is open, the program must not end over another size.
     if (form.Carried)
         return Traceit(form, "Error in Initialize step 1100: the text font is defective");
     toolkit::tell("The text font (" + form.TextFontName +
@@ -54,7 +54,8 @@ void checkTextFont(Zevlin& form) {
 std::string narrowFontFound(const Zevlin& form) {
     if (toolkit::fontNameGiven(form.NarrowFontName) == form.NarrowFontName)
         return form.NarrowFontName;
-    // The fallback alone never satisfies the second test: the text font is what remains.
+    // True only where the fallback's name is the narrow font's: as a rule the text font is what
+    // remains.
     if (toolkit::fontNameGiven(form.FallbackFontName) == form.NarrowFontName)
         return form.FallbackFontName;
     return form.TextFontName;

@@ -6,7 +6,7 @@ namespace zev {
 struct Zevlin;
 struct InitializeRun;
 
-/// Sets the text and mark sizes and proves the fonts. A defective text font ends the program.
+/// Sets the sizes of texts and marks and checks the fonts. A defective text font ends the program.
 void checkFonts(Zevlin& form, InitializeRun& run);
 
 } // namespace zev

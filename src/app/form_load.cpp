@@ -50,7 +50,7 @@ constexpr int documentsFolderIdentifier = 5;
 struct LoadRun {
     int step = 0;
     bool showHelp = false;
-    std::optional<Rescue> rescue; ///< what the player wants back of an earlier run
+    std::optional<Rescue> rescue; ///< what the player wants back from an earlier run
 };
 
 /// True on a first run: the data folder had no options file yet.
@@ -65,7 +65,7 @@ bool findDataFolder(Zevlin& form) {
     return firstRun;
 }
 
-/// What comes before failures are told.
+/// The steps whose failures don't count.
 void prepare(Zevlin& form, LoadRun& run) {
     ignoringFailures(
         [&] { form.TwipsPerPixel = static_cast<std::int16_t>(toolkit::twipsPerPixel()); });
@@ -154,7 +154,7 @@ bool canBeOpened(const Zevlin& form) {
 void openNamedCard(Zevlin& form, std::string_view commandLine) {
     form.CardName = cardNameOf(commandLine);
     if (!canBeOpened(form)) {
-        // The blank card stays, and it has no name.
+        // The blank card stays, without a name.
         form.CardName.clear();
         return;
     }
@@ -230,7 +230,7 @@ std::string printerMissingText() {
     const auto stepText = toolkit::numberText(step);
     traceFailure(form, "Error in Form_Load ", failure,
                  ", at step " + stepText + ", hdc=" + toolkit::numberText(form.Myprinter.hdc));
-    // Without a printer whatever failed is taken for the missing printer.
+    // Without a printer, that is told as the cause of any failure.
     toolkit::tell(form.Myprinter.hdc == 0 ? printerMissingText()
                                           : "Sorry, program error #" + number + " (" +
                                                 failure.description() + ")\nat step " + stepText +

@@ -1,4 +1,4 @@
-// What reaches the form between its load and its unload only.
+// What the form gets only between its load and its unload.
 #pragma once
 
 namespace zev {
@@ -7,7 +7,7 @@ struct Zevlin;
 
 /// The wheel moves the card from now on.
 void hookWheel(Zevlin& form);
-/// The wheel does nothing any more. Nothing happens if it did nothing before.
+/// The wheel does nothing from now on. Harmless where it did nothing before.
 void unhookWheel(Zevlin& form);
 
 } // namespace zev

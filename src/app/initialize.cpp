@@ -67,29 +67,28 @@ void readOptionsFile(Zevlin& form, InitializeRun& run) {
     run.firstRun = false;
 }
 
-/// In a rebuild the settings are in memory already, and there they stay if the file doesn't give
-/// them.
+/// In a rebuild the settings are in memory already, and stay as they are if the file can't be read.
 void takeOptions(Zevlin& form, InitializeRun& run) {
     if (!form.Carried) return readOptionsFile(form, run);
-    // An older state than the one in memory must not come back.
+    // The file is older than what is in memory.
     if (form.OptionsUnwritten) return;
     const bool known = form.OptionsRead;
     const std::string name = form.MyName;
     const std::string number = form.MyNumber;
     getOver(form, run, optionsFailure, [&] { readOptionsFile(form, run); });
     if (!known) return;
-    // A name can hold what the file takes for the beginning of a comment.
+    // A name may hold the character that begins a comment in the file, which would cut it.
     form.MyName = name;
     form.MyNumber = number;
 }
 
-/// The printer of the alternate method comes back by its name.
+/// Chooses the printer of the alternate method by its name.
 void choosePrinter(Zevlin& form) {
     if (!form.mPrintAlt.Checked || form.Myprinter.Devicename.empty()) return;
     ignoringFailures([&] {
         takePendingPrinter(form);
         const std::string& name = form.Myprinter.Devicename;
-        // The one that is chosen keeps its paper and direction.
+        // A printer that is chosen already keeps its paper and orientation.
         if (form.CurrentPrinter.DeviceName != name) {
             const auto names = toolkit::printerNames();
             if (std::ranges::find(names, name) == names.end()) return;
@@ -135,7 +134,7 @@ void convertLayout(Zevlin& form) {
 }
 
 void showForm(Zevlin& form, const InitializeRun& run) {
-    // A rebuild paints once, when the card is whole again.
+    // A rebuild paints only once, when the card is complete again.
     if (!form.Carried) toolkit::doEvents();
     form.Visible = true;
     if (!form.Carried) toolkit::doEvents();
@@ -183,12 +182,13 @@ void Initialize(Zevlin& form) {
     InitializeRun run;
     try {
         runSteps(form, run);
-        // The player's options were out of sight for a moment: this is no first run.
+        // The options file couldn't be seen for a moment: this is no first run.
         if (run.firstRun && hasUnreadOptions(form)) runSteps(form, run = {});
     } catch (const std::exception&) {
         const auto failure = toolkit::currentFailure();
         if (!form.Carried) endFailedInitialize(form, failure, run.step);
-        // The boxes of the start would be wrong here, and the card needs the program.
+        // The boxes of the start would be wrong here, and the program must not end while a card is
+        // open.
         traceFailedInitialize(form, failure, run.step);
         form.Initializing = false;
     }

@@ -5,8 +5,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// Runs at start and for each change of the card's size. At start a failure is told with its step
-/// and ends the program. In a rebuild the program goes on with the settings and the field places
+/// Runs at the start and for each change of the card's size. At the start a failure is told with
+/// its step and ends the program. In a rebuild the program goes on with the settings and the layout
 /// that it has in memory, and notes what it couldn't read or write.
 void Initialize(Zevlin& form);
 

@@ -68,7 +68,7 @@ struct SuspectFile {
     const char* name;
 };
 
-/// Shows the box; on OK the file goes.
+/// Shows the box, and on OK deletes the file.
 void offerToDelete(const std::string& text, const SuspectFile& suspect) {
     const auto answer = toolkit::show({.text = text,
                                        .buttons = toolkit::Buttons::OkCancel,

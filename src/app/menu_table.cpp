@@ -44,7 +44,7 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MPrintBoth,  "Print two cards",    "",       MPrintBoth_Click},
     {1, &Zevlin::MPrintSetup, "Printer Setup...",   "",       MPrintSetup_Click},
     separator,
-    // Each PNG item stands under the other's header: players have known it so for years.
+    // The two PNG items are each in the other's submenu, deliberately: players are used to it.
     {1, &Zevlin::mExport,     "Export Image to file as...", "", nullptr},
     {2, &Zevlin::mPrintToDiskGIF, "GIF",            "",       mPrintToDiskGIF_Click},
     {2, &Zevlin::mPrintToDiskPartnerPNG, "PNG",     "",       mPrintToDiskPartnerPNG_Click},
@@ -106,7 +106,7 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MSetTabs,    "Set Tab sequence",   "",       MSetTabs_Click, AtStart::Disabled},
     {1, &Zevlin::MSaveShapes, "Save Design",        "",       MSaveShapes_Click, AtStart::Disabled},
     {0, &Zevlin::MHelp,       "&Help",              "",       MHelp_Click},
-    // Last, so that the others stay where they are while it changes its width.
+    // The last one, so that a change of its width doesn't move the others.
     {0, &Zevlin::MCoord,      "Coordinates",        "",       nullptr},
 });
 // clang-format on

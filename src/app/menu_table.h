@@ -15,7 +15,7 @@ struct MenuEntry {
     int level = 0;                             ///< 0 on the bar, 1 in its menu, 2 in a submenu
     toolkit::MenuItem Zevlin::*item = nullptr; ///< none: a separator
     std::string_view caption{};
-    std::string_view shortcut{};          ///< acts while the item is shown and enabled
+    std::string_view shortcut{};          ///< works while the item is shown and enabled
     void (*procedure)(Zevlin&) = nullptr; ///< none: a menu
     AtStart atStart = AtStart::Enabled;
     int scheme = -1; ///< the element of mcolorscheme that is the item, where `item` is none

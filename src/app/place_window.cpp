@@ -9,7 +9,7 @@
 namespace zev {
 namespace {
 
-/// Twips of the screen that a window may take, and where they begin.
+/// The part of the screen that a window may take, in twips.
 struct Available {
     float left = 0;
     float top = 0;

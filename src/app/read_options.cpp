@@ -81,7 +81,7 @@ void setTrace(Zevlin& form, const OptionLine& line) {
 
 using Setter = void (*)(Zevlin&, const OptionLine&);
 
-/// Printer and tray come behind PrintAlt, on which they depend.
+/// Printer and tray follow PrintAlt, on which they depend.
 constexpr auto setters = std::to_array<std::pair<std::string_view, Setter>>({
     {"name", [](Zevlin& form, const OptionLine& line) { form.MyName = line.value; }},
     {"number", [](Zevlin& form, const OptionLine& line) { form.MyNumber = line.value; }},

@@ -15,7 +15,7 @@
 namespace zev {
 
 bool Form_Unload(Zevlin& form, int unloadMode) {
-    // While a job runs the card is between two rebuilds.
+    // While a job runs, the card is between two rebuilds.
     bool cancel = form.Printing;
     procedure(form, "Form_Unload", toolkit::numberText(unloadMode), [&] {
         if (cancel) return;

@@ -36,7 +36,7 @@ void wireForm(Zevlin& form) {
     };
 }
 
-/// What a procedure calls that lies on a floor above its own.
+/// Gives each slot the procedure that floors below call.
 void wireSlots(Zevlin& form) {
     form.Slots.initialize = [&form] { Initialize(form); };
     form.Slots.toggleDesignMode = [&form] { MShowShapes_Click(form); };
@@ -84,7 +84,7 @@ auto runMouse(Zevlin& form, void (*procedure)(Zevlin&, int, toolkit::MouseArgume
     };
 }
 
-/// Groups from the back of the card to its front.
+/// The groups of labels, from the back of the card to its front.
 std::vector<toolkit::LabelGroup> cardGroups(Zevlin& form) {
     return {{.labels = &form.Highlight},
             {.labels = &form.AText,

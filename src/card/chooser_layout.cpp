@@ -36,7 +36,7 @@ void dressControls(Zevlin& form) {
     form.LSaveAs.Font = form.LPath.Font = font;
 }
 
-/// Of what stands between the margins.
+/// The width between the margins.
 float innerWidth(const Zevlin& form, const PanelMeasures& measures) {
     const toolkit::FontSpec font = panelFont(form);
     const float wanted =

@@ -36,7 +36,7 @@ toolkit::FontSpec narrowed(const Zevlin& form, toolkit::FontSpec font) {
     return font;
 }
 
-/// A line holds the normal and the narrow font alike.
+/// The height of a line, which must hold the normal and the narrow font.
 float lineHeight(const Zevlin& form, const toolkit::FontSpec& font) {
     return std::max(toolkit::textHeight(font), toolkit::textHeight(narrowed(form, font)));
 }
@@ -45,7 +45,7 @@ float fieldHeight(const Zevlin& form, const toolkit::FontSpec& font, int index) 
     const float height = lineHeight(form, font);
     if (index != form.FirstBigText) return height;
     const float fullWidth =
-/// The height of a line, which must hold the normal and the narrow font.
+        static_cast<float>(form.PBase.width()) * static_cast<float>(form.TwipsPerPixel);
     return std::min(height, form.P1.Width / fullWidth * namesLineHeight);
 }
 
