@@ -100,9 +100,9 @@ class Home:
         self.data = self.folder / "Documents" / "ZEV"
         self.program = self.folder / "program"
         self.installed = self.program / "zevlin-files"
-        self.focuses_itself = False  # whether the program's windows take the keys when they want
+        self.focuses_itself = False  # whether the windows decide when they take the focus
         self.clipboard_kind = "png"  # of the pictures that the program's system hands on
-        self.environment = {}  # what the program gets beside the usual
+        self.environment = {}  # variables for the program beside the usual ones
         self.install()
 
     def install(self):
@@ -172,12 +172,12 @@ class Program:
 
     def __init__(self, home, *arguments, dots_per_inch=96, magnified=1, answers=()):
         self.home = home
-        self.twips = round(TWIPS_PER_INCH / dots_per_inch) / magnified  # in a pixel of the screen
+        self.twips = round(TWIPS_PER_INCH / dots_per_inch) / magnified  # of a pixel of the screen
         self.window = None
         is_first = not home.data.exists()
         environment = home.usual_environment() | {"QT_SCALE_FACTOR": str(magnified)}
         if dots_per_inch != 96:
-            # Else a finer screen would be magnified and still count as one of 96.
+            # Without these a finer screen would be magnified, and still count as one of 96.
             environment |= {"QT_FONT_DPI": str(dots_per_inch), "QT_ENABLE_HIGHDPI_SCALING": "0"}
         # No print service but one that a test starts.
         environment |= {"CUPS_SERVER": "127.0.0.1:1"} | home.environment
@@ -220,12 +220,12 @@ class Program:
 
     @staticmethod
     def await_focus(has_focus, window):
-        """Behind a box that goes, a window is still disabled and refuses the focus when it is
+        """The window behind a box that closes is still disabled and refuses the focus when it is
         offered: then it is offered again."""
         for _ in range(ATTEMPTS):
             if value_within(2, has_focus):
                 return
-            # It may be gone by then.
+            # The window may be gone by then.
             subprocess.run(["xdotool", "windowactivate", window], capture_output=True, timeout=20)
         raise TimeoutError("no window takes the keys")
 
@@ -264,7 +264,8 @@ class Program:
             if found:
                 return found[0]
             for box in self.boxes(title):
-                # Offered the focus where it was forgotten. It may be gone by then.
+                # The window manager may have forgotten to give it the focus. The box may be gone by
+                # then.
                 subprocess.run(["xdotool", "windowactivate", box], capture_output=True, timeout=20)
         raise TimeoutError(f"waited in vain for a box {title} with the focus")
 
@@ -293,7 +294,7 @@ class Program:
             xdotool("keyup", key)
 
     def windows_if_any(self):
-        """None where it ends in the middle of the question."""
+        """No windows if the program ends while it is asked."""
         try:
             return self.windows()
         except RuntimeError:
@@ -314,7 +315,7 @@ class Program:
         self.take_name()
 
     def take_name(self):
-        # Where a press may count as a repetition, it comes again.
+        # A press that counted as a repetition had no effect: press again.
         attempts, seconds = (ATTEMPTS, 10) if self.home.focuses_itself else (1, 30)
         for _ in range(attempts):
             self.press("Return")
@@ -330,7 +331,7 @@ class Program:
         self.answer(box, "Return")
 
     def shows_chooser(self):
-        """Not where the program has ended, or ends in the middle of the question."""
+        """False if the program has ended, or ends while it is asked."""
         try:
             return self.is_running() and re.search(CHOOSER_TITLE, self.title()) is not None
         except subprocess.CalledProcessError:

@@ -53,7 +53,7 @@ def fill_in(home):
         program.wait_for_title(r"\*$")
         say(f'Typing "{TEXT}" into a text area.')
         card.click_text(text)
-        # One suit symbol as typed, the other by its key.
+        # One suit symbol is typed, the other comes from its key.
         program.type(TEXT.removesuffix("^s"))
         program.press("F8", "Escape")
         say("Saving the card.")
@@ -119,7 +119,7 @@ def show_again(home, picture, page):
         desktop.wait_for("the card on the screen", lambda: desktop.Card(program).scale > 0)
         desktop.save_screenshot(picture)
         zoom(program)
-        # A name that ends otherwise than the item's format says makes a file of that kind.
+        # The ending of the name decides the format, whatever the menu item says.
         files = [export(program, home, row, f"{CARD}.{ending}")
                  for row, ending in enumerate(("gif", "png", "bmp"))]
         files.append(export(program, home, 0, f"{CARD}.gif.jpg"))

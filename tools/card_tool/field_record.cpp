@@ -10,7 +10,7 @@ namespace {
 
 float rounded(double value) { return static_cast<float>(std::floor(value + 0.5)); }
 
-/// Of an even number of full pixels.
+/// The design pixels of an even number of full pixels.
 float designPixels(int fullPixels) { return static_cast<float>(fullPixels) / fullPerDesign; }
 
 int colorNumber(Ink ink) { return ink == Ink::Red ? 2 : ink == Ink::Blue ? 3 : 1; }

@@ -11,7 +11,7 @@
 namespace card_tool {
 namespace {
 
-/// Blanks that stay where they are.
+/// Blanks that count as part of the text.
 constexpr std::u32string_view indent = U"\u00A0\u00A0\u00A0";
 
 std::u32string fromUtf8(std::string_view bytes) {

@@ -27,7 +27,7 @@ constexpr const char* usage = "card_tool build FONTS DESCRIPTION OUTPUT [SAMPLE.
                               "card_tool preview FONTS DESCRIPTION PNG SCALE TWIPS [SAMPLE|all]\n";
 constexpr std::array installedTwips{12, 13, 15};
 
-/// Nobody reads a half-finished build after a crash.
+/// Writes without waiting for the disk: after a crash the build runs again.
 void write(const path& file, std::string_view bytes) {
     try {
         toolkit::writeTemporaryFile(file, bytes);
@@ -50,7 +50,7 @@ void writePictures(const card_tool::Sheet& sheet, const path& folder) {
     write(folder / "half.bin", card_tool::packed(card_tool::halfOf(full)));
 }
 
-/// What a build started from the shell can look fields up in: number, kind and name, one a line.
+/// Writes a list in which field numbers can be looked up: kind, number and name, one field a line.
 void writeFieldNames(const card_tool::Sheet& sheet, const path& folder) {
     std::string lines;
     int number = 0;

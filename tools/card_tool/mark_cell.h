@@ -11,7 +11,7 @@ namespace card_tool {
 /// The sizes in points that the program sets the fields in while the card stands at half scale.
 constexpr std::array<float, 3> markPoints{18, 22, 30};
 constexpr std::array<float, 3> textPoints{11, 14, 18};
-/// Of a size class, 1 to 3.
+/// The points of a size class, 1 to 3.
 [[nodiscard]] constexpr float pointsOf(const std::array<float, 3>& points, int size) {
     return points.at(static_cast<std::size_t>(size) - 1);
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr double suitPointsMore = 4;
 constexpr double suitPixelsHigher = 6;
-/// In the order of zev::suitLetters.
+/// The suit signs in the order of zev::suitLetters.
 constexpr std::u32string_view suitSigns = U"\u2663\u2666\u2665\u2660";
 const std::string regularName = "Arial";
 const std::string narrowName = "Arial Narrow";

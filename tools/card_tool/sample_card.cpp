@@ -49,7 +49,7 @@ void takeLine(SampleCard& sample, const std::string& line) {
         throw Failure("neither marks nor a text");
 }
 
-/// A sample must not name what the card hasn't got: a slip of the pen would go unseen.
+/// Throws Failure for a name that no field has: a typing error would go unseen otherwise.
 void checkName(const std::string& name, const auto& places, const SampleCard& sample) {
     if (std::ranges::none_of(places, [&](const auto& place) { return place.id == name; }))
         throw Failure(sample.name + ": no such field: " + name);
