@@ -78,7 +78,7 @@ TEST_F(DataFolderFailures, AFolderThatCannotBeWrittenKeepsTheSources) {
     announceError("Error");
     toolkit::writeFile(programFolder / "Sample.zev", "sample");
     fs::create_directories(home / "Documents");
-    // Nobody, however privileged, can make a file in this one.
+    // No user can make a file in this folder, not even the superuser.
     fs::create_directory_symlink("/proc/self/fdinfo", dataFolder);
     answer(toolkit::Answer::Ok);
     answer(toolkit::Answer::Cancel);

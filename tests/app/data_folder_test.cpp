@@ -241,7 +241,7 @@ TEST_F(DataFolder, OldOptionsThatAreCarriedOverKeepTheirSettings) {
     EXPECT_EQ(form.ZoomLevel, 6);
 }
 
-/// Without a layout the first run goes on in building the form, which fits the card and writes.
+/// Without a layout the first run goes on to build the form, fits the card and writes the options.
 TEST_F(DataFolder, OldOptionsOutliveTheRestOfAFirstRun) {
     install("ZEV.Ini", oldOptions);
     start();
@@ -267,7 +267,7 @@ TEST_F(DataFolder, AReadOnlySourceBecomesAWritableCard) {
     start();
     EXPECT_EQ(fs::status(dataFile("Sample.zev")).permissions() & fs::perms::owner_write,
               fs::perms::owner_write);
-    // Some systems keep such a source, and wouldn't let it go with its folder either.
+    // Some systems keep a read-only source, and would refuse to remove it with its folder, too.
     std::error_code ignored;
     fs::permissions(programFolder / "Sample.zev", fs::perms::owner_all, ignored);
 }

@@ -15,7 +15,7 @@ class FontsCheck : public FormTest {
     void useLowPicture(int pixels) {
         toolkit::savePng(toolkit::Bitmap(2396, pixels), dataFile("Convention card.gif"));
     }
-    /// Twips of the card's height at which a font of 11 points is just defective.
+    /// The height of the card, in twips, at which a font of 11 points just counts as defective.
     static float limitFor(const char* font) {
         return toolkit::textHeight({font, 11, false, false}) / 0.05F;
     }

@@ -27,7 +27,7 @@ constexpr const char* printerMissing =
 class FormLoadFailures : public FormTest {
   protected:
     FormLoadFailures() { writeLayout(fewFields()); }
-    /// Starts a program that fails when the card gets the focus, behind step 2100.
+    /// Starts a program that fails when the card gets the focus, after step 2100.
     bool startFailsLate() {
         wireOnly();
         form.P1.GotFocus = [] { throw toolkit::RunTimeError(toolkit::Failure::Overflow); };

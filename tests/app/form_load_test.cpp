@@ -183,7 +183,7 @@ TEST_F(FormLoad, ANameBeyondTheCodePageOpensNothing) {
 }
 
 #ifndef _WIN32
-/// A card's file tells its name in a line, and so does the journal.
+/// The journal has the card's name on one line.
 TEST_F(FormLoad, ANameOfTwoLinesOpensNothing) {
     writeCard("a\nb", "\"\",\"\"\r\n1\r\n1,1,0\r\n1\r\n1,\"x\",0\r\n");
     start("a\nb.zev");
@@ -220,7 +220,7 @@ TEST_F(FormLoad, WithoutCardsTheBlankCardStandsAtOnce) {
 }
 
 #ifndef _WIN32
-/// Of two left-overs whose names differ in case only one is cleared away at the start.
+/// Of two temporary cards whose names differ in case, the start removes only one.
 TEST_F(FormLoad, ATemporaryCardIsNoCardThatOpensOrShowsTheChooser) {
     for (const char* commandLine : {"", "$$TEMPCARD", "/somewhere/$$TEMPCARD.ZEV"}) {
         writeCard("$$Tempcard", "");

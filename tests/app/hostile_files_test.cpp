@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Whatever stands in the player's files: the program tells it in its documented words or takes
+/// Whatever is in the player's files, the program tells a failure in its documented words or takes
 /// what it can, and touches no other file.
 class HostileFiles : public FormTest {
   protected:
@@ -32,7 +32,7 @@ class HostileFiles : public FormTest {
                                                           : toolkit::Answer::Cancel;
         }});
     }
-    /// Reads a layout as a zoom does; true if it was taken.
+    /// Reads a layout as a zoom does; true if the program accepted it.
     bool takesLayout(const std::string& layout) {
         writeLayout(layout);
         boxes.clear();

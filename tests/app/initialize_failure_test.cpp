@@ -62,7 +62,7 @@ TEST_F(InitializeFailure, OptionsThatCannotBeReadAreOfferedForDeletion) {
                   "the settings you've chosen on the OPTIONS menu, including your name and ACBL "
                   "ID#.\n\nClick 'OK' to let ZEV delete the file now, or 'Cancel' to try something "
                   "else yourself.");
-    // A folder can't be deleted as a file; that is passed over.
+    // A folder can't be deleted as a file is; the failure is ignored.
     EXPECT_TRUE(fs::exists(dataFile("ZEV.Ini")));
 }
 

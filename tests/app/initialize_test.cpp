@@ -21,7 +21,7 @@ class Initialization : public FormTest {
         made.ColorMode = colorMode;
         return made;
     }
-    /// Where the line stands in the trace so far; behind all lines if it doesn't.
+    /// The line's index in the trace so far; beyond the last one if it isn't there.
     [[nodiscard]] std::ptrdiff_t placeOf(std::string_view line) const {
         const auto lines = traceLines();
         return std::ranges::find(lines, line) - lines.begin();
@@ -161,7 +161,7 @@ TEST_F(Initialization, AVersionReadBeforeDoesNotCountForTheOptions) {
 TEST_F(Initialization, OptionsAreReadAnewEachTimeAndChangeNothingByThat) {
     writeOptions("Name=Ann\r\nZoom=6\r\nFit=1\r\nFontSize=2\r\nBold=1\r\nColorScheme=255\r\n");
     start();
-    // The window's real frame is known from its first showing on.
+    // The window's real frame is known once it was shown.
     Initialize(form);
     const auto scale = form.LastImageScale;
     Initialize(form);

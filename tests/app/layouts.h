@@ -1,4 +1,4 @@
-// Layouts for tests: the small layout of the support, changed at one place.
+// Layouts for tests: the small layout of form_test.h, changed in one place.
 #pragma once
 
 #include <string>
@@ -13,14 +13,14 @@ namespace zev::test {
 constexpr std::string_view usualEnvironment = "15,19200\r\n";
 constexpr std::string_view zeroOffsets = "0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0\r\n";
 
-/// The text with the first `from` replaced, which must be there.
+/// The text with its first `from` replaced; the test fails if there is none.
 inline std::string replaced(std::string text, std::string_view from, std::string_view to) {
     const auto at = text.find(from);
     EXPECT_NE(at, std::string::npos) << from;
     return at == std::string::npos ? text : text.replace(at, from.size(), to);
 }
 
-/// Twips per pixel and screen width of the machine that wrote the layout.
+/// The layout as written on another machine: `environment` is its twips per pixel and screen width.
 inline std::string writtenAt(const std::string& layout, std::string_view environment) {
     return replaced(layout, usualEnvironment, std::string(environment) + "\r\n");
 }

@@ -118,7 +118,7 @@ TEST_F(MenuTable, EveryItemHasAProcedureAndEveryMenuHasItems) {
             EXPECT_EQ(row.procedure, nullptr) << "a separator that does something";
             continue;
         }
-        if (row.item == &Zevlin::MCoord) continue; // a read-out, nothing to choose
+        if (row.item == &Zevlin::MCoord) continue; // a read-out, which can't be chosen
         const bool isMenu = i + 1 < rows.size() && rows[i + 1].level > row.level;
         EXPECT_NE(isMenu, row.procedure != nullptr) << row.caption;
         EXPECT_FALSE(row.caption.empty());
@@ -206,7 +206,7 @@ TEST_F(MenuTable, DesignModeHasAnItemOfItsOwnAndOneForItsMenu) {
 }
 
 TEST_F(MenuTable, ViewItemsRunTheirOwnProcedures) {
-    writeLayout(fewFields()); // so that the trace keeps all that a rebuild does
+    writeLayout(fewFields()); // so few that the trace still holds a whole rebuild
     start();
     const std::vector<std::pair<std::string, std::string>> traces = {
         {"View>Zoom In (Bigger)                   Ctrl +", "MZoomIn_Click"},
@@ -220,7 +220,8 @@ TEST_F(MenuTable, ViewItemsRunTheirOwnProcedures) {
     }
 }
 
-/// Each image item runs its own pipeline with its own flag; the PNG items stand exchanged.
+/// Each image item runs its own pipeline with its own flag; the two PNG items are each in the
+/// other's menu.
 TEST_F(MenuTable, ImageItemsRunTheirPipelines) {
     writeLayout(fewFields());
     start();

@@ -42,7 +42,7 @@ class Unload : public FormTest {
         toolkit::test::turnWheel(-120);
         return form.P1.Top - before;
     }
-    /// Where the line stands in the trace; past its end if it doesn't.
+    /// The line's index in the trace; beyond the last one if it isn't there.
     [[nodiscard]] std::ptrdiff_t lineOf(std::string_view line) const {
         const auto lines = traceLines();
         return std::ranges::find(lines, line) - lines.begin();

@@ -9,7 +9,7 @@
 namespace zev {
 namespace {
 
-/// A card on its way through the reader, with the version that its comments told.
+/// A reader of a card, with the version that the card's comments tell.
 struct Card {
     explicit Card(std::string content, std::string version = "")
         : versionSeen(std::move(version)),

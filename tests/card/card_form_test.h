@@ -29,11 +29,11 @@ class CardFormTest : public FormTest {
     void openNamed(const std::string& name);
     /// Chooses an item that must be there.
     static void choose(std::string_view captionPath);
-    /// Opens the field, replaces its text by what is typed and leaves it open.
+    /// Opens the field, replaces its text by typing, and leaves the field open.
     void typeInOpenField(int field, std::string_view utf8);
-    /// The same, and a click on the bare card closes it.
+    /// The same, and closes the field by a click on the bare card.
     void typeInto(int field, std::string_view utf8);
-    /// Whether the trace tells these lines, one directly behind the other.
+    /// Whether the trace has these lines, one directly after the other.
     [[nodiscard]] testing::AssertionResult
     tracedInOrder(const std::vector<std::string>& lines) const;
 };

@@ -1,4 +1,4 @@
-// The chooser on the real form, driven by the player in the middle of its wait.
+// The chooser on the real form. The player acts while the program waits in it.
 #pragma once
 
 #include <fstream>
@@ -16,7 +16,7 @@ namespace zev::test {
 
 class ChooserTest : public CardFormTest {
   protected:
-    /// Opens the chooser; what it returned stands in `chosen`.
+    /// Opens the chooser and puts what it returns into `chosen`.
     void inChooser(std::function<void()> acts) {
         answerChooser(std::move(acts));
         chosen = GetFileNames(form);

@@ -22,7 +22,7 @@ class ChooserMenu : public ChooserTest {
         start();
         for (const char* name : {"Adams", "Brown", "Clark"}) writeCard(name, cardFile({}));
     }
-    /// Chooses a row of the pop-up of a card.
+    /// Chooses a row of the pop-up menu of a card.
     void chooseOf(int listRow, std::size_t menuRow) {
         answerPopup([menuRow](std::span<const toolkit::PopupRow> rows) { rows[menuRow].Click(); });
         clickRow(listRow, toolkit::button::right);

@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 class FileSeen : public CardFormTest {
   protected:
     FileSeen() {
-        // Made by the other program while the card is open.
+        // The other program writes it while the card is open.
         theirs_ = cardFile({.marks = {"3,1,0"}});
     }
     void openAndChange() {
@@ -129,7 +129,7 @@ TEST_F(FileSeen, OverwritingByNameIsAskedOnce) {
     EXPECT_EQ(boxes[0].title, "Overwrite existing file?");
 }
 
-/// Its file is "Jones.zev.zev", but it goes on as "Jones", whose file it isn't.
+/// The file is "Jones.zev.zev". The card is then named "Jones", whose file is another one.
 TEST_F(FileSeen, AnotherCardsFileIsNotOverwrittenByOneWhoseNameLostItsExtension) {
     start();
     writeCard("Jones", cardFile({.marks = {"3,1,0"}}));
@@ -150,7 +150,8 @@ TEST_F(FileSeen, AnotherCardsFileIsNotOverwrittenByOneWhoseNameIsTrimmed) {
     expectNoKeepsTheirs();
 }
 
-/// Nothing of it was seen: the blank card that stands for it is not to replace it unasked.
+/// The program has seen nothing of it: the blank card in its place must not replace it without a
+/// question.
 TEST_F(FileSeen, AFileThatCouldntBeReadIsNotOverwrittenUnasked) {
     start();
     fs::create_symlink("/proc/self/mem", dataFile("Jones.zev"));

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// By this process, however busy the machine is.
+/// Processor time of this process, which doesn't depend on how busy the machine is.
 double secondsSpent() { return static_cast<double>(std::clock()) / CLOCKS_PER_SEC; }
 
 class HostileCard : public CardFormTest {

@@ -25,7 +25,7 @@ class Journal : public JournalTest {
     }
     /// Nothing can be written where the journal would be.
     void blockStateFolder() const { toolkit::writeFile(home / "state", "no folder"); }
-    /// The second mark was set meanwhile.
+    /// Expects the journal to hold the second mark, set while it couldn't be written.
     void expectWrittenOnceTheFolderIsBack() const {
         ASSERT_FALSE(isThere());
         fs::remove(home / "state");
@@ -67,7 +67,7 @@ TEST_F(Journal, HoldsTheCardsNamePartnerTextsAndStyles) {
     EXPECT_EQ(content().file.size, fs::file_size(dataFile("Jones.zev")));
 }
 
-/// They are no change by themselves, but part of what would be saved.
+/// The styles alone don't make the card changed, but they are part of what would be saved.
 TEST_F(Journal, OfAChangedCardHoldsTheStylesThatAllFieldsGot) {
     start();
     clickMark(1);
@@ -91,7 +91,7 @@ TEST_F(Journal, HoldsWhatIsTypedIntoAnOpenField) {
     EXPECT_EQ(text(1), "half a word");
 }
 
-/// What a middle click pastes or an input method sends comes without a key.
+/// A paste by middle click and an input method send text without a key.
 TEST_F(Journal, HoldsWhatCameIntoAnOpenFieldWithoutAKey) {
     start();
     clickText(1);
@@ -179,7 +179,7 @@ TEST_F(Journal, OfAFailedSaveLetsTheProgramEnd) {
     clickMark(2);
     fs::remove(dataFile("Jones.zev"));
     fs::create_directory(dataFile("Jones.zev"));
-    // The file was exchanged behind the program's back.
+    // Another program has replaced the file.
     answer(toolkit::Answer::Yes);
     announceError("Error in MSave_Click 75, Path/File access error");
     EXPECT_TRUE(failsProgram([&] { choose("File>Save"); }));

@@ -164,7 +164,7 @@ TEST_F(NewCard, TellsItsStepsInTheTrace) {
 
 class OpenCard : public CardFormTest {
   protected:
-    /// What stood on the form while the name was asked for.
+    /// What the form showed while the name was asked for.
     struct Asked {
         std::string title;
         std::string cardName;

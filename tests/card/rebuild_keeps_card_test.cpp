@@ -90,7 +90,7 @@ TEST_F(RebuildKeepsCard, AllOfItWhereTheTemporaryFileCantBeWritten) {
         << boxes[0].text;
 }
 
-/// What a card file can't hold, or only in another way, is still the card's.
+/// The card keeps even what a card file can't hold, or changes.
 TEST_F(RebuildKeepsCard, ToTheLetter) {
     start();
     typeInto(1, "Program version: 1.0");
@@ -112,7 +112,7 @@ TEST_F(RebuildKeepsCard, AnEmptyNamesLine) {
     EXPECT_EQ(form.AText[3].Caption, "");
 }
 
-/// What the options file can't hold is still the player's name.
+/// The player keeps a name that the options file can't hold.
 TEST_F(RebuildKeepsCard, ThePlayersOwnName) {
     start();
     for (const std::string name : {"'Bob", "Bob  'the Cat' Smith"}) {

@@ -25,7 +25,7 @@ class RescueTest : public CardFormTest {
         toolkit::test::elapseAlarms();
         form.Journal.lock.release();
     }
-    /// A dead copy has left this.
+    /// Makes what a dead copy of the program leaves.
     void leave(int number, const std::string& name, const std::string& text) {
         fs::create_directories(home / "state");
         RescuedCard card{.name = name, .file = {}, .document = {}};
@@ -36,7 +36,7 @@ class RescueTest : public CardFormTest {
         fs::last_write_time(journal(number),
                             fs::file_time_type::clock::now() - std::chrono::hours(10 - number));
     }
-    /// The player decides neither on it nor on a card to open.
+    /// Starts and cancels both the question and the chooser.
     void expectQuestionAtNextStart() {
         answer(toolkit::Answer::Cancel);
         answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
@@ -123,7 +123,7 @@ TEST_F(RescueTest, OfWhatTheCardsFileHoldsByNowGoesWithoutAQuestion) {
     const std::string stale = toolkit::readFile(journal());
     choose("File>Save");
     form.Journal.lock.release();
-    // It couldn't be removed then.
+    // As if the journal couldn't be removed at the save.
     toolkit::writeFile(journal(), stale);
     answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
     const SecondRun run(window);
@@ -153,7 +153,7 @@ TEST_F(RescueTest, OfACardThatAnotherProgramHasChangedSinceIsAsked) {
     EXPECT_EQ(readRescue(toolkit::readFile(journal())).document.texts[0].text, "mine");
 }
 
-/// Of a file that nobody has saved meanwhile the question tells that the card was changed at all.
+/// The content is that of the file, but nobody has saved it since: the question comes.
 TEST_F(RescueTest, OfAChangeThatWasTakenBackByHandIsAsked) {
     start();
     openCard("Jones", {});

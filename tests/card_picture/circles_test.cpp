@@ -51,7 +51,7 @@ Ring ringOf(const Field& mark, int twips, double scale) {
             scale * glyph.radius};
 }
 
-/// The first ink on the ring's middle row, four design pixels behind its left edge and further.
+/// The first ink on the ring's middle row from four design pixels after its left edge on.
 std::optional<Blob> letterIn(const Picture& picture, const Ring& ring, double scale) {
     const int y = static_cast<int>(std::floor(ring.y));
     const int end = static_cast<int>(ring.x + ring.radius);
@@ -60,7 +60,7 @@ std::optional<Blob> letterIn(const Picture& picture, const Ring& ring, double sc
     return std::nullopt;
 }
 
-/// The picture at a third of full scale: each pixel the ink of the nine under it.
+/// The picture at a third of full scale: each pixel has the ink of the nine that it covers.
 Picture third() {
     const Picture& full = fullPicture();
     Picture small{full.width / 3, full.height / 3, {}};

@@ -1,4 +1,4 @@
-// What a printer looks at: margins, weights of rules, leading, paper around rows.
+// What a typographer looks at: margins, weights of rules, leading, paper around rows.
 #include "card_picture/picture_reader.h"
 #include "card_tool/description.h"
 #include "card_tool/typesetter.h"
@@ -91,7 +91,7 @@ TEST(Composition, OuterMarginIsEven) {
     EXPECT_EQ(all.left, 24);
     EXPECT_EQ(fullPicture().width - 1 - all.right, all.left);
     EXPECT_EQ(all.top, all.left);
-    // The time stamp's rows, and no more paper than keeps it off the frames.
+    // The rows of the time stamp, and only as much paper as keeps it off the frames.
     const int foot = fullPicture().height - 1 - all.bottom;
     EXPECT_GE(foot, card_tool::footRows + 8);
     EXPECT_LE(foot, card_tool::footRows + 12);

@@ -45,7 +45,7 @@ TEST(Picture, HasTheThreeInksAtFullStrengthAndLittleElse) {
     EXPECT_LE(colours.size(), 46U);
 }
 
-/// Whether a colour lies on the line from paper to an ink, to a rounding.
+/// Whether a colour lies on the line from paper to an ink, but for rounding.
 bool isShadeOf(const Colour& colour, const Colour& ink) {
     const auto depth = [](auto full, auto value) {
         return full == 255 ? 0.0 : (255.0 - value) / (255.0 - full);

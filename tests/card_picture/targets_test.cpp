@@ -5,8 +5,8 @@
 namespace card_picture {
 namespace {
 
-/// The program takes a click on an unset mark within its label less this much at the right, the
-/// top and the bottom, in screen pixels whatever the scale.
+/// A click sets a mark within its label less this much at the right, the top and the bottom, in
+/// screen pixels at any scale.
 constexpr double clickMargin = 5;
 /// A text's suit signs stand this much above it, in screen pixels.
 constexpr double suitReach = 6;

@@ -242,7 +242,7 @@ TEST_F(AddField, WithTheHelpOpenAPressOnlyDismissesIt) {
     EXPECT_FALSE(form.THelp.Visible);
 }
 
-/// The right button is still down while the help goes, and the pointer seldom stands still.
+/// The right button is still down while the help page closes, and the pointer seldom rests.
 TEST_F(AddField, APressThatDismissesTheHelpMovesNoFieldEither) {
     design();
     const toolkit::Label last = form.AMark[4];
@@ -316,7 +316,7 @@ TEST_F(AddField, TakenBackWhileItIsHeldATextLeavesTheOthersAsTheyAre) {
     EXPECT_EQ(form.AText[4].Alignment, last.Alignment);
 }
 
-/// The key leaves the mode in the middle of the press, and coming back changes nothing.
+/// The key leaves the mode during the press; coming back must not take hold of the field again.
 TEST_F(AddField, AFieldIsNotHeldAcrossTwoTurnsInTheMode) {
     design();
     moveMouse(addedX, addedY);

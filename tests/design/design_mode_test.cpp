@@ -36,7 +36,7 @@ class DesignMode : public DesignTest {
         return left.width() == right.width() && left.height() == right.height() &&
                std::equal(left.row(0), left.row(0) + size, right.row(0));
     }
-    /// A colour of the player's own for all fields.
+    /// Chooses a colour for all fields.
     void takeCustomColor() {
         form.ColorScheme = static_cast<std::int32_t>(toolkit::rgb(1, 2, 3));
         form.mcolorscheme[0].Checked = false;
@@ -330,7 +330,7 @@ TEST_F(DesignMode, ClosingTheProgramAsksNothing) {
 
 TEST_F(DesignMode, WhereTheProgramIsBeingDevelopedTheMenuShowsWithoutTheMode) {
     start();
-    // As the start leaves such a build.
+    // The state after the start of a developer's build.
     form.MShapes.Visible = form.MShowDesignMenu.Checked = true;
     pressDesignKey();
     EXPECT_FALSE(form.MShapes.Visible);

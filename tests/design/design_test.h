@@ -23,7 +23,7 @@ class DesignTest : public EditTest {
             "1,2\r\n", 2));
     }
 
-    /// As the player gets there: the menu is hidden, the key shows it.
+    /// Enters the mode as the player does: a key shows the hidden menu.
     void design() {
         start();
         pressDesignKey();
@@ -64,7 +64,7 @@ class DesignTest : public EditTest {
         for (int i = 1; i <= form.AMark.UBound(); ++i) count += form.AMark[i].Visible ? 1 : 0;
         return count;
     }
-    /// The line of the layout file behind its comments and counts.
+    /// Whether the layout file has this line.
     [[nodiscard]] bool layoutHolds(const std::string& line) const {
         return dataFileContent("Definitions.Ini").find("\r\n" + line + "\r\n") != std::string::npos;
     }

@@ -12,7 +12,7 @@ using namespace toolkit::test;
 
 class SaveDesign : public DesignTest {
   protected:
-    /// The layout's line of the mark with this number, without its size.
+    /// Whether the layout has a line for the mark with this number at this place, of whatever size.
     [[nodiscard]] bool holdsMarkAt(int number, int left, int top) const {
         const std::string line = "\r\n" + std::to_string(number) + "," + std::to_string(left) +
                                  "," + std::to_string(top) + ",";
@@ -39,7 +39,7 @@ TEST_F(SaveDesign, TheModeStaysOnWithAllMarksShown) {
     EXPECT_TRUE(holdsMarkAt(1, 100, 100));
 }
 
-/// The mode is left and entered again, but nobody is to see the blank card in between.
+/// The mode is left and entered again, but the blank card in between must not be seen.
 TEST_F(SaveDesign, NothingFlashes) {
     design();
     settle();

@@ -88,8 +88,8 @@ TEST_F(UndoDesign, AnotherSizeOrColourDoesNot) {
     EXPECT_EQ(form.AMark.UBound(), 4);
 }
 
-/// Only a press on a field says what kind of change it was: a field added after one takes that
-/// one's old place.
+/// Only a press on a field decides what an undo does: after one, it moves the added field to the
+/// old place of the pressed one.
 TEST_F(UndoDesign, AfterAPressANewFieldGoesToThePressedOnesPlace) {
     design();
     const float left = form.AMark[1].Left;
@@ -130,8 +130,8 @@ TEST_F(UndoDesign, AFailureIsTracedOnce) {
     EXPECT_EQ(beeps, 1);
 }
 
-/// A press with the middle button makes it look as if a field had been added: of the layout's own
-/// none goes.
+/// After a press with the middle button an undo removes a field as if it had been added: but none
+/// of the layout's.
 TEST_F(UndoDesign, AfterAMiddlePressNoFieldOfTheLayoutGoes) {
     design();
     for (const char* shape : {"Checkmark", "Circle", "Text"}) {
@@ -168,7 +168,7 @@ TEST_F(UndoDesign, WhatWasAddedIsNotTakenAwayInALaterTurn) {
     EXPECT_EQ(form.AMark.UBound(), 5);
 }
 
-/// Saving leaves the mode and comes back to it: from then on the field is the layout's.
+/// Saving leaves the mode and enters it again: from then on the field is one of the layout's.
 TEST_F(UndoDesign, WhatIsSavedIsNotTakenAway) {
     design();
     addField();

@@ -24,7 +24,7 @@ class ByKeyboard(whole_program.WholeProgramTest):
     def fill_in(self, program, walk):
         """Fills in the fields of the walk, saves, and compares; the text areas that it filled."""
         keys, marks, texts = self.filling_in(walk)
-        # The walk begins at the field that was clicked; from here on no hand leaves the keyboard.
+        # The walk begins at the field that is clicked; from here on only keys are used.
         desktop.Card(program).click_text(walk[0])
         self.press_slowly(keys)
         program.press("Escape", "ctrl+s")

@@ -85,7 +85,7 @@ class RefusedSaves(FailingSaveTest):
     def test_without_room_for_a_copy_either_it_stays_and_says_so(self):
         program = self.changed_card()
         self.wait_until_safe()
-        # The last change can't be noted any more.
+        # The journal can't take the last change any more.
         for path in (self.state, *self.state.iterdir()):
             self.unwritable(path)
         last = min(set(self.card.marks) - self.saved_marks - {self.mark})
@@ -96,7 +96,7 @@ class RefusedSaves(FailingSaveTest):
             program.answer(program.wait_for_box(BOX), "Return")
             self.assert_shown_changed(program)
             self.assert_file_is_as_it_was()
-        # As soon as the file can be written, all is well.
+        # Once the file can be written, the save succeeds.
         self.home.card(CARD).chmod(0o644)
         program.press("ctrl+s")
         program.wait_for_title(rf"\( {CARD} \)$")

@@ -7,7 +7,7 @@ BOX = "^Zevlin$"
 
 
 class FailingStarts(whole_program.WholeProgramTest):
-    announced_error = "Error in "  # what ends the program is traced, too
+    announced_error = "Error in "  # the failure that ends the program is traced
 
     def setUp(self):
         super().setUp()

@@ -39,7 +39,7 @@ class ChangedByOthers(rescuing.RescueTest):
         self.save_over(program, YES)
         program.wait_for_title(rf"\( {CARD} \)$")
         self.assert_saved(CARD)
-        # From then on the file is the program's own.
+        # From then on the file counts as the program's own.
         self.card.click_mark(self.mark)
         program.wait_for_title(r"\*$")
         program.press("ctrl+s")
@@ -55,7 +55,8 @@ class ChangedByOthers(rescuing.RescueTest):
             self.assertEqual(self.home.card(CARD).read_bytes(), self.theirs)
         self.wait_until_safe()
         program.kill()
-        # What was brought back doesn't go over theirs without a question, either.
+        # The changes that came back don't replace the other program's file without a question,
+        # either.
         again = self.assert_comes_back()
         self.save_over(again, YES)
         again.wait_for_title(rf"\( {CARD} \)$")
@@ -87,7 +88,7 @@ class ChangedByOthers(rescuing.RescueTest):
         program.close()
         program.answer(program.wait_for_box(rescuing.QUESTION), YES)
         program.answer(program.wait_for_box(BOX), NO)
-        # Not saved, so not left.
+        # The program didn't save, so it didn't close.
         self.assert_shown_changed(program)
         self.assertEqual(self.home.card(CARD).read_bytes(), self.theirs)
 
@@ -95,7 +96,7 @@ class ChangedByOthers(rescuing.RescueTest):
 class FolderTrouble(rescuing.RescueTest):
     """Layout, settings or the whole folder are damaged or gone."""
 
-    announced_error = "Error in "  # what can't be used is traced, too
+    announced_error = "Error in "  # what can't be used is traced
 
     size_keys = itertools.cycle(("ctrl+minus", "ctrl+equal"))
 

@@ -109,7 +109,7 @@ class Leaving(whole_program.WholeProgramTest):
         program.process.send_signal(signal.SIGTERM)
         box = program.wait_for_box(QUESTION)
         program.process.send_signal(signal.SIGTERM)
-        # What was sent after it has been dealt with, so the signal has.
+        # The key that was sent after the signal had its effect, so the signal was dealt with.
         program.focus(box)
         before = desktop.screenshot().bytes
         desktop.xdotool("key", "Tab")

@@ -175,7 +175,7 @@ class PrintServiceTest(PrintingTest):
         shell = desktop.xdotool("getwindowgeometry", "--shell", program.window)
         width, height = (int(re.search(rf"{name}=(\d+)", shell)[1])
                          for name in ("WIDTH", "HEIGHT"))
-        # From the menu bar down.
+        # Begins at the menu bar.
         lookout = Lookout(round(card.left), round(card.top) - 20, width - 40, height - 60)
         self.addCleanup(lookout.close)
         frozen = lookout.look()

@@ -80,7 +80,7 @@ class ReadOnlyDataFolder(whole_program.WholeProgramTest):
         self.assertNotEqual(desktop.screenshot().bytes, before)
         self.assertEqual(self.home.card("Kept").read_bytes(), saved)
         self.assertFalse(self.home.card("$$Tempcard").exists())
-        # A second zoom tells nothing new; a box would be in the way of saving.
+        # A second zoom must not show a box again, which would keep the program from saving.
         program.press("ctrl+equal", "ctrl+s")
         program.wait_for_title(r"\( Kept \)$")
         self.assertEqual(self.home.records("Kept")[0], {self.first, self.second})

@@ -98,7 +98,7 @@ class RescueQuestion(rescuing.RescueTest):
         third.press("ctrl+s")
         third.wait_for_title(rf"\( {OTHER} \)$")
         self.assertEqual(self.home.records(OTHER)[0], self.other_saved[0] | {self.mark})
-        # The first one has gone on all the time.
+        # The first program has kept running.
         self.assertRegex(living.title(), rf"\( {CARD} \) \*$")
         living.focus(living.window)
         self.save(living)

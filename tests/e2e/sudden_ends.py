@@ -134,7 +134,7 @@ class SuddenEnds(rescuing.RescueTest):
             program = self.changed_card()
             program.process.send_signal(ending)
             program.wait_for_box(QUESTION)
-            # It was written before the question, and doesn't wait for its time.
+            # The journal is written before the question, without any delay.
             self.assertTrue(self.is_mark_safe())
             self.pause_until(time.monotonic() + 1)
             program.kill()

@@ -10,7 +10,7 @@ using namespace toolkit::test;
 using toolkit::button::left;
 using toolkit::button::right;
 
-/// Points are relative to the card, which moves along with the mouse.
+/// Points count from the card, which moves with the mouse.
 class CardDrag : public EditTest {
   protected:
     static constexpr float start = 800 * pixel;

@@ -16,7 +16,7 @@ using toolkit::button::right;
 
 class CardMouse : public EditTest {
   protected:
-    /// Whole pixels from the mark's top left corner.
+    /// Clicks at whole pixels from the mark's top left corner.
     void clickAt(int mark, int across, int down, int button = left) {
         const toolkit::Label& label = form.AMark[mark];
         click(label.Left + static_cast<float>(across) * pixel,

@@ -15,7 +15,7 @@ using namespace toolkit::test;
 
 class EditField : public EditTest {
   protected:
-    /// In the strip of the label that the lower box leaves free.
+    /// Clicks in the strip of the label below the box, which is lower than the label.
     void clickBelowTheBox(int field, float x) {
         const toolkit::Label& label = form.AText[field];
         click(label.Left + x, label.Top + label.Height - 1.5F * pixel);

@@ -83,7 +83,7 @@ TEST_F(EditKeys, HeldSuitKeyInsertsOneSuit) {
     EXPECT_EQ(shownText(form.CText), "^c");
 }
 
-/// Not every system tells that a press is a repetition.
+/// Some systems don't tell whether a press is a repetition.
 class UntoldRepetition : public EditKeys {
   protected:
     static void hold(int key, int shift = 0) {
@@ -235,7 +235,7 @@ TEST_F(EditKeys, ReleaseDoesNotDestroyWhatAnInputMethodComposes) {
     EXPECT_EQ(form.AText[1].Caption, "1\xEA");
 }
 
-/// An input method can leave it to the program to end what is being composed.
+/// With some input methods the program has to end the composition.
 TEST_F(EditKeys, WhatIsStillComposedStaysInItsField) {
     startSmall();
     enter(2, "two");

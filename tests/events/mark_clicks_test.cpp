@@ -30,7 +30,7 @@ class MarkClicks : public EditTest {
         }
         return region;
     }
-    /// The page in a corner, so that the fields stay in reach of the mouse.
+    /// Shows the help page in a corner, so that the fields can still be clicked.
     void showSmallHelp() {
         typeKey(toolkit::key::f1);
         ASSERT_TRUE(form.THelp.Visible);

@@ -18,7 +18,7 @@ using namespace toolkit::test;
 using toolkit::button::left;
 using toolkit::button::right;
 
-/// The small card as design mode shows it: every mark in sight and the menu item to be chosen.
+/// The small card with every mark shown and the menu item enabled, as in design mode.
 class RecordTabs : public EditTest {
   protected:
     void design() {
@@ -72,7 +72,7 @@ TEST_F(RecordTabs, NoDiscardsTheSequenceAtOnceAndRecords) {
     EXPECT_TRUE(form.MSetTabs.Checked);
     EXPECT_EQ(form.TabTable.UBound(), 0);
     EXPECT_FALSE(form.DesignDirty);
-    // Only building the card anew brings it back.
+    // The sequence comes back only when the card is built anew.
     leaveDesign();
     RebuildScreenImage(form);
     EXPECT_EQ(next(1), 2);
@@ -130,7 +130,7 @@ TEST_F(RecordTabs, EachFurtherPressLinksThePressedItems) {
     EXPECT_EQ(next(1), 1001);
     EXPECT_EQ(next(1001), 1002);
     EXPECT_EQ(next(1002), 3);
-    // The table never grows for the last item.
+    // Recording never makes the table larger for its last item.
     EXPECT_EQ(form.TabTable.UBound(), 1002);
     EXPECT_EQ(next(3), 0);
     EXPECT_EQ(form.TabRecordPrev, 3);

@@ -44,7 +44,7 @@ TEST_F(TextWalk, TextLongerThanItsFieldIsShownFromItsStart) {
     const auto shown = grabCard();
     typeKey(key::home);
     const auto start = grabCard();
-    // But for the caret, which blinks.
+    // Leaves out the caret, which blinks.
     const auto left = static_cast<int>(form.CText.Left / pixel) + 4;
     for (int x = left; x < left + 30; ++x) {
         for (int y = 590; y < 620; ++y) ASSERT_EQ(shown.pixel(x, y), start.pixel(x, y));

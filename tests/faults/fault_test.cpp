@@ -11,8 +11,8 @@
 #include "toolkit/window/dialog_answers.h"
 #include "toolkit/window/shell_folders.h"
 
-/// The painting of the platform deals its work to threads, which a forked process doesn't have:
-/// here it does the work at once.
+/// The platform hands painting to threads, which a forked process doesn't have. This does the work
+/// at once instead.
 void workAtOnce(void* pool, std::function<void()> work,
                 int priority) asm("_ZN11QThreadPool5startESt8functionIFvvEEi");
 // NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is the platform's
@@ -25,7 +25,7 @@ namespace fs = std::filesystem;
 using test_faults::Files;
 using test_faults::Kind;
 
-/// Comments tell of the machine at that moment, behind a colon and in figures.
+/// The content without what its comments tell of the moment: all after a colon, and figures.
 std::string withoutFigures(const std::string& content) {
     std::istringstream lines(content);
     std::string text;
@@ -39,8 +39,7 @@ std::string withoutFigures(const std::string& content) {
 
 std::string nameOf(const std::string& path) { return fs::path(path).filename().string(); }
 
-/// The lock of a program that ran before the power was cut: the system has started anew since, and
-/// no process has that number.
+/// The files as found after a restart: the process number in a lock means no process any more.
 Files afterReboot(Files disk) {
     for (auto& [path, content] : disk) {
         if (!path.ends_with(".lock")) continue;
@@ -58,7 +57,7 @@ Files afterReboot(Files disk) {
     return disk;
 }
 
-/// The first line in which they differ, of both.
+/// The first line in which the contents differ, from both.
 std::string difference(const Files& files, const std::string& path, const std::string& content) {
     const auto at = files.find(path);
     if (at == files.end()) return "no such file";
@@ -78,9 +77,9 @@ bool holds(const Files& files, const std::string& path, const std::string& conte
 } // namespace
 
 FaultTest::FaultTest() {
-    // Or the time stamp would tell the runs apart.
+    // Otherwise the time stamps of the runs would differ.
     toolkit::overrideClock(1795000000);
-    // Where the program doesn't get to know the player's documents, it works where it was started.
+    // If the documents folder can't be found, the program works in the folder where it was started.
     fs::create_directory(home / "here");
     fs::current_path(home / "here");
 }
@@ -121,7 +120,8 @@ void FaultTest::runWithEveryFault(const Act& act, const std::vector<Kind>& kinds
     RecordProperty("runs", count);
 }
 
-/// Boxes tell of faults; what they ask is declined, but for the card that comes back.
+/// Boxes that tell of faults are closed, and questions declined, except the one that gives the card
+/// back.
 void FaultTest::answerEverything() {
     answersEverything_ = true;
     toolkit::answerDialogsWith(
@@ -157,7 +157,7 @@ void FaultTest::expectCardIn(const Zevlin& program) const {
 
 void FaultTest::expectAllAtNextStart(const Files& before, const Files& after) {
     answerEverything();
-    // What isn't offered is opened from its file.
+    // A card that isn't offered is opened from its file.
     nameAnswer = hasCard ? savedName : "";
     {
         const SecondRun next(window);

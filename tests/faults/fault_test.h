@@ -19,20 +19,20 @@ class FaultTest : public CardFormTest {
 
     /// The card Jones with a text and a mark that aren't saved.
     void startWithChangedCard();
-    /// What the player does; the end of the program ends it.
+    /// What the player does, up to the end of the program if that comes first.
     using Act = std::function<void()>;
     std::string agreedQuestion;         ///< begins the question that is answered with Yes
     std::string nameAnswer;             ///< in each chooser; empty: none is chosen
     std::string inputAnswer;            ///< to each question for a text
     std::filesystem::path fileAnswer{}; ///< to each question for a file
-    /// Does it once without a fault, and then with every fault of these kinds. Files are judged as
-    /// the next start leaves them, and by it the player must get the card back: it is offered, or
-    /// stands in its file.
+    /// Does it once without a fault, and then with every fault of these kinds. Files are checked as
+    /// the next start leaves them, and the next start must give the card back: it is offered, or is
+    /// in its file.
     void runWithEveryFault(const Act& act,
                            const std::vector<test_faults::Kind>& kinds = test_faults::everyKind);
 
-    /// Does it once, and judges likewise what the disk may hold after a power cut behind each
-    /// operation. Where there is a card its journal is on the disk before.
+    /// Does it once, and checks in the same way what the disk may hold after a power cut following
+    /// each operation. If there is a card, its journal is on the disk from the beginning.
     void runWithEveryCut(const Act& act);
 
     /// The files of the program and of the player, and those that the act is to make.
@@ -44,18 +44,18 @@ class FaultTest : public CardFormTest {
     bool countsLooks = true; ///< see FaultRuns
     bool hasEnded = false;
     bool hasCard = false;    ///< startWithChangedCard was called
-    bool leavesCard = false; ///< the act does, once its file has it
-    /// Of the card's file, if the act saves it.
+    bool leavesCard = false; ///< after the act the form shows the card no more
+    /// The name of the card's file, if the act saves it.
     std::string savedName = "Jones";
     /// What the second field may hold.
     std::vector<std::string> secondTexts{"kept"};
-    /// Cards that no run may cost: each stands in a file somewhere, whole.
+    /// Contents of cards that no run may lose: each must be in some file, whole.
     std::vector<std::string> contentsToKeep{};
-    /// Whether each file is the old or the new one. Where a first run is interrupted the next one
-    /// makes the files of its own.
+    /// Whether to check that each file is the old or the new one. After an interrupted first run it
+    /// isn't: the next run makes files of its own.
     bool judgesFiles = true;
 
-    /// The program is over, and starts again; files and card are judged.
+    /// Starts the program again after its end and checks files and card.
     void expectAllAtNextStart(const test_faults::Files& before, const test_faults::Files& after);
 
   private:

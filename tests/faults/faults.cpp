@@ -35,10 +35,10 @@ const char* nameOf(Kind kind) {
     return "";
 }
 
-// No run takes nearly as long, not under the sanitizers either.
+// No run takes nearly as long, not even under the sanitizers.
 constexpr unsigned int longestRun = 20; // seconds
 
-// After so many of a kind the others will tell the same.
+// After this many failures of a kind, further ones would tell nothing new.
 constexpr int mostFailures = 3;
 
 constexpr int operationsWithoutFolder = 5;
@@ -55,12 +55,12 @@ bool needsRights(Call call) {
            call == Call::Remove || call == Call::MakeFolder || call == Call::Change;
 }
 
-/// What a file that is open already doesn't need.
+/// Whether the call needs the folder, which a call on an open file doesn't.
 bool needsFolder(Call call) {
     return call != Call::Read && call != Call::Write && call != Call::Sync && call != Call::Close;
 }
 
-/// Fails as told at the n-th of the operations that can fail so.
+/// Makes the n-th of the operations that can fail in this way fail.
 class Fault {
   public:
     Fault(const FaultRuns& runs, Kind kind, int number)
@@ -87,7 +87,7 @@ class Fault {
         fs::rename(folder_, away(), ignored);
         return 0;
     }
-    /// What the program has made in the vanished folder's place makes room.
+    /// Puts the folder back; what the program has made in its place is renamed.
     void comeBack() const {
         std::error_code ignored;
         if (!fs::exists(away(), ignored)) return;
@@ -132,8 +132,7 @@ ExitCode run(const FaultRuns& runs, Kind kind, int number) {
     return fault.happened() ? passed : untouched;
 }
 
-/// Does it in a process of its own, forked from this one: nothing gets from there to those who
-/// called the test.
+/// Does it in a forked process, so that nothing that happens there reaches this one.
 int exitCodeOf(const std::function<ExitCode()>& act) {
     std::fflush(nullptr);
     const pid_t child = fork();
@@ -154,7 +153,7 @@ int exitCodeOf(const std::function<ExitCode()>& act) {
     return WIFEXITED(status) ? WEXITSTATUS(status) : failed;
 }
 
-/// The home as it was, whatever a run did to it.
+/// Remembers the home and restores it, whatever a run did to it.
 class Home {
   public:
     explicit Home(const fs::path& folder) : Home(folder, filesIn(folder)) {}
@@ -200,7 +199,7 @@ Files filesAfter(const FaultRuns& runs) {
 int forEveryFault(const FaultRuns& runs) {
     const Home home(runs.home);
     int count = 0;
-    // Told at the end: a process that begins with a failure would tell it as its own.
+    // Reported only at the end: a process forked after a failure would report it as its own.
     std::vector<std::string> failures;
     for (const Kind kind : runs.kinds) {
         int failuresOfKind = 0;

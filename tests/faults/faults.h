@@ -1,4 +1,4 @@
-// Runs of a scenario in each of which one file operation fails, or all from one on.
+// Runs a scenario many times: in each run one file operation fails, or all from one on.
 #pragma once
 
 #include <filesystem>
@@ -40,8 +40,7 @@ struct FaultRuns {
 /// runs.
 int forEveryFault(const FaultRuns& runs);
 
-/// Does it in a process of its own, forked from this one; true if no check failed there. What it
-/// does to files stays.
+/// Does it in a forked process; true if no check failed there. What it does to files stays.
 bool passesAlone(const std::function<void()>& act);
 
 /// Makes these the files below the home, and removes all others; the folders stay.

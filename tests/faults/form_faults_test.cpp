@@ -19,7 +19,7 @@ using test_faults::Kind;
 
 class FormFaults : public FaultTest {
   protected:
-    /// Killed with unsaved changes.
+    /// Leaves what a program killed with unsaved changes leaves.
     void leaveChangedCard() {
         startWithChangedCard();
         toolkit::test::elapseAlarms();
@@ -107,7 +107,8 @@ TEST_F(FormFaults, Zooming) {
                       fewKinds);
 }
 
-// The longest of them. They are one job but for its end: each has other kinds.
+// The longest of the scenarios. They differ only in how the job ends, so each gets other kinds of
+// faults.
 
 TEST_F(FormFaults, PrintingToAFile) {
     startWithChangedCard();
@@ -149,7 +150,7 @@ TEST_F(FormFaults, GettingTheCardBackAndSavingIt) {
     runWithEveryFault([&] { startAgainAndSave(); }, fewKinds);
 }
 
-/// What is done to the player's files could go wrong half way: by then the journal has the card.
+/// Whatever is done to the player's files may fail half way: the journal must have the card before.
 class JournalFirst : public FormFaults {
   protected:
     void expectJournalFirst(const Act& act) {

@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// How much of what wasn't synced has got to the disk.
+/// How much of what wasn't synced has reached the disk.
 enum class Luck { Nothing, Empty, Half, All };
 
 struct Node {
@@ -30,7 +30,7 @@ struct Node {
 using NodePointer = std::shared_ptr<Node>;
 using Names = std::map<std::string, NodePointer>;
 
-/// One change of names, which happens as a whole or not: a file in place of a name or none.
+/// One change of names, which happens as a whole or not at all: each name gets a file, or none.
 using NameChange = std::vector<std::pair<std::string, NodePointer>>;
 
 void renameIn(Names& names, const NameChange& change) {
@@ -79,7 +79,7 @@ class Disk {
     }
 
     void forEachState(const std::function<void(const Files&)>& check) const {
-        // Each set of the pending changes, or where these are many each beginning.
+        // Of at most this many pending changes every subset is tried; of more, every beginning.
         constexpr std::size_t mostForSets = 6;
         const std::size_t count = pending_.size();
         if (count <= mostForSets) {

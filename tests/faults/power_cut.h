@@ -16,10 +16,9 @@ using Files = std::map<std::string, std::string>;
 /// All regular files below the folder.
 [[nodiscard]] Files filesIn(const std::filesystem::path& folder);
 
-/// Hands out each state that the disk may be in when the power is cut behind these operations,
-/// which began with the files `before`, all of them on the disk. Of content that wasn't synced
-/// nothing, half or all of it may have got there; of changes of names since the last sync of the
-/// folder any.
+/// Hands out each state that the disk may be in if the power is cut after these operations, which
+/// began with the files `before`, all of them on the disk. Of content that wasn't synced nothing,
+/// half or all may have reached it, and of changes of names since the last sync of the folder any.
 void forEachDisk(const Files& before, std::span<const Operation> done,
                  const std::function<void(const Files&)>& check);
 

@@ -1,4 +1,4 @@
-// The power is cut behind every operation on files.
+// The power is cut after every operation on files.
 #include "faults/power_cut.h"
 
 #include <optional>
@@ -23,8 +23,8 @@ class PowerCut : public testing::Test {
   protected:
     PowerCut() { toolkit::writeFile(path, old); }
 
-    /// What the file may be found to hold after a cut behind each operation of the act: each
-    /// content once, nothing where it isn't there.
+    /// What the file may hold after a power cut following any operation of the act: each content
+    /// once, nothing where the file is missing.
     using Found = std::set<std::optional<std::string>>;
     template <typename Act>
     Found everyCut(Act act) {
@@ -34,7 +34,7 @@ class PowerCut : public testing::Test {
         for (std::size_t count = 0; count <= operations.size(); ++count) look(before, count, found);
         return found;
     }
-    /// The same after the act's end.
+    /// The same for a power cut after the act.
     template <typename Act>
     Found cutAfter(Act act) {
         const Files before = filesIn(folder.path());
@@ -64,7 +64,7 @@ class PowerCut : public testing::Test {
     }
 };
 
-/// A few lines of C, as programs do it that forget the disk.
+/// Writes as programs do that don't think of the disk.
 void writeWith(const fs::path& path, int flags, const std::string& content, bool isSynced) {
     const int file = ::open(path.c_str(), flags | O_WRONLY | O_CREAT, 0666);
     EXPECT_EQ(::write(file, content.data(), content.size()), std::ssize(content));

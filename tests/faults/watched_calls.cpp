@@ -35,7 +35,7 @@ std::mutex mutex;
 std::atomic<WatchState*> watchState = nullptr; // null: nothing is watched
 thread_local bool isInside = false;
 
-/// What is called meanwhile isn't watched.
+/// Calls made while it lives aren't watched.
 class Inside {
   public:
     Inside() { isInside = true; }
@@ -205,7 +205,7 @@ int renameWatched(int fromFolder, const char* from, int toFolder, const char* to
     return result;
 }
 
-/// What is closed is closed even where the call fails, as the system has it.
+/// As with the system, the file is closed even if the call fails.
 template <typename Real>
 int closeWatched(int file, Real real) {
     if (!isWatching()) return real();
@@ -245,7 +245,7 @@ using namespace test_faults; // NOLINT(google-global-names-in-headers): this is 
 
 extern "C" {
 
-// One of the library's names for their arguments is a word of the language.
+// The library's own name for an argument would be a keyword here.
 int watchedRename(const char* from, const char* to) asm("rename");
 int watchedRenameat(int fromFolder, const char* from, int toFolder, const char* to) asm("renameat");
 int watchedRenameat2(int fromFolder, const char* from, int toFolder, const char* to,

@@ -11,7 +11,7 @@
 namespace test_faults {
 
 enum class Call {
-    Open, ///< to read, also a folder
+    Open, ///< for reading, a folder too
     OpenToWrite,
     Read,
     Write,
@@ -30,8 +30,8 @@ enum class Call {
 struct Operation {
     Call call = Call::Look;
     std::string path;
-    std::string target{};   ///< of a rename
-    std::string content{};  ///< that was written
+    std::string target{};   ///< the new name, of a rename
+    std::string content{};  ///< what was written
     std::size_t at = 0;     ///< where it was written, or the length of a truncated file
     bool truncates = false; ///< opened so that it lost its content
 };

@@ -24,8 +24,8 @@ class FileFaults : public testing::Test {
         toolkit::writeFile(folder / "from", content);
     }
 
-    /// After a failure the file is the old one, or the new one where only the last sync failed;
-    /// after success it is the new one. In both cases it stands alone.
+    /// After a failure the file must be the old one, or the new one where only the last sync
+    /// failed; after a success the new one. In both cases no other file may be left.
     void runWith(const std::function<void()>& act) {
         bool hasFailed = false;
         const int runs =
@@ -35,8 +35,8 @@ class FileFaults : public testing::Test {
 
                            .check =
                                [&](Kind kind) {
-                                   // From a folder that isn't there nothing can be removed: the
-                                   // next start does.
+                                   // Nothing can be removed from a folder that isn't there; the
+                                   // next start does that.
                                    if (kind == Kind::FolderGone || kind == Kind::FolderComesBack)
                                        toolkit::deleteLeftOvers(data);
                                    check(hasFailed);
@@ -85,7 +85,7 @@ TEST_F(FileFaults, WithoutRoomForAnotherFileTheOldOneIsNotWrittenOver) {
     EXPECT_EQ(filesIn(data).at(path.string()), old);
 }
 
-/// What another program does just before the last step.
+/// Another program acts just before the last step.
 class LastMoment : public FileFaults {
   protected:
     /// The failure of a new file's writing, 0 for none.

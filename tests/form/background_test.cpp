@@ -29,7 +29,7 @@ TEST_F(Background, TheTilesAreSeenBesideTheCard) {
     toolkit::test::settle();
     const auto shown = toolkit::test::grabWindow();
     const auto tile = form.Background.tile;
-    // Somewhere in the middle a whole row of a tile stands as it is.
+    // Somewhere in the middle a whole row of a tile is visible.
     int green = 0;
     for (int x = 0; x < shown.width(); ++x) {
         const auto color = shown.pixel(x, shown.height() / 2);

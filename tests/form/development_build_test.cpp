@@ -1,4 +1,4 @@
-// A build of the developers' own: this program has the services of one.
+// A developer's build: this test program is linked with the services of one.
 #include "app/form_load.h"
 #include "support/form_test.h"
 #include "toolkit/base/write_file.h"

@@ -47,7 +47,7 @@ TEST_F(FileFailures, AreNotToldAgainUntilSomethingElseHappens) {
     note(layoutFailure, toolkit::Failure::DiskFull);
     tellFileFailures(form);
     EXPECT_EQ(boxes.size(), 2U);
-    // What succeeds has nothing to tell.
+    // After a success there is nothing to tell.
     tellFileFailures(form);
     EXPECT_EQ(boxes.size(), 2U);
     fail();

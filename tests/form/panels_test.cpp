@@ -14,7 +14,7 @@ class Panels : public FormTest {
         form.P3.Move(100 * pixel, 80 * pixel, 200 * pixel, 120 * pixel);
         form.P3.Visible = true;
     }
-    /// The window's pixel at a place of the form's inside.
+    /// The window's pixel at a place of the form's client area.
     [[nodiscard]] toolkit::Color at(const toolkit::Bitmap& shown, int x, int y) const {
         const int inside = static_cast<int>(form.ScaleHeight() / pixel);
         return shown.pixel(x, shown.height() - inside + y).value_or(0);

@@ -15,7 +15,7 @@ class Services : public FormTest {
   protected:
     ~Services() override { toolkit::overrideSystem({}); }
 
-    /// A machine that doesn't tell anything of itself.
+    /// Lets the machine tell nothing of itself.
     static void silenceSystem() {
         toolkit::overrideSystem({.version = []() -> std::string { fail(); },
                                  .memory = []() -> toolkit::MemoryFacts { fail(); },

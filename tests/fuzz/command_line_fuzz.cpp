@@ -9,7 +9,7 @@
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string_view line(reinterpret_cast<const char*>(data), size);
     const std::string name = zev::cardNameOf(line);
-    // Nothing that leads out of the folder may stay in the name.
+    // The name must not hold anything that leads out of the folder.
     if (name.find_first_of("\\/.") != std::string::npos) std::abort();
     static_cast<void>(zev::hasForbiddenCharacter(name));
     static_cast<void>(zev::cleanedCardName(line));

@@ -12,7 +12,8 @@ constexpr std::string_view someOffsets = "1,2,3,4,5,6,7,8,9,10,11,12,13,14,15,16
 
 class BuildFields : public FormTest {
   protected:
-    /// A screen of 12 twips a pixel shows a layout written at 15; the player keeps the layout.
+    /// Starts on a screen of 12 twips per pixel with a layout written at 15, which the player
+    /// keeps.
     void startOnOtherScreen(const std::string& layout) {
         toolkit::overrideScreen({.twipsPerPixel = 12, .width = 24000, .height = 24000});
         writeLayout(layout);

@@ -9,7 +9,7 @@
 namespace zev::test {
 namespace {
 
-constexpr int twips = 15; ///< of a pixel
+constexpr int twips = 15; ///< per pixel
 
 /// Edges in twips, found column by column and row by row.
 struct Edges {

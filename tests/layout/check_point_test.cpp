@@ -16,8 +16,8 @@ constexpr const char* setAside = "$$TempDef.Ini";
 
 class CheckPoint : public FormTest {
   protected:
-    /// A check-point of a moved field; putting back what it sets aside fails, as a folder has taken
-    /// the layout's name.
+    /// Makes a check-point of a moved field and then fails to put the layout back, because a folder
+    /// has taken its name.
     void failToRestore() {
         const float left = form.AMark[1].Left;
         form.AMark[1].Left += 150;

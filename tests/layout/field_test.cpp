@@ -1,4 +1,4 @@
-// Fields that no record stands for: they keep the numbers of the others and nothing else.
+// Holes: fields without a record, which are only there so that the others keep their numbers.
 #include "card/write_card.h"
 #include "layout/field.h"
 #include "layout/write_layout.h"
@@ -130,7 +130,7 @@ TEST_F(Holes, ASequenceOfHolesAloneEndsTheWalk) {
     EXPECT_FALSE(form.TabActive);
 }
 
-/// What a card made with another layout has there stays in it, but shows nothing.
+/// What a card made with another layout has for a hole stays in the card, unshown.
 TEST_F(Holes, KeepTheirShareOfACardUnshown) {
     writeCard("Jones", "' Program version: 2.0.0\r\n\"\",\"\"\r\n3\r\n1,1,0\r\n2,1,0\r\n3,0,0\r\n"
                        "3\r\n1,\"\",0\r\n2,\"5^h\",0\r\n3,\"a\",0\r\n");

@@ -39,7 +39,7 @@ class FindLayout : public FormTest {
                                writtenAt(layout, std::string(number) + ",19200"));
         }
     }
-    /// Starts without a layout in the data folder; the left place of the mark that was made.
+    /// Starts without a layout in the data folder; returns the left place of the mark.
     float startFreshAt(int twips) {
         useTwips(twips);
         installMarkedLayouts();

@@ -233,7 +233,7 @@ std::string wholeLayout() {
 TEST(LayoutReader, NeverReadsATruncatedFileWrongly) {
     const std::string whole = wholeLayout();
     ASSERT_EQ(readWhole(whole), 0);
-    // What lacks a record fails; a shortened tab part may still be a whole one.
+    // A layout that lacks a record fails; one with a shortened tab part may still be valid.
     const std::size_t lastRecord = whole.rfind(",0\r\n") + 2;
     for (std::size_t length = 0; length < lastRecord - 1; ++length)
         ASSERT_NE(readWhole(whole.substr(0, length)), 0) << length;

@@ -80,7 +80,7 @@ TEST_F(MoveCard, CardSmallerThanTheFormIsPinnedToTheFarSide) {
     expectAt(3000, 1500);
     typeKey(key::right);
     EXPECT_EQ(form.P1.Left, 3000);
-    // What is above 0 and not below the far side goes back to the near one.
+    // Beyond that side the place becomes 0.
     typeKey(key::left);
     EXPECT_EQ(form.P1.Left, 0);
 }

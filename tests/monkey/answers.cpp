@@ -41,7 +41,7 @@ constexpr auto boxesOfTrouble = std::to_array<std::string_view>(
 
 } // namespace
 
-/// While a box is open the program's alarms ring as ever.
+/// Kills the program in an open box now and then. Its alarms go off before, as they do in a box.
 void Monkey::killMaybe() {
     if (!mayKill_ || !chance(50)) return;
     toolkit::test::elapseAlarms();
@@ -83,7 +83,7 @@ Answer Monkey::answerFor(const toolkit::MessageBox& box) {
     return Answer::Cancel;
 }
 
-/// The oldest first, each once, until one is wanted back.
+/// The program offers the oldest first, each once, until one is wanted back.
 Answer Monkey::answerRescue(const toolkit::MessageBox& box) {
     const std::size_t place = rescuesAsked_++;
     EXPECT_FALSE(rescued_);
@@ -208,7 +208,7 @@ void Monkey::actInChooser() {
     const auto isOver = [this] { return zevlin().ChooserCancelled || zevlin().ChooserTaken; };
     if (chosen_.empty() || chosen_.back().name != "?")
         chosen_.push_back({zevlin().Caption.find("Open an existing") != std::string::npos, "?"});
-    // What was saved for the sake of the next card may be renamed or deleted now.
+    // The card that was saved before opening the next one may be renamed or deleted now.
     if (chosen_.back().isToOpen && !isStarting_) finishQuestion();
     const auto die = pick(20);
     if (die < 3) {

@@ -66,7 +66,7 @@ CardDocument CardAccount::withTyping() const {
 
 bool CardAccount::isTyping() const {
     if (!open) return false;
-    // Of ampersands in a row the box shows one: nobody has typed that.
+    // The box shows a run of ampersands as one, which isn't the player's typing.
     const std::string& present = card.texts.at(static_cast<std::size_t>(open->field) - 1).text;
     return rawText(open->typed) != rawText(typedText(present));
 }
@@ -111,7 +111,7 @@ void CardAccount::commit() {
     open.reset();
 }
 
-/// The highlight isn't taken back.
+/// An undo leaves the highlight as it is.
 void CardAccount::undo(bool boldCard) {
     open->typed = typedText(open->opening);
     int& switches = text(open->field).switches;

@@ -1,5 +1,5 @@
-// What a card must hold by the rules that the player is told: kept from the events alone, without a
-// look at the form's fields.
+// What a card must hold by the documented rules, worked out from the events alone, without a look
+// at the form's fields.
 #pragma once
 
 #include <optional>
@@ -28,7 +28,7 @@ class CardAccount {
         int openingSwitches = 0;
     };
 
-    /// Of marks, texts and styles; a name, a partner.
+    /// Marks, texts and styles, name and partner.
     CardDocument card;
     bool star = false;
     std::optional<OpenField> open;
@@ -45,7 +45,7 @@ class CardAccount {
     void openText(int field);
     void commit();
     void undo(bool boldCard);
-    /// The whole field becomes this, at once.
+    /// A paste that replaces the whole text.
     void pasteWhole(const std::string& typed);
 
     void clear(bool boldCard);
@@ -60,7 +60,7 @@ class CardAccount {
 
 /// The card as its file gives it back.
 [[nodiscard]] CardDocument asStored(CardDocument card);
-/// Without what a layout of so many fields can't show.
+/// The card without what a layout of this many fields can't show.
 [[nodiscard]] CardDocument fittedTo(CardDocument card, int marks, int texts);
 /// What tells the two apart, empty if nothing does. Fields that are blank at the end don't count,
 /// nor does the version.

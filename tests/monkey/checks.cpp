@@ -51,12 +51,12 @@ bool Monkey::refusesJobs() const {
            badTarget_;
 }
 
-/// Every failure that the program met belongs to a trouble that is there.
+/// Every failure in the trace must come from a trouble that is there.
 void Monkey::checkTrace() {
     for (const std::string& line : takeErrors()) {
         const bool isOfJob = line.starts_with("Error in PrintPictureBox at step 1200: 482") ||
                              line.starts_with("Error in PrintPictureBox at step 2300: 482");
-        // Beyond the walk's table TAB says so in the trace.
+        // TAB on an item beyond the table of the walk is a failure that is traced.
         const bool isOfWalk = line.starts_with("Error in P1_KeyDown: #9,") ||
                               line.starts_with("Error in xText_LostFocus: #9,");
         EXPECT_TRUE(troubles_->explains(line) || isOfWalk || (isOfJob && refusesJobs()) ||
@@ -93,7 +93,7 @@ void Monkey::checkJournal() {
     if (!now.CardModified || now.Journal.alarm.isSet() || isDoubtful) return;
     CardDocument kept = readRescue(now.Journal.written).document;
     CardDocument wanted = asStored(documentWithTyping(now));
-    // Fields that were added to the layout and not saved go with a rebuild.
+    // A rebuild removes fields that were added to the layout and not saved.
     kept.marks.resize(wanted.marks.size());
     kept.texts.resize(wanted.texts.size());
     kept.cardName = wanted.cardName;
@@ -115,7 +115,7 @@ void Monkey::checkRules() {
     EXPECT_TRUE(now.P1.Visible);
     EXPECT_TRUE(now.MenusEnabled);
     EXPECT_EQ(now.MousePointer == toolkit::MousePointer::Hourglass, false);
-    // The fields lie where the picture has their places.
+    // The fields must lie where the picture has their places.
     constexpr float designTwips = 1198 * pixel;
     EXPECT_NEAR(now.P1.Width / designTwips, now.CardScale, 0.002F);
     const bool fits = now.MFitScreenWidth.Checked || now.MFitScreenHeight.Checked;
@@ -129,7 +129,7 @@ void Monkey::checkRules() {
     EXPECT_EQ(now.Caption, now.FormTitle + name + (now.CardModified ? " *" : ""));
 }
 
-/// Every card is as it was saved last, or as another program has left it.
+/// Every card must be as it was saved last, or as another program has left it.
 void Monkey::checkDisk() {
     if (troubles_->isOfFolder()) return;
     for (const auto& [name, card] : files_) {

@@ -139,13 +139,13 @@ bool Monkey::noteSaved(const std::string& name) {
     return true;
 }
 
-/// The last naming got as far as to the save.
+/// Whether the last chooser led to a save.
 bool Monkey::givesPartnerUp() const {
     return answerTo(keepPartner) == Answer::No && !lastChosen(false).empty() &&
            answerTo("File already exists") != Answer::No;
 }
 
-/// A card without a star is in its file.
+/// Without a star the card must be in its file.
 void Monkey::finishSave() {
     const std::string chosen =
         answerTo("File already exists") == Answer::No ? std::string() : lastChosen(false);
@@ -154,7 +154,7 @@ void Monkey::finishSave() {
     const bool isSaved = !zevlin().CardModified;
     for (const std::string& name : {chosen, account_.card.cardName})
         if (isSaved && !name.empty() && noteSaved(name)) return;
-    // Nothing was saved where nothing had to be.
+    // Nothing may be saved without need.
     EXPECT_FALSE(isSaved && account_.star)
         << "no file holds the card '" << account_.card.cardName << "', '" << chosen << "'";
     if (zevlin().CardName == chosen)
@@ -163,7 +163,7 @@ void Monkey::finishSave() {
         account_.card.partner = partner;
 }
 
-/// Whether the program goes on to what was asked for.
+/// The consequences of the answer to the question about unsaved changes.
 void Monkey::finishQuestion() {
     if (std::exchange(isSettled_, true)) return;
     const auto answer = answerTo(saveFirst);
@@ -190,7 +190,7 @@ void Monkey::saveIt() {
 
 void Monkey::saveItAs() {
     if (!choose("File>Save As...")) return;
-    // Given up at its first question it leaves the field open.
+    // Cancelled at its first question, it leaves the field open.
     syncOpenField();
     finishSave();
 }
@@ -247,7 +247,7 @@ void Monkey::setUpPrinter() {
 
 void Monkey::showHelp() { choose("Help"); }
 
-/// What the system has at the next start and at the next look.
+/// Changes the printers that the system reports from now on.
 void Monkey::exchangePrinters() {
     doing_ = "exchange the printers";
     toolkit::overridePrinters({oddPrinter(pick(6))});

@@ -58,7 +58,8 @@ void Monkey::doAnything() {
     }
 }
 
-/// Nothing but one mark, or the texts of the field that was open and of the one that is.
+/// Takes over what can't be foreseen: one mark at most, or the texts of the field that was open and
+/// of the one that is.
 void Monkey::adopt() {
     const CardDocument found = documentWithTyping(zevlin());
     const CardDocument before = account_.withTyping();
@@ -93,7 +94,7 @@ void Monkey::enterDesign() {
     }
     if (answer == Answer::Yes) finishSave();
     if (zevlin().MShowDesignMenu.Checked) toolkit::test::chooseMenu(menuItem);
-    // Hiding the menu again may have asked and gone into the mode.
+    // Hiding the menu may have asked a question and entered the mode.
     EXPECT_FALSE(zevlin().MShowShapes.Checked);
 }
 

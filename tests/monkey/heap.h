@@ -24,8 +24,8 @@ inline std::size_t heapInUse() {
 #endif
 }
 
-/// Bytes that the process has in memory. The C library keeps what was given back to it, as much as
-/// happens to lie between what is in use: it is asked to give that to the system before.
+/// Bytes that the process has in memory. The C library keeps freed memory that lies between blocks
+/// in use, so it is asked first to return that to the system.
 inline std::size_t residentMemory() {
     malloc_trim(0);
     std::ifstream status("/proc/self/status");

@@ -61,7 +61,8 @@ void Monkey::workBehind() {
 }
 
 void Monkey::runSecondCopy() {
-    // Where the folder was emptied the first copy's number is free, and it may still use it.
+    // If the folder was emptied, the number of the first copy's journal looks free, while that copy
+    // may still use it.
     if (secondCopy_ || journalDoubtful_) return;
     doing_ = "a second copy";
     secondCopy_ = std::make_unique<Zevlin>();
@@ -80,7 +81,7 @@ void Monkey::runSecondCopy() {
     EXPECT_TRUE(fs::exists(copy.Journal.file));
 }
 
-/// Files of the dead are told apart by their times, which are those of their deaths.
+/// Journals of dead copies are ordered by their times, which are those of their ends.
 void Monkey::endSecondCopy() {
     if (!secondCopy_) return;
     doing_ = "the second copy is killed";
@@ -98,12 +99,13 @@ void Monkey::endSecondCopy() {
     unsaved_.push_back({stored(card), file});
 }
 
-/// As a file of the present layout has it: of the fields that an earlier one had nothing is kept.
+/// The card as a file of the present layout holds it: without fields that only an earlier layout
+/// had.
 CardDocument Monkey::stored(const CardDocument& card) {
     return fittedTo(asStored(card), zevlin().AMark.UBound(), zevlin().AText.UBound());
 }
 
-/// What is in the journal, which has had its time.
+/// Expects the card in the journal, which has had the time to be written.
 void Monkey::expectRescued(const CardDocument& card) {
     const fs::path file = zevlin().Journal.file;
     ASSERT_TRUE(fs::exists(file)) << "nothing was kept of '" << card.cardName << "'";
@@ -119,7 +121,7 @@ void Monkey::noteKilled() {
     const bool isDoubtful = journalDoubtful_ || troubles_->hindersJournal();
     const bool hasChanges = !wasDesigning_ && (account_.star || account_.isTyping());
     if (isDoubtful) {
-        // Whatever is there can't be told.
+        // What the journal holds can't be known here.
         zevlin().Journal.lock.release();
         secondCopy_.reset();
         unsaved_.clear();
@@ -133,7 +135,7 @@ void Monkey::noteKilled() {
     startAgain();
 }
 
-/// A save that failed: the card is in the journal, whatever its star.
+/// After a failed save the card is in the journal, changed or not.
 void Monkey::noteEnded() {
     doing_ += ", ended";
     EXPECT_NE(troubles_->present(), Troubles::Kind::None) << "the program ended";

@@ -26,7 +26,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A fit beyond the picture's full size isn't shown, and leaving it leaves the fields behind.
+/// The screen is so small that no fit goes beyond the picture's full size: such a fit isn't shown,
+/// and the fields would be misplaced after it.
 constexpr float screenTwips = 12900;
 constexpr double clockStart = 1795000000;
 

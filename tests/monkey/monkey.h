@@ -30,18 +30,18 @@ class Monkey : public FormTest {
     struct Course {
         unsigned seed = 0;
         int events = 0;
-        bool onInstalledLayout = false; ///< hundreds of fields on the real picture, at their price
+        bool onInstalledLayout = false; ///< hundreds of fields on the real picture, which is slower
     };
     /// Stops at the first failure.
     void run(const Course& course);
 
-    /// Of all that was done and seen, to compare runs by.
+    /// A hash of all that was done and seen, to compare runs by.
     [[nodiscard]] std::uint64_t digest() const { return digest_; }
 
   private:
     /// Thrown out of a box: the program is killed while it is open.
     struct Killed {};
-    /// What a dead run has left unsaved.
+    /// What a killed run has left unsaved.
     struct Unsaved {
         CardDocument card;
         std::filesystem::path file;
@@ -140,7 +140,8 @@ class Monkey : public FormTest {
     [[nodiscard]] std::optional<CardDocument> onDisk(const std::string& name) const;
     bool choose(std::string_view item);
 
-    // Whatever comes, where it can't be told exactly: nothing but one mark or the open field.
+    // Events whose effect can't be foreseen exactly: they may change one mark or the open field,
+    // and nothing else.
     void doAnything();
     void adopt();
 
@@ -200,7 +201,7 @@ class Monkey : public FormTest {
     int baseMarks_ = 0;
     int baseTexts_ = 0;
 
-    // Of the present event.
+    // What the present event has met.
     std::vector<Asked> asked_;
     std::vector<Chosen> chosen_;
     std::string inputAnswer_;

@@ -1,5 +1,5 @@
-// The program goes on for hours: what it does over and over keeps no memory. A longer run is the
-// benchmark "soak".
+// The program may run for hours: what it does again and again must not take ever more memory. The
+// benchmark "soak" runs longer.
 #include "form/write_options.h"
 #include "layout/write_layout.h"
 #include "monkey/heap.h"
@@ -44,7 +44,7 @@ class Soak : public FormTest {
             choose("File>Print card");
         }
     }
-    /// As much of everything.
+    /// Does everything this many times.
     void work(int times) {
         zoom(20 * times);
         saveAndOpen(3 * times);
@@ -69,15 +69,16 @@ TEST_F(Soak, NothingThatIsDoneOverAndOverKeepsMemory) {
     toolkit::test::typeText("2^h & more");
     answerName("Jones");
     choose("File>Save");
-    // What is made once: each sign at each size, pictures, the lines of the trace.
+    // Rounds in which the program makes what it makes only once: each sign at each size, pictures,
+    // the lines of the trace.
     constexpr int warmUp = 2;
     constexpr int rounds = 15;
     for (int i = 0; i < warmUp; ++i) work(2);
     const std::size_t before = test_system::heapInUse();
     work(rounds);
     const std::size_t after = test_system::heapInUse();
-    // Lines of the trace and histories of boxes have their ups and downs; a field lost at each zoom
-    // would be more than this.
+    // The trace and the record of boxes vary in size; a field that leaked at each zoom would be
+    // more than this.
     constexpr std::size_t tolerance = 32768;
     EXPECT_LE(after, before + tolerance) << "of " << before;
 }

@@ -25,7 +25,8 @@ constexpr auto names = std::to_array<std::string_view>(
      "options a folder", "options garbage", "folder gone", "folder a file", "disk full",
      "disk read-only", "no file grows", "state folder a file", "state folder removed"});
 
-/// Everything that writes or reads for the program's own purposes, and what the player asked for.
+/// The beginnings of trace lines by whatever reads or writes in the folder, for the program's own
+/// purposes or by the player's wish.
 constexpr auto ofFolder = std::to_array<std::string_view>(
     {"Error in IniWrite ", "Error in MSave_Click ", "Error in Initialize ", "Error in MSaveShapes ",
      "Error in CheckPointShapes ", "Error in RestoreShapes: #", "Error in Traceit: #",
@@ -39,7 +40,7 @@ constexpr auto ofOptions =
     std::to_array<std::string_view>({"Error in IniWrite ", "Error in Initialize "});
 constexpr std::string_view ofJournal = "Error in the journal: #";
 
-/// Files can't become longer than this; those that are stay.
+/// No file can grow beyond this; longer ones stay as they are.
 void limitFiles(rlim_t bytes) {
     rlimit limit{};
     getrlimit(RLIMIT_FSIZE, &limit);
@@ -58,7 +59,7 @@ std::string_view nameOf(Troubles::Kind kind) { return names.at(static_cast<std::
 Troubles::Troubles(fs::path dataFolder, fs::path stateFolder)
     : dataFolder_(std::move(dataFolder)), stateFolder_(std::move(stateFolder)),
       disk_(std::make_unique<test_system::SmallDisk>(dataFolder_.parent_path(), diskKilobytes)) {
-    // Else the system ends who writes beyond the limit.
+    // Otherwise the system ends a process that writes beyond the limit.
     std::signal(SIGXFSZ, SIG_IGN);
     fs::create_directories(dataFolder_);
 }

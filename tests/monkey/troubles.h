@@ -1,4 +1,4 @@
-// What befalls the folders of the program while it runs, and its mending.
+// Troubles with the program's folders while it runs, and their repair.
 #pragma once
 
 #include <algorithm>
@@ -51,7 +51,7 @@ class Troubles {
     [[nodiscard]] Kind present() const { return present_; }
     [[nodiscard]] bool isOfFolder() const;
     [[nodiscard]] bool hindersJournal() const;
-    /// Whether a trace line that begins with "Error" may come of it.
+    /// Whether the trouble may be the reason for this trace line, which begins with "Error".
     [[nodiscard]] bool explains(std::string_view line) const;
     /// Whether there is a disk that can be filled.
     [[nodiscard]] bool hasDisk() const { return disk_ && disk_->isThere(); }

@@ -54,7 +54,7 @@ bool Monkey::isInBox() {
     return box() != nullptr && zevlin().ActiveControl == box() && account_.open;
 }
 
-/// On the wanted field and on nothing else.
+/// Whether the point is on the wanted field and on nothing else.
 bool Monkey::isCleanHit(CardPoint point, const Label* wanted) {
     const float x = zevlin().P1.Left + point.x;
     const float y = zevlin().P1.Top + point.y;
@@ -86,7 +86,7 @@ void Monkey::clickAMark() {
     if (!zevlin().AMark.exists(mark)) return;
     const Label& label = zevlin().AMark[mark];
     const CardPoint point{label.Left + label.Width / 3, label.Top + label.Height / 2};
-    // A pointer goes by whole pixels.
+    // The pointer moves by whole pixels.
     for (const float off : {-pixel, pixel})
         if (!hitsMark(label, point.x + off, point.y + off, zevlin().TwipsPerPixel)) return;
     if (!isCleanHit(point, &label)) return;
@@ -190,7 +190,7 @@ void Monkey::noteStyle(int keyCode) {
     }
 }
 
-/// What is selected, or all; nothing takes no place on the clipboard.
+/// A copy takes the selection, or else everything; an empty text doesn't replace the clipboard's.
 void Monkey::noteCopy() {
     const std::string& typed = account_.open->typed;
     const auto start = static_cast<std::size_t>(box()->SelStart);
@@ -199,11 +199,11 @@ void Monkey::noteCopy() {
     if (!copied.empty()) elsewhere_ = copied;
 }
 
-/// The program's own copy goes over the whole field, another program's text to the caret.
+/// The program's own copy replaces the whole field; another program's text goes to the caret.
 void Monkey::notePaste() {
     const bool isOwn =
         zevlin().mpopPaste.Enabled && !zevlin().ClipText.empty() && toolkit::holdsClipboardText();
-    // Of ampersands in a row one is left.
+    // A run of ampersands becomes one.
     if (isOwn) return account_.pasteWhole(typedText(zevlin().ClipText));
     if (elsewhere_.empty()) return;
     account_.open->typed.replace(static_cast<std::size_t>(box()->SelStart),
@@ -266,7 +266,7 @@ void Monkey::walkByKey() {
     if (box() != nullptr) noteEdited();
 }
 
-/// Where the keyboard rests on a mark and the pointer hasn't moved.
+/// SPACE acts if the TAB walk has stopped on a mark and the pointer hasn't moved.
 void Monkey::spaceOnCard() {
     if (box() != nullptr) return;
     doing_ = "SPACE";

@@ -30,7 +30,7 @@ class ExportCard : public PrintTest {
         EXPECT_TRUE(std::filesystem::exists(dataFile(name))) << name;
         return toolkit::loadBitmap(dataFile(name));
     }
-    /// The middle of a text field on the exported image is its ink somewhere.
+    /// Whether a text field on the exported image has ink anywhere in its middle.
     [[nodiscard]] bool hasInk(const toolkit::Bitmap& image, const toolkit::Label& label,
                               toolkit::Color color) const {
         const auto px = [this](float twips) {

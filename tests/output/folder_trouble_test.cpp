@@ -1,5 +1,5 @@
-// Everything that makes the screen anew, with a changed card open, while the data folder is in
-// trouble: card, name and star stay, and so does the program.
+// Every command that rebuilds the screen, with a changed card open, while something is wrong with
+// the data folder: card, name and changed flag stay, and the program goes on.
 #include <array>
 #include <optional>
 #include <tuple>
@@ -27,10 +27,10 @@ struct Work {
     const char* menu;
     bool asksForPage = false;
     bool asksForImage = false;
-    bool isJob = false; ///< which sets the layout's file aside, and so doesn't need it
+    bool isJob = false; ///< a job sets the layout's file aside, and so doesn't need it
 };
 
-/// What happens to the folder, and what one box then says. An empty text: there is no box.
+/// What happens to the folder, and what a box then says; empty if there is none.
 struct Trouble {
     const char* name;
     void (*strike)(const fs::path& folder);

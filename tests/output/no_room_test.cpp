@@ -35,7 +35,7 @@ class NoRoom : public PrintTest {
                                   "Error in MSaveShapes ", "Error in PrintPictureBox at step "})
             announceError(error);
     }
-    /// Behind the job's own box, what else found no room.
+    /// Expects the job's own box, and after it one that tells what else found no room.
     void expectToldOnce(const std::string& job) {
         ASSERT_EQ(boxes.size(), 2U);
         EXPECT_TRUE(boxes[0].text.starts_with(job)) << boxes[0].text;

@@ -55,13 +55,13 @@ inline PrintedPage pageIn(const std::filesystem::path& file) {
     return page;
 }
 
-constexpr float points = 72; ///< in an inch
+constexpr float points = 72; ///< per inch
 
 class PrintTest : public FormTest {
   protected:
     PrintTest() {
         writeLayout(fewFields());
-        // Or the time stamp would go on between two looks at the card.
+        // Otherwise the time stamp could change between two looks at the card.
         toolkit::overrideClock(1795000000);
     }
 

@@ -23,7 +23,7 @@ class SlowPrintService : public FormTest {
         toolkit::Printer office = toolkit::printerNamed(toolkit::printToPdfName);
         office.DeviceName = "Office";
         office.PaperBin = 3;
-        // All its own: it may end after the test.
+        // It uses nothing of the test's, since it may end after the test.
         toolkit::overrideDefaultPrinterQuestion(
             [office, asked = questions_, answer = release_.get_future().share()] {
                 ++*asked;

@@ -59,7 +59,7 @@ class SmallDisk : public PrintTest, public testing::WithParamInterface<Way> {
     }
     void expectToldAndUnharmed() {
         const std::string_view message = GetParam().message;
-        // That the folder took nothing else, either, is told by a box of its own.
+        // Leaves out the box that tells what else the folder couldn't take.
         std::erase_if(boxes, [](const ShownBox& box) {
             return box.text.starts_with("Zevlin could not use its folder");
         });

@@ -82,7 +82,7 @@ FormTest::FormTest() : home(newFolder()) {
                  if (duringWait) duringWait(milliseconds);
              },
          .player = [this] { actInChooser(); }});
-    // Whatever printers this machine has.
+    // The printers of this machine must not matter.
     toolkit::overridePrinters({toolkit::printerNamed(toolkit::printToPdfName)});
     // A screen on which the whole card can be clicked.
     toolkit::overrideScreen({.width = 24000, .height = 24000});
@@ -139,7 +139,7 @@ void FormTest::actInChooser() {
     choosers.push_back(form.Caption);
     EXPECT_FALSE(chooserActs_.empty()) << "nobody answers the chooser";
     if (chooserActs_.empty()) {
-        // It may be the chooser of another form.
+        // The chooser may be that of another form.
         toolkit::test::typeKey(toolkit::key::escape);
     } else {
         takeFirst(chooserActs_)();

@@ -21,7 +21,7 @@
 
 namespace zev::test {
 
-/// Twips of a pixel on the usual screen.
+/// Twips per pixel on the usual screen.
 constexpr float pixel = 15;
 
 /// A message box that was shown.
@@ -33,7 +33,7 @@ struct ShownBox {
     std::optional<toolkit::Answer> preset{};
 };
 
-/// Every box must be foreseen: one that no answer waits for fails the test. A trace line that
+/// Every box must be foreseen: one without a prepared answer fails the test. A trace line that
 /// begins with "Error" fails the test unless it was announced.
 class FormTest : public testing::Test {
   protected:
@@ -46,7 +46,8 @@ class FormTest : public testing::Test {
 
     /// Starts the program; with an options file in the data folder it is no first run.
     void start(std::string_view commandLine = {});
-    /// The window without start-up, for tests that call the start-up procedures themselves.
+    /// Makes the window without starting, for tests that call the procedures of the start
+    /// themselves.
     void wireOnly();
     /// Runs a call: the code with which it ended the program, nothing if the program goes on.
     [[nodiscard]] static std::optional<int> exitCodeOf(const std::function<void()>& call);
@@ -55,8 +56,8 @@ class FormTest : public testing::Test {
     /// Runs a call that is expected to end the program as failed; true if it did.
     [[nodiscard]] static bool failsProgram(const std::function<void()>& call);
 
-    // Before start(): what stands in the data folder; by default an options file (half size, no
-    // fit) and the installed layout, no cards.
+    // Before start(): what is in the data folder. By default an options file (half size, no fit)
+    // and the installed layout, no cards.
     void makeFirstRun();
     void writeOptions(std::string_view content);
     void writeLayout(std::string_view content);
@@ -65,16 +66,16 @@ class FormTest : public testing::Test {
     // What the player answers, in the order of the boxes.
     void answer(toolkit::Answer answer);
     void answerInput(std::string text);
-    /// The file chosen to be written; an empty path cancels.
+    /// The file that the player chooses to be written; an empty path cancels.
     void answerFile(std::filesystem::path file);
     /// In the chooser the player types the name and presses Enter; without a name they press Esc.
     void answerName(std::string utf8);
     /// What the player does in the chooser, until it closes.
     void answerChooser(std::function<void()> acts);
-    /// What the next pop-up menu does; without one a pop-up is closed again.
+    /// What the player does in the next pop-up menu; without this a pop-up menu is closed again.
     void answerPopup(std::function<void(std::span<const toolkit::PopupRow>)> choice);
 
-    /// Lines that begin so are expected in the trace.
+    /// Lines that begin like this are expected in the trace.
     void announceError(std::string_view beginning);
     /// All trace lines so far that the ring still holds, oldest first, without their times.
     [[nodiscard]] std::vector<std::string> traceLines() const;
@@ -113,7 +114,7 @@ class FormTest : public testing::Test {
     std::vector<std::string> launched; ///< what was opened outside the program
     /// Runs while the program waits for the name of a file or of an image.
     std::function<void()> whileAsking;
-    /// Runs in the middle of each wait of the program.
+    /// Runs during each wait of the program.
     std::function<void(int milliseconds)> duringWait;
     Zevlin form;
     std::unique_ptr<toolkit::Window> window;
@@ -131,8 +132,7 @@ class FormTest : public testing::Test {
     std::vector<std::string> announced_;
 };
 
-/// A small layout as a file's content: marks and texts at given places, for tests that need few
-/// fields at known places.
+/// A field of a small layout, for tests that need few fields at known places.
 struct SmallField {
     float left = 0;
     float top = 0;

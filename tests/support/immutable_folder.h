@@ -10,8 +10,8 @@
 
 namespace test_system {
 
-/// For good, as the administrator can do: nothing can be made in it, renamed or removed. The files
-/// in it can be written.
+/// Locks the folder for as long as it lives: nothing can be made in it, renamed or removed, not
+/// even by the superuser. The files in it can still be written.
 class ImmutableFolder {
   public:
     explicit ImmutableFolder(const std::filesystem::path& folder)

@@ -1,4 +1,4 @@
-// Pictures scaled to the end, for tests.
+// Scaled pictures with all their rows finished, for tests.
 #pragma once
 
 #include <memory>

@@ -15,7 +15,8 @@ namespace test_system {
 
 class SmallDisk {
   public:
-    /// On the folder, which is empty as long as the disk lives. Other processes don't see it.
+    /// Mounts the disk on the folder, whose own content is hidden as long as the disk lives. Other
+    /// processes don't see the disk.
     SmallDisk(std::filesystem::path folder, int kilobytes) : folder_(std::move(folder)) {
         const std::string size = "size=" + std::to_string(kilobytes) + "k";
         if (unshare(CLONE_NEWNS) != 0 ||
@@ -30,10 +31,10 @@ class SmallDisk {
     SmallDisk& operator=(const SmallDisk&) = delete;
 
     [[nodiscard]] bool isThere() const { return refusal_.empty(); }
-    /// Why it isn't there.
+    /// Why the disk couldn't be made.
     [[nodiscard]] const std::string& refusal() const { return refusal_; }
 
-    /// Takes all room but so many bytes, in whole blocks.
+    /// Fills the disk except for `room` bytes, in whole blocks.
     void fill(std::uintmax_t room = 0) const {
         const auto free = std::filesystem::space(folder_).free;
         std::ofstream filler(folder_ / fillerName, std::ios::binary | std::ios::app);

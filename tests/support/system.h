@@ -1,4 +1,4 @@
-// What tests need of the system that they run on, by the same name on each.
+// What tests need from the system that they run on, by the same names on each system.
 #pragma once
 
 #include <cstdlib>
@@ -24,7 +24,7 @@ inline void clearVariable(const char* name) {
 #endif
 }
 
-/// Only where nobody has set it.
+/// Sets the variable if it isn't set yet.
 inline void presetVariable(const char* name, const std::string& value) {
     if (std::getenv(name) == nullptr) setVariable(name, value);
 }

@@ -46,7 +46,7 @@ class EditTest : public FormTest {
         return toolkit::textWidth(form.AText[field].Font, text);
     }
 
-    /// The place of a line in the trace; -1 if it isn't there.
+    /// The index of a line in the trace; -1 if it isn't there.
     [[nodiscard]] int traceIndex(std::string_view line) const {
         const auto lines = traceLines();
         for (std::size_t i = 0; i < lines.size(); ++i) {

@@ -89,7 +89,7 @@ TEST(BlankEscapes, GoOnBehindACaretPassedOver) {
     EXPECT_EQ(blankEscapes("^h ^s").caption, "\xA0\xA0\xA0 \xA0\xA0\xA0");
 }
 
-/// The rules said once more, step by step on both strings.
+/// The same rules in other code, step by step on both strings.
 BlankedText blankedStepByStep(std::string_view raw) {
     BlankedText blanked{std::string(raw), std::string(raw)};
     std::size_t place = 0;

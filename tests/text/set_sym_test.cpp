@@ -203,14 +203,14 @@ TEST_F(SetSymbols, ClickOnASymbolOpensItsField) {
     enter(1, "4^h");
     form.AText[1].Stack = form.Highlight[1].Stack + 1;
     const toolkit::Label& heart = form.SText[1];
-    // The part that juts out above the field.
+    // The part of the symbol that sticks out above the field.
     click(heart.Left + heart.Width / 2, heart.Top + 2 * pixel);
     EXPECT_EQ(form.TIndex, 1);
     EXPECT_TRUE(form.CText.Visible);
     EXPECT_TRUE(traced("SText_MouseDown 1"));
     EXPECT_TRUE(traced("SText_MouseUp 1"));
     EXPECT_TRUE(traced("SText_Click 1"));
-    // X is the symbol's own, so the caret lands near the start.
+    // X counts from the symbol, so the caret goes near the start.
     EXPECT_EQ(form.CText.SelStart, 0);
 }
 

@@ -38,7 +38,7 @@ TEST_F(Picture, AScaledCardFillsWhatIsAskedFor) {
 }
 
 TEST_F(Picture, BothSidesOfHalfSizeShowTheSameCard) {
-    // The half comes ready made, the other is made from the full picture.
+    // The half is built in; the other one is made from the full picture.
     const auto half = test::scaled(picture, {.factor = 0.5F, .width = 1198, .height = 1236});
     const auto above = test::scaled(picture, {.factor = 0.5001F, .width = 1198, .height = 1236});
     int different = 0;

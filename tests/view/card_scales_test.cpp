@@ -43,7 +43,7 @@ bool isInk(const toolkit::Bitmap& picture, int x, int y) {
     return picture.pixel(x, y).value_or(toolkit::white) != toolkit::white;
 }
 
-/// Whether the full card bears ink where a pixel of the smaller one comes from.
+/// Whether the full card has ink where this pixel of the smaller one comes from.
 bool hasSource(float scale, int x, int y) {
     const auto first = [scale](int at) {
         return static_cast<int>(std::floor(static_cast<float>(at) / scale)) - 2;
@@ -98,7 +98,7 @@ TEST(CardScales, FootIsFreeAtEachScale) {
 
 class CircledLetters : public FormTest {
   protected:
-    /// Ink that hangs together, corners included, from a place on.
+    /// The connected ink around a place, with diagonal neighbours.
     static std::set<std::pair<int, int>> blobAt(const toolkit::Bitmap& card, int x, int y) {
         constexpr std::size_t farTooMuch = 3000;
         std::set<std::pair<int, int>> blob{{x, y}};
@@ -115,8 +115,8 @@ class CircledLetters : public FormTest {
         return blob;
     }
 
-    /// The letter found as auto-adjust finds it: on the ring's middle row, the first ink behind its
-    /// left edge and four pixels of the design size.
+    /// Finds the letter on the ring's middle row: the first ink from four design pixels after the
+    /// left edge on.
     static std::set<std::pair<int, int>> letterIn(const toolkit::Bitmap& card,
                                                   const toolkit::Label& ring, float scale) {
         const auto left = static_cast<int>(ring.Left / twips);

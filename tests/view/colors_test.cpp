@@ -16,7 +16,7 @@ class Colors : public FormTest {
         writeLayout(fewFields());
         start();
     }
-    /// As the options do.
+    /// Chooses the colour as the options do.
     void useViolet() {
         form.ColorScheme = static_cast<std::int32_t>(violet);
         form.Initializing = true;

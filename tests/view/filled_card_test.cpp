@@ -20,7 +20,7 @@ namespace {
 
 constexpr float twipsPerPixel = 15;
 constexpr int whole = 765;
-/// Ink that is no fringe.
+/// Ink as dark as this is no faint edge.
 constexpr int clear = whole / 2;
 
 /// How much darker than paper a pixel is, 0 to 765.
@@ -31,7 +31,7 @@ int darkness(const toolkit::Bitmap& bitmap, int x, int y) {
            static_cast<int>((*color & 0xFFU) + (*color >> 8U & 0xFFU) + (*color >> 16U & 0xFFU));
 }
 
-/// A rectangle of pixels; right and bottom are the first ones behind it.
+/// A rectangle of pixels; right and bottom are the first ones beyond it.
 struct Area {
     int left = 0;
     int top = 0;
@@ -100,7 +100,7 @@ class FilledCard : public FormTest {
     /// A length on the shown card in pixels of the full one.
     [[nodiscard]] double inFull(double pixels) const { return pixels / static_cast<double>(scale); }
 
-    /// The font of the area before its text made it smaller.
+    /// The font of the area before it was made smaller to fit the text.
     [[nodiscard]] toolkit::FontSpec normalFont(const toolkit::Label& label) const {
         toolkit::FontSpec font = label.Font;
         font.Name = form.TextFontName;
@@ -180,7 +180,7 @@ class FilledCard : public FormTest {
         EXPECT_TRUE(inkIn(pen, free).empty()) << mark << " at " << scale;
     }
 
-    /// How many pixels of print other than the areas' own rules bear writing.
+    /// How many printed pixels, apart from the areas' own rules, are covered by writing.
     [[nodiscard]] int touchedPrint() {
         for (int field = 1; field <= form.AText.UBound(); ++field) {
             const Area area = areaOf(form.AText[field]);
@@ -253,7 +253,7 @@ void FilledCard::expectTextsOnTheirRules(int ratio) {
     for (int level = 1; level <= form.ZoomLevels; ++level) {
         zoomTo(level);
         if (ratio > 1) pen = toolkit::test::grabCardAt(ratio);
-        // As near as the mixed edge of a stem tells.
+        // As precise as the blended edge of a stem allows.
         const double noise = inFull(0.03);
         for (int field = 1; field <= form.AText.UBound(); ++field) {
             const toolkit::Label& label = form.AText[field];
@@ -349,7 +349,7 @@ TEST_F(FilledCard, ChecksLieOverTheirBoxesAtEveryZoom) {
                 << mark << " at " << scale;
             EXPECT_NEAR(box->middleY(), inFull(ink.middleY()), 2 + inFull(1))
                 << mark << " at " << scale;
-            // A pen goes over the edge, but not far.
+            // A mark may go over the edge of its box, but not far.
             EXPECT_GT(inFull(ink.right - ink.left + 1), 0.8 * boxSide) << mark << " at " << scale;
             EXPECT_LT(inFull(ink.right - ink.left), 1.5 * boxSide + inFull(1))
                 << mark << " at " << scale;

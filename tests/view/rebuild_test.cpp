@@ -148,7 +148,7 @@ TEST_F(Rebuild, TheStampNeverTellsTheTemporaryName) {
 #ifndef _WIN32 // no file is a pipe there
 TEST_F(Rebuild, ATemporaryCardThatVanishesInBetweenTakesNothingAlong) {
     startWithContent();
-    // The rebuild waits for its layout from a pipe, and meanwhile the card goes.
+    // The rebuild waits for its layout from a pipe; meanwhile the card's file is removed.
     fs::remove(dataFile("Definitions.Ini"));
     ASSERT_EQ(mkfifo(dataFile("Definitions.Ini").c_str(), 0600), 0);
     bool vanished = false;

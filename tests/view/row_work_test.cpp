@@ -12,7 +12,7 @@
 namespace zev {
 namespace {
 
-/// How often each row was done, and by which hands.
+/// How often each row was done, and by which threads.
 struct Tally {
     explicit Tally(int rows) : done(static_cast<std::size_t>(rows)) {}
 

@@ -169,7 +169,7 @@ TEST_F(TextOptions, InDesignModeASizeComesBackWithTheMarksShownAndThePositionsKe
     toolkit::test::moveMouse(from.x + 30, from.y, toolkit::button::left);
     toolkit::test::releaseMouse(from.x + 30, from.y);
     ASSERT_EQ(form.AMark[2].Left, left + 30);
-    form.TraceOn = true; // the ring holds fewer lines than this takes
+    form.TraceOn = true; // this traces more lines than the ring holds
     chooseSize("Big");
     EXPECT_TRUE(traced("True mBigTextFont_Click "));
     EXPECT_EQ(sizes(), "...X");

@@ -33,7 +33,7 @@ class Zoom : public FormTest {
         writeOptions("Zoom=" + std::to_string(step) + "\r\n");
         start();
     }
-    /// Chooses fit to width on a screen on which it comes to about this scale.
+    /// Chooses fit to width on a screen on which that gives about this scale.
     void fitTo(float scale) {
         toolkit::overrideScreen(
             {.width = scale * 2396 * pixel + form.FrameWidth, .height = 30000, .hasTaskBar = true});
