@@ -47,7 +47,7 @@ void placeWindow(Zevlin& form, InitializeRun& run) {
     const float width = std::min(area.width, form.P1.Width + form.FrameWidth);
     const float height = std::min(area.height, form.P1.Height + form.FrameHeight);
     run.step = 800;
-    if (!form.Printing) moveWindow(form, area, width, height);
+    if (!form.Printing && !form.FillsScreen) moveWindow(form, area, width, height);
 }
 
 } // namespace zev

@@ -73,6 +73,21 @@ TEST_F(PlaceWindow, WhilePrintingTheWindowStays) {
     EXPECT_EQ(form.P1.Left, 0);
 }
 
+TEST_F(PlaceWindow, AWindowThatFillsTheScreenStaysAndItsCardMoves) {
+    placeWith({});
+    form.FillsScreen = true;
+    form.Left = -4;
+    form.Width = 1008 * pixel;
+    form.P1.Move(-30, -30);
+    placeWindow(form, run);
+    EXPECT_EQ(form.Left, -4);
+    EXPECT_EQ(form.Width, 1008 * pixel);
+    EXPECT_EQ(form.Height, 140 * pixel);
+    EXPECT_EQ(form.P1.Left, 0);
+    EXPECT_EQ(form.P1.Top, 0);
+    EXPECT_EQ(run.step, 800);
+}
+
 TEST_F(PlaceWindow, ARebuildPlacesTheWindowAroundTheCardAndItsRealFrame) {
     start();
     form.Top = 0;

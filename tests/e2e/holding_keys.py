@@ -1,28 +1,17 @@
 """Keys that are held down on a busy machine, where the server repeats them: each acts once."""
 
 import contextlib
-import ctypes
 import os
 import subprocess
 import sys
 
 import whole_program
+import x11
 from whole_program import desktop
 
 FIRST, FIRST_MARK = 1, 1000
 SECONDS = 1.5
-CORE_KEYBOARD = 0x100
 DELAY, INTERVAL = 150, 15  # milliseconds until a held key repeats, and from then on
-
-
-def repeat_keys():
-    """The virtual server begins with keys that don't repeat."""
-    x11 = ctypes.CDLL("libX11.so.6")
-    x11.XOpenDisplay.restype = ctypes.c_void_p
-    display = ctypes.c_void_p(x11.XOpenDisplay(None))
-    x11.XkbSetAutoRepeatRate(display, CORE_KEYBOARD, DELAY, INTERVAL)
-    x11.XAutoRepeatOn(display)
-    x11.XCloseDisplay(display)
 
 
 @contextlib.contextmanager
@@ -40,7 +29,7 @@ def busy_machine():
 
 class HoldingKeys(whole_program.WholeProgramTest):
     def setUp(self):
-        repeat_keys()
+        x11.repeat_keys(DELAY, INTERVAL)
 
     @staticmethod
     def hold(key):

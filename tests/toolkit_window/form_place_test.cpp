@@ -71,5 +71,18 @@ TEST_F(FormPlace, PlaceGivenByThePlayerGoesIntoTheValues) {
     EXPECT_EQ(form.Width, width);
 }
 
+TEST_F(FormPlace, WindowThatFillsTheScreenSaysSo) {
+    EXPECT_FALSE(form.FillsScreen);
+    for (const test::Extent extent : {test::Extent::Maximised, test::Extent::FullScreen}) {
+        test::changeExtent(extent);
+        window->update();
+        EXPECT_TRUE(form.FillsScreen);
+        EXPECT_EQ(px(test::grabWindow().width()), form.ScaleWidth());
+        test::changeExtent(test::Extent::Normal);
+        window->update();
+        EXPECT_FALSE(form.FillsScreen);
+    }
+}
+
 } // namespace
 } // namespace window_test

@@ -4,6 +4,7 @@
 #include "view/zoom.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "app/layouts.h"
@@ -13,6 +14,7 @@
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/screen.h"
 #include "view/fit.h"
+#include "view/text_options.h"
 
 namespace zev::test {
 namespace {
@@ -51,6 +53,63 @@ class Zoom : public FormTest {
     }
     [[nodiscard]] bool rebuilt() const { return traced("RebuildScreenImage"); }
 };
+
+/// In a window that fills the screen.
+class FullWindow : public Zoom {
+  protected:
+    using Extent = toolkit::test::Extent;
+
+    /// Place and size of the form in twips.
+    [[nodiscard]] std::array<float, 4> place() const {
+        return {form.Left, form.Top, form.Width, form.Height};
+    }
+    /// The command changes the card's size and moves it to the corner, but not the window.
+    void expectStays(const std::function<void()>& command) {
+        for (const Extent extent : {Extent::Maximised, Extent::FullScreen}) {
+            toolkit::test::changeExtent(extent);
+            window->update();
+            const auto before = place();
+            form.P1.Move(-150, -300);
+            command();
+            toolkit::test::settle();
+            window->update();
+            EXPECT_EQ(toolkit::test::windowExtent(), extent);
+            EXPECT_EQ(place(), before);
+            EXPECT_EQ(form.P1.Left, 0);
+            EXPECT_EQ(form.P1.Top, 0);
+            EXPECT_EQ(static_cast<float>(toolkit::test::grabCard().width()) * pixel, form.P1.Width);
+        }
+    }
+};
+
+TEST_F(FullWindow, StaysAtAZoom) {
+    startAtStep(5);
+    expectStays(zoomIn);
+    EXPECT_EQ(form.ZoomLevel, 7);
+    expectStays(zoomOut);
+    EXPECT_EQ(form.ZoomLevel, 5);
+}
+
+TEST_F(FullWindow, StaysAtAFit) {
+    startAtStep(5);
+    expectStays([] { typeKey(key::digit0, shift::ctrl); });
+    expectStays([] { toolkit::test::chooseMenu("View>Fit to screen height"); });
+}
+
+TEST_F(FullWindow, StaysAtAChangeOfTheTextsSize) {
+    startAtStep(5);
+    expectStays([this] { mBigTextFont_Click(form); });
+}
+
+TEST_F(FullWindow, GetsTheCardsSizeAtAZoomOnceItIsANormalOneAgain) {
+    startAtStep(5);
+    toolkit::test::changeExtent(Extent::Maximised);
+    zoomIn();
+    toolkit::test::changeExtent(Extent::Normal);
+    zoomOut();
+    EXPECT_EQ(form.Width, form.P1.Width + form.FrameWidth);
+    EXPECT_EQ(form.Height, std::min(form.P1.Height + form.FrameHeight, toolkit::screen().Height));
+}
 
 TEST_F(Zoom, IsOverAlsoWhereARebuildFails) {
     startAtStep(4);

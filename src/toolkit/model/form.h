@@ -37,6 +37,8 @@ struct Form {
     /// mapped, then what the window manager really gives.
     float FrameWidth = 0;
     float FrameHeight = 0;
+    /// Maximised or full-screen, as the player wants it. Setting place or size would end that.
+    bool FillsScreen = false;
     bool Visible = false;
     bool MenusEnabled = true;
     std::string Caption;

@@ -90,6 +90,22 @@ void shiftWindow(int toTheRight, int down) {
     settle();
 }
 
+void changeExtent(Extent extent) {
+    updateWindow();
+    QWidget& form = window().form();
+    form.setWindowState(extent == Extent::Maximised    ? Qt::WindowMaximized
+                        : extent == Extent::FullScreen ? Qt::WindowFullScreen
+                                                       : Qt::WindowNoState);
+    settle();
+}
+
+Extent windowExtent() {
+    updateWindow();
+    const QWidget& form = window().form();
+    if (form.isFullScreen()) return Extent::FullScreen;
+    return form.isMaximized() ? Extent::Maximised : Extent::Normal;
+}
+
 void requestClose() {
     QCloseEvent event;
     send(window().form(), event);

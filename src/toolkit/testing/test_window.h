@@ -26,6 +26,10 @@ bool chooseMenu(std::string_view captionPath);
 /// The player makes the window larger or shifts it, by pixels.
 void resizeWindow(int wider, int higher);
 void shiftWindow(int toTheRight, int down);
+enum class Extent { Normal, Maximised, FullScreen };
+/// The player gives the window the whole screen, or takes it back.
+void changeExtent(Extent extent);
+[[nodiscard]] Extent windowExtent();
 /// Asks the window to close; the answer waits in the queue.
 void requestClose();
 /// The same and lets the answer run.

@@ -44,6 +44,7 @@ QMargins FormPlace::presentFrame() const {
 }
 
 void FormPlace::pull(int menuHeight) {
+    form_.FillsScreen = fillsTheScreen(widget_);
     pullFrame(menuHeight);
     pullPlace();
 }
