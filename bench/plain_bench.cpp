@@ -133,8 +133,8 @@ toolkit::Bitmap noise(int width, int height) {
 
 void scale(benchmark::State& state, int sourceWidth, int sourceHeight,
            const zev::ScaleRequest& request) {
-    const auto source = std::make_shared<const toolkit::Bitmap>(noise(sourceWidth, sourceHeight));
-    for (auto _ : state) benchmark::DoNotOptimize(zev::startScaled(source, request).finished());
+    const toolkit::Bitmap source = noise(sourceWidth, sourceHeight);
+    for (auto _ : state) benchmark::DoNotOptimize(zev::scaled(source, request));
 }
 BENCHMARK_CAPTURE(scale, halfPictureToFirstScale, 1198, 1237,
                   zev::ScaleRequest{.factor = 0.85F, .width = 1018, .height = 1064})
@@ -154,9 +154,9 @@ toolkit::IndexedPicture indexedNoise(int width, int height) {
 }
 
 void scaleIndexed(benchmark::State& state) {
-    const auto picture = std::make_shared<const toolkit::IndexedPicture>(indexedNoise(2396, 2473));
+    const toolkit::IndexedPicture picture = indexedNoise(2396, 2473);
     const zev::ScaleRequest request{.factor = 0.75F, .width = 1797, .height = 1866};
-    for (auto _ : state) benchmark::DoNotOptimize(zev::startScaled(picture, request).finished());
+    for (auto _ : state) benchmark::DoNotOptimize(zev::scaled(picture, request));
 }
 BENCHMARK(scaleIndexed)->Unit(benchmark::kMillisecond);
 

@@ -12,8 +12,6 @@
 #include "toolkit/model/label.h"
 #include "toolkit/model/panel.h"
 #include "view/card_picture.h"
-#include "view/row_work.h"
-#include "view/scale_picture.h"
 #include "view/zoom_ladder.h"
 
 namespace zev {
@@ -36,7 +34,6 @@ struct ViewState {
     ZoomLadder ZoomTable{};
     float LastImageScale = 0;
     std::optional<PictureAhead> PictureStarted; ///< by the rebuild, until SetImageSize takes it
-    RowWork PictureRows;                        ///< of P1's picture, while the screen is rebuilt
     bool Zooming = false;
 
     std::int32_t ColorScheme = 0; ///< 0 the layout's own colours, else one colour for all

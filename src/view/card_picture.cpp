@@ -1,12 +1,9 @@
 #include "view/card_picture.h"
 
-#include <utility>
-
 #include "toolkit/picture/bitmap_file.h"
 #include "toolkit/picture/embedded_file.h"
 #include "toolkit/picture/indexed_picture.h"
 #include "view/halve_picture.h"
-#include "view/scale_picture.h"
 
 namespace zev {
 namespace {
@@ -15,21 +12,18 @@ constexpr int builtInWidth = 2396;
 constexpr int builtInHeight = 2473;
 constexpr float half = 0.5F;
 
-using SharedPicture = std::shared_ptr<const toolkit::IndexedPicture>;
-
-SharedPicture builtIn(const char* file) {
-    return std::make_shared<const toolkit::IndexedPicture>(
-        toolkit::decodePicture(toolkit::embeddedFile(file)));
+toolkit::IndexedPicture builtIn(const char* file) {
+    return toolkit::decodePicture(toolkit::embeddedFile(file));
 }
 
 /// Decoded once, when a scale first asks for it.
-const SharedPicture& builtInFull() {
+const toolkit::IndexedPicture& builtInFull() {
     static const auto picture = builtIn("/card/full.bin");
     return picture;
 }
 
 /// Built into the program, so that a start needn't decode the full picture.
-const SharedPicture& builtInHalf() {
+const toolkit::IndexedPicture& builtInHalf() {
     static const auto picture = builtIn("/card/half.bin");
     return picture;
 }
@@ -49,14 +43,14 @@ int CardPicture::height() const {
     return replacement_ ? replacement_->full->height() : builtInHeight;
 }
 
-PictureInMaking CardPicture::startScaled(const ScaleRequest& request) const {
+toolkit::Bitmap CardPicture::scaled(const ScaleRequest& request) const {
     if (request.factor > half)
-        return replacement_ ? zev::startScaled(replacement_->full, request)
-                            : zev::startScaled(builtInFull(), request);
+        return replacement_ ? zev::scaled(*replacement_->full, request)
+                            : zev::scaled(builtInFull(), request);
     ScaleRequest ofHalf = request;
     ofHalf.factor /= half;
-    return replacement_ ? zev::startScaled(replacement_->half, ofHalf)
-                        : zev::startScaled(builtInHalf(), ofHalf);
+    return replacement_ ? zev::scaled(*replacement_->half, ofHalf)
+                        : zev::scaled(builtInHalf(), ofHalf);
 }
 
 } // namespace zev

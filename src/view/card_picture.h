@@ -2,15 +2,14 @@
 #pragma once
 
 #include <filesystem>
+#include <future>
 #include <memory>
 #include <optional>
 
 #include "toolkit/picture/bitmap.h"
+#include "view/scale_picture.h"
 
 namespace zev {
-
-struct PictureInMaking;
-struct ScaleRequest;
 
 /// The built-in picture or one that the player put in its place. Copies share the pixels.
 class CardPicture {
@@ -26,9 +25,9 @@ class CardPicture {
     [[nodiscard]] int width() const;
     [[nodiscard]] int height() const;
 
-    /// Begins to make the picture at the request's factor (0.2 to 1) of its full size, from the
-    /// half picture where that is large enough.
-    [[nodiscard]] PictureInMaking startScaled(const ScaleRequest& request) const;
+    /// The picture shrunk by the request's factor (0.2 to 1) of its full size: always made from the
+    /// smallest step of the pyramid of halves that isn't smaller.
+    [[nodiscard]] toolkit::Bitmap scaled(const ScaleRequest& request) const;
 
   private:
     struct Replacement {
@@ -36,6 +35,12 @@ class CardPicture {
         std::shared_ptr<const toolkit::Bitmap> half;
     };
     std::optional<Replacement> replacement_;
+};
+
+/// A picture that another thread scales from before it is asked for. Its end waits for that thread.
+struct PictureAhead {
+    ScaleRequest request;
+    std::future<toolkit::Bitmap> picture;
 };
 
 } // namespace zev

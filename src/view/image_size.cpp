@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <future>
 #include <memory>
 #include <string>
 #include <utility>
@@ -45,7 +46,7 @@ float shownScale(float scale) {
 Drawing drawingOf(const CardPicture& source, float scale) {
     Drawing drawing{.scale = shownScale(scale)};
     drawing.width = wholePixelsOf(static_cast<float>(source.width()) * drawing.scale);
-    // The strip takes the scale asked for, even where the picture is shown at another one.
+    // The strip goes by the scale asked for, also where another one is shown.
     drawing.strip = scale * stripPixels;
     drawing.height = wholePixelsOf(
         wholePixelsOf(static_cast<float>(source.height()) * drawing.scale) + drawing.strip);
@@ -59,10 +60,18 @@ ScaleRequest requestOf(const Drawing& drawing) {
             .contentHeight = static_cast<int>(std::floor(drawing.height - drawing.strip))};
 }
 
-PictureInMaking pictureOf(Zevlin& form, const CardPicture& source, const ScaleRequest& request) {
+using SharedPicture = std::shared_ptr<const toolkit::Bitmap>;
+
+SharedPicture pictureOf(const CardPicture& source, const ScaleRequest& request) {
+    return std::make_shared<const toolkit::Bitmap>(source.scaled(request));
+}
+
+/// The picture that was begun, where it is the one that is wanted.
+SharedPicture takePicture(Zevlin& form, const CardPicture& source, const ScaleRequest& request) {
     auto started = std::exchange(form.PictureStarted, std::nullopt);
-    const bool isWanted = started && &source == &form.PBase && started->request == request;
-    return isWanted ? std::move(started->making) : source.startScaled(request);
+    if (!started || &source != &form.PBase || started->request != request)
+        return pictureOf(source, request);
+    return std::make_shared<const toolkit::Bitmap>(started->picture.get());
 }
 
 std::size_t ladderStep(const Zevlin& form) {
@@ -76,20 +85,13 @@ void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& s
     const Drawing drawing = drawingOf(source, scale);
     target.Width = drawing.width * twips;
     target.Height = drawing.height * twips;
-    auto making = pictureOf(form, source, requestOf(drawing));
-    target.Picture = making.picture;
+    target.Picture = takePicture(form, source, requestOf(drawing));
     target.Sharp = {target.Picture, [source, drawing](float ratio) {
-                        // Beyond its full size the picture has nothing more to show.
+                        // More than its full size there isn't to see.
                         const float most = std::max(largestScale / drawing.scale, 1.0F);
-                        return source
-                            .startScaled(requestOf(drawing.enlarged(std::min(ratio, most))))
-                            .finished();
+                        return pictureOf(source,
+                                         requestOf(drawing.enlarged(std::min(ratio, most))));
                     }};
-    // The card is hidden until its rebuild is done, so the rows may come later.
-    if (form.Carried)
-        form.PictureRows = std::move(making.rows);
-    else
-        making.rows.finish();
 }
 
 } // namespace
@@ -106,12 +108,15 @@ void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& 
 }
 
 void StartPicture(Zevlin& form) {
-    // A print job has made its picture before the rebuild.
+    // What is printed has its size already.
     if (form.Printing) return;
     const std::size_t step = ladderStep(form);
     if (step >= form.ZoomTable.size() || form.ZoomTable[step] == form.LastImageScale) return;
     const ScaleRequest request = requestOf(drawingOf(form.PBase, form.ZoomTable[step]));
-    form.PictureStarted = PictureAhead{request, form.PBase.startScaled(request)};
+    form.PictureStarted =
+        PictureAhead{request, std::async(std::launch::async, [source = form.PBase, request] {
+                         return source.scaled(request);
+                     })};
 }
 
 void RestoreBackgroundPicture(Zevlin& form, Rescale rescale) {

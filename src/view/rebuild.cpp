@@ -42,7 +42,6 @@ class KeptCard {
     ~KeptCard() {
         if (!isShown_) ignoringFailures([&] { showDocument(form_, form_.Carried->document); });
         if (form_.Carried) putBack();
-        form_.PictureRows.finish();
         form_.P1.Visible = true;
     }
     /// To be called once the fields show the card again.
@@ -78,7 +77,6 @@ void carryThrough(Zevlin& form) {
     kept.putBack();
     SetCaption(form);
     deleteTemporaryCard(form);
-    form.PictureRows.finish();
     form.P1.Visible = true;
     CreateBG(form, form.BGPat, 0, 0);
 }

@@ -1,13 +1,10 @@
-// Scaling the card's picture, as smooth as print: area averages from a pyramid of halves.
+// Scaling the card's picture, as smooth as print: area averages.
 #pragma once
 
 #include <limits>
-#include <memory>
-#include <utility>
 
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/indexed_picture.h"
-#include "view/row_work.h"
 
 namespace zev {
 
@@ -24,27 +21,8 @@ struct ScaleRequest {
     bool operator==(const ScaleRequest&) const = default;
 };
 
-/// A picture that is still being made; it is complete when its rows are finished.
-struct PictureInMaking {
-    std::shared_ptr<const toolkit::Bitmap> picture;
-    RowWork rows;
-
-    [[nodiscard]] std::shared_ptr<const toolkit::Bitmap> finished() && {
-        rows.finish();
-        return std::move(picture);
-    }
-};
-
-/// A picture that was begun before it was asked for.
-struct PictureAhead {
-    ScaleRequest request;
-    PictureInMaking making;
-};
-
-[[nodiscard]] PictureInMaking startScaled(const std::shared_ptr<const toolkit::Bitmap>& source,
-                                          const ScaleRequest& request);
-[[nodiscard]] PictureInMaking
-startScaled(const std::shared_ptr<const toolkit::IndexedPicture>& source,
-            const ScaleRequest& request);
+[[nodiscard]] toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& request);
+[[nodiscard]] toolkit::Bitmap scaled(const toolkit::IndexedPicture& source,
+                                     const ScaleRequest& request);
 
 } // namespace zev

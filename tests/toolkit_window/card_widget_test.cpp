@@ -1,6 +1,5 @@
 // The picture of the card, and a handler's changes on it.
 #include "painting.h"
-#include "toolkit/picture/pixel_memory.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
 
@@ -23,19 +22,6 @@ TEST_F(CardWidget, PictureIsShownPixelByPixelAndTheRestIsWhite) {
     EXPECT_EQ(shown.pixel(99, 49), red);
     EXPECT_EQ(shown.pixel(100, 49), white);
     EXPECT_EQ(shown.pixel(99, 50), white);
-}
-
-TEST_F(CardWidget, MemoryOfTheLastPictureIsKeptForTheNextOneAndSoonGivenBack) {
-    if (!keepsPixelMemory) GTEST_SKIP() << "the heap does that";
-    for (int i = 0; i < 2; ++i) {
-        card.Picture = std::make_shared<Bitmap>(1000, 1000, grey);
-        test::settle();
-        card.Picture = nullptr;
-        test::settle();
-        EXPECT_TRUE(isPixelMemoryKept());
-        test::elapseCardTimers();
-        EXPECT_FALSE(isPixelMemoryKept());
-    }
 }
 
 TEST_F(CardWidget, PictureLargerThanTheCardIsCutOff) {

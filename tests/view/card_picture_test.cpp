@@ -1,7 +1,6 @@
 #include "view/card_picture.h"
 
 #include "support/form_test.h"
-#include "support/scaled_picture.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/picture/bitmap_file.h"
 
@@ -30,17 +29,16 @@ TEST_F(Picture, AScaledCardFillsWhatIsAskedFor) {
     for (const float scale : {0.2F, 0.425F, 0.5F, 0.6F, 1.0F}) {
         const auto width = static_cast<int>(2396 * scale);
         const auto height = static_cast<int>(2473 * scale);
-        const auto scaled =
-            test::scaled(picture, {.factor = scale, .width = width, .height = height});
+        const auto scaled = picture.scaled({.factor = scale, .width = width, .height = height});
         EXPECT_EQ(scaled.width(), width);
         EXPECT_EQ(scaled.height(), height);
     }
 }
 
 TEST_F(Picture, BothSidesOfHalfSizeShowTheSameCard) {
-    // The half is built in; the other one is made from the full picture.
-    const auto half = test::scaled(picture, {.factor = 0.5F, .width = 1198, .height = 1236});
-    const auto above = test::scaled(picture, {.factor = 0.5001F, .width = 1198, .height = 1236});
+    // The half comes ready made, the other is made from the full picture.
+    const auto half = picture.scaled({.factor = 0.5F, .width = 1198, .height = 1236});
+    const auto above = picture.scaled({.factor = 0.5001F, .width = 1198, .height = 1236});
     int different = 0;
     for (int y = 0; y < 1236; ++y) {
         for (int x = 0; x < 1198; ++x) {
@@ -58,7 +56,7 @@ TEST_F(Picture, AFileTakesThePlaceOfTheBuiltInCard) {
     EXPECT_EQ(picture.width(), 40);
     EXPECT_EQ(picture.height(), 20);
     for (const float scale : {0.25F, 0.75F}) {
-        const auto scaled = test::scaled(picture, {.factor = scale, .width = 10, .height = 5});
+        const auto scaled = picture.scaled({.factor = scale, .width = 10, .height = 5});
         EXPECT_EQ(scaled.pixel(5, 2), toolkit::rgb(9, 8, 7)) << scale;
     }
 }

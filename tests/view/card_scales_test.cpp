@@ -8,7 +8,6 @@
 #include <vector>
 
 #include "support/form_test.h"
-#include "support/scaled_picture.h"
 #include "toolkit/picture/embedded_file.h"
 #include "toolkit/picture/indexed_picture.h"
 #include "view/halve_picture.h"
@@ -35,8 +34,7 @@ toolkit::Bitmap cardAt(float scale) {
     const auto sized = [scale](int length) {
         return static_cast<int>(std::lround(static_cast<float>(length) * scale));
     };
-    return test::scaled(
-        CardPicture(),
+    return CardPicture().scaled(
         {.factor = scale, .width = sized(full().width()), .height = sized(full().height())});
 }
 bool isInk(const toolkit::Bitmap& picture, int x, int y) {

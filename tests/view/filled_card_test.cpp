@@ -9,7 +9,6 @@
 #include "card/write_card.h"
 #include "events/edit_field.h"
 #include "support/form_test.h"
-#include "support/scaled_picture.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
@@ -76,8 +75,8 @@ class FilledCard : public FormTest {
                                 lines(form.AText.UBound(), ",\"" + text + "\",0"));
         form.CardName = "Filled";
         GetCardFile(form);
-        full = test::scaled(
-            form.PBase, {.factor = 1, .width = form.PBase.width(), .height = form.PBase.height()});
+        full = form.PBase.scaled(
+            {.factor = 1, .width = form.PBase.width(), .height = form.PBase.height()});
     }
 
     void zoomTo(int level) {

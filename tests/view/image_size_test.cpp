@@ -3,7 +3,6 @@
 #include "view/image_size.h"
 
 #include "app/layouts.h"
-#include "support/scaled_picture.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"
 #include "toolkit/testing/test_window.h"
@@ -82,22 +81,31 @@ TEST_F(ImageSize, ForcedItScalesAgain) {
                                                       "SetImageSize results: 1, 1, 1, 1"}));
 }
 
+/// In place of the one that was begun, so that it can be told from any other.
+void replaceBegun(PictureAhead& begun, toolkit::Color color) {
+    std::promise<toolkit::Bitmap> marked;
+    marked.set_value(toolkit::Bitmap(begun.request.width, begun.request.height, color));
+    begun.picture = marked.get_future();
+}
+
 TEST_F(ImageSize, APictureThatWasBegunIsTakenWhereItFits) {
+    constexpr toolkit::Color mark = toolkit::rgb(1, 2, 3);
     start();
     form.ZoomLevel = 7;
     StartPicture(form);
     ASSERT_TRUE(form.PictureStarted);
-    const auto begun = form.PictureStarted->making.picture;
+    const toolkit::Bitmap begun = form.PictureStarted->picture.get();
+    EXPECT_EQ(begun.pixel(0, 0), blue);
+    EXPECT_EQ(begun.pixel(0, begun.height() - 1), toolkit::white);
+    replaceBegun(*form.PictureStarted, mark);
     RestoreBackgroundPicture(form, Rescale::IfChanged);
-    EXPECT_EQ(form.P1.Picture, begun);
-    EXPECT_EQ(begun->pixel(0, 0), blue);
-    EXPECT_EQ(begun->pixel(0, begun->height() - 1), toolkit::white);
+    EXPECT_EQ(form.P1.Picture->pixel(0, 0), mark);
     EXPECT_FALSE(form.PictureStarted);
     form.ZoomLevel = 8;
     StartPicture(form);
-    const auto another = form.PictureStarted->making.picture;
+    replaceBegun(*form.PictureStarted, mark);
     size(0.6F);
-    EXPECT_NE(form.P1.Picture, another);
+    EXPECT_EQ(form.P1.Picture->pixel(0, 0), blue);
     EXPECT_FALSE(form.PictureStarted);
 }
 
@@ -201,7 +209,7 @@ TEST_F(SharpImage, OneAndAHalfTimesThePixelsShowThePictureOfThatSize) {
     startAt("5");
     const auto sharp = toolkit::test::grabCardAt(1.5);
     ASSERT_EQ(sharp.width(), 1500);
-    const auto expected = test::scaled(form.PBase, {.factor = 0.75F, .width = 1500, .height = 750});
+    const auto expected = form.PBase.scaled({.factor = 0.75F, .width = 1500, .height = 750});
     for (int x = 300; x < 320; ++x) EXPECT_EQ(sharp.pixel(x, 500), expected.pixel(x, 500)) << x;
 }
 

@@ -7,7 +7,6 @@
 #include <cmath>
 #include <random>
 
-#include "support/scaled_picture.h"
 #include "view/halve_picture.h"
 
 namespace zev {
@@ -16,7 +15,6 @@ namespace {
 using toolkit::Bitmap;
 using toolkit::Color;
 using toolkit::rgb;
-using zev::test::scaled;
 
 Bitmap noise(int width, int height) {
     std::mt19937 random(7);

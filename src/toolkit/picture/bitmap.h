@@ -6,7 +6,6 @@
 #include <vector>
 
 #include "toolkit/base/color.h"
-#include "toolkit/picture/pixel_memory.h"
 
 namespace toolkit {
 
@@ -15,8 +14,6 @@ class Bitmap {
   public:
     Bitmap() = default;
     Bitmap(int width, int height, Color fill = white);
-    /// One whose pixels are nothing yet.
-    [[nodiscard]] static Bitmap unpainted(int width, int height);
 
     [[nodiscard]] int width() const { return width_; }
     [[nodiscard]] int height() const { return height_; }
@@ -39,7 +36,7 @@ class Bitmap {
 
     int width_ = 0;
     int height_ = 0;
-    std::vector<std::uint32_t, PixelAllocator<std::uint32_t>> pixels_;
+    std::vector<std::uint32_t> pixels_;
 };
 
 constexpr std::uint32_t pixelOf(Color color) {

@@ -3,7 +3,6 @@
 #include <cstring>
 #include <stdexcept>
 
-#include <QtCore/QAbstractEventDispatcher>
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
 #include <QtGui/QCloseEvent>
@@ -167,14 +166,6 @@ std::string shownText(const TextBox& box) {
     updateWindow();
     const auto* edit = dynamic_cast<EditBox*>(window().widgetOf(&box));
     return edit == nullptr ? std::string() : ansiText(edit->text());
-}
-
-void elapseCardTimers() {
-    CardWidget& card = window().card();
-    for (const auto& timer : QAbstractEventDispatcher::instance()->registeredTimers(&card)) {
-        QTimerEvent elapsed(timer.timerId);
-        QCoreApplication::sendEvent(&card, &elapsed);
-    }
 }
 
 void elapseAlarms() {

@@ -43,8 +43,6 @@ void settle();
 /// The same, and deletes what waits until the event loop has come round, as it does between two
 /// events of the running program.
 void endEvent();
-/// The card's timers run out now.
-void elapseCardTimers();
 /// The program's alarms run out now.
 void elapseAlarms();
 

@@ -1,25 +1,13 @@
 #include "toolkit/window/card/qt_card_widget.h"
 
-#include <chrono>
-
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 
 #include "toolkit/base/qt_geometry.h"
-#include "toolkit/picture/pixel_memory.h"
 #include "toolkit/picture/qt_picture.h"
 #include "toolkit/window/input/qt_mouse_input.h"
 
 namespace toolkit {
-namespace {
-
-using namespace std::chrono_literals;
-
-/// Longer than from one key press to the next.
-constexpr std::chrono::milliseconds memoryIsKept = 2s;
-
-} // namespace
-
 CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery,
                        Wheel& wheel)
     : QWidget(&container), parts_(parts), mouse_(parts, delivery), wheel_(wheel) {
@@ -40,19 +28,10 @@ void CardWidget::push() {
     if (isHidden() == parts_.card->Visible) setVisible(parts_.card->Visible);
 }
 
-/// Zooms come in a row: a picture's memory is kept a while for the next but one.
 void CardWidget::pushPicture() {
-    const KeptPixelMemory kept;
     picture_ = parts_.card->Picture;
     sharp_.reset();
-    keepMemory_.start(static_cast<int>(memoryIsKept.count()), this);
     update();
-}
-
-void CardWidget::timerEvent(QTimerEvent* event) {
-    if (event->timerId() != keepMemory_.timerId()) return QWidget::timerEvent(event);
-    keepMemory_.stop();
-    releaseKeptPixelMemory();
 }
 
 bool CardWidget::isFrozen() const {

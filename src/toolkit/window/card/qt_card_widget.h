@@ -1,7 +1,6 @@
 // The card on the screen: its picture, its labels, its mouse. Internal to the toolkit's sources.
 #pragma once
 
-#include <QtCore/QBasicTimer>
 #include <QtWidgets/QWidget>
 
 #include "toolkit/window/card/qt_card_mouse.h"
@@ -25,7 +24,6 @@ class CardWidget : public QWidget {
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
 
   private:
     [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
@@ -46,7 +44,6 @@ class CardWidget : public QWidget {
     /// The picture in the pixels of the screen that it was last painted on, and their ratio.
     std::shared_ptr<const Bitmap> sharp_;
     double sharpRatio_ = 0;
-    QBasicTimer keepMemory_;
     MousePointer pointer_ = MousePointer::Default;
     Grip grip_ = Grip::Open;
     bool dragged_ = false; ///< the mouse has moved since a button went down
