@@ -139,7 +139,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.cardTextBoxes = {&form.CText, &form.LText};
     parts.lists = {&form.THelp};
     parts.panels = wirePanels(form);
-    parts.notices = {&form.PleaseWait};
+    parts.overlays = {&form.PleaseWait};
     parts.menu = menuRows(form);
     return parts;
 }

@@ -11,7 +11,7 @@ constexpr float precision = 1.0F / 256;
 
 } // namespace
 
-toolkit::BaseLine baseLineOverRule(float base, const DesignPixel& pixel) {
+toolkit::Baseline baselineOverRule(float base, const DesignPixel& pixel) {
     const bool isKnown = pixel.ofFields > 0 && pixel.ofPrint > 0;
     if (!isKnown) return {};
     const float rule = std::ceil(base / pixel.ofFields - precision);

@@ -13,10 +13,10 @@ struct DesignPixel {
     float ofPrint = 0;
 };
 
-/// The places allowed for the base line of a text whose font puts it `base` twips below the top of
+/// The places allowed for the baseline of a text whose font puts it `base` twips below the top of
 /// the card. Layouts put a text less than a design pixel above the rule printed for it, and rules
-/// on whole design pixels: the base line may stand anywhere between the rule and the design pixel
+/// on whole design pixels: the baseline may stand anywhere between the rule and the design pixel
 /// above it, as both are shown.
-[[nodiscard]] toolkit::BaseLine baseLineOverRule(float base, const DesignPixel& pixel);
+[[nodiscard]] toolkit::Baseline baselineOverRule(float base, const DesignPixel& pixel);
 
 } // namespace zev

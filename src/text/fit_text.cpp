@@ -16,10 +16,10 @@ float fullSize(const Zevlin& form, int index) {
 }
 
 /// A text of full size stands on its rule; a smaller one stands free, where its font puts it.
-toolkit::BaseLine lineOfFullSize(const Zevlin& form, const toolkit::Label& label) {
+toolkit::Baseline lineOfFullSize(const Zevlin& form, const toolkit::Label& label) {
     const auto twips = static_cast<float>(form.TwipsPerPixel);
     const float printedPixels = static_cast<float>(form.PBase.width()) / designWidth;
-    return baseLineOverRule(label.Top + toolkit::textAscent(label.Font),
+    return baselineOverRule(label.Top + toolkit::textAscent(label.Font),
                             {.ofFields = form.TextScale * twips,
                              .ofPrint = form.LastImageScale * printedPixels * twips});
 }
@@ -35,8 +35,8 @@ void fit(Zevlin& form, int index) {
                                                   .width = label.Width,
                                                   .text = label.Caption},
                                                  toolkit::textWidth);
-    label.BaseLine =
-        label.Font.Size == regular.Size ? lineOfFullSize(form, label) : toolkit::BaseLine{};
+    label.Baseline =
+        label.Font.Size == regular.Size ? lineOfFullSize(form, label) : toolkit::Baseline{};
 }
 
 } // namespace

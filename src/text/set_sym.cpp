@@ -84,8 +84,8 @@ float textLeft(const toolkit::Label& label) {
     return label.Left + (label.Width - toolkit::textWidth(label.Font, label.Caption)) / 2;
 }
 
-/// Twips from the card's top to where the label's font puts its base line.
-float baseLineOf(const toolkit::Label& label) {
+/// Twips from the card's top to where the label's font puts its baseline.
+float baselineOf(const toolkit::Label& label) {
     return label.Top + toolkit::textAscent(label.Font);
 }
 
@@ -110,7 +110,7 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
                 toolkit::textWidth(label.Font, std::string_view(scanBuffer).substr(position, 2)),
                 label.Height + pixelsHigher * twips);
     // A symbol is larger than its text, but stands on the same line.
-    symbol.BaseLine = label.BaseLine.movedBy(baseLineOf(label) - baseLineOf(symbol));
+    symbol.Baseline = label.Baseline.movedBy(baselineOf(label) - baselineOf(symbol));
     symbol.Visible = true;
     shownSymbols(form, index).push_back(form.SText.UBound());
     stack(form, index, symbol);

@@ -38,7 +38,7 @@ class CardPicture {
 };
 
 /// A picture that another thread scales from before it is asked for. Its end waits for that thread.
-struct PictureAhead {
+struct PrefetchedPicture {
     ScaleRequest request;
     std::future<toolkit::Bitmap> picture;
 };

@@ -114,9 +114,9 @@ void StartPicture(Zevlin& form) {
     if (step >= form.ZoomTable.size() || form.ZoomTable[step] == form.LastImageScale) return;
     const ScaleRequest request = requestOf(drawingOf(form.PBase, form.ZoomTable[step]));
     form.PictureStarted =
-        PictureAhead{request, std::async(std::launch::async, [source = form.PBase, request] {
-                         return source.scaled(request);
-                     })};
+        PrefetchedPicture{request, std::async(std::launch::async, [source = form.PBase, request] {
+                              return source.scaled(request);
+                          })};
 }
 
 void RestoreBackgroundPicture(Zevlin& form, Rescale rescale) {

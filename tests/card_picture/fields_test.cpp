@@ -66,7 +66,7 @@ TEST(Fields, EachBoxIsPrintedInItsFieldsColour) {
     }
 }
 
-/// The first row of the rule under a text's base line, and whether it is as long as the text.
+/// The first row of the rule under a text's baseline, and whether it is as long as the text.
 std::optional<int> ruleUnder(const Field& text, double baseline) {
     const Picture& picture = fullPicture();
     const Colour colour = printedColour(text.colour);

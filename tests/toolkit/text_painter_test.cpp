@@ -115,7 +115,7 @@ TEST_F(TextPainter, EdgesAreSmoothedInGreys) {
 }
 
 TEST_F(TextPainter, SizesBetweenWholePixelsAreDrawnAsAskedFor) {
-    // Close enough for the base line to fall on the same row.
+    // Close enough for the baseline to fall on the same row.
     const FontSpec smaller{.Name = "Arial", .Size = 30.0F};
     const FontSpec larger{.Name = "Arial", .Size = 30.2F};
     ASSERT_EQ(inkOf(drawn("H", 20, 5, smaller)).bottom, inkOf(drawn("H", 20, 5, larger)).bottom);

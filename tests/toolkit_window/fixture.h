@@ -151,7 +151,7 @@ class WindowTest : public testing::Test {
         parts.cardTextBoxes = {&box, &otherBox};
         parts.lists = {&list};
         parts.panels.push_back(contents);
-        parts.notices = {&notice};
+        parts.overlays = {&overlay};
         parts.menu = menu;
         window = std::make_unique<toolkit::Window>(std::move(parts));
         window->update();
@@ -169,7 +169,7 @@ class WindowTest : public testing::Test {
     toolkit::TextBox otherBox;
     toolkit::ListBox list;
     toolkit::Panel panel;
-    toolkit::TextBox notice;
+    toolkit::TextBox overlay;
     toolkit::PanelContents contents{.box = &panel};
     std::vector<toolkit::MenuRow> menu;
     std::unique_ptr<toolkit::Window> window;

@@ -64,24 +64,24 @@ int darknessOf(const Bitmap& shown, int y) {
     return sum;
 }
 
-TEST_F(LabelPainter, BaseLineIsPaintedOnARowOfItsLimits) {
+TEST_F(LabelPainter, BaselineIsPaintedOnARowOfItsLimits) {
     place(texts[1], 50, 60, 200, 40);
     write(texts[1], "IIII", Alignment::Left);
     const int own = inkOf(test::grabCard()).bottom;
-    texts[1].BaseLine = {.Wanted = 0, .Highest = px(2), .Lowest = px(4)};
+    texts[1].Baseline = {.Wanted = 0, .Highest = px(2), .Lowest = px(4)};
     EXPECT_NEAR(inkOf(test::grabCard()).bottom, own + 2, 1);
-    texts[1].BaseLine = {.Wanted = px(10), .Highest = 0, .Lowest = px(20)};
+    texts[1].Baseline = {.Wanted = px(10), .Highest = 0, .Lowest = px(20)};
     EXPECT_EQ(inkOf(test::grabCard()).bottom, own + 10);
 }
 
-TEST_F(LabelPainter, BaseLineBetweenTwoRowsShowsItsFraction) {
+TEST_F(LabelPainter, BaselineBetweenTwoRowsShowsItsFraction) {
     place(texts[1], 50, 60, 200, 40);
     write(texts[1], "IIII", Alignment::Left);
     const float line = 60 + textAscent(texts[1].Font) / px(1);
     const int row = static_cast<int>(line) + 1;
     for (const float fraction : {0.25F, 0.5F, 0.75F}) {
         const float below = (static_cast<float>(row) + fraction - line) * px(1);
-        texts[1].BaseLine = {.Wanted = below, .Highest = below, .Lowest = below};
+        texts[1].Baseline = {.Wanted = below, .Highest = below, .Lowest = below};
         const Bitmap shown = test::grabCard();
         const auto stem = static_cast<float>(darknessOf(shown, row - 3));
         EXPECT_NEAR(static_cast<float>(darknessOf(shown, row)) / stem, fraction, 0.03F);
@@ -99,7 +99,7 @@ TEST_F(LabelPainter, TextBetweenRowsIsAsDarkAsOneOnARow) {
         return sum;
     };
     const int whole = ink();
-    texts[1].BaseLine = {.Wanted = 7, .Highest = 7, .Lowest = 7};
+    texts[1].Baseline = {.Wanted = 7, .Highest = 7, .Lowest = 7};
     EXPECT_NEAR(ink(), whole, whole * 0.05);
 }
 
@@ -108,7 +108,7 @@ TEST_F(LabelPainter, SharpScreenPutsTheBaseLineOnItsOwnRows) {
     write(texts[1], "IIII", Alignment::Left);
     const float line = 60 + textAscent(texts[1].Font) / px(1);
     const float below = (std::ceil(line) + 0.5F - line) * px(1);
-    texts[1].BaseLine.Wanted = below;
+    texts[1].Baseline.Wanted = below;
     EXPECT_EQ(inkOf(test::grabCardAt(2)).bottom, 2 * static_cast<int>(std::ceil(line)));
 }
 

@@ -295,8 +295,8 @@ TEST_F(FilledCard, TextsAreBlurredOnlyWhereNoRowIsNearEnough) {
 /// The lines that a label's caption may stand on, in twipsPerPixel from the card's top.
 std::array<float, 3> linesOf(const toolkit::Label& label) {
     const float base = label.Top + toolkit::textAscent(label.Font);
-    return {base + label.BaseLine.Wanted, base + label.BaseLine.Highest,
-            base + label.BaseLine.Lowest};
+    return {base + label.Baseline.Wanted, base + label.Baseline.Highest,
+            base + label.Baseline.Lowest};
 }
 
 TEST_F(FilledCard, SuitsStandOnTheLineOfTheirText) {

@@ -82,7 +82,7 @@ TEST_F(ImageSize, ForcedItScalesAgain) {
 }
 
 /// In place of the one that was begun, so that it can be told from any other.
-void replaceBegun(PictureAhead& begun, toolkit::Color color) {
+void replaceBegun(PrefetchedPicture& begun, toolkit::Color color) {
     std::promise<toolkit::Bitmap> marked;
     marked.set_value(toolkit::Bitmap(begun.request.width, begun.request.height, color));
     begun.picture = marked.get_future();

@@ -12,7 +12,7 @@ namespace card_tool {
 [[nodiscard]] zev::FieldRecord markRecord(const MarkPlace& mark, const Typefaces& faces,
                                           int twipsPerPixel);
 
-/// Places the label so that the text's base line lies on the printed rule or just above it.
+/// Places the label so that the text's baseline lies on the printed rule or just above it.
 [[nodiscard]] zev::FieldRecord textRecord(const TextPlace& text, const Typefaces& faces,
                                           int twipsPerPixel);
 

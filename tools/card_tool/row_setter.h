@@ -39,7 +39,7 @@ class RowSetter {
     /// The width that a cell needs, with its stretching areas at their least.
     [[nodiscard]] double naturalWidth(const Cell& cell, const RowStyle& style) const;
 
-    /// Sets a cell on a base line (an even full pixel). Throws Failure if it is wider than its
+    /// Sets a cell on a baseline (an even full pixel). Throws Failure if it is wider than its
     /// span.
     void setCell(const Cell& cell, const RowStyle& style, Span span, int baseline);
 

@@ -118,7 +118,7 @@ struct TextBox : Control {
     int SelStart = 0;  ///< characters before the selection or caret
     int SelLength = 0; ///< characters selected
     toolkit::Alignment Alignment = toolkit::Alignment::Left;
-    toolkit::BaseLine BaseLine;   ///< over the card; to the nearest whole pixel
+    toolkit::Baseline Baseline;   ///< over the card; to the nearest whole pixel
     std::function<void()> Change; ///< the player has changed Text
 };
 

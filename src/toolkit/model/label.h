@@ -16,19 +16,19 @@ enum class BackStyle : int { Transparent = 0, Opaque = 1 };
 /// Where a caption stands, in twips below the line on which its font alone would put it. It is
 /// painted on the row of the screen's pixels nearest to `Wanted` that lies from `Highest` to
 /// `Lowest`; between two rows only where none does, as near to a row as may be.
-struct BaseLine {
+struct Baseline {
     float Wanted = 0;
     float Highest = -std::numeric_limits<float>::infinity();
     float Lowest = std::numeric_limits<float>::infinity();
 
-    [[nodiscard]] BaseLine movedBy(float twips) const {
+    [[nodiscard]] Baseline movedBy(float twips) const {
         return {Wanted + twips, Highest + twips, Lowest + twips};
     }
 
-    friend bool operator==(const BaseLine&, const BaseLine&) = default;
+    friend bool operator==(const Baseline&, const Baseline&) = default;
 };
 
-/// The same in pixels: the place, whole if it can be, where the base line is painted.
+/// The same in pixels: the place, whole if it can be, where the baseline is painted.
 [[nodiscard]] double paintedLine(double wanted, double highest, double lowest);
 
 /// Places are twips relative to the container and kept exactly; painting rounds them to pixels.
@@ -46,7 +46,7 @@ struct Label {
     Color BackColor = white;
     toolkit::BackStyle BackStyle = toolkit::BackStyle::Transparent;
     toolkit::Alignment Alignment = toolkit::Alignment::Left;
-    toolkit::BaseLine BaseLine;
+    toolkit::Baseline Baseline;
     /// Place in the stack of the container: higher is nearer to the front. Set by its ZOrder.
     int Stack = 0;
     /// Whether the caption is cut off at the label's edges.

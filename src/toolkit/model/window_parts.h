@@ -33,7 +33,7 @@ struct WindowParts {
     std::vector<TextBox*> cardTextBoxes{}; ///< over the labels of the card
     std::vector<ListBox*> lists{};         ///< on the form, over the card
     std::vector<PanelContents> panels{};   ///< the same
-    std::vector<TextBox*> notices{};       ///< on the form, over all else; only to be read
+    std::vector<TextBox*> overlays{};      ///< on the form, over all else; only to be read
     std::vector<MenuRow> menu{};
 };
 

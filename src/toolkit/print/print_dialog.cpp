@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "toolkit/print/system_print_dialog.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/qt_window.h"
 
 namespace toolkit {

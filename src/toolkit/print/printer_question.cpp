@@ -35,7 +35,7 @@ void PrinterQuestion::ask(std::function<void()> answered) {
     state_->printer = question.get_future().share();
     const auto deliver = [state = state_] {
         if (!state->givenUp && currentWindow() != nullptr)
-            currentWindow()->delivery().run(state->answered);
+            currentWindow()->dispatcher().run(state->answered);
     };
     std::thread([question = std::move(question), deliver, state = state_]() mutable {
         question();

@@ -4,7 +4,7 @@
 
 #include <QtCore/QCoreApplication>
 
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 namespace toolkit::test {
 

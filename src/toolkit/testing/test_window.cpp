@@ -13,7 +13,7 @@
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/testing/qt_test_window.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 namespace toolkit::test {
 namespace {
@@ -117,7 +117,7 @@ void closeWindow() {
 
 void endSession() {
     updateWindow();
-    window().delivery().askToEnd();
+    window().dispatcher().askToEnd();
     settle();
 }
 

@@ -11,7 +11,7 @@ namespace toolkit {
 struct AdvanceTable {
     std::array<int, 256> advances{}; ///< by the byte of the text
     int ascent = 0;
-    int descent = 0; ///< below the base line, positive
+    int descent = 0; ///< below the baseline, positive
     int unitsPerEm = 1;
 };
 

@@ -15,10 +15,10 @@ void drawText(Bitmap& bitmap, float x, float y, const FontSpec& font, Color colo
               std::string_view text) {
     if (bitmap.empty()) return;
     const double pixelsPerTwip = 1.0 / twipsPerPixel();
-    const double baseLine = std::round(y + textAscent(font) * pixelsPerTwip);
+    const double baseline = std::round(y + textAscent(font) * pixelsPerTwip);
     QImage image = imageOver(bitmap);
     QPainter painter(&image);
-    drawRun(painter, QPointF(x, baseLine), font, pixelsPerTwip, color, text);
+    drawRun(painter, QPointF(x, baseline), font, pixelsPerTwip, color, text);
 }
 
 } // namespace toolkit

@@ -16,7 +16,7 @@ namespace toolkit {
 /// Height of a line in twips: ascent plus descent.
 [[nodiscard]] float textHeight(const FontSpec& font);
 
-/// Distance in twips from the top of a line to its base line.
+/// Distance in twips from the top of a line to its baseline.
 [[nodiscard]] float textAscent(const FontSpec& font);
 
 /// Length of the words at the beginning of a text that fit into a line of this width, twips; the
@@ -24,7 +24,7 @@ namespace toolkit {
 [[nodiscard]] std::size_t lengthOfLine(const FontSpec& font, std::string_view text, float width);
 
 /// The name that the font system reports after this one was asked for: the same text where the font
-/// is installed or has a stand-in, else the name of the font that is used in its place.
+/// is installed or has a substitute, else the name of the font that is used in its place.
 [[nodiscard]] std::string fontNameGiven(std::string_view name);
 
 /// The size in points that the font system gives for the one asked for: itself, within 1 to 2160.

@@ -13,7 +13,7 @@
 namespace toolkit {
 namespace {
 
-/// Above and below the base line, in units, the second negative. Read from the font's own table:
+/// Above and below the baseline, in units, the second negative. Read from the font's own table:
 /// for the stand-in of Arial Narrow Qt takes others (1888 and 431 units instead of 1916 and 434),
 /// and the texts in it would move up by a seventieth of their size.
 std::array<int, 2> extents(const QRawFont& unitFont) {

@@ -13,13 +13,13 @@
 namespace toolkit {
 namespace {
 
-struct StandIn {
+struct Substitute {
     std::string_view name;
     const char* family = nullptr;
     std::string_view neededPictures; ///< codes that a picture font must have to be of use
 };
 
-constexpr std::array<StandIn, 4> standIns{{
+constexpr std::array<Substitute, 4> substitutes{{
     {"Arial", "Liberation Sans", ""},
     {"Arial Narrow", "Liberation Sans Narrow", ""},
     {"Wingdings", "Zevlin Marks", "\xFC\x6E\xA1"},
@@ -65,21 +65,21 @@ bool hasPictures(const QString& family, std::string_view pictures) {
                                [&](char character) { return pictureGlyph(font, character) != 0; });
 }
 
-const StandIn* standInFor(std::string_view name) {
+const Substitute* substituteFor(std::string_view name) {
     const auto found = std::ranges::find_if(
-        standIns, [&](const StandIn& entry) { return equalWithoutCase(entry.name, name); });
-    return found == standIns.end() ? nullptr : &*found;
+        substitutes, [&](const Substitute& entry) { return equalWithoutCase(entry.name, name); });
+    return found == substitutes.end() ? nullptr : &*found;
 }
 
 FontFamily resolve(std::string_view name) {
     const QString asked = QString::fromStdString(utf8FromAnsi(name));
-    const StandIn* standIn = standInFor(name);
-    const std::string_view pictures = standIn != nullptr ? standIn->neededPictures : "";
+    const Substitute* substitute = substituteFor(name);
+    const std::string_view pictures = substitute != nullptr ? substitute->neededPictures : "";
     const auto encoding = pictures.empty() ? FontEncoding::CodePage : FontEncoding::Symbol;
     if (isInstalled(asked) && hasPictures(asked, pictures))
         return {std::string(name), asked, encoding};
-    if (standIn != nullptr && isInstalled(QString::fromLatin1(standIn->family)))
-        return {std::string(name), QString::fromLatin1(standIn->family), encoding};
+    if (substitute != nullptr && isInstalled(QString::fromLatin1(substitute->family)))
+        return {std::string(name), QString::fromLatin1(substitute->family), encoding};
     const QString used = familyUsed(asked);
     return {ansiFromUtf8(used.toStdString()), used, FontEncoding::CodePage};
 }

@@ -12,7 +12,7 @@ class QPainter;
 
 namespace toolkit {
 
-/// Like drawRun, at a base line that is no whole row of the device's pixels: the text's edges are
+/// Like drawRun, at a baseline that is no whole row of the device's pixels: the text's edges are
 /// mixed with the paper as far as it lies in their rows.
 void drawRunBetweenRows(QPainter& painter, QPointF baselineOrigin, const FontSpec& font,
                         double pixelsPerTwip, Color color, std::string_view text);

@@ -6,7 +6,7 @@
 #include <QtCore/QPointer>
 #include <QtCore/QTimer>
 
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/qt_window.h"
 
 namespace toolkit {
@@ -41,7 +41,7 @@ void Alarm::set(int milliseconds, std::function<void()> rings) {
     timer_ = std::make_unique<Timer>(milliseconds, [this, rings = std::move(rings)] {
         // What rings may set it anew.
         cancel();
-        if (currentWindow() != nullptr) currentWindow()->delivery().run(rings);
+        if (currentWindow() != nullptr) currentWindow()->dispatcher().run(rings);
     });
 }
 

@@ -15,7 +15,7 @@
 #include "toolkit/base/qt_text.h"
 #include "toolkit/text/typed_text.h"
 #include "toolkit/window/dialog_answers.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/qt_box_parent.h"
 #include "toolkit/window/qt_window.h"
 

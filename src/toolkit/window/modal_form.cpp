@@ -11,7 +11,7 @@
 #include <QtWidgets/QSpinBox>
 
 #include "toolkit/base/qt_text.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/input/qt_key_input.h"
 #include "toolkit/window/input/qt_mouse_input.h"
 #include "toolkit/window/qt_box_parent.h"

@@ -6,7 +6,7 @@
 
 #include "toolkit/window/cursor.h"
 #include "toolkit/window/dialog_answers.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/menu/qt_menu_rows.h"
 #include "toolkit/window/qt_box_parent.h"
 #include "toolkit/window/qt_window.h"

@@ -5,7 +5,7 @@
 #include <QtWidgets/QApplication>
 
 #include "toolkit/base/program_overrides.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/qt_pending_events.h"
 #include "toolkit/window/qt_program.h"
 #include "toolkit/window/qt_window.h"
@@ -31,7 +31,7 @@ void wait(int milliseconds) {
 
 void waitForPlayer(const std::function<bool()>& isOver) {
     updateWindow();
-    if (currentWindow() != nullptr) currentWindow()->delivery().letPlayerAct(isOver);
+    if (currentWindow() != nullptr) currentWindow()->dispatcher().letPlayerAct(isOver);
 }
 
 void beep() {

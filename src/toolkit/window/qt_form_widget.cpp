@@ -8,8 +8,8 @@
 
 namespace toolkit {
 
-FormWidget::FormWidget(const WindowParts& parts, Delivery& delivery, Wheel& wheel)
-    : form_(*parts.form), delivery_(delivery), menuBar_(*this, parts, delivery),
+FormWidget::FormWidget(const WindowParts& parts, EventDispatcher& dispatcher, Wheel& wheel)
+    : form_(*parts.form), dispatcher_(dispatcher), menuBar_(*this, parts, dispatcher),
       area_(*this, *parts.form, wheel), place_(*parts.form, *this) {
     setFocusPolicy(Qt::NoFocus);
 }
@@ -47,7 +47,7 @@ void FormWidget::resizeEvent(QResizeEvent* /*event*/) { layOut(); }
 /// Whether the window goes away is for the program to decide.
 void FormWidget::closeEvent(QCloseEvent* event) {
     event->ignore();
-    delivery_.askToClose();
+    dispatcher_.askToClose();
 }
 
 /// The frame shows its real size only with the first exposure, which no handler sees.

@@ -5,7 +5,7 @@
 #include <QtWidgets/QWidget>
 
 #include "toolkit/model/window_parts.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/input/qt_wheel.h"
 #include "toolkit/window/menu/qt_menu_bar.h"
 #include "toolkit/window/qt_form_area.h"
@@ -15,7 +15,7 @@ namespace toolkit {
 
 class FormWidget : public QWidget {
   public:
-    FormWidget(const WindowParts& parts, Delivery& delivery, Wheel& wheel);
+    FormWidget(const WindowParts& parts, EventDispatcher& dispatcher, Wheel& wheel);
 
     [[nodiscard]] FormArea& area() { return area_; }
     [[nodiscard]] MenuBar& menuBar() { return menuBar_; }
@@ -35,7 +35,7 @@ class FormWidget : public QWidget {
     void layOut();
 
     Form& form_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     MenuBar menuBar_;
     FormArea area_;
     FormPlace place_;

@@ -9,7 +9,7 @@
 
 #include <QtCore/QSocketNotifier>
 
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/qt_program.h"
 #include "toolkit/window/qt_window.h"
 
@@ -44,7 +44,7 @@ void askForm(int readEnd) {
     if (read(readEnd, bytes.data(), bytes.size()) < 1 || currentWindow() == nullptr) return;
     // Whoever sent the signal may not wait for an answer.
     prepareForEnd();
-    currentWindow()->delivery().askToEnd();
+    currentWindow()->dispatcher().askToEnd();
 }
 
 } // namespace

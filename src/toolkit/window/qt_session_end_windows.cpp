@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/qt_program.h"
 #include "toolkit/window/qt_window.h"
 
@@ -20,7 +20,7 @@ struct SessionEnd::Implementation : QAbstractNativeEventFilter {
         if (message.hwnd != own) return false;
         // A shut-down needn't wait for an answer.
         prepareForEnd();
-        *result = currentWindow()->delivery().mayEnd() ? TRUE : FALSE;
+        *result = currentWindow()->dispatcher().mayEnd() ? TRUE : FALSE;
         return true;
     }
 };

@@ -33,26 +33,27 @@ void updateWindow() {
 
 WindowImplementation::WindowImplementation(WindowParts shown)
     : parts_(std::move(shown)),
-      delivery_({[this] { pull(); }, [this] { push(); },
-                 [this](const RunTimeError& failure) {
-                     if (parts_.form->Unhandled) parts_.form->Unhandled(failure);
-                 },
-                 [this] { quitUnlessRefused(parts_.form->QueryClose); },
-                 [this] { return quitUnlessRefused(parts_.form->QueryEnd); }}),
-      wheel_(*parts_.form, delivery_), form_(parts_, delivery_, wheel_),
-      card_(form_.area(), parts_, delivery_, wheel_),
-      keys_(parts_, delivery_,
+      dispatcher_({[this] { pull(); }, [this] { push(); },
+                   [this](const RunTimeError& failure) {
+                       if (parts_.form->Unhandled) parts_.form->Unhandled(failure);
+                   },
+                   [this] { quitUnlessRefused(parts_.form->QueryClose); },
+                   [this] { return quitUnlessRefused(parts_.form->QueryEnd); }}),
+      wheel_(*parts_.form, dispatcher_), form_(parts_, dispatcher_, wheel_),
+      card_(form_.area(), parts_, dispatcher_, wheel_),
+      keys_(parts_, dispatcher_,
             [this](const QKeyEvent& event) { return form_.menuBar().runShortcut(event); }) {
     for (TextBox* box : parts_.cardTextBoxes)
         boxes_.push_back(std::make_unique<EditBox>(card_, *parts_.form, *box, *parts_.card,
-                                                   delivery_, EditBox::Place::Card));
+                                                   dispatcher_, EditBox::Place::Card));
     for (ListBox* list : parts_.lists)
-        lists_.push_back(std::make_unique<ListView>(form_.area(), *parts_.form, *list, delivery_));
+        lists_.push_back(
+            std::make_unique<ListView>(form_.area(), *parts_.form, *list, dispatcher_));
     for (const PanelContents& panel : parts_.panels)
         panels_.push_back(
-            std::make_unique<PanelWidget>(form_.area(), *parts_.form, panel, delivery_));
-    for (TextBox* notice : parts_.notices)
-        notices_.push_back(std::make_unique<Notice>(form_.area(), *notice));
+            std::make_unique<PanelWidget>(form_.area(), *parts_.form, panel, dispatcher_));
+    for (TextBox* overlay : parts_.overlays)
+        overlays_.push_back(std::make_unique<Overlay>(form_.area(), *overlay));
     watchKeys();
     openWindow() = this;
     reckonByScreenOf(&form_);
@@ -98,7 +99,7 @@ void WindowImplementation::push() {
     for (const auto& list : lists_) list->push();
     for (const auto& panel : panels_) panel->push();
     pushStacking();
-    for (const auto& notice : notices_) notice->push();
+    for (const auto& overlay : overlays_) overlay->push();
     pushFocus();
     form_.pushVisible();
     pushing_ = false;

@@ -8,8 +8,8 @@
 #include "toolkit/window/card/qt_card_widget.h"
 #include "toolkit/window/control/qt_edit_box.h"
 #include "toolkit/window/control/qt_list_view.h"
-#include "toolkit/window/control/qt_notice.h"
-#include "toolkit/window/input/qt_key_delivery.h"
+#include "toolkit/window/control/qt_overlay.h"
+#include "toolkit/window/input/qt_key_dispatcher.h"
 #include "toolkit/window/panel/qt_panel_widget.h"
 #include "toolkit/window/qt_form_widget.h"
 
@@ -28,7 +28,7 @@ class WindowImplementation {
 
     [[nodiscard]] FormWidget& form() { return form_; }
     [[nodiscard]] CardWidget& card() { return card_; }
-    [[nodiscard]] Delivery& delivery() { return delivery_; }
+    [[nodiscard]] EventDispatcher& dispatcher() { return dispatcher_; }
     [[nodiscard]] const WindowParts& parts() const { return parts_; }
     /// The widget that shows the control, nullptr where none does.
     [[nodiscard]] QWidget* widgetOf(const Control* control);
@@ -40,15 +40,15 @@ class WindowImplementation {
     void watchKeys();
 
     WindowParts parts_;
-    Delivery delivery_;
+    EventDispatcher dispatcher_;
     Wheel wheel_;
     FormWidget form_;
     CardWidget card_;
     std::vector<std::unique_ptr<EditBox>> boxes_;
     std::vector<std::unique_ptr<ListView>> lists_;
-    std::vector<std::unique_ptr<Notice>> notices_;
+    std::vector<std::unique_ptr<Overlay>> overlays_;
     std::vector<std::unique_ptr<PanelWidget>> panels_;
-    KeyDelivery keys_;
+    KeyDispatcher keys_;
     std::vector<const Control*> stacked_; ///< card, panels and lists, the hindmost first
     bool pushing_ = false;
 };

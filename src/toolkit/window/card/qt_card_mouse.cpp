@@ -20,7 +20,7 @@ bool CardMouse::canBeClicked(Target target) const {
 /// The place is worked out anew for each event: handlers move what they were pressed on.
 void CardMouse::send(Target target, LabelSlot labelSlot, CardSlot cardSlot, CardPointer pointer,
                      int button) {
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         const QPoint place = pointer.point - areaOf(target).topLeft();
         MouseArguments arguments{button, pointer.shift, twipsFromPixels(place.x()),
                                  twipsFromPixels(place.y())};
@@ -40,7 +40,7 @@ void CardMouse::sendMove(Target target, CardPointer pointer, int buttons) {
 }
 
 void CardMouse::sendClick(Target target) {
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         if (!target) {
             if (parts_.card->Click) parts_.card->Click();
         } else if (const LabelGroup* group = groupOf(parts_, *target);
@@ -53,7 +53,7 @@ void CardMouse::sendClick(Target target) {
 void CardMouse::takeFocus(Target target) {
     const LabelGroup* group = target ? groupOf(parts_, *target) : nullptr;
     if (target && (group == nullptr || !group->TakesFocus)) return;
-    delivery_.run([&] { parts_.form->SetFocus(*parts_.card); });
+    dispatcher_.run([&] { parts_.form->SetFocus(*parts_.card); });
 }
 
 void CardMouse::press(CardPointer pointer, int button, Held before) {

@@ -7,7 +7,7 @@
 
 #include "toolkit/model/window_parts.h"
 #include "toolkit/window/card/qt_label_lookup.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 namespace toolkit {
 
@@ -21,7 +21,8 @@ struct CardPointer {
 /// and as long as a button is held, whoever got the press.
 class CardMouse {
   public:
-    CardMouse(const WindowParts& parts, Delivery& delivery) : parts_(parts), delivery_(delivery) {}
+    CardMouse(const WindowParts& parts, EventDispatcher& dispatcher)
+        : parts_(parts), dispatcher_(dispatcher) {}
 
     enum class Held { None, Others };
 
@@ -44,7 +45,7 @@ class CardMouse {
     void takeFocus(Target target);
 
     const WindowParts& parts_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     std::optional<Target> pressed_;
     std::optional<QPoint> restingAt_; ///< the card's last MouseMove, where it had no button
 };

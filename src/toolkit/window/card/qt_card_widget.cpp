@@ -8,9 +8,9 @@
 #include "toolkit/window/input/qt_mouse_input.h"
 
 namespace toolkit {
-CardWidget::CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery,
+CardWidget::CardWidget(QWidget& container, const WindowParts& parts, EventDispatcher& dispatcher,
                        Wheel& wheel)
-    : QWidget(&container), parts_(parts), mouse_(parts, delivery), wheel_(wheel) {
+    : QWidget(&container), parts_(parts), mouse_(parts, dispatcher), wheel_(wheel) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);

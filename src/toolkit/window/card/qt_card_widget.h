@@ -12,7 +12,8 @@ namespace toolkit {
 
 class CardWidget : public QWidget {
   public:
-    CardWidget(QWidget& container, const WindowParts& parts, Delivery& delivery, Wheel& wheel);
+    CardWidget(QWidget& container, const WindowParts& parts, EventDispatcher& dispatcher,
+               Wheel& wheel);
 
     /// Takes over what the program changed and asks for a repaint of just that.
     void push();

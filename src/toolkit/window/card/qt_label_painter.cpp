@@ -29,13 +29,13 @@ float textOffset(const Label& label, float width) {
     return 0;
 }
 
-/// A base line in the painter's own coordinates, and whether it is a whole row of the device.
+/// A baseline in the painter's own coordinates, and whether it is a whole row of the device.
 struct PaintedLine {
     double y = 0;
     bool isWhole = true;
 };
 
-/// Rounded once, from the exact place: the base line of a text keeps to its printed rule, and a
+/// Rounded once, from the exact place: the baseline of a text keeps to its printed rule, and a
 /// mark to its box, as well as the rows of the screen allow.
 PaintedLine paintedLineOf(const Label& label, const QTransform& device) {
     const double rowsPerTwip = device.m22() / twipsPerPixel();
@@ -43,7 +43,7 @@ PaintedLine paintedLineOf(const Label& label, const QTransform& device) {
     const auto rows = [&](float below) {
         return (line + static_cast<double>(below)) * rowsPerTwip;
     };
-    const BaseLine& base = label.BaseLine;
+    const Baseline& base = label.Baseline;
     const double row = paintedLine(rows(base.Wanted), rows(base.Highest), rows(base.Lowest));
     // The picture below begins on a whole row of the device, whatever lies above the card.
     const double start = std::round(device.dy());

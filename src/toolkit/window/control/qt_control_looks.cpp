@@ -39,9 +39,9 @@ MouseArguments ControlMouse::argumentsOf(const QWidget& widget, const QMouseEven
 
 ControlMouse::Own ControlMouse::press(const QWidget& widget, const QMouseEvent& event) {
     if (!isEnabled() || buttonOf(event.button()) == 0) return Own::Skip;
-    delivery_.run([&] { form_.SetFocus(control_); });
+    dispatcher_.run([&] { form_.SetFocus(control_); });
     MouseArguments arguments = argumentsOf(widget, event);
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         if (control_.MouseDown) control_.MouseDown(arguments);
     });
     return arguments.Button == button::left || arguments.Button == button::middle ? Own::Handle
@@ -50,7 +50,7 @@ ControlMouse::Own ControlMouse::press(const QWidget& widget, const QMouseEvent& 
 
 void ControlMouse::release(const QWidget& widget, const QMouseEvent& event) {
     if (!isEnabled() || buttonOf(event.button()) == 0) return;
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         MouseArguments arguments = argumentsOf(widget, event);
         if (control_.MouseUp) control_.MouseUp(arguments);
     });
@@ -58,7 +58,7 @@ void ControlMouse::release(const QWidget& widget, const QMouseEvent& event) {
 
 void ControlMouse::send(std::function<void()> Control::*slot) {
     if (!isEnabled() || !control_.Visible) return;
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         if (control_.*slot) (control_.*slot)();
     });
 }

@@ -7,7 +7,7 @@
 #include <QtCore/QPoint>
 
 #include "toolkit/model/form.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 class QMouseEvent;
 class QWidget;
@@ -30,9 +30,9 @@ class ControlLooks {
 class ControlMouse {
   public:
     /// `container` is the control that this one lies on; nullptr is the form.
-    ControlMouse(Form& form, Delivery& delivery, Control& control, const Control* container,
-                 int widening)
-        : form_(form), delivery_(delivery), control_(control), container_(container),
+    ControlMouse(Form& form, EventDispatcher& dispatcher, Control& control,
+                 const Control* container, int widening)
+        : form_(form), dispatcher_(dispatcher), control_(control), container_(container),
           widening_(widening) {}
 
     enum class Own { Skip, Handle };
@@ -49,7 +49,7 @@ class ControlMouse {
     [[nodiscard]] MouseArguments argumentsOf(const QWidget& widget, const QMouseEvent& event) const;
 
     Form& form_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     Control& control_;
     const Control* container_;
     int widening_;

@@ -51,9 +51,9 @@ Qt::Alignment qAlignment(Alignment alignment) {
 } // namespace
 
 EditBox::EditBox(QWidget& parent, Form& form, TextBox& box, const Control& container,
-                 Delivery& delivery, Place place)
-    : QLineEdit(&parent), box_(box), delivery_(delivery), place_(place),
-      mouse_(form, delivery, box, &container, wideningOf(place)) {
+                 EventDispatcher& dispatcher, Place place)
+    : QLineEdit(&parent), box_(box), dispatcher_(dispatcher), place_(place),
+      mouse_(form, dispatcher, box, &container, wideningOf(place)) {
     hide();
     if (place == Place::Card) {
         setFrame(false);
@@ -113,18 +113,18 @@ void EditBox::push() {
         qAlignment(box_.Alignment) | (place_ == Place::Card ? Qt::AlignTop : Qt::AlignVCenter);
     if (wanted != alignment()) setAlignment(wanted);
     if (place_ == Place::Panel) return looks_.push(*this, box_, {});
-    const int line = baseLine();
+    const int line = baseline();
     const int bottom = pixelsFromTwips(box_.Top + box_.Height);
     looks_.push(*this, box_, {ownMargin, 0, ownMargin, std::max(line - bottom, 0)});
     pushBaseLine(line);
 }
 
 /// The row of the card below the text's feet, as the label's.
-int EditBox::baseLine() const {
+int EditBox::baseline() const {
     const auto twips = static_cast<double>(twipsPerPixel());
     const auto line = static_cast<double>(box_.Top + textAscent(box_.Font));
     const auto pixels = [&](float below) { return (line + static_cast<double>(below)) / twips; };
-    const BaseLine& base = box_.BaseLine;
+    const Baseline& base = box_.Baseline;
     return qRound(paintedLine(pixels(base.Wanted), pixels(base.Highest), pixels(base.Lowest)));
 }
 
@@ -160,7 +160,7 @@ void EditBox::pushSelection() {
 
 void EditBox::noteEdit() {
     convertTyped();
-    delivery_.run([this] {
+    dispatcher_.run([this] {
         if (box_.Change) box_.Change();
     });
 }

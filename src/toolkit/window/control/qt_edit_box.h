@@ -16,8 +16,8 @@ class EditBox : public QLineEdit {
     enum class Place { Card, Panel };
 
     /// `container` is the control that the box lies on, shown by the widget `parent`.
-    EditBox(QWidget& parent, Form& form, TextBox& box, const Control& container, Delivery& delivery,
-            Place place);
+    EditBox(QWidget& parent, Form& form, TextBox& box, const Control& container,
+            EventDispatcher& dispatcher, Place place);
 
     /// What the player changed since the last call goes into the values.
     void pull();
@@ -49,7 +49,7 @@ class EditBox : public QLineEdit {
     void endComposition();
     void pushText();
     void pushSelection();
-    [[nodiscard]] int baseLine() const;
+    [[nodiscard]] int baseline() const;
     void pushBaseLine(int line);
     void convertTyped();
     void noteEdit();
@@ -58,7 +58,7 @@ class EditBox : public QLineEdit {
     void releaseOwn(QMouseEvent& event);
 
     TextBox& box_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     Place place_;
     ControlMouse mouse_;
     ControlLooks looks_;

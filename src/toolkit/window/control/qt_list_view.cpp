@@ -8,8 +8,8 @@
 
 namespace toolkit {
 
-ListView::ListView(QWidget& parent, Form& form, ListBox& list, Delivery& delivery)
-    : QListView(&parent), list_(list), mouse_(form, delivery, list, nullptr, 0),
+ListView::ListView(QWidget& parent, Form& form, ListBox& list, EventDispatcher& dispatcher)
+    : QListView(&parent), list_(list), mouse_(form, dispatcher, list, nullptr, 0),
       painter_(rows_, list) {
     hide();
     setFrameStyle(QFrame::Box | QFrame::Plain);

@@ -11,7 +11,7 @@ namespace toolkit {
 
 class ListView : public QListView {
   public:
-    ListView(QWidget& parent, Form& form, ListBox& list, Delivery& delivery);
+    ListView(QWidget& parent, Form& form, ListBox& list, EventDispatcher& dispatcher);
     ~ListView() override;
 
     void pull();

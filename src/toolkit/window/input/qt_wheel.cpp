@@ -23,7 +23,7 @@ void Wheel::turn(QWheelEvent& event) {
     const int keys = shiftOf(event.modifiers());
     for (; turned_ <= -notch || turned_ >= notch; turned_ -= turned_ < 0 ? -notch : notch) {
         const int rotation = turned_ < 0 ? -notch : notch;
-        delivery_.run([&] {
+        dispatcher_.run([&] {
             if (form_.MouseWheel) form_.MouseWheel(keys, rotation, place.x(), place.y());
         });
     }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "toolkit/model/form.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 class QWheelEvent;
 
@@ -11,13 +11,13 @@ namespace toolkit {
 /// Fine-grained wheels send many small turns; the form gets one event for each whole notch.
 class Wheel {
   public:
-    Wheel(Form& form, Delivery& delivery) : form_(form), delivery_(delivery) {}
+    Wheel(Form& form, EventDispatcher& dispatcher) : form_(form), dispatcher_(dispatcher) {}
 
     void turn(QWheelEvent& event);
 
   private:
     Form& form_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     int turned_ = 0;
 };
 

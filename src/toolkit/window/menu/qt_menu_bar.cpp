@@ -20,8 +20,8 @@ QAction* offeredAction(const QList<QAction*>& offered, std::string_view caption)
 
 } // namespace
 
-MenuBar::MenuBar(QWidget& form, const WindowParts& parts, Delivery& delivery)
-    : QMenuBar(&form), parts_(parts), delivery_(delivery) {
+MenuBar::MenuBar(QWidget& form, const WindowParts& parts, EventDispatcher& dispatcher)
+    : QMenuBar(&form), parts_(parts), dispatcher_(dispatcher) {
     setNativeMenuBar(false);
     setFocusPolicy(Qt::NoFocus);
     for (std::size_t row = 0; row < parts.menu.size(); ++row) {
@@ -107,7 +107,7 @@ void MenuBar::connectRow(QAction& action, std::size_t row) {
 }
 
 void MenuBar::run(std::size_t row) {
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         if (parts_.menu[row].Click) parts_.menu[row].Click();
     });
 }

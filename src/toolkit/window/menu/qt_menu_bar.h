@@ -12,7 +12,7 @@
 #include <QtWidgets/QMenuBar>
 
 #include "toolkit/model/window_parts.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 namespace toolkit {
 
@@ -20,7 +20,7 @@ namespace toolkit {
 /// it opens, so that the rows cost nothing before and always show what is true then.
 class MenuBar : public QMenuBar {
   public:
-    MenuBar(QWidget& form, const WindowParts& parts, Delivery& delivery);
+    MenuBar(QWidget& form, const WindowParts& parts, EventDispatcher& dispatcher);
 
     void push();
     /// Runs the row whose shortcut this is, if it and all menus around it are shown and enabled.
@@ -53,7 +53,7 @@ class MenuBar : public QMenuBar {
     void run(std::size_t row);
 
     const WindowParts& parts_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     std::vector<std::unique_ptr<Entry>> entries_;
     std::vector<QKeySequence> shortcuts_; ///< by row
 };

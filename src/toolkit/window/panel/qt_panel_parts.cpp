@@ -20,8 +20,8 @@ template <typename Widget, typename Value>
 class Shown : public Widget {
   public:
     Shown(const PanelSite& site, Value& control)
-        : Widget(&site.parent), control_(control), delivery_(site.delivery),
-          mouse_(site.form, site.delivery, control, &site.container, 0) {
+        : Widget(&site.parent), control_(control), dispatcher_(site.dispatcher),
+          mouse_(site.form, site.dispatcher, control, &site.container, 0) {
         this->hide();
         this->setFocusPolicy(Qt::NoFocus);
         this->setContextMenuPolicy(Qt::PreventContextMenu);
@@ -41,7 +41,7 @@ class Shown : public Widget {
     }
 
     Value& control_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
 
   private:
     ControlMouse mouse_;
@@ -52,7 +52,7 @@ class Button : public Shown<QPushButton, CommandButton> {
   public:
     Button(const PanelSite& site, CommandButton& button) : Shown(site, button) {
         connect(this, &QPushButton::clicked, this, [this] {
-            delivery_.run([this] {
+            dispatcher_.run([this] {
                 if (control_.Click) control_.Click();
             });
         });
@@ -72,7 +72,7 @@ class Slider : public Shown<QSlider, ScrollBar> {
         setOrientation(Qt::Horizontal);
         connect(this, &QSlider::valueChanged, this, [this] {
             if (pushing_) return;
-            delivery_.run([this] {
+            dispatcher_.run([this] {
                 if (control_.Scroll) control_.Scroll();
             });
         });
@@ -102,7 +102,7 @@ class Slider : public Shown<QSlider, ScrollBar> {
 
 PanelPart partOf(const PanelSite& site, TextBox& box) {
     auto widget = std::make_unique<EditBox>(site.parent, site.form, box, site.container,
-                                            site.delivery, EditBox::Place::Panel);
+                                            site.dispatcher, EditBox::Place::Panel);
     EditBox& edit = *widget;
     return {.control = &box,
             .widget = std::move(widget),
@@ -112,7 +112,7 @@ PanelPart partOf(const PanelSite& site, TextBox& box) {
 }
 
 PanelPart partOf(const PanelSite& site, ListBox& list) {
-    auto widget = std::make_unique<ListView>(site.parent, site.form, list, site.delivery);
+    auto widget = std::make_unique<ListView>(site.parent, site.form, list, site.dispatcher);
     ListView& view = *widget;
     return {.control = &list,
             .widget = std::move(widget),

@@ -8,7 +8,7 @@
 
 #include "toolkit/model/form.h"
 #include "toolkit/model/panel.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 class QKeyEvent;
 
@@ -29,7 +29,7 @@ struct PanelSite {
     QWidget& parent;
     Form& form;
     const Control& container;
-    Delivery& delivery;
+    EventDispatcher& dispatcher;
 };
 
 [[nodiscard]] PanelPart makePart(const PanelSite& site, const PanelControl& control);

@@ -25,13 +25,14 @@ bool canHaveFocus(const PanelPart& part) { return part.control->Visible && part.
 
 } // namespace
 
-PanelWidget::PanelWidget(QWidget& area, Form& form, const PanelContents& panel, Delivery& delivery)
-    : QWidget(&area), form_(form), panel_(panel), delivery_(delivery) {
+PanelWidget::PanelWidget(QWidget& area, Form& form, const PanelContents& panel,
+                         EventDispatcher& dispatcher)
+    : QWidget(&area), form_(form), panel_(panel), dispatcher_(dispatcher) {
     hide();
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
     setContextMenuPolicy(Qt::PreventContextMenu);
-    const PanelSite site{*this, form, *panel.box, delivery};
+    const PanelSite site{*this, form, *panel.box, dispatcher};
     for (const PanelControl& control : panel.controls) parts_.push_back(makePart(site, control));
 }
 
@@ -73,7 +74,7 @@ void PanelWidget::pushPixels() {
     update();
 }
 
-void PanelWidget::watch(KeyDelivery& keys) {
+void PanelWidget::watch(KeyDispatcher& keys) {
     for (const PanelPart& part : parts_)
         keys.watch(*part.widget, *part.control,
                    [this, &part](QKeyEvent& event) { takeKey(part, event); });
@@ -154,14 +155,14 @@ void PanelWidget::walk(const PanelPart& from, int step) {
     for (int i = 1; i < count; ++i) {
         const PanelPart& next =
             parts_[static_cast<std::size_t>((start + i * step + i * count) % count)];
-        if (canHaveFocus(next)) return delivery_.run([&] { form_.SetFocus(*next.control); });
+        if (canHaveFocus(next)) return dispatcher_.run([&] { form_.SetFocus(*next.control); });
     }
 }
 
 /// A key that is held down presses a button once.
 void PanelWidget::click(const CommandButton& button) {
     if (!button.Visible || !button.Enabled || isKeyRepeat()) return;
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         if (button.Click) button.Click();
     });
 }
@@ -208,7 +209,7 @@ void PanelWidget::mousePressEvent(QMouseEvent* event) {
     const QPoint inside = place - placeOf(*target->label).topLeft();
     MouseArguments arguments{buttonOf(event->button()), shiftOf(event->modifiers()),
                              twipsFromPixels(inside.x()), twipsFromPixels(inside.y())};
-    delivery_.run([&] { target->MouseDown(arguments); });
+    dispatcher_.run([&] { target->MouseDown(arguments); });
 }
 
 void PanelWidget::mouseReleaseEvent(QMouseEvent* event) {
@@ -216,7 +217,7 @@ void PanelWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton) return;
     const auto target = targetAt(pixelUnder(*event, *this));
     const Label* pressed = std::exchange(pressed_, nullptr);
-    if (target && target->label == pressed && target->Click) delivery_.run(target->Click);
+    if (target && target->label == pressed && target->Click) dispatcher_.run(target->Click);
 }
 
 /// A label that does something shows a hand.

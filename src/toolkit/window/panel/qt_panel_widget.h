@@ -9,8 +9,8 @@
 #include <QtWidgets/QWidget>
 
 #include "toolkit/model/window_parts.h"
-#include "toolkit/window/input/qt_delivery.h"
-#include "toolkit/window/input/qt_key_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
+#include "toolkit/window/input/qt_key_dispatcher.h"
 #include "toolkit/window/panel/qt_panel_parts.h"
 
 namespace toolkit {
@@ -18,11 +18,11 @@ namespace toolkit {
 /// Paints ground and labels; the controls are widgets on it.
 class PanelWidget : public QWidget {
   public:
-    PanelWidget(QWidget& area, Form& form, const PanelContents& panel, Delivery& delivery);
+    PanelWidget(QWidget& area, Form& form, const PanelContents& panel, EventDispatcher& dispatcher);
 
     void pull();
     void push();
-    void watch(KeyDelivery& keys);
+    void watch(KeyDispatcher& keys);
     [[nodiscard]] const Panel& box() const { return *panel_.box; }
     /// The widget that shows the control, nullptr where none of this panel does.
     [[nodiscard]] QWidget* widgetOf(const Control* control);
@@ -73,7 +73,7 @@ class PanelWidget : public QWidget {
 
     Form& form_;
     const PanelContents& panel_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     std::vector<PanelPart> parts_;
     std::vector<Label> shown_;       ///< the labels as they were painted last
     std::optional<Ground> ground_;   ///< and the ground below them

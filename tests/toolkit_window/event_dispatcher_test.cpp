@@ -12,16 +12,16 @@ namespace {
 
 using namespace toolkit;
 
-class Delivery : public WindowTest {};
+class EventDispatcher : public WindowTest {};
 
-TEST_F(Delivery, FailureInAHandlerIsReportedAndTheNextEventComes) {
+TEST_F(EventDispatcher, FailureInAHandlerIsReportedAndTheNextEventComes) {
     card.MouseDown = [](MouseArguments&) { throw RunTimeError(Failure::Overflow); };
     test::click(px(30), px(40));
     EXPECT_EQ(log.back(), "card.Click");
     EXPECT_EQ(times("Unhandled 6"), 1);
 }
 
-TEST_F(Delivery, EndOfTheProgramReachesTheTest) {
+TEST_F(EventDispatcher, EndOfTheProgramReachesTheTest) {
     overrideProgram({.throwAtEnd = true});
     card.Click = [] { endProgram(EXIT_SUCCESS); };
     EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
@@ -31,7 +31,7 @@ TEST_F(Delivery, EndOfTheProgramReachesTheTest) {
     EXPECT_EQ(log.back(), "again");
 }
 
-TEST_F(Delivery, IsAskedOnceAndARefusalKeepsTheWindow) {
+TEST_F(EventDispatcher, IsAskedOnceAndARefusalKeepsTheWindow) {
     form.QueryClose = [this] {
         note("asked");
         return true;
@@ -43,7 +43,7 @@ TEST_F(Delivery, IsAskedOnceAndARefusalKeepsTheWindow) {
     EXPECT_EQ(times("asked"), 2);
 }
 
-TEST_F(Delivery, WaitsForTheRunningProcedure) {
+TEST_F(EventDispatcher, WaitsForTheRunningProcedure) {
     form.QueryClose = [this] {
         note("asked");
         return true;
@@ -60,7 +60,7 @@ TEST_F(Delivery, WaitsForTheRunningProcedure) {
     EXPECT_EQ(log, (Log{"asked"}));
 }
 
-TEST_F(Delivery, ProcedureIsOverBeforeTheQuestion) {
+TEST_F(EventDispatcher, ProcedureIsOverBeforeTheQuestion) {
     form.QueryClose = [this] {
         note("asked");
         return true;
@@ -77,7 +77,7 @@ TEST_F(Delivery, ProcedureIsOverBeforeTheQuestion) {
               std::find(log.begin(), log.end(), "asked"));
 }
 
-TEST_F(Delivery, TheEndOfTheSessionIsAskedOnceAndByItself) {
+TEST_F(EventDispatcher, TheEndOfTheSessionIsAskedOnceAndByItself) {
     form.QueryClose = [this] {
         note("closed");
         return true;
@@ -93,7 +93,7 @@ TEST_F(Delivery, TheEndOfTheSessionIsAskedOnceAndByItself) {
     EXPECT_EQ(log.back(), "closed");
 }
 
-TEST_F(Delivery, TheEndOfTheSessionWaitsForTheRunningProcedure) {
+TEST_F(EventDispatcher, TheEndOfTheSessionWaitsForTheRunningProcedure) {
     form.QueryEnd = [this] {
         note("ended");
         return true;
@@ -109,7 +109,7 @@ TEST_F(Delivery, TheEndOfTheSessionWaitsForTheRunningProcedure) {
     EXPECT_EQ(times("ended"), 1);
 }
 
-TEST_F(Delivery, TheEndOfTheSessionIsAskedAgainBehindAWaitForThePlayer) {
+TEST_F(EventDispatcher, TheEndOfTheSessionIsAskedAgainBehindAWaitForThePlayer) {
     bool isOver = false;
     form.QueryEnd = [&] {
         note("ended");
@@ -128,7 +128,7 @@ TEST_F(Delivery, TheEndOfTheSessionIsAskedAgainBehindAWaitForThePlayer) {
     EXPECT_EQ(times("wait over"), 1);
 }
 
-TEST_F(Delivery, QueuedCloseWaitsForAProcedureThatBeganMeanwhile) {
+TEST_F(EventDispatcher, QueuedCloseWaitsForAProcedureThatBeganMeanwhile) {
     form.QueryClose = [this] {
         note("asked");
         return true;
@@ -145,7 +145,7 @@ TEST_F(Delivery, QueuedCloseWaitsForAProcedureThatBeganMeanwhile) {
     EXPECT_EQ(times("asked"), 1);
 }
 
-TEST_F(Delivery, TheFormIsToldBeforeEachEnd) {
+TEST_F(EventDispatcher, TheFormIsToldBeforeEachEnd) {
     overrideProgram({.throwAtEnd = true});
     form.Ending = [this] { note("ending"); };
     card.Click = [] { endProgram(EXIT_SUCCESS); };
@@ -156,14 +156,14 @@ TEST_F(Delivery, TheFormIsToldBeforeEachEnd) {
     EXPECT_EQ(times("ending"), 2);
 }
 
-TEST_F(Delivery, WhatFailsBeforeAnEndDoesntHoldItUp) {
+TEST_F(EventDispatcher, WhatFailsBeforeAnEndDoesntHoldItUp) {
     overrideProgram({.throwAtEnd = true});
     form.Ending = [] { throw RunTimeError(Failure::DiskFull); };
     card.Click = [] { endProgram(EXIT_SUCCESS); };
     EXPECT_THROW(test::click(px(30), px(40)), ProgramEnded);
 }
 
-TEST_F(Delivery, EndInTheQuestionReachesTheTest) {
+TEST_F(EventDispatcher, EndInTheQuestionReachesTheTest) {
     overrideProgram({.throwAtEnd = true});
     form.QueryClose = []() -> bool { endProgram(EXIT_SUCCESS); };
     EXPECT_THROW(test::closeWindow(), ProgramEnded);

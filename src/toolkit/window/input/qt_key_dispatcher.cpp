@@ -1,4 +1,4 @@
-#include "toolkit/window/input/qt_key_delivery.h"
+#include "toolkit/window/input/qt_key_dispatcher.h"
 
 #include <utility>
 
@@ -49,18 +49,19 @@ bool HeldKeys::release(const QKeyEvent& event) {
 
 bool isKeyRepeat() { return repeating(); }
 
-KeyDelivery::KeyDelivery(const WindowParts& parts, Delivery& delivery, Shortcuts shortcuts)
-    : parts_(parts), delivery_(delivery), shortcuts_(std::move(shortcuts)) {}
+KeyDispatcher::KeyDispatcher(const WindowParts& parts, EventDispatcher& dispatcher,
+                             Shortcuts shortcuts)
+    : parts_(parts), dispatcher_(dispatcher), shortcuts_(std::move(shortcuts)) {}
 
-void KeyDelivery::watch(QWidget& widget) { widget.installEventFilter(this); }
+void KeyDispatcher::watch(QWidget& widget) { widget.installEventFilter(this); }
 
-void KeyDelivery::watch(QWidget& widget, const Control& control, OwnHandling own) {
+void KeyDispatcher::watch(QWidget& widget, const Control& control, OwnHandling own) {
     own_[&control] = std::move(own);
     watch(widget);
 }
 
 /// Every key event is accepted, so that none climbs to the widget behind and comes a second time.
-bool KeyDelivery::eventFilter(QObject* watched, QEvent* event) {
+bool KeyDispatcher::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
     case QEvent::ShortcutOverride: {
         const auto& keyEvent = *static_cast<QKeyEvent*>(event);
@@ -81,11 +82,11 @@ bool KeyDelivery::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-Control& KeyDelivery::target() const {
+Control& KeyDispatcher::target() const {
     return parts_.form->ActiveControl != nullptr ? *parts_.form->ActiveControl : *parts_.card;
 }
 
-void KeyDelivery::press(QKeyEvent& event) {
+void KeyDispatcher::press(QKeyEvent& event) {
     const bool outer = std::exchange(repeating(), held_.press(event));
     Control& control = target();
     if (passes(parts_.form->KeyDown, event) && !shortcuts_(event) &&
@@ -94,7 +95,7 @@ void KeyDelivery::press(QKeyEvent& event) {
     repeating() = outer;
 }
 
-void KeyDelivery::release(const QKeyEvent& event) {
+void KeyDispatcher::release(const QKeyEvent& event) {
     if (event.isAutoRepeat()) return;
     const bool outer = std::exchange(repeating(), held_.release(event));
     // Whether the handler takes the release matters to no one.
@@ -102,25 +103,25 @@ void KeyDelivery::release(const QKeyEvent& event) {
     repeating() = outer;
 }
 
-bool KeyDelivery::passes(const std::function<void(KeyArguments&)>& slot, const QKeyEvent& event) {
+bool KeyDispatcher::passes(const std::function<void(KeyArguments&)>& slot, const QKeyEvent& event) {
     KeyArguments arguments{keyCodeOf(event), shiftOf(event.modifiers())};
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         if (slot) slot(arguments);
     });
     return arguments.KeyCode != 0;
 }
 
-bool KeyDelivery::passesAsCharacter(const Control& control, const QKeyEvent& event) {
+bool KeyDispatcher::passesAsCharacter(const Control& control, const QKeyEvent& event) {
     int character = characterOf(event);
     if (character == 0) return true;
-    delivery_.run([&] {
+    dispatcher_.run([&] {
         if (control.KeyPress) control.KeyPress(character);
     });
     return character != 0;
 }
 
 /// A handler may have moved the focus on; then the key isn't the old control's any more.
-void KeyDelivery::handOver(const Control& control, QKeyEvent& event) {
+void KeyDispatcher::handOver(const Control& control, QKeyEvent& event) {
     const auto own = own_.find(&control);
     if (own == own_.end() || &target() != &control || !control.Visible || !control.Enabled) return;
     own->second(event);

@@ -1,4 +1,4 @@
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 #include <exception>
 #include <utility>
@@ -23,7 +23,7 @@ void rethrowKept() {
     if (kept()) std::rethrow_exception(std::exchange(kept(), nullptr));
 }
 
-void Delivery::guarded(const std::function<void()>& handler) {
+void EventDispatcher::guarded(const std::function<void()>& handler) {
     try {
         try {
             handler();
@@ -35,7 +35,7 @@ void Delivery::guarded(const std::function<void()>& handler) {
     }
 }
 
-void Delivery::run(const std::function<void()>& handler) {
+void EventDispatcher::run(const std::function<void()>& handler) {
     hooks_.pull();
     ++depth_;
     guarded(handler);
@@ -44,18 +44,18 @@ void Delivery::run(const std::function<void()>& handler) {
     if (depth_ == 0 && closeAsked_) scheduleClose();
 }
 
-void Delivery::askToClose() {
+void EventDispatcher::askToClose() {
     if (!std::exchange(closeAsked_, true)) scheduleClose();
 }
 
-void Delivery::askToEnd() {
+void EventDispatcher::askToEnd() {
     // The very question that is being put.
     if (isEnding_) return;
     endAsked_ = true;
     askToClose();
 }
 
-bool Delivery::mayEnd() {
+bool EventDispatcher::mayEnd() {
     if (depth_ > 0) {
         askToEnd();
         return false;
@@ -71,7 +71,7 @@ bool Delivery::mayEnd() {
     return ends;
 }
 
-void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
+void EventDispatcher::letPlayerAct(const std::function<bool()>& isOver) {
     // What runs meanwhile runs as if no handler were running.
     const QScopedValueRollback outermost(depth_, 0);
     const QScopedValueRollback wait(waits_, waits_ + 1);
@@ -85,7 +85,7 @@ void Delivery::letPlayerAct(const std::function<bool()>& isOver) {
     rethrowKept();
 }
 
-void Delivery::close() {
+void EventDispatcher::close() {
     if (!endAsked_) return run(hooks_.close);
     endAsked_ = false;
     static_cast<void>(mayEnd());
@@ -93,7 +93,7 @@ void Delivery::close() {
 
 /// Queued: the close procedure may end the program, which must not happen below the platform's own
 /// close event. Another handler may have begun by then, so the depth is looked at again.
-void Delivery::scheduleClose() {
+void EventDispatcher::scheduleClose() {
     QTimer::singleShot(0, &timers_, [this] {
         if (depth_ > 0 || !std::exchange(closeAsked_, false)) return;
         close();

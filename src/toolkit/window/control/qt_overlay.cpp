@@ -1,4 +1,4 @@
-#include "toolkit/window/control/qt_notice.h"
+#include "toolkit/window/control/qt_overlay.h"
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
@@ -6,7 +6,7 @@
 
 namespace toolkit {
 
-Notice::Notice(QWidget& container, const TextBox& box) : QLabel(&container), box_(box) {
+Overlay::Overlay(QWidget& container, const TextBox& box) : QLabel(&container), box_(box) {
     setTextFormat(Qt::PlainText);
     setAlignment(Qt::AlignCenter);
     setFrameShape(QFrame::Box);
@@ -14,7 +14,7 @@ Notice::Notice(QWidget& container, const TextBox& box) : QLabel(&container), box
     setVisible(false);
 }
 
-void Notice::push() {
+void Overlay::push() {
     if (const QString text = qString(box_.Text); text != this->text()) setText(text);
     setGeometry(pixelsFromTwips(box_.Left), pixelsFromTwips(box_.Top), pixelsFromTwips(box_.Width),
                 pixelsFromTwips(box_.Height));

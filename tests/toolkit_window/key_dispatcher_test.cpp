@@ -9,9 +9,9 @@ namespace {
 
 using namespace toolkit;
 
-class KeyDelivery : public WindowTest {};
+class KeyDispatcher : public WindowTest {};
 
-TEST_F(KeyDelivery, FormComesFirstThenDownPressUpOfTheControl) {
+TEST_F(KeyDispatcher, FormComesFirstThenDownPressUpOfTheControl) {
     openBox("");
     test::typeKey('A');
     EXPECT_EQ(log,
@@ -19,7 +19,7 @@ TEST_F(KeyDelivery, FormComesFirstThenDownPressUpOfTheControl) {
     EXPECT_EQ(box.Text, "a");
 }
 
-TEST_F(KeyDelivery, ConsumedByTheFormStillBringsKeyUp) {
+TEST_F(KeyDispatcher, ConsumedByTheFormStillBringsKeyUp) {
     openBox("");
     form.KeyDown = [](KeyArguments& key) { key.KeyCode = 0; };
     test::typeKey('A');
@@ -27,7 +27,7 @@ TEST_F(KeyDelivery, ConsumedByTheFormStillBringsKeyUp) {
     EXPECT_EQ(box.Text, "");
 }
 
-TEST_F(KeyDelivery, ConsumedByTheControlGivesNoCharacter) {
+TEST_F(KeyDispatcher, ConsumedByTheControlGivesNoCharacter) {
     openBox("");
     box.KeyDown = [](KeyArguments& key) { key.KeyCode = 0; };
     test::typeKey('A');
@@ -35,7 +35,7 @@ TEST_F(KeyDelivery, ConsumedByTheControlGivesNoCharacter) {
     EXPECT_EQ(box.Text, "");
 }
 
-TEST_F(KeyDelivery, CharacterSetToZeroIsSwallowed) {
+TEST_F(KeyDispatcher, CharacterSetToZeroIsSwallowed) {
     openBox("");
     box.KeyPress = [](int& character) { character = 0; };
     test::typeKey('A');
@@ -43,7 +43,7 @@ TEST_F(KeyDelivery, CharacterSetToZeroIsSwallowed) {
     EXPECT_EQ(log.back(), "box.KeyUp 65/0");
 }
 
-TEST_F(KeyDelivery, TabInABoxStaysThere) {
+TEST_F(KeyDispatcher, TabInABoxStaysThere) {
     openBox("abc");
     otherBox.Move(px(20), px(60), px(120), px(20));
     otherBox.Visible = true;
@@ -56,7 +56,7 @@ TEST_F(KeyDelivery, TabInABoxStaysThere) {
     EXPECT_EQ(times("box.LostFocus"), 0);
 }
 
-TEST_F(KeyDelivery, RepetitionIsToldAndReleasesNothing) {
+TEST_F(KeyDispatcher, RepetitionIsToldAndReleasesNothing) {
     card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
     test::pressKey('A');
     test::repeatKey('A');
@@ -67,7 +67,7 @@ TEST_F(KeyDelivery, RepetitionIsToldAndReleasesNothing) {
     EXPECT_FALSE(isKeyRepeat());
 }
 
-TEST_F(KeyDelivery, PressAtTheTimeOfTheReleaseBeforeItIsARepetition) {
+TEST_F(KeyDispatcher, PressAtTheTimeOfTheReleaseBeforeItIsARepetition) {
     card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
     card.KeyUp = [this](KeyArguments&) { note(isKeyRepeat() ? "released again" : "released"); };
     test::pressKeyAt(1000, 'A');
@@ -83,7 +83,7 @@ TEST_F(KeyDelivery, PressAtTheTimeOfTheReleaseBeforeItIsARepetition) {
     EXPECT_FALSE(isKeyRepeat());
 }
 
-TEST_F(KeyDelivery, ToldAndUntoldRepetitionsOfOneHoldMix) {
+TEST_F(KeyDispatcher, ToldAndUntoldRepetitionsOfOneHoldMix) {
     card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
     card.KeyUp = [this](KeyArguments&) { note(isKeyRepeat() ? "released again" : "released"); };
     test::pressKeyAt(1000, 'A');
@@ -98,7 +98,7 @@ TEST_F(KeyDelivery, ToldAndUntoldRepetitionsOfOneHoldMix) {
     EXPECT_EQ(times("released again"), 1);
 }
 
-TEST_F(KeyDelivery, StrokesInAHurryAreNoRepetitions) {
+TEST_F(KeyDispatcher, StrokesInAHurryAreNoRepetitions) {
     card.KeyDown = [this](KeyArguments&) { note(isKeyRepeat() ? "repeated" : "pressed"); };
     test::pressKeyAt(1000, 'A');
     test::releaseKeyAt(1001, 'A');
@@ -109,7 +109,7 @@ TEST_F(KeyDelivery, StrokesInAHurryAreNoRepetitions) {
     EXPECT_EQ(times("pressed"), 4);
 }
 
-TEST_F(KeyDelivery, KeyReachesItsHandlersOnce) {
+TEST_F(KeyDispatcher, KeyReachesItsHandlersOnce) {
     openBox("");
     // No box takes Escape or Enter by itself; neither may climb to the card behind.
     test::typeKey(key::escape);
@@ -119,7 +119,7 @@ TEST_F(KeyDelivery, KeyReachesItsHandlersOnce) {
     EXPECT_EQ(times("card.KeyDown 27/0"), 0);
 }
 
-TEST_F(KeyDelivery, NoShortcutOfThePlatformTakesAKeyButTheMenuBarsAccessKeys) {
+TEST_F(KeyDispatcher, NoShortcutOfThePlatformTakesAKeyButTheMenuBarsAccessKeys) {
     EXPECT_TRUE(test::isClaimed('Q', shift::ctrl));
     EXPECT_TRUE(test::isClaimed(key::f1, 0));
     EXPECT_TRUE(test::isClaimed(key::f4, shift::alt));

@@ -7,9 +7,9 @@
 
 namespace toolkit {
 
-class Notice : public QLabel {
+class Overlay : public QLabel {
   public:
-    Notice(QWidget& container, const TextBox& box);
+    Overlay(QWidget& container, const TextBox& box);
 
     /// Takes over what the program changed.
     void push();

@@ -8,7 +8,7 @@
 #include <QtCore/QObject>
 
 #include "toolkit/model/window_parts.h"
-#include "toolkit/window/input/qt_delivery.h"
+#include "toolkit/window/input/qt_event_dispatcher.h"
 
 class QKeyEvent;
 class QWidget;
@@ -36,14 +36,14 @@ class HeldKeys {
 
 /// Sees every key that reaches the form or one of its controls: first the form, then the shortcuts
 /// of the menu, then the control in focus, and only then the widget that shows the control.
-class KeyDelivery : public QObject {
+class KeyDispatcher : public QObject {
   public:
     /// Runs the shortcut of a menu row; whether there was one that may act.
     using Shortcuts = std::function<bool(const QKeyEvent&)>;
     /// What a widget does itself with a key.
     using OwnHandling = std::function<void(QKeyEvent&)>;
 
-    KeyDelivery(const WindowParts& parts, Delivery& delivery, Shortcuts shortcuts);
+    KeyDispatcher(const WindowParts& parts, EventDispatcher& dispatcher, Shortcuts shortcuts);
 
     void watch(QWidget& widget);
     void watch(QWidget& widget, const Control& control, OwnHandling own);
@@ -60,7 +60,7 @@ class KeyDelivery : public QObject {
     void handOver(const Control& control, QKeyEvent& event);
 
     const WindowParts& parts_;
-    Delivery& delivery_;
+    EventDispatcher& dispatcher_;
     Shortcuts shortcuts_;
     std::map<const Control*, OwnHandling> own_;
     HeldKeys held_;

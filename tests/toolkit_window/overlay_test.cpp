@@ -7,13 +7,13 @@ namespace {
 
 using namespace toolkit;
 
-class Notice : public WindowTest {};
+class Overlay : public WindowTest {};
 
-TEST_F(Notice, ShowsOverAllElseWhileItIsVisible) {
-    notice.Text = "Please wait";
-    notice.BackColor = rgb(10, 200, 10);
-    notice.Move(px(100), px(100), px(80), px(40));
-    notice.Visible = true;
+TEST_F(Overlay, ShowsOverAllElseWhileItIsVisible) {
+    overlay.Text = "Please wait";
+    overlay.BackColor = rgb(10, 200, 10);
+    overlay.Move(px(100), px(100), px(80), px(40));
+    overlay.Visible = true;
     window->update();
     const auto hasColor = [] {
         const Bitmap shown = test::grabWindow();
@@ -23,7 +23,7 @@ TEST_F(Notice, ShowsOverAllElseWhileItIsVisible) {
         return false;
     };
     EXPECT_TRUE(hasColor());
-    notice.Visible = false;
+    overlay.Visible = false;
     window->update();
     EXPECT_FALSE(hasColor());
 }

@@ -16,7 +16,7 @@ namespace toolkit {
 /// program or a test makes: doEvents, wait, a box, or a helper of toolkit::test.
 void rethrowKept();
 
-class Delivery {
+class EventDispatcher {
   public:
     struct Hooks {
         std::function<void()> pull; ///< what the player changed goes into the values
@@ -25,7 +25,7 @@ class Delivery {
         std::function<void()> close; ///< the player closes the window
         std::function<bool()> end;   ///< the session ends; whether the program does
     };
-    explicit Delivery(Hooks hooks) : hooks_(std::move(hooks)) {}
+    explicit EventDispatcher(Hooks hooks) : hooks_(std::move(hooks)) {}
 
     /// Runs one handler between a pull and a push. No exception leaves it.
     void run(const std::function<void()>& handler);
