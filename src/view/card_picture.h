@@ -25,8 +25,8 @@ class CardPicture {
     [[nodiscard]] int width() const;
     [[nodiscard]] int height() const;
 
-    /// The picture shrunk by the request's factor (0.2 to 1) of its full size: always made from the
-    /// smallest step of the pyramid of halves that isn't smaller.
+    /// The picture at the request's factor (0.2 to 1) of its full size, made from the half picture
+    /// where that is large enough.
     [[nodiscard]] toolkit::Bitmap scaled(const ScaleRequest& request) const;
 
   private:

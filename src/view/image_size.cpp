@@ -46,7 +46,7 @@ float shownScale(float scale) {
 Drawing drawingOf(const CardPicture& source, float scale) {
     Drawing drawing{.scale = shownScale(scale)};
     drawing.width = wholePixelsOf(static_cast<float>(source.width()) * drawing.scale);
-    // The strip goes by the scale asked for, also where another one is shown.
+    // The strip takes the scale asked for, even where the picture is shown at another one.
     drawing.strip = scale * stripPixels;
     drawing.height = wholePixelsOf(
         wholePixelsOf(static_cast<float>(source.height()) * drawing.scale) + drawing.strip);
@@ -66,7 +66,7 @@ SharedPicture pictureOf(const CardPicture& source, const ScaleRequest& request) 
     return std::make_shared<const toolkit::Bitmap>(source.scaled(request));
 }
 
-/// The picture that was begun, where it is the one that is wanted.
+/// The picture that was begun, if it is the one that is wanted, else a new one.
 SharedPicture takePicture(Zevlin& form, const CardPicture& source, const ScaleRequest& request) {
     auto started = std::exchange(form.PictureStarted, std::nullopt);
     if (!started || &source != &form.PBase || started->request != request)
@@ -87,7 +87,7 @@ void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& s
     target.Height = drawing.height * twips;
     target.Picture = takePicture(form, source, requestOf(drawing));
     target.Sharp = {target.Picture, [source, drawing](float ratio) {
-                        // More than its full size there isn't to see.
+                        // Beyond its full size the picture has nothing more to show.
                         const float most = std::max(largestScale / drawing.scale, 1.0F);
                         return pictureOf(source,
                                          requestOf(drawing.enlarged(std::min(ratio, most))));
@@ -108,7 +108,7 @@ void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& 
 }
 
 void StartPicture(Zevlin& form) {
-    // What is printed has its size already.
+    // A print job has made its picture before the rebuild.
     if (form.Printing) return;
     const std::size_t step = ladderStep(form);
     if (step >= form.ZoomTable.size() || form.ZoomTable[step] == form.LastImageScale) return;

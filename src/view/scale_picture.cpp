@@ -28,7 +28,7 @@ Channels split(Pixel pixel) {
 }
 
 Pixel join(Channels channels) {
-    // What becomes a whole number loses its fraction: a half more, and it is rounded.
+    // The conversion cuts off the fraction, so a half more makes it round.
     const auto rounded = __builtin_convertvector(channels + 0.5F, WholeChannels);
     return std::bit_cast<Pixel>(__builtin_convertvector(rounded, ByteChannels));
 }
@@ -42,7 +42,8 @@ struct Source {
     std::optional<Element> paper; ///< the white one, if there is one
 };
 
-// Most of a card is paper. Columns go in blocks, and a block without ink costs only the look at it.
+// Most of a card is blank paper. Columns are done in blocks, and a block without ink is only looked
+// at.
 constexpr int blockWidth = 8;
 
 template <typename Element, typename Split>
@@ -60,7 +61,7 @@ class Scaler {
         paperBlock_.fill(source.paper.value_or(Element{}));
     }
 
-    /// Onto a white picture.
+    /// Scales onto a white picture.
     void scaleTo(toolkit::Bitmap& result) {
         for (int y = 0; y < rows_.size(); ++y) {
             averageRows(y);
