@@ -35,6 +35,8 @@ class Zooming(whole_program.WholeProgramTest):
 
     def check_stays(self, state):
         program = self.start_for_the_first_time()
+        self.zoom(program, OUT)
+        normal = geometry(program.window)
         self.change_state(program, x11.ADD, state)
         before = geometry(program.window)
         for keys in (IN, OUT, OUT, FIT):
@@ -48,12 +50,13 @@ class Zooming(whole_program.WholeProgramTest):
         program.answer_name("Full")
         program.wait_for_title(r"\( Full \)$")
         self.assertEqual(self.home.records("Full")[0], {mark})
+        self.change_state(program, x11.REMOVE, state)
+        desktop.wait_for("the place it had", lambda: geometry(program.window) == normal)
         return program
 
     def test_a_maximised_window_stays_and_its_card_changes(self):
         program = self.check_stays(x11.MAXIMISED)
-        self.change_state(program, x11.REMOVE, x11.MAXIMISED)
-        card = self.zoom(program, OUT)
+        self.zoom(program, OUT)
         card = self.zoom(program, OUT)
         width = round(card.scale * desktop.DESIGN_WIDTH)
         desktop.wait_for("a window of the card's width",

@@ -1,4 +1,6 @@
 // Place, size and frame of the form.
+#include <array>
+
 #include "fixture.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
@@ -69,6 +71,35 @@ TEST_F(FormPlace, PlaceGivenByThePlayerGoesIntoTheValues) {
     EXPECT_EQ(form.Left, px(57));
     EXPECT_EQ(form.Top, px(57));
     EXPECT_EQ(form.Width, width);
+}
+
+TEST_F(FormPlace, PlaceAndSizeAreGivenAtOnce) {
+    EXPECT_EQ(test::countPlaces([this] {
+                  form.Left += px(7);
+                  form.Top += px(5);
+                  form.Width += px(20);
+                  form.Height -= px(10);
+                  window->update();
+              }),
+              1);
+    EXPECT_EQ(px(test::grabWindow().width()), form.ScaleWidth());
+}
+
+TEST_F(FormPlace, WindowTakenBackFromTheWholeScreenIsWhereItWas) {
+    test::settle();
+    test::moveMouse(px(5), px(5));
+    const auto place = [this] { return std::array{form.Left, form.Top, form.Width, form.Height}; };
+    const auto before = place();
+    const int width = test::grabWindow().width();
+    for (const test::Extent extent : {test::Extent::FullScreen, test::Extent::Maximised}) {
+        test::changeExtent(extent);
+        window->update();
+        EXPECT_NE(place(), before);
+        test::changeExtent(test::Extent::Normal);
+        window->update();
+        EXPECT_EQ(place(), before);
+        EXPECT_EQ(test::grabWindow().width(), width);
+    }
 }
 
 TEST_F(FormPlace, WindowThatFillsTheScreenSaysSo) {

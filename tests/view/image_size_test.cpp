@@ -2,6 +2,8 @@
 #include "layout/write_layout.h"
 #include "view/image_size.h"
 
+#include <future>
+
 #include "app/layouts.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"

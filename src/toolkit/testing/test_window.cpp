@@ -2,6 +2,7 @@
 
 #include <cstring>
 #include <stdexcept>
+#include <utility>
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QTimer>
@@ -60,6 +61,25 @@ class PaintCount : public QObject {
     CardPaints painted_;
 };
 
+/// Sees each place and size that a window gets.
+class PlaceCount : public QObject {
+  public:
+    explicit PlaceCount(QWidget& widget) : widget_(widget), last_(widget.geometry()) {
+        widget.installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        const bool isChange = event->type() == QEvent::Move || event->type() == QEvent::Resize;
+        if (isChange && std::exchange(last_, widget_.geometry()) != widget_.geometry()) ++count_;
+        return QObject::eventFilter(watched, event);
+    }
+    [[nodiscard]] int count() const { return count_; }
+
+  private:
+    QWidget& widget_;
+    QRect last_;
+    int count_ = 0;
+};
+
 } // namespace
 
 bool chooseMenu(std::string_view captionPath) {
@@ -103,6 +123,13 @@ Extent windowExtent() {
     const QWidget& form = window().form();
     if (form.isFullScreen()) return Extent::FullScreen;
     return form.isMaximized() ? Extent::Maximised : Extent::Normal;
+}
+
+int countPlaces(const std::function<void()>& act) {
+    updateWindow();
+    const PlaceCount places(window().form());
+    act();
+    return places.count();
 }
 
 void requestClose() {

@@ -30,6 +30,8 @@ enum class Extent { Normal, Maximised, FullScreen };
 /// The player gives the window the whole screen, or takes it back.
 void changeExtent(Extent extent);
 [[nodiscard]] Extent windowExtent();
+/// Through how many places and sizes the window goes while `act` runs.
+[[nodiscard]] int countPlaces(const std::function<void()>& act);
 /// Asks the window to close; the answer waits in the queue.
 void requestClose();
 /// The same and lets the answer run.

@@ -45,7 +45,9 @@ QMargins FormPlace::presentFrame() const {
 
 void FormPlace::pull(int menuHeight) {
     form_.FillsScreen = fillsTheScreen(widget_);
+    hasFilled_ = hasFilled_ || form_.FillsScreen;
     pullFrame(menuHeight);
+    frameChanged_ = frameChanged_ && !hasFilled_;
     pullPlace();
 }
 
@@ -53,12 +55,14 @@ void FormPlace::pullFrame(int menuHeight) {
     const QMargins frame = presentFrame();
     if (frame == frame_ && menuHeight == menuHeight_) return;
     frameChanged_ = frameChanged_ || frame != frame_;
+    // With that state the frame changes, too; then place and size are the window manager's.
+    const bool isManagers = form_.FillsScreen || (hasFilled_ && frame != frame_);
     frame_ = frame;
     menuHeight_ = menuHeight;
     const float width = twipsFromPixels(frame.left() + frame.right());
     const float height = twipsFromPixels(frame.top() + frame.bottom() + menuHeight);
     // Before the first placing there is no inside yet that could be kept.
-    if (!knownPixels_.isNull() && !fillsTheScreen(widget_)) keepInside(width, height);
+    if (!knownPixels_.isNull() && !isManagers) keepInside(width, height);
     form_.FrameWidth = width;
     form_.FrameHeight = height;
 }
@@ -79,7 +83,7 @@ void FormPlace::keepInside(float frameWidth, float frameHeight) {
 void FormPlace::pullPlace() {
     if (!isExposed(widget_) || widget_.isMinimized()) return;
     const QRect now = placeOnScreen(widget_);
-    if (now == knownPixels_ || (frameChanged_ && !fillsTheScreen(widget_))) return;
+    if (now == knownPixels_ || frameChanged_) return;
     if (now.left() != knownPixels_.left()) form_.Left = twipsFromPixels(now.left());
     if (now.top() != knownPixels_.top()) form_.Top = twipsFromPixels(now.top());
     if (now.width() != knownPixels_.width()) form_.Width = twipsFromPixels(now.width());
@@ -90,17 +94,28 @@ void FormPlace::pullPlace() {
 
 void FormPlace::push() {
     const Outer outer = wanted();
-    if (outer == known_ && (!frameChanged_ || fillsTheScreen(widget_))) return;
+    if (outer == known_ && !frameChanged_) return;
     const bool moved = outer.left != known_.left || outer.top != known_.top || frameChanged_;
     frameChanged_ = false;
     known_ = outer;
     const QSize inside =
         QSize(pixelsFromTwips(outer.width), pixelsFromTwips(outer.height)).shrunkBy(frame_);
-    if (inside != widget_.size()) widget_.resize(inside.expandedTo({1, 1}));
     if (moved)
-        widget_.move(screenOrigin() +
-                     QPoint(pixelsFromTwips(outer.left), pixelsFromTwips(outer.top)));
+        moveTo(screenOrigin() + QPoint(pixelsFromTwips(outer.left), pixelsFromTwips(outer.top)),
+               inside.expandedTo({1, 1}));
+    else if (inside != widget_.size())
+        widget_.resize(inside.expandedTo({1, 1}));
     knownPixels_ = placeOnScreen(widget_);
+}
+
+/// A shown window gets both at once, for each change that the window manager makes is seen.
+void FormPlace::moveTo(QPoint corner, QSize inside) {
+    if (widget_.isVisible()) {
+        const QPoint frame = widget_.geometry().topLeft() - widget_.pos();
+        return widget_.setGeometry(QRect(corner + frame, inside));
+    }
+    widget_.resize(inside);
+    widget_.move(corner);
 }
 
 } // namespace toolkit

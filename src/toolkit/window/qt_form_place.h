@@ -35,6 +35,7 @@ class FormPlace {
     void pullFrame(int menuHeight);
     void keepInside(float frameWidth, float frameHeight);
     void pullPlace();
+    void moveTo(QPoint corner, QSize inside);
 
     Form& form_;
     QWidget& widget_;
@@ -43,6 +44,7 @@ class FormPlace {
     QMargins frame_;
     int menuHeight_ = 0;
     bool frameChanged_ = true;
+    bool hasFilled_ = false; ///< the screen, and be it some time ago
 };
 
 } // namespace toolkit
