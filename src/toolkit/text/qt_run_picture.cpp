@@ -116,7 +116,7 @@ RunPicture paintedRun(const FontSpec& font, const RunLook& look) {
 RunPicture runPicture(const FontSpec& font, const RunLook& look) {
     static QCache<RunLook, RunPicture> pictures(mostPictures);
     if (const RunPicture* known = pictures.object(look)) return *known;
-    const RunPicture picture = paintedRun(font, look);
+    RunPicture picture = paintedRun(font, look);
     pictures.insert(look, std::make_unique<RunPicture>(picture).release());
     return picture;
 }
