@@ -1,5 +1,6 @@
 #include "app/read_options.h"
 
+#include "app/layouts.h"
 #include "support/form_test.h"
 
 namespace zev::test {

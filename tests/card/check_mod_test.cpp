@@ -7,16 +7,16 @@
 namespace zev::test {
 namespace {
 
-class CheckMod : public CardFormTest {};
+class CheckModTest : public CardFormTest {};
 
-TEST_F(CheckMod, QuestionIsAskedOnlyForAChange) {
+TEST_F(CheckModTest, QuestionIsAskedOnlyForAChange) {
     start();
     EXPECT_FALSE(CheckMod(form));
     EXPECT_TRUE(boxes.empty());
     EXPECT_EQ(traceLines().back(), "CheckMod False, False, False");
 }
 
-TEST_F(CheckMod, QuestionHasItsTextAndButtons) {
+TEST_F(CheckModTest, QuestionHasItsTextAndButtons) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Cancel);
@@ -29,7 +29,7 @@ TEST_F(CheckMod, QuestionHasItsTextAndButtons) {
     EXPECT_TRUE(form.CardModified);
 }
 
-TEST_F(CheckMod, NoDropsTheChangeAndGoesOn) {
+TEST_F(CheckModTest, NoDropsTheChangeAndGoesOn) {
     start();
     clickMark(1);
     answer(toolkit::Answer::No);
@@ -37,7 +37,7 @@ TEST_F(CheckMod, NoDropsTheChangeAndGoesOn) {
     EXPECT_FALSE(form.CardModified);
 }
 
-TEST_F(CheckMod, YesSavesANamedCardAndGoesOn) {
+TEST_F(CheckModTest, YesSavesANamedCardAndGoesOn) {
     start();
     form.CardName = "Jones";
     clickMark(1);
@@ -46,7 +46,7 @@ TEST_F(CheckMod, YesSavesANamedCardAndGoesOn) {
     EXPECT_NE(dataFileContent("Jones.zev").find("1,1,0\r\n"), std::string::npos);
 }
 
-TEST_F(CheckMod, YesRefusesWhenTheNamingIsCancelled) {
+TEST_F(CheckModTest, YesRefusesWhenTheNamingIsCancelled) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Yes);
@@ -55,7 +55,7 @@ TEST_F(CheckMod, YesRefusesWhenTheNamingIsCancelled) {
     EXPECT_TRUE(form.CardModified);
 }
 
-TEST_F(CheckMod, NothingIsAskedWhilePrinting) {
+TEST_F(CheckModTest, NothingIsAskedWhilePrinting) {
     start();
     typeInOpenField(1, "x");
     form.Printing = true;
@@ -65,7 +65,7 @@ TEST_F(CheckMod, NothingIsAskedWhilePrinting) {
     EXPECT_TRUE(boxes.empty());
 }
 
-TEST_F(CheckMod, NothingIsAskedInTheDesignView) {
+TEST_F(CheckModTest, NothingIsAskedInTheDesignView) {
     start();
     clickMark(1);
     form.MShowShapes.Checked = true;
@@ -75,7 +75,7 @@ TEST_F(CheckMod, NothingIsAskedInTheDesignView) {
     EXPECT_TRUE(tracedInOrder({"CheckMod True, False, True", "ResetMod 1"}));
 }
 
-TEST_F(CheckMod, AnOpenEditCountsWithoutAKeyRelease) {
+TEST_F(CheckModTest, AnOpenEditCountsWithoutAKeyRelease) {
     start();
     clickText(1);
     toolkit::test::compose("", "abc");
@@ -88,7 +88,7 @@ TEST_F(CheckMod, AnOpenEditCountsWithoutAKeyRelease) {
     EXPECT_EQ(form.Caption, "Zevlin  (unnamed) *");
 }
 
-TEST_F(CheckMod, ACommittedEditCountsThoughItsFlagWasLost) {
+TEST_F(CheckModTest, ACommittedEditCountsThoughItsFlagWasLost) {
     start();
     typeInto(1, "abc");
     form.CardModified = false;
@@ -97,7 +97,7 @@ TEST_F(CheckMod, ACommittedEditCountsThoughItsFlagWasLost) {
     EXPECT_TRUE(traced("SetMod 0"));
 }
 
-TEST_F(CheckMod, LeavingAsksAndCancelStays) {
+TEST_F(CheckModTest, LeavingAsksAndCancelStays) {
     start();
     clickMark(1);
     answer(toolkit::Answer::Cancel);
