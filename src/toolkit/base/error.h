@@ -1,4 +1,4 @@
-// Run-time failures by their classic numbers.
+// Run-time failures, each known by its number.
 #pragma once
 
 #include <exception>
@@ -49,7 +49,7 @@ class RunTimeError : public std::exception {
     std::string description_;
 };
 
-/// The classic English description of a failure, without a full stop.
+/// The English description of a failure, without a full stop.
 [[nodiscard]] std::string_view describe(Failure failure);
 
 /// "Control array element 'n' doesn't exist" (340).

@@ -95,7 +95,7 @@ struct Panel : Control {
     bool Framed = false;  ///< a fine line runs along its edge
 };
 
-/// A picture as screens show it that have more than one pixel to a logical one.
+/// A picture for high-DPI screens, which have several pixels for each logical one.
 struct SharpPicture {
     std::shared_ptr<const Bitmap> of{}; ///< counts only while this very picture is the box's
     /// The picture drawn anew, `ratio` (above 1) times as large, or as large as it can be.

@@ -1,4 +1,4 @@
-// A picture of opaque 32-bit pixels in memory, always at one pixel a pixel.
+// A picture of opaque 32-bit pixels in memory.
 #pragma once
 
 #include <cstdint>

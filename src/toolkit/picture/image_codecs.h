@@ -23,8 +23,8 @@ struct ImageEncoder {
 /// Encoders of this system, never empty.
 [[nodiscard]] std::vector<ImageEncoder> imageEncoders();
 
-/// Writes the picture. Only JPEG has a quality, 0 to 100. Pictures of few colours are written with
-/// a palette, in which no channel is off by more than 8. An unknown identifier is failure 5, else
+/// Writes the picture. Only JPEG has a quality, 0 to 100. PNG and BMP keep every colour; GIF takes
+/// 256 and gives the others one that is near. An unknown identifier is failure 5, else
 /// it fails as writeFile does.
 void saveImage(const Bitmap& picture, const std::filesystem::path& path, const CodecId& encoder,
                std::optional<int> quality);

@@ -48,10 +48,11 @@ void endEvent();
 /// The program's alarms run out now.
 void elapseAlarms();
 
-/// What the card shows, at one pixel a pixel.
+/// What the card shows, one pixel for each logical one.
 [[nodiscard]] Bitmap grabCard();
 [[nodiscard]] Bitmap grabWindow();
-/// What the card shows on a screen with so many pixels to a logical one, side by side.
+/// What the card shows on a high-DPI screen with so many pixels for each logical one, in width as
+/// in height.
 [[nodiscard]] Bitmap grabCardAt(double pixelRatio);
 
 // For tests of the window itself: what the platform shows.

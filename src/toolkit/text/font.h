@@ -20,7 +20,7 @@ namespace toolkit {
 [[nodiscard]] float textAscent(const FontSpec& font);
 
 /// Length of the words at the beginning of a text that fit into a line of this width, twips; the
-/// first word always counts. The next line begins behind the blank that follows.
+/// first word always counts. The next line begins after the blank that follows.
 [[nodiscard]] std::size_t lengthOfLine(const FontSpec& font, std::string_view text, float width);
 
 /// The name that the font system reports after this one was asked for: the same text where the font

@@ -14,7 +14,7 @@ namespace toolkit {
 namespace {
 
 /// Above and below the baseline, in units, the second negative. Read from the font's own table:
-/// for the stand-in of Arial Narrow Qt takes others (1888 and 431 units instead of 1916 and 434),
+/// for the substitute of Arial Narrow Qt takes others (1888 and 431 units instead of 1916 and 434),
 /// and the texts in it would move up by a seventieth of their size.
 std::array<int, 2> extents(const QRawFont& unitFont) {
     constexpr qsizetype ascentPlace = 4;
@@ -26,7 +26,8 @@ std::array<int, 2> extents(const QRawFont& unitFont) {
             qFromBigEndian<qint16>(header.constData() + descentPlace)};
 }
 
-/// At one unit a pixel, Qt measures in units: the design's own widths, the same at every size.
+/// At a size of one pixel for each font unit Qt measures in units: the design's own widths, the
+/// same at every size.
 AdvanceTable measure(const QRawFont& unitFont, const std::array<quint32, 256>& glyphs) {
     AdvanceTable table;
     table.unitsPerEm = static_cast<int>(std::lround(unitFont.unitsPerEm()));

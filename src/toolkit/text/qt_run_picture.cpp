@@ -1,5 +1,6 @@
-// Qt's pictures of glyphs come in whole rows only, outlines go anywhere but take ten times as long
-// to paint. So a text between two rows is painted once, as a picture.
+// Qt keeps pictures of glyphs for whole rows of pixels only; their outlines can stand anywhere, but
+// take ten times as long to paint. So a text between two rows is painted by its outlines once, and
+// kept as a picture.
 #include "toolkit/text/qt_run_picture.h"
 
 #include <array>
@@ -26,7 +27,7 @@ namespace toolkit {
 namespace {
 
 constexpr double outlineSize = 64;
-/// Parts of a pixel that a text's place is told in.
+/// A text's place is rounded to these parts of a pixel.
 constexpr double places = 64;
 /// More texts than a card has areas.
 constexpr qsizetype mostPictures = 512;

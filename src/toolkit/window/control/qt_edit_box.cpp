@@ -189,7 +189,7 @@ void EditBox::pasteFrom(QClipboard::Mode mode) {
     if (!pasted.empty()) insert(qString(pasted));
 }
 
-/// The box's own undo is out of the game: Ctrl+Z is the field's.
+/// The box's own undo is never used: Ctrl+Z is the field's.
 void EditBox::takeKey(QKeyEvent& event) {
     if (event.matches(QKeySequence::Undo) || event.matches(QKeySequence::Redo)) return;
     if (event.matches(QKeySequence::Copy)) return copySelection(QClipboard::Clipboard);

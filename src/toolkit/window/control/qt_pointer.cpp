@@ -11,7 +11,7 @@
 namespace toolkit {
 namespace {
 
-/// The hands are drawn for 24 logical pixels, at one and at two pixels each.
+/// The hands are 24 logical pixels wide; there is a second picture for high-DPI screens.
 constexpr int handSize = 24;
 constexpr int palm = handSize / 2;
 

@@ -16,7 +16,7 @@ class QWidget;
 namespace toolkit {
 
 /// Tells the repetitions of a key that is held down. The platform's own flag misses some of them on
-/// a busy machine: there a release comes with the press at the same time behind it.
+/// a busy machine: there a release comes, and the next press with the same time.
 class HeldKeys {
   public:
     /// Whether the press is a repetition.

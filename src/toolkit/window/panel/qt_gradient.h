@@ -11,8 +11,8 @@ namespace toolkit {
 /// The colour of the line `y` pixels below the top of a form of this height.
 [[nodiscard]] QColor gradientColor(const FormBackground& background, int y, int height);
 
-/// Paints the lines from `top` on, as many as `count`, side by side into eternity; its line 0 is
-/// the first of them.
+/// Paints the lines from `top` on, as many as `count`, each repeated to the right without
+/// end; line 0 of the result is the first of them.
 [[nodiscard]] QBrush gradientBrush(const FormBackground& background, int height, int top,
                                    int count);
 

@@ -35,7 +35,7 @@ void paintFramedLabel(QPainter& painter, const Label& label) {
     text.Top += (label.Height - text.Height) / 2;
     paintLabel(painter, text);
     painter.setClipping(false);
-    // Filled, not drawn: a pen lies half beside its line where a pixel is several of the screen's.
+    // Filled, not drawn: on high-DPI screens a pen lies half beside its line.
     const QRect place = pixelRectangle(label);
     for (const QRect& edge : QRegion(place) - place.adjusted(1, 1, -1, -1))
         painter.fillRect(edge, frameColor(qColor(label.BackColor)));
