@@ -8,7 +8,6 @@
 namespace toolkit {
 namespace {
 
-constexpr double twipsPerInch = 1440;
 constexpr int twipsPerPixelAt96 = 15;
 
 int overriddenTwipsPerPixel = 0;

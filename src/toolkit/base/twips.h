@@ -3,6 +3,8 @@
 
 namespace toolkit {
 
+constexpr float twipsPerInch = 1440;
+
 /// 1440 over the screen's logical dots per inch, rounded; read once in a run.
 [[nodiscard]] int twipsPerPixel();
 

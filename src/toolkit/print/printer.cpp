@@ -1,15 +1,15 @@
 #include "toolkit/print/printer.h"
-#include "toolkit/base/error.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <utility>
 
+#include "toolkit/base/error.h"
+#include "toolkit/base/twips.h"
+
 namespace toolkit {
 namespace {
-
-constexpr float twipsPerInch = 1440;
 
 int pixels(float inches, int perInch) {
     return static_cast<int>(std::lround(inches * static_cast<float>(perInch)));

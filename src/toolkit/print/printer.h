@@ -29,6 +29,10 @@ struct PrinterOption {
     std::string keyword;
 };
 
+/// ColorMode and BitsPerPixel of a printer without colours.
+constexpr int monochrome = 1;
+constexpr int monochromeDepth = 8;
+
 enum class Orientation : int { Portrait = 1, Landscape = 2 };
 
 /// Facts of a printer as the system reports them. Sizes in twips.

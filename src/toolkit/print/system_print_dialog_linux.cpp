@@ -8,8 +8,6 @@
 namespace toolkit {
 namespace {
 
-constexpr int monochrome = 1;
-constexpr int monochromeDepth = 8;
 constexpr int mostCopies = 99;
 constexpr const char* leftToPrinter = "Automatic";
 

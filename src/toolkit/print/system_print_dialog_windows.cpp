@@ -15,7 +15,6 @@ namespace toolkit {
 namespace {
 
 constexpr double millimetresInAnInch = 25.4;
-constexpr int monochrome = 1;
 
 /// Where the dialog sends the page when its "Print to file" is checked. Our printer of that
 /// kind takes it then: what a printer's driver writes to a file, hardly anybody could open.
@@ -75,7 +74,6 @@ Printer chosenPrinter(const std::shared_ptr<QPrinter>& device) {
     if (isFile) return printer;
     printer.Copies = target.copyCount();
     if (target.colorMode() == QPrinter::GrayScale) {
-        constexpr int monochromeDepth = 8;
         printer.ColorMode = monochrome;
         printer.BitsPerPixel = monochromeDepth;
     }

@@ -13,7 +13,6 @@
 namespace toolkit {
 namespace {
 
-constexpr int monochrome = 1;
 constexpr double pointsPerInch = 72;
 
 void setPaper(QPrinter& device, const Printer& printer) {

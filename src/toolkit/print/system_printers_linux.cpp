@@ -17,7 +17,6 @@ namespace {
 constexpr float hundredthsPerInch = 2540; ///< of a millimetre
 constexpr int usualResolution = 600;
 constexpr int systemToken = 2;
-constexpr int monochromeDepth = 8;
 
 /// The service's own name for the player, or where it has none one made of the keyword: "Letter
 /// (8.5x11in)" of "na_letter_8.5x11in", "Top" of "top".
@@ -79,7 +78,7 @@ class Destination {
                                              destination_->options);
         const bool isGrey = chosen != nullptr && std::string_view(chosen) == "monochrome";
         printer.ColorMode = isColor && !isGrey ? 2 : 1;
-        printer.BitsPerPixel = printer.ColorMode == 2 ? 24 : monochromeDepth;
+        printer.BitsPerPixel = printer.ColorMode == monochrome ? monochromeDepth : 24;
     }
 
     void readResolution(Printer& printer) const {

@@ -17,9 +17,7 @@ namespace toolkit {
 namespace {
 
 constexpr int systemToken = 2;
-constexpr int monochrome = 1;
 constexpr int colored = 2;
-constexpr int monochromeDepth = 8;
 constexpr double pointsPerInch = 72;
 
 /// The margins are the ones that the printer can't do without.
