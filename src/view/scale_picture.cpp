@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <cstring>
 #include <optional>
+#include <ranges>
 #include <vector>
 
 #include "view/coverage.h"
@@ -155,9 +156,10 @@ toolkit::Bitmap scaled(const toolkit::Bitmap& source, const ScaleRequest& reques
 
 toolkit::Bitmap scaled(const toolkit::IndexedPicture& source, const ScaleRequest& request) {
     // Every index has a colour, also one beyond the picture's palette.
-    std::array<Channels, 256> palette;
+    std::array<Channels, 256> palette{};
     palette.fill(paperChannels);
-    std::ranges::transform(source.palette, palette.begin(), split);
+    std::ranges::transform(source.palette | std::views::take(palette.size()), palette.begin(),
+                           split);
     const auto white = std::ranges::find(source.palette, whitePixel) - source.palette.begin();
     Source<std::uint8_t> indices{source.indices.data(), source.width, source.height, {}};
     if (white < std::ssize(palette)) indices.paper = static_cast<std::uint8_t>(white);

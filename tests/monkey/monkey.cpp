@@ -24,8 +24,6 @@
 namespace zev::test {
 namespace {
 
-namespace fs = std::filesystem;
-
 /// The screen is so small that no fit goes beyond the picture's full size: such a fit isn't shown,
 /// and the fields would be misplaced after it.
 constexpr float screenTwips = 12900;

@@ -45,6 +45,7 @@ std::vector<std::uint32_t> paper(std::size_t count) { return std::vector(count, 
 
 std::vector<std::uint32_t> ink(std::size_t count) {
     std::vector<std::uint32_t> pixels;
+    pixels.reserve(count);
     for (std::size_t i = 0; i < count; ++i)
         pixels.push_back(0xFF000000U | static_cast<std::uint32_t>(i * 7919) % 0xFFFFFFU);
     return pixels;

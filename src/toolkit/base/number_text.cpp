@@ -121,10 +121,10 @@ int roundToInteger(double value) {
 
 std::int16_t toInteger16(double value) {
     const double rounded = std::nearbyint(value);
-    // Negated, so that a value that is no number fails as well.
-    if (!(rounded >= std::numeric_limits<std::int16_t>::min() &&
-          rounded <= std::numeric_limits<std::int16_t>::max()))
-        throw RunTimeError(Failure::Overflow);
+    // A value that is no number is within no bounds.
+    const bool isWithin = rounded >= std::numeric_limits<std::int16_t>::min() &&
+                          rounded <= std::numeric_limits<std::int16_t>::max();
+    if (!isWithin) throw RunTimeError(Failure::Overflow);
     return static_cast<std::int16_t>(rounded);
 }
 

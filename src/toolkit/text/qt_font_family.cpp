@@ -27,7 +27,7 @@ constexpr std::array<Substitute, 4> substitutes{{
 }};
 
 // Picture fonts have their glyphs in this private block, at the number of the byte.
-constexpr char16_t pictureBlock = 0xF000;
+constexpr char32_t pictureBlock = 0xF000;
 
 quint32 glyphAt(const QRawFont& font, char32_t value) {
     const auto character = static_cast<char16_t>(value);
