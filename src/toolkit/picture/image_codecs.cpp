@@ -3,6 +3,7 @@
 #include <png.h>
 
 #include <algorithm>
+#include <memory>
 
 #include <QtCore/QBuffer>
 #include <QtGui/QImage>
@@ -56,12 +57,12 @@ std::string trueColorPng(const Bitmap& picture) {
     file.format = PNG_FORMAT_RGB;
     file.flags = PNG_IMAGE_FLAG_FAST;
     png_alloc_size_t size = PNG_IMAGE_PNG_SIZE_MAX(file);
-    std::string content(size, '\0');
-    if (png_image_write_to_memory(&file, content.data(), &size, 0, rows.constBits(),
+    // Most of it is never touched, and so costs nothing.
+    const auto content = std::make_unique_for_overwrite<char[]>(size);
+    if (png_image_write_to_memory(&file, content.get(), &size, 0, rows.constBits(),
                                   static_cast<png_int_32>(rows.bytesPerLine()), nullptr) == 0)
         throw RunTimeError(Failure::InvalidPicture);
-    content.resize(size);
-    return content;
+    return {content.get(), size};
 }
 
 std::string pngContent(const Bitmap& picture) {
