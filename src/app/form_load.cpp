@@ -148,7 +148,8 @@ void prepareForm(Zevlin& form) {
 
 bool canBeOpened(const Zevlin& form) {
     return !form.CardName.empty() && !isTemporaryCard(form.CardName) &&
-           toolkit::isPossibleFileName(form.CardName) && findCard(form, form.CardName);
+           toolkit::isPossibleFileName(form.CardName + std::string(cardExtension)) &&
+           findCard(form, form.CardName);
 }
 
 void openNamedCard(Zevlin& form, std::string_view commandLine) {

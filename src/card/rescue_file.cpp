@@ -1,7 +1,8 @@
 #include "card/rescue_file.h"
 
-#include "card/write_card.h"
 #include <utility>
+
+#include "card/write_card.h"
 
 namespace zev {
 namespace {

@@ -33,8 +33,7 @@ struct ViewState {
     std::int16_t DesignZoomLevel = 0;
     ZoomLadder ZoomTable{};
     float LastImageScale = 0;
-    std::optional<PrefetchedPicture>
-        PictureStarted; ///< by the rebuild, until SetImageSize takes it
+    std::optional<PrefetchedPicture> PictureStarted; ///< until SetImageSize takes it
     bool Zooming = false;
 
     std::int32_t ColorScheme = 0; ///< 0 the layout's own colours, else one colour for all

@@ -1,5 +1,4 @@
 #include "marks/hit_test.h"
-
 #include "layout/field.h"
 
 namespace zev {

@@ -1,8 +1,8 @@
 #include "app/data_folder.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
 
 #include "app/layouts.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/window/shell_folders.h"
 

@@ -1,10 +1,10 @@
 #include "app/form_load.h"
-#include "card/write_card.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
 
 #include "app/layouts.h"
 #include "card/lifecycle.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/write_file.h"

@@ -1,11 +1,11 @@
 #include "app/initialize.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
 
 #include <algorithm>
 
 #include "app/layouts.h"
 #include "card/lifecycle.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/print/printer.h"
 #include "toolkit/print/printers.h"
 

@@ -1,5 +1,4 @@
 #include "app/menu_table.h"
-#include "layout/write_layout.h"
 
 #include <algorithm>
 #include <set>
@@ -8,6 +7,7 @@
 #include "card/lifecycle.h"
 #include "card/save.h"
 #include "layout/save_layout.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"

@@ -1,8 +1,8 @@
 #include "app/place_window.h"
-#include "layout/write_layout.h"
 
 #include "app/layouts.h"
 #include "layout/initialize_run.h"
+#include "layout/write_layout.h"
 #include "toolkit/window/screen.h"
 #include "view/rebuild.h"
 

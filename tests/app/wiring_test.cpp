@@ -1,7 +1,7 @@
 #include "app/wiring.h"
-#include "layout/write_layout.h"
 
 #include "app/layouts.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 

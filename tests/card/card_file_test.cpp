@@ -1,8 +1,8 @@
 #include "card/card_file.h"
-#include "card/write_card.h"
 
 #include <gtest/gtest.h>
 
+#include "card/write_card.h"
 #include "layout/skip_comment.h"
 #include "toolkit/base/error.h"
 

@@ -1,11 +1,11 @@
-#include "card_form_test.h"
+#include <algorithm>
+
 #include "card/write_card.h"
+#include "card_form_test.h"
 #include "layout/write_layout.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
-
-#include <algorithm>
 
 namespace zev::test {
 namespace {

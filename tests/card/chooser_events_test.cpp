@@ -1,7 +1,7 @@
 // What mouse and keys do on the chooser's panel.
 #include "card/chooser_events.h"
-#include "card/write_card.h"
 
+#include "card/write_card.h"
 #include "chooser_form_test.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_keys.h"

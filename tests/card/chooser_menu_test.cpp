@@ -1,11 +1,11 @@
 // Open, Delete and Rename of a card in the chooser's list.
 #include "card/chooser_menu.h"
-#include "card/write_card.h"
 
 #include <algorithm>
 #include <filesystem>
 
 #include "card/save.h"
+#include "card/write_card.h"
 #include "chooser_form_test.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_keys.h"

@@ -1,13 +1,13 @@
 // Showing the chooser and taking its name.
 #include "card/chooser.h"
-#include "card/write_card.h"
-#include "form/write_options.h"
 
 #include <filesystem>
 
 #include "card/lifecycle.h"
 #include "card/save.h"
+#include "card/write_card.h"
 #include "chooser_form_test.h"
+#include "form/write_options.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"

@@ -1,6 +1,6 @@
 #include "card/file_seen.h"
-#include "card/write_card.h"
 
+#include "card/write_card.h"
 #include "card_form_test.h"
 #include "toolkit/base/write_file.h"
 

@@ -1,10 +1,10 @@
 #include "card/lifecycle.h"
-#include "card/write_card.h"
-#include "form/write_options.h"
 
+#include "card/write_card.h"
 #include "card_form_test.h"
 #include "form/background.h"
 #include "form/modified.h"
+#include "form/write_options.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 

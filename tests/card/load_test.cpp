@@ -1,8 +1,8 @@
 #include "card/load.h"
-#include "card/write_card.h"
-#include "form/write_options.h"
 
+#include "card/write_card.h"
 #include "card_form_test.h"
+#include "form/write_options.h"
 
 namespace zev::test {
 namespace {

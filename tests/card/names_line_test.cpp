@@ -1,8 +1,8 @@
 #include "card/names_line.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
 
 #include "card_form_test.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 
 namespace zev::test {
 namespace {

@@ -1,8 +1,8 @@
 #include "card/rescue_file.h"
-#include "card/write_card.h"
 
 #include <gtest/gtest.h>
 
+#include "card/write_card.h"
 #include "toolkit/base/error.h"
 
 namespace zev {

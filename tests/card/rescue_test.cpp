@@ -1,7 +1,7 @@
 #include "card/rescue.h"
-#include "card/write_card.h"
 
 #include "app/second_run.h"
+#include "card/write_card.h"
 #include "card_form_test.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/key.h"

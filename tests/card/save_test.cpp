@@ -1,6 +1,6 @@
 #include "card/save.h"
-#include "card/write_card.h"
 
+#include "card/write_card.h"
 #include "card_form_test.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/base/folder.h"

@@ -1,7 +1,7 @@
 #include "design/add_field.h"
-#include "layout/write_layout.h"
 
 #include "design/design_test.h"
+#include "layout/write_layout.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
 #include "view/rebuild.h"

@@ -1,9 +1,9 @@
 #include "design/move_marks.h"
-#include "form/write_options.h"
 
 #include <vector>
 
 #include "design/design_test.h"
+#include "form/write_options.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 

@@ -1,5 +1,4 @@
 #include "events/card_mouse.h"
-
 #include "text/edit_test.h"
 #include "toolkit/testing/test_mouse.h"
 

@@ -1,5 +1,4 @@
 #include "events/edit_keys.h"
-
 #include "text/edit_test.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"

@@ -1,11 +1,10 @@
-#include "faults/fault_test.h"
-
 #include <algorithm>
 #include <set>
 #include <sstream>
 #include <utility>
 
 #include "app/second_run.h"
+#include "faults/fault_test.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/dialog_answers.h"

@@ -1,7 +1,7 @@
 #include "form/background.h"
-#include "form/write_options.h"
 
 #include "app/layouts.h"
+#include "form/write_options.h"
 #include "toolkit/testing/test_window.h"
 
 namespace zev::test {

@@ -1,7 +1,6 @@
+#include "card/document.h"
 #include "card/write_card.h"
 #include "form/empty_operations.h"
-
-#include "card/document.h"
 #include "support/form_test.h"
 
 namespace zev::test {

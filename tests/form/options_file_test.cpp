@@ -1,10 +1,10 @@
 #include "form/options_file.h"
-#include "form/write_options.h"
-
-#include <gtest/gtest.h>
 
 #include <limits>
 
+#include <gtest/gtest.h>
+
+#include "form/write_options.h"
 #include "layout/skip_comment.h"
 
 namespace zev {

@@ -1,9 +1,9 @@
 #include "form/time_stamp.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
 
 #include "app/layouts.h"
 #include "form/settings.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/window/screen.h"
 

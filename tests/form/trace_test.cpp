@@ -1,6 +1,4 @@
 #include "form/trace.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
 
 #include <algorithm>
 #include <chrono>
@@ -8,6 +6,8 @@
 #include <stdexcept>
 
 #include "app/layouts.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/key.h"

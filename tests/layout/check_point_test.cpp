@@ -1,8 +1,8 @@
 #include "layout/check_point.h"
-#include "layout/write_layout.h"
 
 #include "layout/layout_text.h"
 #include "layout/save_layout.h"
+#include "layout/write_layout.h"
 #include "support/form_test.h"
 #include "toolkit/base/write_file.h"
 #include "view/rebuild.h"

@@ -1,6 +1,6 @@
 #include "layout/check_update.h"
-#include "layout/write_layout.h"
 
+#include "layout/write_layout.h"
 #include "support/form_test.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/twips.h"

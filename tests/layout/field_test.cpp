@@ -1,9 +1,8 @@
 // Holes: fields without a record, which are only there so that the others keep their numbers.
+#include "app/layouts.h"
 #include "card/write_card.h"
 #include "layout/field.h"
 #include "layout/write_layout.h"
-
-#include "app/layouts.h"
 #include "text/edit_test.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_keys.h"

@@ -1,10 +1,10 @@
 #include "layout/layout_file.h"
-#include "layout/write_layout.h"
 
 #include <gtest/gtest.h>
 
 #include "layout/skip_comment.h"
 #include "layout/version.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/error.h"
 
 namespace zev {

@@ -1,5 +1,4 @@
 #include "marks/move_card.h"
-
 #include "text/edit_test.h"
 #include "toolkit/window/screen.h"
 

@@ -1,12 +1,12 @@
 // The monkey's home, its dice, and the course of its events.
 #include "monkey/monkey.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
 
 #include <algorithm>
 #include <array>
 #include <iostream>
 
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "monkey/small_card.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/base/files.h"

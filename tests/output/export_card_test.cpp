@@ -1,11 +1,10 @@
-#include "form/write_options.h"
-#include "output/export_card.h"
-
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
 #include <utility>
 
+#include "form/write_options.h"
+#include "output/export_card.h"
 #include "output/print_test.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"

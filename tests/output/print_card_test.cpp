@@ -1,8 +1,7 @@
-#include "form/write_options.h"
-#include "output/print_card.h"
-
 #include "card/save.h"
 #include "form/options.h"
+#include "form/write_options.h"
+#include "output/print_card.h"
 #include "output/print_test.h"
 #include "toolkit/print/printers.h"
 #include "toolkit/testing/test_keys.h"

@@ -1,6 +1,5 @@
 #include "card/write_card.h"
 #include "output/print_partner.h"
-
 #include "output/print_test.h"
 #include "toolkit/print/printers.h"
 #include "toolkit/testing/test_keys.h"

@@ -1,6 +1,5 @@
 #include "form/write_options.h"
 #include "output/print_picture.h"
-
 #include "output/print_test.h"
 #include "toolkit/print/printers.h"
 #include "toolkit/testing/test_window.h"

@@ -1,7 +1,6 @@
 #include "form/write_options.h"
-#include "output/printer_form.h"
-
 #include "output/print_test.h"
+#include "output/printer_form.h"
 #include "output/printer_setup.h"
 #include "toolkit/print/printers.h"
 #include "toolkit/testing/test_dialogs.h"

@@ -1,8 +1,3 @@
-#include "support/form_test.h"
-#include "card/write_card.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
-
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
@@ -10,6 +5,10 @@
 
 #include "app/form_load.h"
 #include "app/wiring.h"
+#include "card/write_card.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
+#include "support/form_test.h"
 #include "support/system.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/base/files.h"

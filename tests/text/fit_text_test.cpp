@@ -1,9 +1,8 @@
-#include "form/write_options.h"
-#include "text/fit_text.h"
-
 #include <cmath>
 
+#include "form/write_options.h"
 #include "text/edit_test.h"
+#include "text/fit_text.h"
 
 namespace zev::test {
 namespace {

@@ -1,6 +1,5 @@
-#include "text/set_sym.h"
-
 #include "text/edit_test.h"
+#include "text/set_sym.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
 

@@ -1,7 +1,6 @@
 #include "card/write_card.h"
-#include "text/set_sym.h"
-
 #include "text/edit_test.h"
+#include "text/set_sym.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"

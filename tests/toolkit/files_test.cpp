@@ -1,12 +1,11 @@
-#include "toolkit/base/copy_file.h"
-#include "toolkit/base/files.h"
-#include "toolkit/base/folder.h"
-#include "toolkit/base/write_file.h"
-
 #include <chrono>
 
 #include <gtest/gtest.h>
 
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
 #include "toolkit/temporary_folder.h"
 

@@ -1,8 +1,4 @@
 // A disk that fills up, and other files that only a system with devices among its files can show.
-#include "toolkit/base/copy_file.h"
-#include "toolkit/base/files.h"
-#include "toolkit/base/write_file.h"
-
 #include <csignal>
 #include <iterator>
 
@@ -11,6 +7,9 @@
 #include <gtest/gtest.h>
 
 #include "support/small_disk.h"
+#include "toolkit/base/copy_file.h"
+#include "toolkit/base/files.h"
+#include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
 #include "toolkit/temporary_folder.h"
 

@@ -1,6 +1,3 @@
-#include "toolkit/picture/embedded_file.h"
-#include "toolkit/picture/indexed_picture.h"
-
 #include <cstring>
 #include <random>
 
@@ -8,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include "toolkit/failure_of.h"
+#include "toolkit/picture/embedded_file.h"
+#include "toolkit/picture/indexed_picture.h"
 
 namespace toolkit {
 namespace {

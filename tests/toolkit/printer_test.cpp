@@ -1,7 +1,8 @@
 #include "toolkit/print/printer.h"
-#include "toolkit/print/printers.h"
 
 #include <gtest/gtest.h>
+
+#include "toolkit/print/printers.h"
 
 namespace toolkit {
 namespace {

@@ -1,6 +1,3 @@
-#include "toolkit/text/font.h"
-#include "toolkit/text/text_painter.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -13,6 +10,8 @@
 #include "toolkit/base/twips.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/text/draw_text.h"
+#include "toolkit/text/font.h"
+#include "toolkit/text/text_painter.h"
 #include "toolkit/window/screen.h"
 
 namespace toolkit {

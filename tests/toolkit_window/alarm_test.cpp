@@ -1,8 +1,7 @@
+#include "fixture.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/alarm.h"
 #include "toolkit/window/program.h"
-
-#include "fixture.h"
 
 namespace window_test {
 namespace {

@@ -1,11 +1,11 @@
 // Failures and the end of the program in handlers, and a close in the middle of one.
+#include <cstdlib>
+
 #include "fixture.h"
 #include "toolkit/base/program_overrides.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/program.h"
-
-#include <cstdlib>
 
 namespace window_test {
 namespace {

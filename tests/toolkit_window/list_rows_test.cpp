@@ -1,9 +1,9 @@
 // The rows of a list.
+#include <chrono>
+
 #include "list_fixture.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
-
-#include <chrono>
 
 namespace window_test {
 namespace {

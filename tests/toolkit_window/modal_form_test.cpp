@@ -1,8 +1,7 @@
 // A small form that waits for the player.
+#include "fixture.h"
 #include "toolkit/testing/test_dialogs.h"
 #include "toolkit/window/modal_form.h"
-
-#include "fixture.h"
 
 namespace window_test {
 namespace {

@@ -1,10 +1,10 @@
 // Paint and timers in the middle of a procedure.
+#include <chrono>
+
 #include "fixture.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/program.h"
-
-#include <chrono>
 
 namespace window_test {
 namespace {

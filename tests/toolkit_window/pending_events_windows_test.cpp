@@ -1,12 +1,12 @@
 // Keys of the system itself, which come while a procedure waits.
+#include <array>
+
+#include <windows.h>
+
 #include "fixture.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/program.h"
-
-#include <array>
-
-#include <windows.h>
 
 namespace window_test {
 namespace {

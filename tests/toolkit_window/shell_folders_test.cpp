@@ -1,10 +1,9 @@
 // Folders of the program and of the desktop, and what is opened there.
-#include "fixture.h"
-
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
+#include "fixture.h"
 #include "support/system.h"
 #include "toolkit/base/program_overrides.h"
 #include "toolkit/window/program.h"

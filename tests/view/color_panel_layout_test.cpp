@@ -1,10 +1,9 @@
 // Where everything stands on the colour panel.
+#include "app/layouts.h"
 #include "form/write_options.h"
 #include "layout/write_layout.h"
-#include "view/color_panel_layout.h"
-
-#include "app/layouts.h"
 #include "toolkit/testing/test_window.h"
+#include "view/color_panel_layout.h"
 
 namespace zev::test {
 namespace {

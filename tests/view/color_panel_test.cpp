@@ -1,18 +1,17 @@
 // Choosing one colour for all marks and texts.
-#include "form/write_options.h"
-#include "layout/write_layout.h"
-#include "view/color_panel.h"
-
 #include <string>
 
 #include "app/layouts.h"
 #include "card/save.h"
 #include "form/field_values.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
+#include "view/color_panel.h"
 
 namespace zev::test {
 namespace {

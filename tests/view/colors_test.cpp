@@ -1,9 +1,8 @@
-#include "layout/write_layout.h"
-#include "view/colors.h"
-
 #include "app/layouts.h"
 #include "form/field_values.h"
+#include "layout/write_layout.h"
 #include "view/color_panel.h"
+#include "view/colors.h"
 
 namespace zev::test {
 namespace {

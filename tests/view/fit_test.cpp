@@ -1,10 +1,9 @@
+#include "app/layouts.h"
 #include "form/write_options.h"
 #include "layout/write_layout.h"
-#include "view/fit.h"
-
-#include "app/layouts.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/window/screen.h"
+#include "view/fit.h"
 
 namespace zev::test {
 namespace {

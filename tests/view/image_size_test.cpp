@@ -1,13 +1,12 @@
-#include "form/write_options.h"
-#include "layout/write_layout.h"
-#include "view/image_size.h"
-
 #include <future>
 
 #include "app/layouts.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"
 #include "toolkit/testing/test_window.h"
+#include "view/image_size.h"
 
 namespace zev::test {
 namespace {

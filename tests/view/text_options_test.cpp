@@ -1,15 +1,14 @@
 // What the whole-card options do to the card, to its changed mark and to the options file.
-#include "form/write_options.h"
-#include "layout/write_layout.h"
-#include "view/text_options.h"
-
 #include <string>
 
 #include "app/layouts.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
+#include "view/text_options.h"
 
 namespace zev::test {
 namespace {

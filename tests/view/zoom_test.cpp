@@ -1,20 +1,19 @@
-#include "card/write_card.h"
-#include "form/write_options.h"
-#include "layout/write_layout.h"
-#include "view/zoom.h"
-
 #include <algorithm>
 #include <functional>
 #include <utility>
 
 #include "app/layouts.h"
+#include "card/write_card.h"
 #include "design/design_mode.h"
+#include "form/write_options.h"
+#include "layout/write_layout.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/screen.h"
 #include "view/fit.h"
 #include "view/text_options.h"
+#include "view/zoom.h"
 
 namespace zev::test {
 namespace {

@@ -118,15 +118,15 @@ Counts replacementsOf(const Counts& counts) {
 
 /// The picture in the colours that stand for its pixels' own, asked for once in a run of one
 /// colour; none where they get too many.
-template <typename StandIn>
-std::optional<IndexedPicture> indexed(const Bitmap& picture, StandIn standIn) {
+template <typename Replacement>
+std::optional<IndexedPicture> indexed(const Bitmap& picture, Replacement replacement) {
     IndexedPicture result = emptyCopy(picture);
     ColorIndex colors;
     const auto pixels = pixelsOf(picture);
     for (auto run = pixels.begin(); run != pixels.end();) {
         const auto end = std::find_if(run, pixels.end(),
                                       [own = *run](std::uint32_t pixel) { return pixel != own; });
-        const std::size_t index = colors.indexOf(standIn(*run), result.palette);
+        const std::size_t index = colors.indexOf(replacement(*run), result.palette);
         if (result.palette.size() > mostColors) return std::nullopt;
         result.indices.insert(result.indices.end(), static_cast<std::size_t>(end - run),
                               static_cast<std::uint8_t>(index));

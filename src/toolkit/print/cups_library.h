@@ -6,6 +6,9 @@
 
 namespace toolkit {
 
+/// The service tells lengths in hundredths of a millimetre.
+constexpr float hundredthsPerInch = 2540;
+
 /// The functions that the program uses, by their own names.
 struct CupsLibrary {
     decltype(&::cupsGetDests) getDests = nullptr;

@@ -1,13 +1,14 @@
 // Printers and their facts. There is always one: "Print to PDF".
 #pragma once
 
-#include "toolkit/base/error.h"
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "toolkit/base/error.h"
 
 namespace toolkit {
 

@@ -43,8 +43,7 @@ const Item* itemWithCode(const std::vector<Item>& items, int code) {
 }
 
 std::string hundredthsOfMillimetres(float inches) {
-    constexpr float inAnInch = 2540;
-    return std::to_string(std::lround(inches * inAnInch));
+    return std::to_string(std::lround(inches * hundredthsPerInch));
 }
 
 /// The service heeds tray and kind of paper only together with the paper's size.

@@ -14,7 +14,6 @@
 namespace toolkit {
 namespace {
 
-constexpr float hundredthsPerInch = 2540; ///< of a millimetre
 constexpr int usualResolution = 600;
 constexpr int systemToken = 2;
 

@@ -1,6 +1,5 @@
 // Working the dialogs of the platform and the program's own small forms.
 #include "toolkit/testing/test_dialogs.h"
-#include "toolkit/model/label.h"
 
 #include <algorithm>
 
@@ -17,6 +16,7 @@
 #include <QtWidgets/QSpinBox>
 
 #include "toolkit/base/qt_text.h"
+#include "toolkit/model/label.h"
 #include "toolkit/picture/qt_picture.h"
 #include "toolkit/window/input/qt_key_input.h"
 

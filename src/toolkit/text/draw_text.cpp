@@ -1,5 +1,4 @@
 #include "toolkit/text/draw_text.h"
-#include "toolkit/text/font.h"
 
 #include <cmath>
 
@@ -7,6 +6,7 @@
 
 #include "toolkit/base/twips.h"
 #include "toolkit/picture/qt_picture.h"
+#include "toolkit/text/font.h"
 #include "toolkit/text/text_painter.h"
 
 namespace toolkit {

@@ -1,5 +1,4 @@
 #include "toolkit/window/cursor.h"
-#include "toolkit/window/screen.h"
 
 #include <optional>
 
@@ -8,6 +7,7 @@
 
 #include "toolkit/window/qt_cursor.h"
 #include "toolkit/window/qt_screen.h"
+#include "toolkit/window/screen.h"
 
 namespace toolkit {
 namespace {

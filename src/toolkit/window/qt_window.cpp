@@ -10,7 +10,7 @@
 namespace toolkit {
 namespace {
 
-WindowImplementation*& openWindow() {
+WindowImplementation*& theWindow() {
     static WindowImplementation* window = nullptr;
     return window;
 }
@@ -23,12 +23,12 @@ bool quitUnlessRefused(const std::function<bool()>& refuses) {
 
 } // namespace
 
-WindowImplementation* currentWindow() { return openWindow(); }
+WindowImplementation* currentWindow() { return theWindow(); }
 
 void updateWindow() {
-    if (openWindow() == nullptr) return;
-    openWindow()->pull();
-    openWindow()->push();
+    if (theWindow() == nullptr) return;
+    theWindow()->pull();
+    theWindow()->push();
 }
 
 WindowImplementation::WindowImplementation(WindowParts shown)
@@ -55,7 +55,7 @@ WindowImplementation::WindowImplementation(WindowParts shown)
     for (TextBox* overlay : parts_.overlays)
         overlays_.push_back(std::make_unique<Overlay>(form_.area(), *overlay));
     watchKeys();
-    openWindow() = this;
+    theWindow() = this;
     reckonByScreenOf(&form_);
     // The bar's height belongs to the frame, by which the program sizes the form before its first
     // event.
@@ -65,7 +65,7 @@ WindowImplementation::WindowImplementation(WindowParts shown)
 
 WindowImplementation::~WindowImplementation() {
     reckonByScreenOf(nullptr);
-    openWindow() = nullptr;
+    theWindow() = nullptr;
 }
 
 void WindowImplementation::watchKeys() {

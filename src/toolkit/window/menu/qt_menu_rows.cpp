@@ -1,4 +1,5 @@
 #include "toolkit/window/menu/qt_menu_rows.h"
+
 #include "toolkit/base/qt_text.h"
 
 namespace toolkit {
