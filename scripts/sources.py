@@ -58,12 +58,13 @@ def closure(path, known=None):
     return known.keys()
 
 
-def configured():
-    """The build folder, with compile_commands.json and the generated headers."""
-    result = subprocess.run(["cmake", "--preset", "lint"], cwd=ROOT, capture_output=True, text=True)
+def configured(preset="lint", *options):
+    """The preset's build folder, with compile_commands.json and the generated headers."""
+    result = subprocess.run(["cmake", "--preset", preset, *options], cwd=ROOT, capture_output=True,
+                            text=True)
     if result.returncode:
         raise SystemExit(result.stdout + result.stderr)
-    return BUILD
+    return ROOT / "build" / preset
 
 
 def anywhere(command):
