@@ -1,8 +1,8 @@
 #!/usr/bin/python3
-"""Draws the two symbol fonts of the card.
+"""Draws the symbol fonts of the card.
 
 Zevlin Marks holds the marks that a player sets (check, filled square, ring), Zevlin Suits the
-four suit signs. Every measure is in font units, 2048 to the em. The same script always writes
+four suit signs of a player's texts, Zevlin Print Suits those among the printed words. Every measure is in font units, 2048 to the em. The same script always writes
 the same bytes, so the fonts can be compared after a change.
 
     draw_fonts.py [folder]      writes the .ttf files, by default beside the script
@@ -14,6 +14,7 @@ import sys
 
 from fontTools.fontBuilder import FontBuilder
 from fontTools.pens.cu2quPen import Cu2QuPen
+from fontTools.pens.transformPen import TransformPen
 from fontTools.pens.ttGlyphPen import TTGlyphPen
 
 EM = 2048
@@ -35,6 +36,16 @@ SQUARE_SIDE = 1110
 # larger and its label six pixels higher: this ascent is 19.28 pixels when the em is 20.
 SUITS_ASCENT, SUITS_DESCENT = 1974, 410
 SUIT_ADVANCE = 1070
+
+# Among printed words a suit is as high as their capitals, and has paper before it, enough to keep
+# it off a digit. Being part of the font, both leave the suit in the words' own size, and who reads
+# a page by program takes digit and suit for one word.
+PRINT_SUIT_SIZE = 1.24
+PRINT_SUIT_AIR = round(0.07 * EM)
+
+PRIVATE_RANGE = 0xF000
+CHARACTERS = {"check": 0x2713, "ring": 0x25CB, "square": 0x25A0,
+              "club": 0x2663, "diamond": 0x2666, "heart": 0x2665, "spade": 0x2660}
 
 
 def glyph(draw):
@@ -199,12 +210,16 @@ def blank(pen):
 
 
 def write_font(path, family, style, ascent, descent, glyphs):
-    """glyphs: (name, code or None, advance, drawing), the missing glyph first."""
+    """glyphs: (name, code or None, advance, drawing), the missing glyph first.
+
+    A picture is asked for by the place of its code in the private range. The character that it
+    shows comes first in the map, so that a printed page can be searched for it.
+    """
     names = [name for name, _, _, _ in glyphs]
     shapes = {name: glyph(drawing) for name, _, _, drawing in glyphs}
-    codes = {code: name for name, code, _, _ in glyphs if code is not None}
-    # A symbol font is asked either by its byte or by its place in the private range.
-    codes.update({0xF000 + code: name for code, name in list(codes.items())})
+    bytes_of_glyphs = {name: code for name, code, _, _ in glyphs if code is not None}
+    codes = {CHARACTERS.get(name, code): name for name, code in bytes_of_glyphs.items()}
+    codes.update({PRIVATE_RANGE + code: name for name, code in bytes_of_glyphs.items()})
 
     builder = FontBuilder(EM, isTTF=True)
     builder.setupGlyphOrder(names)
@@ -249,6 +264,16 @@ def suits():
             ("spade", 170, SUIT_ADVANCE, spade)]
 
 
+def printed(draw):
+    size = PRINT_SUIT_SIZE
+    return lambda pen: draw(TransformPen(pen, (size, 0, 0, size, PRINT_SUIT_AIR, 0)))
+
+
+def print_suits():
+    advance = round(PRINT_SUIT_AIR + PRINT_SUIT_SIZE * SUIT_ADVANCE)
+    return [(name, code, advance, printed(draw)) for name, code, _, draw in suits()]
+
+
 def main():
     default = pathlib.Path(__file__).resolve().parent
     folder = pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else default
@@ -258,6 +283,8 @@ def main():
                MARKS_ASCENT, MARKS_DESCENT, marks(stroke=120, weight=50))
     write_font(folder / "zevlin-suits.ttf", "Zevlin Suits", "Regular",
                SUITS_ASCENT, SUITS_DESCENT, suits())
+    write_font(folder / "zevlin-print-suits.ttf", "Zevlin Print Suits", "Regular",
+               SUITS_ASCENT, SUITS_DESCENT, print_suits())
 
 
 if __name__ == "__main__":

@@ -27,16 +27,33 @@ constexpr std::size_t luminance(std::uint32_t pixel) {
            10U;
 }
 
+const Levels& grayLevels() {
+    static const Levels levels = lightenedLevels();
+    return levels;
+}
+
 } // namespace
 
 toolkit::Bitmap grayed(const toolkit::Bitmap& picture) {
-    static const Levels levels = lightenedLevels();
+    const Levels& levels = grayLevels();
     toolkit::Bitmap gray(picture.width(), picture.height());
     for (int y = 0; y < picture.height(); ++y) {
         const std::uint32_t* source = picture.row(y);
         std::uint32_t* target = gray.row(y);
         for (int x = 0; x < picture.width(); ++x) target[x] = levels[luminance(source[x])];
     }
+    return gray;
+}
+
+toolkit::Drawing grayed(const toolkit::Drawing& drawing) {
+    toolkit::Drawing gray = drawing;
+    for (toolkit::DrawnItem& item : gray.items)
+        std::visit(
+            [](auto& drawn) {
+                const auto pixel = toolkit::pixelOf(drawn.color);
+                drawn.color = toolkit::colorOf(grayLevels()[luminance(pixel)]);
+            },
+            item);
     return gray;
 }
 

@@ -5,11 +5,22 @@
 #include "output/gray.h"
 
 namespace zev {
+namespace {
+
+using Artwork = std::shared_ptr<const toolkit::Drawing>;
+
+std::function<Artwork()> grayedArtwork(const Artwork& artwork) {
+    if (artwork == nullptr) return {};
+    return [gray = std::make_shared<const toolkit::Drawing>(grayed(*artwork))] { return gray; };
+}
+
+} // namespace
 
 void MakeGray(Zevlin& form, toolkit::PictureBox& picture) {
     procedure(form, "MakeGray", [&] {
         if (picture.Picture)
             picture.Picture = std::make_shared<toolkit::Bitmap>(grayed(*picture.Picture));
+        if (picture.Artwork) picture.Artwork = grayedArtwork(picture.Artwork());
     });
 }
 

@@ -20,16 +20,16 @@ std::string_view resultText(bool success) { return success ? "1" : "0"; }
 
 } // namespace
 
-void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::Bitmap>& picture,
+void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::CardRecording>& card,
                 const DevicePlace& place) {
     const std::string figures = figuresOf(place);
     Traceit(form, figures + " PrintImage ");
     trapped(form, "Error in PrintImage: " + figures + " -- ", [&] {
         const bool isDrawn =
-            form.PrinterDC.stretch(picture, {.left = toolkit::roundToInteger(place.x),
-                                             .top = toolkit::roundToInteger(place.y),
-                                             .width = toolkit::roundToInteger(place.width),
-                                             .height = toolkit::roundToInteger(place.height)});
+            form.PrinterDC.draw(card, {.left = toolkit::roundToInteger(place.x),
+                                       .top = toolkit::roundToInteger(place.y),
+                                       .width = toolkit::roundToInteger(place.width),
+                                       .height = toolkit::roundToInteger(place.height)});
         Traceit(form, "  PrintImage results: Set=1, Stretch=" + std::string(resultText(isDrawn)) +
                           ", SelObj=1");
     });

@@ -1,9 +1,9 @@
-// One picture on the open document.
+// One card on the open document.
 #pragma once
 
 #include <memory>
 
-#include "toolkit/picture/bitmap.h"
+#include "toolkit/model/drawing.h"
 
 namespace zev {
 
@@ -17,8 +17,8 @@ struct DevicePlace {
     float height = 0;
 };
 
-/// Stretches the picture into the document, smoothly; each figure is rounded to whole pixels.
-void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::Bitmap>& picture,
+/// Stretches the card into the document; each figure is rounded to whole pixels.
+void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::CardRecording>& card,
                 const DevicePlace& place);
 
 } // namespace zev

@@ -14,6 +14,7 @@
 #include "toolkit/base/number_text.h"
 #include "toolkit/base/path_text.h"
 #include "toolkit/window/dialog.h"
+#include "toolkit/window/drawn_card.h"
 #include "toolkit/window/flattened_card.h"
 #include "toolkit/window/input/clipboard.h"
 #include "view/image_size.h"
@@ -72,7 +73,10 @@ class PictureDelivery {
         form_.SetFocus(picture_);
         TestBlankPage(form_, "PrintPictureBox before first SendMessage", picture_);
         TestBlankPage(form_, "PrintPictureBox before second SendMessage", picture_);
-        runStep(600, [this] { toolkit::flatten(picture_); });
+        runStep(600, [this] {
+            card_ = std::make_shared<const toolkit::CardRecording>(toolkit::recorded(picture_));
+            toolkit::flatten(picture_);
+        });
         TestBlankPage(form_, "PrintPictureBox after second SendMessage", picture_);
         TestBlankPage(form_, "PrintPictureBox after picture=image", picture_);
     }
@@ -112,7 +116,7 @@ class PictureDelivery {
 
     void stretchToDevice() {
         const DeviceSize size = deviceSize(pageFactsOf(form_), picture_.Height / picture_.Width);
-        PrintImage(form_, picture_.Picture,
+        PrintImage(form_, card_,
                    {.x = place_.x, .y = place_.y, .width = size.width, .height = size.height});
     }
 
@@ -169,11 +173,13 @@ class PictureDelivery {
     static void forget(toolkit::PictureBox& box) {
         box.Picture.reset();
         box.Sharp = {};
+        box.Artwork = {};
     }
 
     Zevlin& form_;
     toolkit::PictureBox& picture_;
     PagePlace place_;
+    std::shared_ptr<const toolkit::CardRecording> card_; ///< as it was before it was flattened
 };
 
 } // namespace

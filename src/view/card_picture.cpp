@@ -3,6 +3,7 @@
 #include "toolkit/picture/bitmap_file.h"
 #include "toolkit/picture/embedded_file.h"
 #include "toolkit/picture/indexed_picture.h"
+#include "view/artwork_file.h"
 #include "view/halve_picture.h"
 
 namespace zev {
@@ -28,6 +29,12 @@ const toolkit::IndexedPicture& builtInHalf() {
     return picture;
 }
 
+std::shared_ptr<const toolkit::Drawing> builtInArtwork() {
+    const auto file = toolkit::embeddedFile("/card/artwork.txt");
+    return std::make_shared<const toolkit::Drawing>(
+        readArtwork({reinterpret_cast<const char*>(file.data()), file.size()}));
+}
+
 } // namespace
 
 CardPicture::CardPicture(const std::shared_ptr<const toolkit::Bitmap>& picture)
@@ -51,6 +58,11 @@ toolkit::Bitmap CardPicture::scaled(const ScaleRequest& request) const {
     ofHalf.factor /= half;
     return replacement_ ? zev::scaled(*replacement_->half, ofHalf)
                         : zev::scaled(builtInHalf(), ofHalf);
+}
+
+std::shared_ptr<const toolkit::Drawing> CardPicture::artwork() const {
+    static const auto artwork = builtInArtwork();
+    return replacement_ ? nullptr : artwork;
 }
 
 } // namespace zev

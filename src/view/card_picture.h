@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 
+#include "toolkit/model/drawing.h"
 #include "toolkit/picture/bitmap.h"
 #include "view/scale_picture.h"
 
@@ -28,6 +29,9 @@ class CardPicture {
     /// The picture at the request's factor (0.2 to 1) of its full size, made from the half picture
     /// where that is large enough.
     [[nodiscard]] toolkit::Bitmap scaled(const ScaleRequest& request) const;
+
+    /// What the built-in picture is drawn of, at full size; none of a replacement.
+    [[nodiscard]] std::shared_ptr<const toolkit::Drawing> artwork() const;
 
   private:
     struct Replacement {

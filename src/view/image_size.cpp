@@ -10,6 +10,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "toolkit/base/number_text.h"
+#include "toolkit/window/drawn_card.h"
 #include "view/scale_picture.h"
 
 namespace zev {
@@ -66,6 +67,18 @@ SharedPicture pictureOf(const CardPicture& source, const ScaleRequest& request) 
     return std::make_shared<const toolkit::Bitmap>(source.scaled(request));
 }
 
+/// Beyond its full size the picture has nothing more to show: the card is drawn anew, or left for
+/// the screen to stretch.
+SharedPicture enlargedPicture(const CardPicture& source, const Drawing& drawing, float ratio) {
+    const float most = std::max(largestScale / drawing.scale, 1.0F);
+    const auto artwork = ratio > most ? source.artwork() : nullptr;
+    if (artwork == nullptr)
+        return pictureOf(source, requestOf(drawing.enlarged(std::min(ratio, most))));
+    const ScaleRequest request = requestOf(drawing.enlarged(ratio));
+    return std::make_shared<const toolkit::Bitmap>(
+        toolkit::painted(*artwork, request.factor, request.width, request.height));
+}
+
 /// The picture that was begun, if it is the one that is wanted, else a new one.
 SharedPicture takePicture(Zevlin& form, const CardPicture& source, const ScaleRequest& request) {
     auto started = std::exchange(form.PictureStarted, std::nullopt);
@@ -87,11 +100,9 @@ void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& s
     target.Height = drawing.height * twips;
     target.Picture = takePicture(form, source, requestOf(drawing));
     target.Sharp = {target.Picture, [source, drawing](float ratio) {
-                        // Beyond its full size the picture has nothing more to show.
-                        const float most = std::max(largestScale / drawing.scale, 1.0F);
-                        return pictureOf(source,
-                                         requestOf(drawing.enlarged(std::min(ratio, most))));
+                        return enlargedPicture(source, drawing, ratio);
                     }};
+    target.Artwork = [source] { return source.artwork(); };
 }
 
 } // namespace

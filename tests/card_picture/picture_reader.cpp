@@ -22,10 +22,11 @@ const double textPoints[]{11, 14, 18};
 double em(double points, int twips) { return points * 20 / twips; }
 
 constexpr double unitsPerEm = 2048;
+constexpr int pictureBlock = 0xF000;
 
 Glyph glyphInEms(const char* file, int code) {
     const QRawFont font(QString::fromLatin1(file), unitsPerEm, QFont::PreferNoHinting);
-    const quint32 glyph = font.glyphIndexesForString(QString(QChar(code))).front();
+    const quint32 glyph = font.glyphIndexesForString(QString(QChar(pictureBlock + code))).front();
     const QRectF ink = font.pathForGlyph(glyph).boundingRect();
     return {ink.center().x() / unitsPerEm, (font.ascent() + ink.center().y()) / unitsPerEm,
             ink.width() / 2 / unitsPerEm,

@@ -45,7 +45,7 @@ TEST(Tool, WritesTheSameBytesOnEachRun) {
         EXPECT_TRUE(fileBytes(entry.path().string()) == fileBytes(again)) << again;
         ++files;
     }
-    EXPECT_EQ(files, 9);
+    EXPECT_EQ(files, 10);
 }
 
 std::string described(const QTemporaryDir& folder, const std::string& text) {

@@ -267,13 +267,35 @@ class FilesTest(PrintingTest):
         program.answer_prompt(pdf, "^Print to PDF$")
         desktop.wait_for("the page", lambda: pdf.exists() and pdf.read_bytes()[-6:] == b"%%EOF\n")
         self.check_page(pdf, 0)
-        self.assertLess(pdf.stat().st_size, 1500000)
-        listing = desktop.output_of("pdfimages", "-list", str(pdf)).decode().splitlines()[2:]
-        self.assertEqual(len(listing), 1)
-        columns = listing[0].split()
-        self.assertEqual(columns[3:5], ["2396", "2488"])
-        self.assertEqual(columns[8], "image")  # neither JPEG nor any other lossy coding
+        self.assertLess(pdf.stat().st_size, 150000)
+        self.assertEqual(self.pictures_in(pdf), [])
+        words = desktop.output_of("pdftotext", str(pdf)).decode()
+        for text in ("NAMES", "from 4♥ up", "GENERAL APPROACH", "Two Over One", "Jacoby"):
+            self.assertIn(text, words)
+        fonts = desktop.output_of("pdffonts", str(pdf)).decode().splitlines()[2:]
+        self.assertGreater(len(fonts), 3)
+        for font in fonts:  # embedded, in part, with their characters
+            self.assertEqual(font.split()[-5:-2], ["yes", "no", "yes"], font)
         self.leave(program)
+
+    def test_the_alternate_method_prints_one_picture(self):
+        self.leave(self.start_for_the_first_time())
+        options = self.home.data / "ZEV.Ini"
+        options.write_bytes(options.read_bytes().replace(b"PrintAlt=0", b"PrintAlt=1"))
+        program = self.start_again()
+        pdf = self.home.folder / "page.pdf"
+        program.press("ctrl+p")
+        program.answer_prompt(pdf, "^Print to PDF$")
+        desktop.wait_for("the page", lambda: pdf.exists() and pdf.read_bytes()[-6:] == b"%%EOF\n")
+        pictures = self.pictures_in(pdf)
+        self.assertEqual(len(pictures), 1)
+        self.assertEqual(pictures[0][3:5], ["1198", "1244"])
+        self.assertEqual(pictures[0][8], "image")  # neither JPEG nor any other lossy coding
+        self.leave(program)
+
+    def pictures_in(self, pdf):
+        listing = desktop.output_of("pdfimages", "-list", str(pdf)).decode().splitlines()[2:]
+        return [line.split() for line in listing]
 
     def test_the_screen_never_flickers_in_a_job(self):
         program = self.start_with_card()

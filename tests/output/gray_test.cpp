@@ -29,6 +29,24 @@ TEST(Gray, AMiddleGreyIsLightened) {
     EXPECT_EQ(toolkit::redOf(grayOf(toolkit::rgb(128, 128, 128))), 207);
 }
 
+TEST(Gray, ADrawingsColoursBecomeWhatAPicturesDo) {
+    const toolkit::Color red = toolkit::rgb(195, 17, 25);
+    const toolkit::Color blue = toolkit::rgb(15, 105, 180);
+    const toolkit::Drawing gray =
+        grayed(toolkit::Drawing{.width = 9,
+                                .height = 8,
+                                .items = {toolkit::FilledRectangle{red, 1, 2, 3, 4},
+                                          toolkit::Words{blue, "Arial", true, 5, 6, 7, "a"},
+                                          toolkit::FilledRectangle{toolkit::white, 0, 0, 1, 1}}});
+    const std::vector<toolkit::DrawnItem> expected{
+        toolkit::FilledRectangle{grayOf(red), 1, 2, 3, 4},
+        toolkit::Words{grayOf(blue), "Arial", true, 5, 6, 7, "a"},
+        toolkit::FilledRectangle{toolkit::white, 0, 0, 1, 1}};
+    EXPECT_EQ(gray.items, expected);
+    EXPECT_EQ(gray.width, 9);
+    EXPECT_EQ(gray.height, 8);
+}
+
 TEST(Gray, AnEmptyPictureStaysEmpty) { EXPECT_TRUE(grayed(toolkit::Bitmap()).empty()); }
 
 } // namespace

@@ -16,7 +16,7 @@ TEST_F(PrintImageOnThePage, TracesItsFiguresAndItsResults) {
 
 TEST_F(PrintImageOnThePage, WithoutADocumentItDrawsNothing) {
     start();
-    PrintImage(form, std::make_shared<const toolkit::Bitmap>(2, 2), {0, 0, 10.5F, 11.5F});
+    PrintImage(form, std::make_shared<const toolkit::CardRecording>(), {0, 0, 10.5F, 11.5F});
     EXPECT_TRUE(traced("0, 0, 10.5, 11.5 PrintImage "));
     EXPECT_TRUE(traced("  PrintImage results: Set=1, Stretch=0, SelObj=1"));
 }

@@ -68,7 +68,7 @@ TEST_F(PrintPicture, AFileThatCantBeOpenedIsARefusedDocumentAndTheNextPrintWorks
     ASSERT_EQ(boxes.size(), 1U);
     EXPECT_EQ(boxes[0].text, refused);
     expectUnharmed();
-    EXPECT_EQ(print().pixelsAcross, 2396);
+    EXPECT_FLOAT_EQ(print().width, 8.1F * points);
     EXPECT_EQ(boxes.size(), 1U);
 }
 
@@ -94,7 +94,7 @@ TEST_F(PrintPicture, AFullDiskIsToldAndTheNextPrintWorks) {
     EXPECT_EQ(boxes[0].icon, toolkit::Icon::Exclamation);
     EXPECT_TRUE(std::filesystem::exists("/dev/full"));
     expectUnharmed();
-    EXPECT_EQ(print().pixelsAcross, 2396);
+    EXPECT_FLOAT_EQ(print().width, 8.1F * points);
 }
 
 TEST_F(PrintPicture, ACancelledQuestionForTheFileDropsTheJobSilently) {

@@ -84,7 +84,7 @@ class SmallDisk : public PrintTest, public testing::WithParamInterface<Way> {
         const fs::path file = dataFile(GetParam().file);
         ASSERT_TRUE(fs::exists(file));
         if (file.extension() == ".pdf")
-            EXPECT_EQ(pageIn(file).pixelsAcross, 2396);
+            EXPECT_FLOAT_EQ(pageIn(file).width, 8.1F * points);
         else
             EXPECT_EQ(toolkit::loadBitmap(file).width(), 1198);
         expectUnharmed();

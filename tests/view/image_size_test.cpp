@@ -1,11 +1,14 @@
+#include <algorithm>
 #include <future>
 
 #include "app/layouts.h"
 #include "form/write_options.h"
 #include "layout/write_layout.h"
+#include "toolkit/model/drawing.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"
 #include "toolkit/testing/test_window.h"
+#include "toolkit/window/screen.h"
 #include "view/image_size.h"
 
 namespace zev::test {
@@ -254,6 +257,25 @@ TEST_F(SharpImage, TheNextZoomStepIsSharpToo) {
     ASSERT_EQ(sharp.width(), 2000);
     EXPECT_EQ(sharp.pixel(1000, 200), blue);
     EXPECT_EQ(sharp.pixel(1001, 200), toolkit::white);
+}
+
+TEST_F(ImageSize, BeyondItsFullSizeTheCardIsDrawnAnew) {
+    std::filesystem::remove(dataFile("Convention card.gif"));
+    writeOptions("Zoom=11\r\n");
+    toolkit::overrideScreen({.width = 48000, .height = 48000});
+    start();
+    const auto artwork = CardPicture().artwork();
+    const auto drawn = toolkit::test::grabCardAt(2);
+    ASSERT_EQ(drawn.width(), 2 * artwork->width);
+    const auto box = std::get<toolkit::FilledRectangle>(
+        *std::ranges::find_if(artwork->items, [](const auto& item) {
+            return std::holds_alternative<toolkit::FilledRectangle>(item);
+        }));
+    const int left = static_cast<int>(2 * box.left);
+    const int middle = static_cast<int>(2 * box.top + box.height);
+    EXPECT_EQ(drawn.pixel(left, middle), box.color);
+    // Stretched, the pixel beside it would have some of its ink.
+    EXPECT_EQ(drawn.pixel(left - 1, middle), toolkit::white);
 }
 
 TEST_F(ImageSize, WithoutAFitTheZoomStepCounts) {

@@ -18,6 +18,7 @@
 #include "toolkit/base/error.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/picture/gif_file.h"
+#include "view/artwork_file.h"
 
 namespace {
 
@@ -50,6 +51,10 @@ void writePictures(const card_tool::Sheet& sheet, const path& folder) {
     write(folder / "half.bin", card_tool::packed(card_tool::halfOf(full)));
 }
 
+void writeArtwork(const card_tool::Sheet& sheet, const path& folder) {
+    write(folder / "artwork.txt", zev::writeArtwork(sheet.artwork));
+}
+
 /// Writes a list in which field numbers can be looked up: kind, number and name, one field a line.
 void writeFieldNames(const card_tool::Sheet& sheet, const path& folder) {
     std::string lines;
@@ -70,6 +75,7 @@ void build(const std::vector<std::string>& arguments) {
     std::filesystem::create_directories(folder);
     writeLayouts(sheet, faces, folder);
     writePictures(sheet, folder);
+    writeArtwork(sheet, folder);
     writeFieldNames(sheet, folder);
     for (std::size_t at = 4; at < arguments.size(); ++at) {
         const card_tool::SampleCard sample = card_tool::readSampleCard(arguments[at]);

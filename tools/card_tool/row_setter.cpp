@@ -2,9 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "card_tool/failure.h"
 #include "card_tool/units.h"
+#include "toolkit/base/ansi.h"
+#include "view/artwork_file.h"
 
 namespace card_tool {
 namespace {
@@ -22,10 +25,6 @@ constexpr int circleAboveBaseline = 9;
 constexpr double leastArea = 44;
 // A caption may be wider than the column of boxes under it by this much.
 constexpr double centredOverhang = 24;
-// A suit sign is set this much larger than the words, which makes it as high as their capitals.
-constexpr double suitSize = 1.24;
-// Paper before a suit sign, in ems of the words: enough to keep it off the digit before it.
-constexpr double suitAir = 0.07;
 
 double evenDown(double value) { return std::floor(value / 2) * 2; }
 
@@ -33,16 +32,8 @@ const Typeface& faceOf(const Typefaces& faces, char32_t character, Weight weight
     return isSuit(character) ? faces.suits : faces.print(weight);
 }
 
-struct Character {
-    char32_t code = 0;
-    double em = 0;
-    double air = 0;
-};
-
-Character characterOf(char32_t character, double em) {
-    return isSuit(character) ? Character{suitCode(character), em * suitSize, em * suitAir}
-                             : Character{character, em};
-}
+/// Its code in its font.
+char32_t codeOf(char32_t character) { return isSuit(character) ? suitCode(character) : character; }
 
 Ink wordInk(const Item& item, char32_t character, const RowStyle& style) {
     if (isSuit(character) && !style.inverse) return isRedSuit(character) ? Ink::Red : Ink::Black;
@@ -51,6 +42,20 @@ Ink wordInk(const Item& item, char32_t character, const RowStyle& style) {
 
 Weight weightOf(const Item& item, const RowStyle& style) {
     return style.weight == Weight::Bold ? Weight::Bold : item.weight;
+}
+
+char byteOf(char32_t character) {
+    const auto byte = toolkit::ansiOf(codeOf(character));
+    if (!byte) throw Failure("the code page lacks a printed character");
+    return *byte;
+}
+
+toolkit::Words wordsIn(Ink ink, char32_t letter, Weight weight, double em) {
+    return {.color = colorOf(ink),
+            .fontName = std::string(isSuit(letter) ? zev::artworkSuitFont : zev::artworkFont),
+            .bold = weight == Weight::Bold && !isSuit(letter),
+            .em = em,
+            .text = std::string(1, byteOf(letter))};
 }
 
 bool stretches(const Item& item) { return item.kind == ItemKind::Area && item.width == 0; }
@@ -63,11 +68,8 @@ RowSetter::RowSetter(const Typefaces& faces, Sheet& sheet)
 
 double RowSetter::wordsWidth(const Item& item, const RowStyle& style) const {
     double width = 0;
-    for (const char32_t letter : item.text) {
-        const Character character = characterOf(letter, style.em);
-        const Typeface& face = faceOf(faces_, letter, weightOf(item, style));
-        width += character.air + face.advance(character.code) * character.em;
-    }
+    for (const char32_t letter : item.text)
+        width += faceOf(faces_, letter, weightOf(item, style)).advance(codeOf(letter)) * style.em;
     return width;
 }
 
@@ -159,14 +161,27 @@ void RowSetter::setItem(const Item& item, const RowStyle& style, Span span, int 
 }
 
 void RowSetter::setWords(const Item& item, const RowStyle& style, double left, int baseline) {
+    toolkit::Words words;
+    const auto file = [&] {
+        if (!words.text.empty()) sheet_.artwork.items.emplace_back(words);
+    };
     for (const char32_t letter : item.text) {
-        const Character character = characterOf(letter, style.em);
-        const Typeface& face = faceOf(faces_, letter, weightOf(item, style));
-        left += character.air;
-        addShape(wordInk(item, letter, style),
-                 face.outline(character.code, character.em).translated(left, baseline));
-        left += face.advance(character.code) * character.em;
+        const Weight weight = weightOf(item, style);
+        const Ink ink = wordInk(item, letter, style);
+        const Typeface& face = faceOf(faces_, letter, weight);
+        toolkit::Words next = wordsIn(ink, letter, weight, style.em);
+        next.left = left;
+        next.baseline = baseline;
+        if (words.fontName == next.fontName && words.color == next.color) {
+            words.text += next.text;
+        } else {
+            file();
+            words = std::move(next);
+        }
+        addShape(ink, face.outline(codeOf(letter), style.em).translated(left, baseline));
+        left += face.advance(codeOf(letter)) * style.em;
     }
+    file();
 }
 
 void RowSetter::setBox(const Item& item, Span span, int baseline) {
@@ -179,6 +194,7 @@ void RowSetter::setBox(const Item& item, Span span, int baseline) {
     frame.addRect(centreX - half + ruleWidth, centreY - half + ruleWidth, boxSide - 2 * ruleWidth,
                   boxSide - 2 * ruleWidth);
     addShape(item.ink, frame);
+    addFrame(item.ink, centreX - half, centreY - half);
     sheet_.marks.push_back({item.id, MarkKind::Check, item.ink, double(centreX), double(centreY)});
     walkTo(FieldKind::Mark, sheet_.marks.size());
 }
@@ -186,10 +202,15 @@ void RowSetter::setBox(const Item& item, Span span, int baseline) {
 void RowSetter::setCircle(const Item& item, Span span, int baseline) {
     const int centreX = exactCentre((span.left + span.right) / 2, circle_.x);
     QPainterPath letter = faces_.print(item.weight).outline(item.text.front(), circleEm);
-    letter.translate(centreX - letter.boundingRect().center().x(), baseline);
+    const double left = centreX - letter.boundingRect().center().x();
+    letter.translate(left, baseline);
     // One height for the whole row, between the middles of capitals and of small letters.
     const int centreY = exactCentre(baseline - circleAboveBaseline, circle_.y);
     addShape(item.ink, letter);
+    toolkit::Words words = wordsIn(item.ink, item.text.front(), item.weight, circleEm);
+    words.left = left;
+    words.baseline = baseline;
+    sheet_.artwork.items.emplace_back(std::move(words));
     sheet_.marks.push_back({item.id, MarkKind::Circle, item.ink, double(centreX), double(centreY)});
 }
 
@@ -211,6 +232,20 @@ void RowSetter::rectangle(Ink ink, double left, double top, double width, double
     QPainterPath path;
     path.addRect(left, top, width, height);
     addShape(ink, path);
+    addBox(ink, left, top, width, height);
+}
+
+void RowSetter::addBox(Ink ink, double left, double top, double width, double height) {
+    sheet_.artwork.items.emplace_back(
+        toolkit::FilledRectangle{colorOf(ink), left, top, width, height});
+}
+
+void RowSetter::addFrame(Ink ink, double left, double top) {
+    constexpr double inside = boxSide - 2 * ruleWidth;
+    addBox(ink, left, top, boxSide, ruleWidth);
+    addBox(ink, left, top + boxSide - ruleWidth, boxSide, ruleWidth);
+    addBox(ink, left, top + ruleWidth, ruleWidth, inside);
+    addBox(ink, left + boxSide - ruleWidth, top + ruleWidth, ruleWidth, inside);
 }
 
 void RowSetter::addShape(Ink ink, const QPainterPath& path) {

@@ -59,6 +59,9 @@ class RowSetter {
     void setCircle(const Item& item, Span span, int baseline);
     void setArea(const Item& item, Span span, int baseline);
     void addShape(Ink ink, const QPainterPath& path);
+    void addBox(Ink ink, double left, double top, double width, double height);
+    /// The four sides of a box for a check.
+    void addFrame(Ink ink, double left, double top);
     void walkTo(FieldKind kind, std::size_t number);
 
     const Typefaces& faces_;

@@ -8,6 +8,7 @@
 #include <QtGui/QPainterPath>
 
 #include "card_tool/item.h"
+#include "toolkit/model/drawing.h"
 
 namespace card_tool {
 
@@ -53,6 +54,8 @@ struct FieldNumber {
 /// come before circles in the list of marks.
 struct Sheet {
     std::vector<InkShape> shapes;
+    /// The same as rectangles and words, in full pixels.
+    toolkit::Drawing artwork;
     std::vector<MarkPlace> marks;
     std::vector<TextPlace> texts;
     /// Texts and checkmarks in the order in which TAB visits them; the last one leads to the first.

@@ -15,17 +15,18 @@ Typeface Typeface::installed(const char* family, Weight weight) {
     QRawFont font = QRawFont::fromFont(wanted);
     if (!font.isValid() || font.familyName() != QString::fromLatin1(family))
         throw Failure(std::string("the font is not installed: ") + family);
-    return Typeface(font);
+    return Typeface(font, Codes::Unicode);
 }
 
 Typeface Typeface::fromFile(const std::filesystem::path& path) {
     QRawFont font(QString::fromStdString(path.string()), size, QFont::PreferNoHinting);
     if (!font.isValid()) throw Failure("not a font: " + path.string());
-    return Typeface(font);
+    return Typeface(font, Codes::Pictures);
 }
 
 quint32 Typeface::glyph(char32_t character) const {
-    const QList<quint32> found = font_.glyphIndexesForString(QString::fromUcs4(&character, 1));
+    const char32_t value = static_cast<char32_t>(codes_) + character;
+    const QList<quint32> found = font_.glyphIndexesForString(QString::fromUcs4(&value, 1));
     if (found.isEmpty() || found.front() == 0)
         throw Failure("the font " + font_.familyName().toStdString() + " lacks character " +
                       std::to_string(static_cast<unsigned>(character)));
@@ -48,7 +49,7 @@ QPainterPath Typeface::outline(char32_t character, double em) const {
 Typefaces loadTypefaces(const std::filesystem::path& ownFonts) {
     return {.printRegular = Typeface::installed("Liberation Sans Narrow", Weight::Regular),
             .printBold = Typeface::installed("Liberation Sans Narrow", Weight::Bold),
-            .suits = Typeface::fromFile(ownFonts / "zevlin-suits.ttf"),
+            .suits = Typeface::fromFile(ownFonts / "zevlin-print-suits.ttf"),
             .marksRegular = Typeface::fromFile(ownFonts / "zevlin-marks-regular.ttf"),
             .marksBold = Typeface::fromFile(ownFonts / "zevlin-marks-bold.ttf"),
             .textRegular = Typeface::installed("Liberation Sans", Weight::Regular),

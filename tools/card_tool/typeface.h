@@ -15,7 +15,7 @@ class Typeface {
   public:
     /// Throws Failure if the system has no such font.
     [[nodiscard]] static Typeface installed(const char* family, Weight weight);
-    /// Throws Failure if the file is no font.
+    /// One of pictures, by their bytes. Throws Failure if the file is no font.
     [[nodiscard]] static Typeface fromFile(const std::filesystem::path& path);
 
     /// All measures are in ems.
@@ -29,12 +29,16 @@ class Typeface {
     [[nodiscard]] QPainterPath outline(char32_t character, double em) const;
 
   private:
-    explicit Typeface(const QRawFont& font) : font_(font) {}
+    /// Pictures have their codes in a private range.
+    enum class Codes : char32_t { Unicode = 0, Pictures = 0xF000 };
+
+    explicit Typeface(const QRawFont& font, Codes codes) : font_(font), codes_(codes) {}
     [[nodiscard]] quint32 glyph(char32_t character) const;
 
     /// One pixel for each font unit, so that outlines come without any rounding.
     static constexpr double size = 2048;
     QRawFont font_;
+    Codes codes_;
 };
 
 /// Every font that the card is made with.

@@ -308,6 +308,8 @@ void checkNames(const Sheet& sheet) {
 
 Sheet typeset(const Description& description, const Typefaces& faces) {
     Sheet sheet;
+    sheet.artwork.width = pictureWidth;
+    sheet.artwork.height = pictureHeight;
     Typesetter setter(faces, sheet);
     if (description.panels.size() != 2)
         throw Failure("a card has two panels, the right one described first");

@@ -95,6 +95,8 @@ struct Panel : Control {
     bool Framed = false;  ///< a fine line runs along its edge
 };
 
+struct Drawing;
+
 /// A picture for high-DPI screens, which have several pixels for each logical one.
 struct SharpPicture {
     std::shared_ptr<const Bitmap> of{}; ///< counts only while this very picture is the box's
@@ -109,6 +111,8 @@ struct PictureBox : Control {
     /// that another shows, too.
     std::shared_ptr<const Bitmap> Picture;
     SharpPicture Sharp;
+    /// What the picture shows, as data of any size; none of a picture that is pixels alone.
+    std::function<std::shared_ptr<const Drawing>()> Artwork;
     toolkit::MousePointer MousePointer = toolkit::MousePointer::Default;
 };
 

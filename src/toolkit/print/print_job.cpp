@@ -6,7 +6,7 @@
 #include "toolkit/base/error.h"
 #include "toolkit/base/file_handle.h"
 #include "toolkit/base/write_file.h"
-#include "toolkit/print/pdf_page.h"
+#include "toolkit/print/pdf_document.h"
 #include "toolkit/print/system_print_job.h"
 #include "toolkit/print/system_printers.h"
 #include "toolkit/window/dialog.h"
@@ -29,8 +29,7 @@ struct PrintJob::Document {
     std::filesystem::path target;          ///< of "Print to PDF"
     bool madeTarget = false;               ///< the file is there to see that it can be written
     std::optional<SystemPrintJob> service; ///< of the system's printers
-    std::shared_ptr<const Bitmap> picture{};
-    Place place{};
+    std::vector<Page> pages{};
     bool isDone = false;
 
     Document() = default;
@@ -51,20 +50,17 @@ struct PrintJob::Document {
         }
         madeTarget = isNew;
     }
-    [[nodiscard]] PdfPage page() const;
+    [[nodiscard]] double across(int pixels) const {
+        return pixels * pointsPerInch / printer.PixelsPerInchX;
+    }
+    [[nodiscard]] double down(int pixels) const {
+        return pixels * pointsPerInch / printer.PixelsPerInchY;
+    }
+    void addPage() {
+        pages.push_back(
+            {.width = across(printer.PhysicalWidth), .height = down(printer.PhysicalHeight)});
+    }
 };
-
-PdfPage PrintJob::Document::page() const {
-    const double x = pointsPerInch / printer.PixelsPerInchX;
-    const double y = pointsPerInch / printer.PixelsPerInchY;
-    return {.width = printer.PhysicalWidth * x,
-            .height = printer.PhysicalHeight * y,
-            .pictureLeft = (printer.PhysicalOffsetX + place.left) * x,
-            .pictureTop = (printer.PhysicalOffsetY + place.top) * y,
-            .pictureWidth = place.width * x,
-            .pictureHeight = place.height * y,
-            .title = title};
-}
 
 PrintJob::PrintJob() = default;
 PrintJob::~PrintJob() = default;
@@ -78,6 +74,7 @@ bool PrintJob::start(const Printer& printer, const DocumentInfo& info) {
     auto document = std::make_unique<Document>();
     document->printer = printer;
     document->title = info.title;
+    document->addPage();
     if (printer.DeviceName == printToPdfName) {
         document->target = askForTarget(info);
         if (document->target.empty()) return false;
@@ -89,23 +86,39 @@ bool PrintJob::start(const Printer& printer, const DocumentInfo& info) {
     return true;
 }
 
-bool PrintJob::stretch(std::shared_ptr<const Bitmap> picture, const Place& place) {
-    if (!document_ || !picture || picture->empty()) return false;
-    document_->picture = std::move(picture);
-    document_->place = place;
+bool PrintJob::draw(std::shared_ptr<const CardRecording> card, const Place& place) {
+    if (!document_) return false;
+    const Printer& printer = document_->printer;
+    document_->pages.back().cards.push_back(
+        {.card = std::move(card),
+         .left = document_->across(printer.PhysicalOffsetX + place.left),
+         .top = document_->down(printer.PhysicalOffsetY + place.top),
+         .width = document_->across(place.width),
+         .height = document_->down(place.height)});
     return true;
+}
+
+bool PrintJob::stretch(std::shared_ptr<const Bitmap> picture, const Place& place) {
+    if (!picture || picture->empty()) return false;
+    auto card = std::make_shared<CardRecording>();
+    card->width = picture->width();
+    card->height = picture->height();
+    card->picture = std::move(picture);
+    return draw(std::move(card), place);
+}
+
+void PrintJob::turnPage() {
+    if (document_) document_->addPage();
 }
 
 void PrintJob::finish() {
     if (!document_) return;
     const auto document = std::exchange(document_, nullptr);
-    const auto picture =
-        document->picture ? document->picture : std::make_shared<const Bitmap>(1, 1);
     if (document->service) {
-        document->service->send(document->page(), *picture);
+        document->service->send(document->pages);
         document->service->close();
     } else {
-        writeFile(document->target, pdfFile(document->page(), *picture));
+        writeFile(document->target, pdfDocument(document->pages, document->title));
     }
     document->isDone = true;
 }

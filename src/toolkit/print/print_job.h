@@ -1,4 +1,4 @@
-// A document on a printer: opened, one picture drawn into it, closed.
+// A document on a printer: opened, cards drawn on its pages, closed.
 #pragma once
 
 #include <filesystem>
@@ -6,12 +6,12 @@
 #include <string>
 #include <string_view>
 
-#include "toolkit/picture/bitmap.h"
+#include "toolkit/model/drawing.h"
 #include "toolkit/print/printer.h"
 
 namespace toolkit {
 
-/// What the printer is to be told beside the picture.
+/// What the printer is to be told beside the pages.
 struct DocumentInfo {
     std::string title;                ///< of the document, in the code page
     std::filesystem::path filePreset; ///< offered by a printer that asks for a file
@@ -37,11 +37,15 @@ class PrintJob {
         int width = 0;
         int height = 0;
     };
-    /// Draws the picture stretched to the place. False if no document is open.
+    /// Draws the card, or a picture pixel by pixel, stretched to the place. False if no document is
+    /// open.
+    bool draw(std::shared_ptr<const CardRecording> card, const Place& place);
     bool stretch(std::shared_ptr<const Bitmap> picture, const Place& place);
+    /// What is drawn from now on stands on one more page.
+    void turnPage();
 
-    /// Closes the document; when it returns the page is with the printer. Failures 482 and those of
-    /// writeFile. Nothing happens if no document is open.
+    /// Closes the document; when it returns the pages are with the printer. Failures 482 and those
+    /// of writeFile. Nothing happens if no document is open.
     void finish();
     /// Gives the open document up.
     void abandon();

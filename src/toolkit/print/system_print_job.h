@@ -1,16 +1,16 @@
-// A page on its way to a printer of the system. Internal to the toolkit's sources.
+// Pages on their way to a printer of the system. Internal to the toolkit's sources.
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string_view>
 
-#include "toolkit/picture/bitmap.h"
-#include "toolkit/print/pdf_page.h"
+#include "toolkit/print/page.h"
 #include "toolkit/print/printer.h"
 
 namespace toolkit {
 
-/// Hands a page to a printer. Open it, send the page, close it: each fails with 482, with the
+/// Hands pages to a printer. Open it, send the pages, close it: each fails with 482, with the
 /// system's own words where it has any.
 class SystemPrintJob {
   public:
@@ -20,7 +20,7 @@ class SystemPrintJob {
     SystemPrintJob(const SystemPrintJob&) = delete;
     SystemPrintJob& operator=(const SystemPrintJob&) = delete;
 
-    void send(const PdfPage& page, const Bitmap& picture);
+    void send(std::span<const Page> pages);
     void close();
 
   private:

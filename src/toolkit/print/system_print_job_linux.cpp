@@ -6,6 +6,7 @@
 #include "toolkit/base/ansi.h"
 #include "toolkit/base/error.h"
 #include "toolkit/print/cups_library.h"
+#include "toolkit/print/pdf_document.h"
 #include "toolkit/print/system_printers.h"
 
 namespace toolkit {
@@ -76,6 +77,7 @@ void addChoices(Options& options, const Printer& printer) {
 
 struct SystemPrintJob::Implementation {
     std::string printer;
+    std::string title;
     int job = 0;
 };
 
@@ -84,6 +86,7 @@ SystemPrintJob::SystemPrintJob(const Printer& printer, std::string_view title)
     const CupsLibrary* cups = cupsLibrary();
     if (cups == nullptr) failPrinting();
     implementation_->printer = utf8FromAnsi(printer.DeviceName);
+    implementation_->title = title;
     Options options(*cups);
     addChoices(options, printer);
     const std::string name = utf8FromAnsi(title);
@@ -97,9 +100,9 @@ SystemPrintJob::~SystemPrintJob() {
         cupsLibrary()->cancelJob(implementation_->printer.c_str(), implementation_->job);
 }
 
-void SystemPrintJob::send(const PdfPage& page, const Bitmap& picture) {
+void SystemPrintJob::send(std::span<const Page> pages) {
     const CupsLibrary& cups = *cupsLibrary();
-    const std::string pdf = pdfFile(page, picture);
+    const std::string pdf = pdfDocument(pages, implementation_->title);
     if (cups.startDocument(CUPS_HTTP_DEFAULT, implementation_->printer.c_str(),
                            implementation_->job, "card.pdf", "application/pdf",
                            1) != HTTP_STATUS_CONTINUE ||

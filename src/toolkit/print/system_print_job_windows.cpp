@@ -8,12 +8,10 @@
 
 #include "toolkit/base/error.h"
 #include "toolkit/base/qt_text.h"
-#include "toolkit/picture/qt_picture.h"
+#include "toolkit/print/qt_page_painter.h"
 
 namespace toolkit {
 namespace {
-
-constexpr double pointsPerInch = 72;
 
 void setPaper(QPrinter& device, const Printer& printer) {
     const auto sizes = QPrinterInfo(device).supportedPageSizes();
@@ -73,13 +71,12 @@ SystemPrintJob::~SystemPrintJob() {
     if (implementation_->painter.isActive()) implementation_->device->abort();
 }
 
-void SystemPrintJob::send(const PdfPage& page, const Bitmap& picture) {
-    QPainter& painter = implementation_->painter;
-    const double scale = implementation_->device->resolution() / pointsPerInch;
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    painter.drawImage(QRectF(page.pictureLeft * scale, page.pictureTop * scale,
-                             page.pictureWidth * scale, page.pictureHeight * scale),
-                      imageOver(picture));
+void SystemPrintJob::send(std::span<const Page> pages) {
+    QPrinter& device = *implementation_->device;
+    for (const Page& page : pages) {
+        if (&page != &pages.front() && !device.newPage()) throw RunTimeError(Failure::PrinterError);
+        paintPage(implementation_->painter, page, device.resolution());
+    }
 }
 
 void SystemPrintJob::close() {

@@ -41,7 +41,7 @@ quint32 pictureGlyph(const QRawFont& font, char character) {
 
 void registerEmbeddedFonts() {
     for (const char* name : {"/fonts/zevlin-marks-regular.ttf", "/fonts/zevlin-marks-bold.ttf",
-                             "/fonts/zevlin-suits.ttf"}) {
+                             "/fonts/zevlin-suits.ttf", "/fonts/zevlin-print-suits.ttf"}) {
         const auto data = embeddedFile(name);
         QFontDatabase::addApplicationFontFromData(QByteArray::fromRawData(
             reinterpret_cast<const char*>(data.data()), static_cast<qsizetype>(data.size())));

@@ -34,6 +34,7 @@ Picture takePicture(PictureBox& card) {
     const int width = pixelsFromTwips(card.Width);
     const int height = pixelsFromTwips(card.Height);
     card.Sharp = {};
+    card.Artwork = {};
     if (!hasCardSize(card, width, height)) return extended(card, width, height);
     if (card.Picture.use_count() > 1) return std::make_shared<Bitmap>(*card.Picture);
     return std::const_pointer_cast<Bitmap>(std::exchange(card.Picture, nullptr));

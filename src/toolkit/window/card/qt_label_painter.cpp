@@ -16,6 +16,12 @@ namespace {
 /// Slanted glyphs lean out of their advances by less than this share of the line's height.
 constexpr float leaningShare = 0.4F;
 
+std::string textOf(const Label& label) {
+    std::string text = paintedText(label.Caption);
+    if (label.FirstLineOnly) text.resize(lengthOfLine(label.Font, text, label.Width));
+    return text;
+}
+
 /// Distance in twips from the label's left edge to its text's; negative where the text is wider.
 float textOffset(const Label& label, float width) {
     switch (label.Alignment) {
@@ -50,6 +56,13 @@ PaintedLine paintedLineOf(const Label& label, const QTransform& device) {
     return {(row + start - device.dy()) / device.m22(), row == std::nearbyint(row)};
 }
 
+/// Whether ink of the text may lie outside the label.
+bool mayLeave(const Label& label, float width) {
+    const float leaning = label.Font.Italic ? textHeight(label.Font) * leaningShare : 0;
+    return width + 2 * leaning > label.Width || label.Baseline.Wanted < 0 ||
+           textHeight(label.Font) + label.Baseline.Wanted > label.Height;
+}
+
 } // namespace
 
 QRect paintedRectangle(const Label& label) {
@@ -68,8 +81,7 @@ void paintLabel(QPainter& painter, const Label& label) {
     const QRect place = pixelRectangle(label);
     painter.setClipRect(paintedRectangle(label));
     if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
-    std::string text = paintedText(label.Caption);
-    if (label.FirstLineOnly) text.resize(lengthOfLine(label.Font, text, label.Width));
+    const std::string text = textOf(label);
     if (text.empty()) return;
     const auto scale = static_cast<double>(twipsPerPixel());
     const float offset = textOffset(label, textWidth(label.Font, text));
@@ -77,6 +89,28 @@ void paintLabel(QPainter& painter, const Label& label) {
     const QPointF origin(static_cast<double>(label.Left + offset) / scale, line.y);
     const auto draw = line.isWhole ? drawRun : drawRunBetweenRows;
     draw(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
+}
+
+void paintLabelExactly(QPainter& painter, const Label& label) {
+    const double scale = 1.0 / twipsPerPixel();
+    const QRectF place(label.Left * scale, label.Top * scale, label.Width * scale,
+                       label.Height * scale);
+    if (label.BackStyle == BackStyle::Opaque) painter.fillRect(place, qColor(label.BackColor));
+    const std::string text = textOf(label);
+    if (text.empty()) return;
+    const float width = textWidth(label.Font, text);
+    const float baseline = textAscent(label.Font) + label.Baseline.Wanted;
+    // A page where nothing needs cutting is smaller.
+    const bool isCut = label.Clips && mayLeave(label, width);
+    if (isCut) {
+        painter.save();
+        painter.setClipRect(place);
+    }
+    drawRun(
+        painter,
+        QPointF((label.Left + textOffset(label, width)) * scale, (label.Top + baseline) * scale),
+        label.Font, scale, label.ForeColor, text);
+    if (isCut) painter.restore();
 }
 
 } // namespace toolkit

@@ -15,4 +15,7 @@ namespace toolkit {
 /// Paints the label in the container's logical pixels. Leaves the painter's clip set.
 void paintLabel(QPainter& painter, const Label& label);
 
+/// For a device with far finer pixels: all at its exact place. Leaves the painter's clip as it was.
+void paintLabelExactly(QPainter& painter, const Label& label);
+
 } // namespace toolkit

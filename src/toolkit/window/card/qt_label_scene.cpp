@@ -87,4 +87,11 @@ void LabelScene::paint(QPainter& painter, const QRegion& area) const {
         if (area.intersects(at(place).place)) paintLabel(painter, at(place).label);
 }
 
+std::vector<Label> LabelScene::visibleLabels() const {
+    std::vector<Label> labels;
+    labels.reserve(order_.size());
+    for (const LabelPlace place : order_) labels.push_back(at(place).label);
+    return labels;
+}
+
 } // namespace toolkit

@@ -21,6 +21,9 @@ class LabelScene {
     /// Paints the visible labels that touch the area, the hindmost first.
     void paint(QPainter& painter, const QRegion& area) const;
 
+    /// From back to front.
+    [[nodiscard]] std::vector<Label> visibleLabels() const;
+
   private:
     /// What was painted for a label, with the pixels that it covers.
     struct Painted {

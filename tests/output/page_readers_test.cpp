@@ -1,0 +1,177 @@
+// The page as other programs read it: its words, and how three of them draw it.
+#include <cstdlib>
+#include <sstream>
+
+#include "card/load.h"
+#include "output/print_card.h"
+#include "output/print_test.h"
+#include "toolkit/print/print_job.h"
+#include "toolkit/print/printers.h"
+#include "toolkit/window/drawn_card.h"
+#include "toolkit/window/flattened_card.h"
+#include "toolkit/window/screen.h"
+#include "view/rebuild.h"
+
+namespace zev::test {
+namespace {
+
+/// Grey pixels of a page as a reader program draws it.
+struct Rendering {
+    int width = 0;
+    int height = 0;
+    std::string pixels;
+
+    /// How dark, 0 to 255; outside the page it is paper.
+    [[nodiscard]] int darkness(int x, int y) const {
+        if (x < 0 || y < 0 || x >= width || y >= height) return 0;
+        const auto at = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                        static_cast<std::size_t>(x);
+        return 255 - static_cast<unsigned char>(pixels[at]);
+    }
+    [[nodiscard]] int darkestNear(int x, int y) const {
+        int most = 0;
+        for (int row = y - 1; row <= y + 1; ++row)
+            for (int column = x - 1; column <= x + 1; ++column)
+                most = std::max(most, darkness(column, row));
+        return most;
+    }
+};
+
+Rendering renderingIn(const std::filesystem::path& pgm) {
+    std::istringstream file(toolkit::readFile(pgm));
+    std::string kind;
+    Rendering rendering;
+    int most = 0;
+    file >> kind;
+    while ((file >> std::ws).peek() == '#') std::getline(file, kind);
+    file >> rendering.width >> rendering.height >> most;
+    file.get();
+    rendering.pixels.assign(std::istreambuf_iterator<char>(file), {});
+    return rendering;
+}
+
+/// A program that draws pages of 300 dots to the inch. In its command OUT stands for the PGM file,
+/// IN for the page.
+struct Reader {
+    const char* name;
+    const char* command;
+};
+
+/// It scales pictures smoothly.
+constexpr Reader poppler{"poppler", "pdftoppm -gray -r 300 'IN' >'OUT'"};
+
+std::ostream& operator<<(std::ostream& out, const Reader& reader) { return out << reader.name; }
+
+Rendering drawnBy(const Reader& reader, const std::filesystem::path& page) {
+    const auto file = page.parent_path() / "page.pgm";
+    std::string command = reader.command;
+    command.replace(command.find("'OUT'"), 5, file.string());
+    command.replace(command.find("'IN'"), 4, page.string());
+    if (std::system(command.c_str()) != 0) return {};
+    return renderingIn(file);
+}
+
+class PageReaders : public PrintTest {
+  protected:
+    PageReaders() {
+        toolkit::overrideScreen({.width = 48000, .height = 48000});
+        writeLayout(toolkit::readFile(programFolder / "Definitions.Ini.15"));
+    }
+    /// Every mark set and the same text in every area.
+    void startWith(const std::string& text) {
+        start();
+        const auto lines = [](int count, const std::string& rest) {
+            std::string all = std::to_string(count) + "\r\n";
+            for (int number = 1; number <= count; ++number)
+                all += std::to_string(number) + rest + "\r\n";
+            return all;
+        };
+        writeCard("Filled", "'Program version: 2.0.0\r\n\"\",\"\"\r\n" +
+                                lines(form.AMark.UBound(), ",1,0") +
+                                lines(form.AText.UBound(), ",\"" + text + "\",0"));
+        form.CardName = "Filled";
+        GetCardFile(form);
+    }
+    /// Writes the card at full scale as a page, drawn or as its picture.
+    template <typename Draw>
+    std::filesystem::path pageOf(const char* name, Draw draw) {
+        const auto file = home / name;
+        answerFile(file);
+        toolkit::PrintJob job;
+        EXPECT_TRUE(job.start(toolkit::printerNamed(toolkit::printToPdfName),
+                              {.title = "Page", .filePreset = {}}));
+        draw(job, toolkit::PrintJob::Place{.left = 0, .top = 0, .width = 4860, .height = 5046});
+        job.finish();
+        return file;
+    }
+    std::filesystem::path drawnPage() {
+        return pageOf("drawn.pdf", [this](auto& job, const auto& place) {
+            job.draw(std::make_shared<toolkit::CardRecording>(toolkit::recorded(form.P1)), place);
+        });
+    }
+    std::filesystem::path picturedPage() {
+        return pageOf("pictured.pdf", [this](auto& job, const auto& place) {
+            toolkit::PictureBox card = form.P1;
+            toolkit::flatten(card);
+            job.stretch(card.Picture, place);
+        });
+    }
+};
+
+TEST_F(PageReaders, WordsComeOutAsTheyAreRead) {
+    startWith("4^h Za\xEF up");
+    const auto file = home / "page.pdf";
+    answerFile(file);
+    MPrint_Click(form);
+    const std::string words = wordsOfPdf(file);
+    for (const char* text :
+         {"4♥ Zaï up", "✓", "○", "NAMES", "GENERAL APPROACH", "Negative", "thru", "Two Over One",
+          "Transfer to ♥", "Jacoby", "1st/2nd", "circle card led, if not in bold"})
+        EXPECT_NE(words.find(text), std::string::npos) << text << "\n" << words;
+}
+
+TEST_F(PageReaders, ThePrintedCardHasNoPicture) {
+    startWith("4^h up");
+    const PrintedPage page = print();
+    EXPECT_EQ(page.pictures, 0);
+    EXPECT_LT(std::filesystem::file_size(home / "page.pdf"), 150'000U);
+}
+
+class PageReader : public PageReaders, public testing::WithParamInterface<Reader> {};
+
+// Ink is what is darker than half; it counts as off where the other page has no trace of ink in the
+// pixels around it.
+TEST_P(PageReader, DrawsThePageAsTheCardsPictureWithNothingOffByMoreThanAPixel) {
+    startWith("4^h up");
+    form.ZoomLevel = 11;
+    RebuildScreenImage(form);
+    const Rendering drawn = drawnBy(GetParam(), drawnPage());
+    const Rendering pictured = drawnBy(poppler, picturedPage());
+    ASSERT_EQ(drawn.width, 2550);
+    ASSERT_EQ(drawn.height, 3300);
+    ASSERT_EQ(pictured.width, drawn.width);
+    ASSERT_EQ(pictured.height, drawn.height);
+    constexpr int dark = 128;
+    constexpr int trace = 24;
+    long ink = 0;
+    long off = 0;
+    for (int y = 0; y < drawn.height; ++y)
+        for (int x = 0; x < drawn.width; ++x) {
+            if (drawn.darkness(x, y) > dark && ++ink > 0 && pictured.darkestNear(x, y) < trace)
+                ++off;
+            if (pictured.darkness(x, y) > dark && drawn.darkestNear(x, y) < trace) ++off;
+        }
+    EXPECT_GT(ink, 200'000);
+    EXPECT_EQ(off, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Programs, PageReader,
+    testing::Values(poppler, Reader{"mupdf", "mutool draw -q -r 300 -c gray -o 'OUT' 'IN'"},
+                    Reader{"ghostscript",
+                           "gs -q -sDEVICE=pgmraw -r300 -dTextAlphaBits=4 -dGraphicsAlphaBits=4 "
+                           "-o 'OUT' 'IN'"}),
+    [](const auto& test) { return std::string(test.param.name); });
+
+} // namespace
+} // namespace zev::test

@@ -1,0 +1,18 @@
+// What stands in a PDF file.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace zev::test {
+
+/// The file with its packed streams laid open.
+[[nodiscard]] std::string unpackedPdf(std::string_view file);
+
+#ifndef _WIN32
+/// Its words as a reader program finds them, in UTF-8, a blank between two words of a line.
+[[nodiscard]] std::string wordsOfPdf(const std::filesystem::path& file);
+#endif
+
+} // namespace zev::test

@@ -1,0 +1,127 @@
+#include "toolkit/print/pdf_document.h"
+
+#include <gtest/gtest.h>
+
+#include "support/pdf_content.h"
+#include "toolkit/base/ansi.h"
+
+namespace toolkit::test {
+namespace {
+
+using zev::test::unpackedPdf;
+
+bool holds(std::string_view file, std::string_view text) {
+    return file.find(text) != std::string_view::npos;
+}
+
+int count(std::string_view file, std::string_view text) {
+    int found = 0;
+    for (auto at = file.find(text); at != std::string_view::npos; at = file.find(text, at + 1))
+        ++found;
+    return found;
+}
+
+std::shared_ptr<CardRecording> cardOf(int width, int height) {
+    auto card = std::make_shared<CardRecording>();
+    card->width = width;
+    card->height = height;
+    return card;
+}
+
+/// A card with a box, a word and a label over its picture.
+std::shared_ptr<CardRecording> drawnCard() {
+    auto card = cardOf(100, 50);
+    auto artwork = std::make_shared<Drawing>();
+    artwork->width = 200;
+    artwork->height = 100;
+    artwork->items = {FilledRectangle{rgb(255, 0, 0), 20, 10, 40, 2},
+                      Words{black, "Arial", false, 20, 30, 40, "Word"}};
+    card->picture = std::make_shared<const Bitmap>(100, 50);
+    card->artwork = artwork;
+    Label label;
+    label.Move(150, 150, 1200, 300);
+    label.Caption = "caf\xE9";
+    label.BackStyle = BackStyle::Opaque;
+    label.BackColor = rgb(0, 0, 255);
+    card->labels = {label};
+    return card;
+}
+
+std::string pageWith(const std::shared_ptr<const CardRecording>& card) {
+    const Page page{.width = 612, .height = 792, .cards = {{card, 72, 36, 300, 100}}};
+    return pdfDocument({&page, 1}, "Jones");
+}
+
+TEST(PdfDocument, DrawsRectanglesAndTextsAndNoPicture) {
+    const std::string file = unpackedPdf(pageWith(drawnCard()));
+    EXPECT_EQ(count(file, "/Subtype /Image"), 0);
+    EXPECT_TRUE(holds(file, "20 10 40 2 re"));
+    EXPECT_GE(count(file, "BT"), 2);
+}
+
+TEST(PdfDocument, EmbedsTheFontsInPart) {
+    const std::string file = unpackedPdf(pageWith(drawnCard()));
+    EXPECT_TRUE(holds(file, "+LiberationSans"));
+    EXPECT_TRUE(holds(file, "/FontFile2"));
+    EXPECT_TRUE(holds(file, "/ToUnicode"));
+}
+
+TEST(PdfDocument, HoldsAPictureWithoutLoss) {
+    auto card = cardOf(3, 2);
+    auto picture = std::make_shared<Bitmap>(3, 2);
+    picture->setPixel(0, 0, rgb(1, 2, 3));
+    picture->setPixel(2, 1, rgb(250, 7, 130));
+    card->picture = picture;
+    const std::string file = unpackedPdf(pageWith(card));
+    EXPECT_EQ(count(file, "/Subtype /Image"), 1);
+    EXPECT_FALSE(holds(file, "DCTDecode"));
+    EXPECT_TRUE(holds(file, std::string("\x01\x02\x03\xFF\xFF\xFF\xFF\xFF\xFF"
+                                        "\xFF\xFF\xFF\xFF\xFF\xFF\xFA\x07\x82")));
+}
+
+TEST(PdfDocument, ADrawingThatFillsNoCardIsPaper) {
+    const std::string file = unpackedPdf(pageWith(cardOf(0, 0)));
+    EXPECT_EQ(count(file, "BT"), 0);
+    EXPECT_EQ(count(file, "/Type /Page\n"), 1);
+}
+
+TEST(PdfDocument, HoldsAnyNumberOfPages) {
+    const std::vector<Page> pages{
+        {.width = 612, .height = 792, .cards = {{drawnCard(), 0, 0, 9, 9}}},
+        {.width = 595, .height = 842},
+        {.width = 792, .height = 612}};
+    const std::string file = unpackedPdf(pdfDocument(pages, ""));
+    EXPECT_EQ(count(file, "/Type /Page\n"), 3);
+    EXPECT_TRUE(holds(file, "[0 0 612.000000 792.000000]"));
+    EXPECT_TRUE(holds(file, "[0 0 595.000000 842.000000]"));
+    EXPECT_TRUE(holds(file, "[0 0 792.000000 612.000000]"));
+}
+
+TEST(PdfDocument, HasItsTitleInUnicode) {
+    const Page page{.width = 612, .height = 792};
+    const std::string file = pdfDocument({&page, 1}, "M\xFCller\x92s \x96 5\x80");
+    const std::string title("\xFE\xFF\0M\0\xFC\0l\0l\0e\0r\x20\x19\0s\0 \x20\x13\0 \0"
+                            "5\x20\xAC",
+                            28);
+    EXPECT_TRUE(holds(file, "/Title (" + title + ")"));
+    EXPECT_TRUE(holds(file, "/CreationDate (D:2"));
+}
+
+TEST(PdfDocument, SaysItsLanguageInACatalogOfItsOwn) {
+    const Page page{.width = 612, .height = 792};
+    const std::string file = pdfDocument({&page, 1}, "Jones");
+    EXPECT_EQ(count(file, "/Type /Catalog"), 2);
+    EXPECT_EQ(count(file, "/Lang (en-US)"), 1);
+    EXPECT_TRUE(file.ends_with("%%EOF\n"));
+    // The last table tells where the catalog lies, and the last line where the table does.
+    const std::size_t table = std::stoul(file.substr(file.rfind("startxref\n") + 10));
+    ASSERT_EQ(file.substr(table, 5), "xref\n");
+    const std::size_t number = std::stoul(file.substr(table + 5));
+    const std::size_t entry = file.find('\n', table + 5) + 1;
+    const std::size_t catalog = std::stoul(file.substr(entry, 10));
+    EXPECT_EQ(file.substr(catalog, 8), std::to_string(number) + " 0 obj\n");
+    EXPECT_EQ(file.substr(entry + 10, 9), " 00000 n ");
+}
+
+} // namespace
+} // namespace toolkit::test
