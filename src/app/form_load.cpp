@@ -77,6 +77,8 @@ void prepare(Zevlin& form, LoadRun& run) {
         Traceit(form, "Form_Load " + toolkit::dateTimeText() +
                           ", path: " + toolkit::displayText(form.DataFolder));
     });
+    // A failure of the steps that follow must not be taken for a missing printer.
+    ignoringFailures([&] { takePrinterToken(form); });
 }
 
 void deleteIfThere(const Zevlin& form, const std::string& name) {

@@ -16,11 +16,14 @@ float inches(int physical, int offset, int pixelsPerInch) {
 
 } // namespace
 
+void takePrinterToken(Zevlin& form) {
+    // Where asking is slow there is always a printer, if only the one that makes PDF files.
+    form.Myprinter.hdc = toolkit::isAskingSlow() ? 1 : toolkit::defaultPrinter().hdc;
+}
+
 void takeDefaultPrinter(Zevlin& form, int& step) {
     if (toolkit::isAskingSlow()) {
-        // There is always a printer, if only the one that makes PDF files.
         form.PrinterPending = true;
-        form.Myprinter.hdc = 1;
         step = 2010;
         return;
     }

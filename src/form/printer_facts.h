@@ -9,6 +9,9 @@ namespace zev {
 
 struct Zevlin;
 
+/// Before anything else is known: whether there is a printer at all.
+void takePrinterToken(Zevlin& form);
+
 /// Takes the default printer's handle, name and facts; without a device context nothing is taken.
 /// `step` is the start-up's step counter. Where asking the system may take long, the facts are put
 /// off until something needs them.

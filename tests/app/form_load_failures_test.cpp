@@ -33,6 +33,11 @@ class FormLoadFailures : public FormTest {
         form.P1.GotFocus = [] { throw toolkit::RunTimeError(toolkit::Failure::Overflow); };
         return failsProgram([&] { Form_Load(form, {}); });
     }
+    static std::string sorry(const std::string& failure, int step) {
+        return "Sorry, program error #" + failure + "\nat step " + std::to_string(step) +
+               " while starting. Please send 'Trace.txt' to " + std::string(supportAddress) +
+               ", and mention both the error # and the step.";
+    }
 };
 
 TEST_F(FormLoadFailures, AreTracedAndToldWithNumberAndStepAndEndTheProgram) {
@@ -40,10 +45,7 @@ TEST_F(FormLoadFailures, AreTracedAndToldWithNumberAndStepAndEndTheProgram) {
     EXPECT_TRUE(startFailsLate());
     EXPECT_TRUE(traced("Error in Form_Load 6, Overflow, at step 2100, hdc=1"));
     ASSERT_EQ(boxes.size(), 1U);
-    EXPECT_EQ(boxes[0].text, "Sorry, program error #6 (Overflow)\nat step 2100 while starting. "
-                             "Please send 'Trace.txt' to " +
-                                 std::string(supportAddress) +
-                                 ", and mention both the error # and the step.");
+    EXPECT_EQ(boxes[0].text, sorry("6 (Overflow)", 2100));
     EXPECT_EQ(boxes[0].icon, toolkit::Icon::Exclamation);
     EXPECT_EQ(boxes[0].buttons, toolkit::Buttons::Ok);
     EXPECT_EQ(boxes[0].title, "");
@@ -72,17 +74,38 @@ TEST_F(FormLoadFailures, ADamagedCardPictureStopsTheStart) {
     announceError("Error in Form_Load ");
     toolkit::writeFile(dataFile("Convention card.gif"), "no picture");
     EXPECT_TRUE(failsProgram([&] { start(); }));
+    EXPECT_TRUE(traced("Error in Form_Load 481, Invalid picture, at step 1000, hdc=1"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, sorry("481 (Invalid picture)", 1000));
+}
+
+TEST_F(FormLoadFailures, AtTheFirstStepTooAreTakenForTheMissingPrinterWhereThereIsNone) {
+    announceError("Error in Form_Load ");
+    toolkit::overrideNoPrinter(true);
+    toolkit::writeFile(dataFile("Convention card.gif"), "no picture");
+    EXPECT_TRUE(failsProgram([&] { start(); }));
     EXPECT_TRUE(traced("Error in Form_Load 481, Invalid picture, at step 1000, hdc=0"));
     ASSERT_EQ(boxes.size(), 1U);
-    // The printer isn't known yet at that step.
     EXPECT_EQ(boxes[0].text, printerMissing);
+}
+
+TEST_F(FormLoadFailures, AtTheFirstStepAreToldAsWhatTheyAreBeforeTheSystemWasAsked) {
+    announceError("Error in Form_Load ");
+    toolkit::overridePrinters({});
+    toolkit::writeFile(dataFile("Convention card.gif"), "no picture");
+    EXPECT_TRUE(failsProgram([&] { start(); }));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, sorry("481 (Invalid picture)", 1000));
+    EXPECT_FALSE(form.PrinterAsked.isAsked());
 }
 
 TEST_F(FormLoadFailures, AFolderInThePlaceOfTheCardPictureStopsTheStart) {
     announceError("Error in Form_Load ");
     fs::create_directory(dataFile("Convention card.gif"));
     EXPECT_TRUE(failsProgram([&] { start(); }));
-    EXPECT_TRUE(traced("Error in Form_Load 75, Path/File access error, at step 1000, hdc=0"));
+    EXPECT_TRUE(traced("Error in Form_Load 75, Path/File access error, at step 1000, hdc=1"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, sorry("75 (Path/File access error)", 1000));
 }
 
 TEST_F(FormLoadFailures, AFolderInThePlaceOfTheTemporaryCardStays) {
