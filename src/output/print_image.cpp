@@ -26,10 +26,10 @@ void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::CardRecording
     Traceit(form, figures + " PrintImage ");
     trapped(form, "Error in PrintImage: " + figures + " -- ", [&] {
         const bool isDrawn =
-            form.PrinterDC.draw(card, {.left = toolkit::roundToInteger(place.x),
-                                       .top = toolkit::roundToInteger(place.y),
-                                       .width = toolkit::roundToInteger(place.width),
-                                       .height = toolkit::roundToInteger(place.height)});
+            form.PrinterDC.draw(card, {.left = toolkit::toInteger32(place.x),
+                                       .top = toolkit::toInteger32(place.y),
+                                       .width = toolkit::toInteger32(place.width),
+                                       .height = toolkit::toInteger32(place.height)});
         Traceit(form, "  PrintImage results: Set=1, Stretch=" + std::string(resultText(isDrawn)) +
                           ", SelObj=1");
     });

@@ -142,5 +142,17 @@ TEST(Rounding, SixteenBitsOverflowBothWays) {
         EXPECT_EQ(failureOf([&] { (void)toInteger16(value); }), 6) << value;
 }
 
+TEST(Rounding, ThirtyTwoBitsRoundHalvesToEven) {
+    EXPECT_EQ(toInteger32(2.5), 2);
+    EXPECT_EQ(toInteger32(40000.5), 40000);
+    EXPECT_EQ(toInteger32(2147483647.4), 2147483647);
+    EXPECT_EQ(toInteger32(-2147483648.5), std::numeric_limits<std::int32_t>::min());
+}
+
+TEST(Rounding, ThirtyTwoBitsOverflowBothWays) {
+    for (const double value : {2147483647.5, -2147483649.0, 1e300, -infinite, std::nan("")})
+        EXPECT_EQ(failureOf([&] { (void)toInteger32(value); }), 6) << value;
+}
+
 } // namespace
 } // namespace toolkit

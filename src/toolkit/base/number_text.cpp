@@ -72,6 +72,17 @@ Scanned scanNumber(std::string_view text) {
     return {text.front() == '-' ? -magnitude : magnitude, length + (hasSign ? 1U : 0U)};
 }
 
+/// To the nearest integer, halves to even.
+template <typename Integer>
+Integer checked(double value) {
+    const double rounded = std::nearbyint(value);
+    // A value that is no number is within no bounds.
+    const bool isWithin = rounded >= std::numeric_limits<Integer>::min() &&
+                          rounded <= std::numeric_limits<Integer>::max();
+    if (!isWithin) throw RunTimeError(Failure::Overflow);
+    return static_cast<Integer>(rounded);
+}
+
 } // namespace
 
 std::string numberText(float value) { return shortest(value); }
@@ -119,13 +130,8 @@ int roundToInteger(double value) {
                                                std::numeric_limits<int>::max()));
 }
 
-std::int16_t toInteger16(double value) {
-    const double rounded = std::nearbyint(value);
-    // A value that is no number is within no bounds.
-    const bool isWithin = rounded >= std::numeric_limits<std::int16_t>::min() &&
-                          rounded <= std::numeric_limits<std::int16_t>::max();
-    if (!isWithin) throw RunTimeError(Failure::Overflow);
-    return static_cast<std::int16_t>(rounded);
-}
+std::int16_t toInteger16(double value) { return checked<std::int16_t>(value); }
+
+std::int32_t toInteger32(double value) { return checked<std::int32_t>(value); }
 
 } // namespace toolkit

@@ -31,7 +31,8 @@ namespace toolkit {
 /// To the nearest integer, halves to even, saturated to the bounds of int.
 [[nodiscard]] int roundToInteger(double value);
 
-/// To a 16-bit integer, halves to even. Failure 6 beyond its bounds.
+/// To a 16-bit or 32-bit integer, halves to even. Failure 6 beyond its bounds.
 [[nodiscard]] std::int16_t toInteger16(double value);
+[[nodiscard]] std::int32_t toInteger32(double value);
 
 } // namespace toolkit
