@@ -60,6 +60,16 @@ bool refusesNarrowPage(Zevlin& form) {
                           .preset = toolkit::Answer::No}) == toolkit::Answer::No;
 }
 
+/// Whether there is a printer, and a page that suits the player.
+bool mayBegin(Zevlin& form) {
+    bool isRefused = true;
+    trapped(form, trapHead, [&] {
+        takePendingPrinter(form);
+        isRefused = refusesNarrowPage(form);
+    });
+    return !isRefused;
+}
+
 void commitEdits(Zevlin& form) {
     if (form.CText.Visible) CText_LostFocus(form);
     if (form.LText.Visible) LText_LostFocus(form);
@@ -181,8 +191,7 @@ void restore(Zevlin& form, const View& view) {
 void MPrint_Click(Zevlin& form) {
     if (form.Printing) return;
     Traceit(form, "MPrint_Click");
-    takePendingPrinter(form);
-    if (refusesNarrowPage(form)) return;
+    if (!mayBegin(form)) return;
     const View view = viewOf(form);
     trapped(form, trapHead, [&] { runJob(form); });
     restore(form, view);

@@ -126,11 +126,8 @@ class PictureDelivery {
         if (!isOpen) return true;
         TestBlankPage(form_, "PrintPictureBox before Printer.PaintPicture", picture_);
         runStep(2400, [this] { paintThroughPrinter(); });
-        runStep(2500, [this] {
-            form_.PrinterDC.finish();
-            if (form_.Myprinter.PaperBin > 0)
-                form_.CurrentPrinter.PaperBin = form_.Myprinter.PaperBin;
-        });
+        runStep(2500, [this] { form_.PrinterDC.finish(); });
+        if (form_.Myprinter.PaperBin > 0) form_.CurrentPrinter.PaperBin = form_.Myprinter.PaperBin;
         return true;
     }
 

@@ -14,6 +14,28 @@ class PrintPicture : public PrintTest {
         "your printer, then try again.";
     static constexpr std::string_view refusal =
         "Error in PrintPictureBox at step 1200: 482, Printer error";
+
+    /// Without the rest of a job, which sets the tray as well.
+    void deliverByAlternateMethod(const std::filesystem::path& file) {
+        start();
+        form.PrintMethod = alternatePrintMethod;
+        form.Myprinter.PaperBin = 2;
+        form.CurrentPrinter.PaperBin = 4;
+        answerFile(file);
+        whileAsking = [this] { trayWhileAsked = form.CurrentPrinter.PaperBin; };
+        PrintPictureBox(form, form.P1, {.x = 0, .y = 0, .height = 12000});
+    }
+    int trayWhileAsked = 0;
+
+    /// What the trace says of the page behind the label; nothing without such a line.
+    [[nodiscard]] std::string verdictAt(const std::string& label) const {
+        const std::string content = traceFile();
+        const std::string head = " " + label + " TestBlankPage: page is ";
+        const auto at = content.find(head);
+        if (at == std::string::npos) return {};
+        const auto begin = at + head.size();
+        return content.substr(begin, content.find(';', begin) - begin);
+    }
 };
 
 TEST_F(PrintPicture, AnUnknownPageIsPrintedAtEightAndATenthInches) {
@@ -117,6 +139,22 @@ TEST_F(PrintPicture, TheAlternateMethodWithoutAChosenTrayLeavesThePrintersTrayAl
     EXPECT_EQ(form.CurrentPrinter.PaperBin, 4);
 }
 
+TEST_F(PrintPicture, TheAlternateMethodSetsAChosenTrayAgainBehindTheDocument) {
+    deliverByAlternateMethod(home / "page.pdf");
+    EXPECT_TRUE(std::filesystem::exists(home / "page.pdf"));
+    EXPECT_EQ(trayWhileAsked, 4);
+    EXPECT_EQ(form.CurrentPrinter.PaperBin, 2);
+}
+
+TEST_F(PrintPicture, TheChosenTrayIsSetAgainEvenIfTheDocumentCouldntBeEnded) {
+    announceError("Error in PrintPictureBox at step 2500: 61, Disk full");
+    deliverByAlternateMethod("/dev/full");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Disk full Printer Error #61");
+    EXPECT_EQ(trayWhileAsked, 4);
+    EXPECT_EQ(form.CurrentPrinter.PaperBin, 2);
+}
+
 TEST_F(PrintPicture, TheAlternateMethodTellsARefusalAsAPrinterError) {
     writeOptions("Zoom=5\r\nPrintAlt=1\r\n");
     startWithContent();
@@ -132,6 +170,8 @@ TEST_F(PrintPicture, TracesItsStepsWhenTracingIsOn) {
     startWithContent();
     form.TraceOn = true;
     print();
+    EXPECT_EQ(verdictAt("mPrint_Click after MakeGray for P1"), "");
+    EXPECT_EQ(verdictAt("PrintPictureBox before Printer.PaintPicture"), "");
     for (const char* label :
          {"mPrint_Click before flatten for P1", "mPrint_Click after flatten for P1",
           "mPrint_Click after flatten for P2", "mPrint_Click after SetImageSize for P1",
@@ -140,12 +180,20 @@ TEST_F(PrintPicture, TracesItsStepsWhenTracingIsOn) {
           "PrintPictureBox after second SendMessage", "PrintPictureBox after picture=image",
           "PrintPictureBox before PrintImage", "PrintPictureBox after PrintImage",
           "mPrint_Click after PrintPictureBox for P1"}) {
-        EXPECT_NE(traceFile().find(std::string(label) + " TestBlankPage: page is "),
-                  std::string::npos)
-            << label;
+        EXPECT_NE(verdictAt(label), "") << label;
     }
-    EXPECT_NE(traceFile().find("after PrintPictureBox for P1 TestBlankPage: page is blank"),
-              std::string::npos);
+    EXPECT_EQ(verdictAt("mPrint_Click after PrintPictureBox for P1"), "blank");
+}
+
+TEST_F(PrintPicture, TracesTheGreyCardAndTheAlternateMethodsPicture) {
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nMono=1\r\n");
+    startWithContent();
+    form.TraceOn = true;
+    print();
+    EXPECT_EQ(verdictAt("mPrint_Click after MakeGray for P1"), "not blank");
+    EXPECT_EQ(verdictAt("PrintPictureBox before Printer.PaintPicture"), "not blank");
+    EXPECT_EQ(verdictAt("PrintPictureBox before PrintImage"), "");
+    EXPECT_EQ(verdictAt("PrintPictureBox after PrintImage"), "");
 }
 
 } // namespace
