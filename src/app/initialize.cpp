@@ -92,10 +92,12 @@ void choosePrinter(Zevlin& form) {
         if (form.CurrentPrinter.DeviceName != name) {
             const auto names = toolkit::printerNames();
             if (std::ranges::find(names, name) == names.end()) return;
-            form.CurrentPrinter = toolkit::printerNamed(name);
+            toolkit::Printer printer = toolkit::printerNamed(name);
+            if (printer.hdc == 0) return;
+            form.CurrentPrinter = std::move(printer);
         }
         if (form.Myprinter.PaperBin > 0) form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
-        form.Myprinter.BitsPerPixel = form.CurrentPrinter.ColorMode == 2 ? 24 : 1;
+        readPrinterFacts(form);
     });
 }
 

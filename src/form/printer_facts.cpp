@@ -9,6 +9,8 @@
 namespace zev {
 namespace {
 
+constexpr int coloredDepth = 24;
+
 float inches(int physical, int offset, int pixelsPerInch) {
     if (pixelsPerInch == 0) return 0;
     return static_cast<float>(physical - 2 * offset) / static_cast<float>(pixelsPerInch);
@@ -30,7 +32,6 @@ void takeDefaultPrinter(Zevlin& form, int& step) {
     form.CurrentPrinter = toolkit::defaultPrinter();
     if (form.CurrentPrinter.hdc == 0) return;
     step = 2010;
-    form.Myprinter.hdc = form.CurrentPrinter.hdc;
     form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
     readPrinterFacts(form);
 }
@@ -38,7 +39,6 @@ void takeDefaultPrinter(Zevlin& form, int& step) {
 void takePendingPrinter(Zevlin& form) {
     if (!std::exchange(form.PrinterPending, false)) return;
     form.CurrentPrinter = form.PrinterAsked.answer();
-    form.Myprinter.hdc = form.CurrentPrinter.hdc;
     // The options may have named a printer meanwhile.
     if (form.Myprinter.Devicename.empty())
         form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
@@ -58,6 +58,7 @@ void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken) {
 void readPrinterFacts(Zevlin& form) {
     const toolkit::Printer& printer = form.CurrentPrinter;
     PrinterFacts& facts = form.Myprinter;
+    facts.hdc = printer.hdc;
     facts.PixPerInchx = printer.PixelsPerInchX;
     facts.PixPerInchY = printer.PixelsPerInchY;
     facts.OffsetX = printer.PhysicalOffsetX;
@@ -66,7 +67,7 @@ void readPrinterFacts(Zevlin& form) {
         inches(printer.PhysicalWidth, printer.PhysicalOffsetX, printer.PixelsPerInchX);
     facts.PageHeightInches =
         inches(printer.PhysicalHeight, printer.PhysicalOffsetY, printer.PixelsPerInchY);
-    facts.BitsPerPixel = printer.ColorMode == 2 ? 24 : printer.BitsPerPixel;
+    facts.BitsPerPixel = printer.ColorMode == toolkit::colored ? coloredDepth : monochromeDepth;
 }
 
 PageFacts pageFactsOf(const Zevlin& form) {

@@ -9,6 +9,9 @@ namespace zev {
 
 struct Zevlin;
 
+/// BitsPerPixel of a printer without colours.
+constexpr int monochromeDepth = 8;
+
 /// Before anything else is known: whether there is a printer at all.
 void takePrinterToken(Zevlin& form);
 
@@ -24,7 +27,7 @@ void takePendingPrinter(Zevlin& form);
 /// `taken` runs once they have arrived and were taken.
 void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken);
 
-/// Computes the facts of the printer object.
+/// Takes the printer object's handle and computes its facts.
 void readPrinterFacts(Zevlin& form);
 
 [[nodiscard]] PageFacts pageFactsOf(const Zevlin& form);

@@ -28,7 +28,6 @@ namespace zev {
 namespace {
 
 constexpr std::string_view trapHead = "Error in mPrint: ";
-constexpr int monochromeDepth = 8;
 
 /// What a job changes of the view, to be put back afterwards.
 struct View {

@@ -17,7 +17,6 @@ namespace zev {
 namespace {
 
 void takeFacts(Zevlin& form) {
-    form.Myprinter.hdc = form.CurrentPrinter.hdc;
     readPrinterFacts(form);
     form.Myprinter.Devicename = "User selected";
     if (!form.Initializing) IniWrite(form);

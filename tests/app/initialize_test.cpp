@@ -100,11 +100,29 @@ TEST_F(Initialization, ThePrinterOfTheAlternateMethodComesBackByItsName) {
     EXPECT_EQ(form.Myprinter.BitsPerPixel, 24);
 }
 
-TEST_F(Initialization, APrinterWithoutColourTakesOneBitAPixel) {
+TEST_F(Initialization, ThePrinterOfTheAlternateMethodBringsItsOwnFacts) {
+    toolkit::Printer second = printer("Second", 2);
+    second.hdc = 9;
+    second.PixelsPerInchX = 1200;
+    second.PixelsPerInchY = 300;
+    toolkit::layOutPage(second, 9, toolkit::Orientation::Landscape);
+    toolkit::overridePrinters({printer("First", 2), second});
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Second\r\n");
+    start();
+    EXPECT_EQ(form.Myprinter.hdc, 9);
+    EXPECT_EQ(form.Myprinter.PixPerInchx, 1200);
+    EXPECT_EQ(form.Myprinter.PixPerInchY, 300);
+    EXPECT_NEAR(form.Myprinter.PageWidthInches, 11.69F, 0.01F);
+    EXPECT_NEAR(form.Myprinter.PageHeightInches, 8.27F, 0.01F);
+    EXPECT_EQ(form.Myprinter.Devicename, "Second");
+}
+
+TEST_F(Initialization, APrinterWithoutColourHasEightBitsAPixel) {
     toolkit::overridePrinters({printer("First", 2), printer("Grey", 1)});
     writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Grey\r\nPaperBin=4\r\n");
     start();
-    EXPECT_EQ(form.Myprinter.BitsPerPixel, 1);
+    EXPECT_EQ(form.CurrentPrinter.PaperBin, 4);
+    EXPECT_EQ(form.Myprinter.BitsPerPixel, 8);
 }
 
 TEST_F(Initialization, ThePrimaryMethodKeepsTheDefaultPrinter) {
@@ -120,6 +138,16 @@ TEST_F(Initialization, APrinterThatIsGoneLeavesTheDefaultPrinter) {
     start();
     EXPECT_EQ(form.CurrentPrinter.DeviceName, "First");
     EXPECT_EQ(form.CurrentPrinter.PaperBin, 0);
+}
+
+TEST_F(Initialization, APrinterThatDoesntAnswerLeavesTheDefaultPrinter) {
+    toolkit::Printer mute = printer("Mute", 2);
+    mute.hdc = 0;
+    toolkit::overridePrinters({printer("First", 2), mute});
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Mute\r\n");
+    start();
+    EXPECT_EQ(form.CurrentPrinter.DeviceName, "First");
+    EXPECT_NE(form.Myprinter.hdc, 0);
 }
 
 TEST_F(Initialization, TheStampAndTheCreditStandOnTheCard) {

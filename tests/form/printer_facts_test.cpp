@@ -20,7 +20,6 @@ class PrinterFactsOfTheForm : public FormTest {
         printer.PhysicalWidth = 2550;
         printer.PhysicalHeight = 1650;
         printer.ColorMode = 1;
-        printer.BitsPerPixel = 1;
         return printer;
     }
     int step = 2000;
@@ -46,11 +45,11 @@ TEST_F(PrinterFactsOfTheForm, ThePageIsItsPrintablePart) {
     EXPECT_EQ(step, 2010);
 }
 
-TEST_F(PrinterFactsOfTheForm, APrinterInColourHasTwentyFourBits) {
+TEST_F(PrinterFactsOfTheForm, APrinterInColourHasTwentyFourBitsAndOneWithoutHasEight) {
     toolkit::Printer printer = office();
     toolkit::overridePrinters({printer});
     takeDefaultPrinter(form, step);
-    EXPECT_EQ(form.Myprinter.BitsPerPixel, 1);
+    EXPECT_EQ(form.Myprinter.BitsPerPixel, 8);
     printer.ColorMode = 2;
     toolkit::overridePrinters({printer});
     takeDefaultPrinter(form, step);

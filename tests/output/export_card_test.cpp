@@ -109,7 +109,6 @@ TEST_F(ExportCard, PngKeepsEachColourAndGifShiftsNoneVisibly) {
 TEST_F(ExportCard, ForcedBlackMakesTheImageBlackAndAPrintersDepthDoesNot) {
     toolkit::Printer printer = pdfWithPage(8.1F);
     printer.ColorMode = 1;
-    printer.BitsPerPixel = 8;
     toolkit::overridePrinters({printer});
     startWithContent();
     clickMark(3);

@@ -197,6 +197,18 @@ TEST_F(PrintCard, TheAlternateMethodRunsAllStepsFromStepFive) {
     EXPECT_EQ(form.AText[1].Tag, "a ^h && more");
 }
 
+TEST_F(PrintCard, ARememberedPrinterOfAnotherResolutionPrintsAtFullSize) {
+    toolkit::Printer fine = pdfWithPage(8.5F);
+    fine.PixelsPerInchX = fine.PixelsPerInchY = 1200;
+    toolkit::layOutPage(fine, 1, toolkit::Orientation::Portrait);
+    toolkit::overridePrinters({laser(7.5F), fine});
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Print to PDF\r\n");
+    startWithContent();
+    const PrintedPage page = print();
+    EXPECT_NEAR(page.width, 8.5F * points, 0.01F);
+    EXPECT_NEAR(page.height, 8.1F * points * 1244 / 1198, 0.1F);
+}
+
 TEST_F(PrintCard, ItsStepsComeInTheirOrder) {
     startWithContent();
     form.Trace.clear();
@@ -218,7 +230,6 @@ TEST_F(PrintCard, ItsStepsComeInTheirOrder) {
 TEST_F(PrintCard, AnEightBitPrinterGetsGreyAndBlackUnlessColourIsForced) {
     toolkit::Printer printer = pdfWithPage(8.1F);
     printer.ColorMode = 1;
-    printer.BitsPerPixel = 8;
     toolkit::overridePrinters({printer});
     startWithContent();
     toolkit::Color mark = 1;
@@ -235,6 +246,20 @@ TEST_F(PrintCard, AnEightBitPrinterGetsGreyAndBlackUnlessColourIsForced) {
     EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
     EXPECT_EQ(mark, form.ColorBlue);
     EXPECT_FALSE(traced("MakeGray"));
+}
+
+TEST_F(PrintCard, AMonochromePrinterGetsGreyAndBlackByTheAlternateMethodToo) {
+    toolkit::Printer grey = pdfWithPage(8.1F);
+    grey.ColorMode = 1;
+    toolkit::overridePrinters({laser(8.1F), grey});
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Print to PDF\r\n");
+    startWithContent();
+    toolkit::Color mark = 1;
+    answerFile({});
+    whileAsking = [&] { mark = form.AMark[3].ForeColor; };
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    EXPECT_EQ(mark, toolkit::black);
+    EXPECT_TRUE(traced("MakeGray"));
 }
 
 TEST_F(PrintCard, AColourPrinterGetsBlackOnlyWhenForced) {

@@ -48,16 +48,17 @@ TEST_F(PrinterSetup, ACancelledDialogLeavesTheFormerPageInForce) {
     EXPECT_FALSE(traced("IniWrite"));
 }
 
-TEST_F(PrinterSetup, AColourPrinterThatReportsOneBitCountsAsTwentyFour) {
+TEST_F(PrinterSetup, AColourPrinterCountsAsTwentyFourBitsAndAMonochromeOneAsEight) {
     start();
-    toolkit::answerPrinterSetupWith([&](const toolkit::Printer&) {
-        toolkit::Printer printer = laser(8);
-        printer.BitsPerPixel = 1;
-        printer.ColorMode = 2;
-        return printer;
-    });
-    MPrintSetup_Click(form);
-    EXPECT_EQ(form.Myprinter.BitsPerPixel, 24);
+    for (const auto& [colorMode, bits] : {std::pair(1, 8), std::pair(2, 24)}) {
+        toolkit::answerPrinterSetupWith([&](const toolkit::Printer&) {
+            toolkit::Printer printer = laser(8);
+            printer.ColorMode = colorMode;
+            return printer;
+        });
+        MPrintSetup_Click(form);
+        EXPECT_EQ(form.Myprinter.BitsPerPixel, bits);
+    }
 }
 
 TEST_F(PrinterSetup, TheSystemsDialogIsTitledAndItsCancelChangesNothing) {

@@ -40,7 +40,6 @@ Printer plain() {
     printer.Papers.erase(printer.Papers.begin());
     layOutPage(printer, 9, Orientation::Portrait);
     printer.ColorMode = 1;
-    printer.BitsPerPixel = 1;
     printer.CanTurn = false;
     return printer;
 }
@@ -101,7 +100,6 @@ TEST_F(PrintForm, WhatIsChosenIsHandedBackAndShownTheNextTime) {
     EXPECT_EQ(chosen.Quality, 5);
     EXPECT_EQ(chosen.Copies, 3);
     EXPECT_EQ(chosen.ColorMode, 1);
-    EXPECT_EQ(chosen.BitsPerPixel, 8);
     const Printer again = accepted(chosen, [](DialogDriver& dialog) {
         EXPECT_EQ(dialog.chosen(Papers), "A4");
         EXPECT_EQ(dialog.chosen(Trays), "Lower");
@@ -117,7 +115,6 @@ TEST_F(PrintForm, WhatIsChosenIsHandedBackAndShownTheNextTime) {
     EXPECT_EQ(again.PaperType, 0);
     EXPECT_EQ(again.Quality, 0);
     EXPECT_EQ(again.ColorMode, 2);
-    EXPECT_EQ(again.BitsPerPixel, 24);
 }
 
 TEST_F(PrintForm, AnotherPrinterOffersItsOwnAndKeepsTheCopies) {

@@ -30,9 +30,9 @@ struct PrinterOption {
     std::string keyword;
 };
 
-/// ColorMode and BitsPerPixel of a printer without colours.
+/// Values of Printer::ColorMode.
 constexpr int monochrome = 1;
-constexpr int monochromeDepth = 8;
+constexpr int colored = 2;
 
 enum class Orientation : int { Portrait = 1, Landscape = 2 };
 
@@ -40,7 +40,7 @@ enum class Orientation : int { Portrait = 1, Landscape = 2 };
 struct Printer {
     std::string DeviceName;
     std::int32_t hdc = 0; ///< a token, not 0 while the printer is there
-    int ColorMode = 2;    ///< 1 monochrome, 2 colour
+    int ColorMode = colored;
     int Copies = 1;
     float Height = 0;
     float Width = 0;
@@ -59,7 +59,6 @@ struct Printer {
     int PhysicalOffsetY = 0;
     int PhysicalWidth = 0; ///< printer pixels
     int PhysicalHeight = 0;
-    int BitsPerPixel = 24;
     bool CanTurn = true; ///< whether the orientation can be chosen
     std::vector<Paper> Papers;
     std::vector<PrinterOption> Trays;

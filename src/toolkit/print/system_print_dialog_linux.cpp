@@ -129,10 +129,7 @@ Printer PrintForm::chosen() const {
     result.PaperType = chosenCode(types, printer.PaperTypes);
     result.Quality = chosenCode(qualities, printer.Qualities);
     result.Copies = copies.Value;
-    if (inks.ListIndex == 1) {
-        result.ColorMode = monochrome;
-        result.BitsPerPixel = monochromeDepth;
-    }
+    if (inks.ListIndex == 1) result.ColorMode = monochrome;
     return result;
 }
 

@@ -73,10 +73,7 @@ Printer chosenPrinter(const std::shared_ptr<QPrinter>& device) {
                orientation);
     if (isFile) return printer;
     printer.Copies = target.copyCount();
-    if (target.colorMode() == QPrinter::GrayScale) {
-        printer.ColorMode = monochrome;
-        printer.BitsPerPixel = monochromeDepth;
-    }
+    if (target.colorMode() == QPrinter::GrayScale) printer.ColorMode = monochrome;
     printer.SystemDevice = device;
     return printer;
 }

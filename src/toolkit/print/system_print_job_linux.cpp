@@ -68,7 +68,7 @@ void addChoices(Options& options, const Printer& printer) {
     if (const PrinterOption* quality = itemWithCode(printer.Qualities, printer.Quality))
         options.add(CUPS_PRINT_QUALITY, quality->keyword);
     // A grey page on its own is mixed from all inks.
-    if (printer.ColorMode == 1)
+    if (printer.ColorMode == monochrome)
         options.add(CUPS_PRINT_COLOR_MODE, CUPS_PRINT_COLOR_MODE_MONOCHROME);
     if (printer.Copies > 1) options.add(CUPS_COPIES, std::to_string(printer.Copies));
 }

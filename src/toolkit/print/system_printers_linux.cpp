@@ -76,8 +76,7 @@ class Destination {
         const char* chosen = cups_.getOption(CUPS_PRINT_COLOR_MODE, destination_->num_options,
                                              destination_->options);
         const bool isGrey = chosen != nullptr && std::string_view(chosen) == "monochrome";
-        printer.ColorMode = isColor && !isGrey ? 2 : 1;
-        printer.BitsPerPixel = printer.ColorMode == monochrome ? monochromeDepth : 24;
+        printer.ColorMode = isColor && !isGrey ? colored : monochrome;
     }
 
     void readResolution(Printer& printer) const {

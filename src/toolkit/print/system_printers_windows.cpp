@@ -17,7 +17,6 @@ namespace toolkit {
 namespace {
 
 constexpr int systemToken = 2;
-constexpr int colored = 2;
 constexpr double pointsPerInch = 72;
 
 /// The margins are the ones that the printer can't do without.
@@ -93,7 +92,6 @@ Printer systemPrinter(std::string_view name) {
     printer.hdc = systemToken;
     printer.PixelsPerInchX = printer.PixelsPerInchY = device.resolution();
     printer.ColorMode = info.defaultColorMode() == QPrinter::Color ? colored : monochrome;
-    printer.BitsPerPixel = printer.ColorMode == colored ? 24 : monochromeDepth;
     addPapers(printer, device, info);
     addTrays(printer);
     return printer;
