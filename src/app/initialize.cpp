@@ -96,7 +96,10 @@ void choosePrinter(Zevlin& form) {
             if (printer.hdc == 0) return;
             form.CurrentPrinter = std::move(printer);
         }
-        if (form.Myprinter.PaperBin > 0) form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
+        if (form.Myprinter.PaperBin > 0) {
+            form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
+            toolkit::requestColor(form.CurrentPrinter);
+        }
         readPrinterFacts(form);
     });
 }

@@ -38,6 +38,18 @@ void tellFailure(Zevlin& form, int step) {
                   toolkit::Icon::Exclamation);
 }
 
+/// What is forced goes before the printer's own setting.
+toolkit::Printer printerOfJob(const Zevlin& form) {
+    toolkit::Printer printer = form.CurrentPrinter;
+    if (form.MColor.Checked) {
+        printer.ColorMode = toolkit::colored;
+        toolkit::requestColor(printer);
+    } else if (form.MMono.Checked) {
+        printer.ColorMode = toolkit::monochrome;
+    }
+    return printer;
+}
+
 /// One delivery of a picture. Its steps have numbers for the trace of a failure.
 class PictureDelivery {
   public:
@@ -93,7 +105,7 @@ class PictureDelivery {
     }
 
     /// False if the player was asked for a file and cancelled.
-    bool openDocument() { return form_.PrinterDC.start(form_.CurrentPrinter, documentInfo()); }
+    bool openDocument() { return form_.PrinterDC.start(printerOfJob(form_), documentInfo()); }
 
     bool printPrimary() {
         bool isOpen = false;

@@ -125,6 +125,28 @@ TEST_F(Initialization, APrinterWithoutColourHasEightBitsAPixel) {
     EXPECT_EQ(form.Myprinter.BitsPerPixel, 8);
 }
 
+TEST_F(Initialization, WithAChosenTrayColourIsAskedOfAPrinterThatHasIt) {
+    toolkit::Printer second = printer("Second", 1);
+    second.CanColor = true;
+    toolkit::overridePrinters({printer("First", 2), second});
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Second\r\nPaperBin=4\r\n");
+    start();
+    EXPECT_EQ(form.CurrentPrinter.ColorMode, 2);
+    EXPECT_TRUE(form.CurrentPrinter.AsksForColor);
+    EXPECT_EQ(form.Myprinter.BitsPerPixel, 24);
+}
+
+TEST_F(Initialization, WithoutAChosenTrayThePrinterKeepsItsColourMode) {
+    toolkit::Printer second = printer("Second", 1);
+    second.CanColor = true;
+    toolkit::overridePrinters({printer("First", 2), second});
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Second\r\n");
+    start();
+    EXPECT_EQ(form.CurrentPrinter.ColorMode, 1);
+    EXPECT_FALSE(form.CurrentPrinter.AsksForColor);
+    EXPECT_EQ(form.Myprinter.BitsPerPixel, 8);
+}
+
 TEST_F(Initialization, ThePrimaryMethodKeepsTheDefaultPrinter) {
     toolkit::overridePrinters({printer("First", 2), printer("Second", 2)});
     writeOptions("Zoom=5\r\nPrintAlt=0\r\nPrinter=Second\r\n");

@@ -48,11 +48,19 @@ std::optional<CupsLibrary> load() {
     return complete ? std::optional(cups) : std::nullopt;
 }
 
+const CupsLibrary*& overridden() {
+    static const CupsLibrary* library = nullptr;
+    return library;
+}
+
 } // namespace
 
 const CupsLibrary* cupsLibrary() {
+    if (overridden() != nullptr) return overridden();
     static const std::optional<CupsLibrary> library = load();
     return library ? &*library : nullptr;
 }
+
+void overrideCupsLibrary(const CupsLibrary* library) { overridden() = library; }
 
 } // namespace toolkit

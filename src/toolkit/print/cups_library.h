@@ -42,4 +42,7 @@ struct CupsLibrary {
 /// nullptr where the library isn't installed.
 [[nodiscard]] const CupsLibrary* cupsLibrary();
 
+/// For tests: stands for the library; nullptr gives back the real one.
+void overrideCupsLibrary(const CupsLibrary* library);
+
 } // namespace toolkit

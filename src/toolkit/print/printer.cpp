@@ -46,6 +46,12 @@ void layOutPage(Printer& printer, int paperSize, Orientation orientation) {
     printer.TwipsPerPixelY = twips(1, y);
 }
 
+void requestColor(Printer& printer) {
+    if (!printer.CanColor) return;
+    printer.ColorMode = colored;
+    printer.AsksForColor = true;
+}
+
 RunTimeError printerFailure(std::string_view reason) {
     std::string text(describe(Failure::PrinterError));
     if (!reason.empty()) text.append(" (").append(reason).append(")");

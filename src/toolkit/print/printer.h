@@ -41,6 +41,8 @@ struct Printer {
     std::string DeviceName;
     std::int32_t hdc = 0; ///< a token, not 0 while the printer is there
     int ColorMode = colored;
+    bool CanColor = false;     ///< whether colours can be asked for
+    bool AsksForColor = false; ///< each job asks for colours, whatever the printer's own setting
     int Copies = 1;
     float Height = 0;
     float Width = 0;
@@ -71,6 +73,9 @@ struct Printer {
 /// Computes all that follows from resolution, paper and orientation. A paper that the printer
 /// doesn't have leaves the facts as they are.
 void layOutPage(Printer& printer, int paperSize, Orientation orientation);
+
+/// Colours, where the printer can be asked for them.
+void requestColor(Printer& printer);
 
 constexpr std::string_view printToPdfName = "Print to PDF";
 

@@ -70,6 +70,8 @@ void addChoices(Options& options, const Printer& printer) {
     // A grey page on its own is mixed from all inks.
     if (printer.ColorMode == monochrome)
         options.add(CUPS_PRINT_COLOR_MODE, CUPS_PRINT_COLOR_MODE_MONOCHROME);
+    else if (printer.AsksForColor)
+        options.add(CUPS_PRINT_COLOR_MODE, CUPS_PRINT_COLOR_MODE_COLOR);
     if (printer.Copies > 1) options.add(CUPS_COPIES, std::to_string(printer.Copies));
 }
 

@@ -49,7 +49,10 @@ void setUp(QPrinter& device, const Printer& printer) {
     device.setFullPage(true);
     device.setPageMargins(QMarginsF());
     device.setCopyCount(printer.Copies);
-    if (printer.ColorMode == monochrome) device.setColorMode(QPrinter::GrayScale);
+    if (printer.ColorMode == monochrome)
+        device.setColorMode(QPrinter::GrayScale);
+    else if (printer.AsksForColor || printer.SystemDevice) // which may have had a grey job
+        device.setColorMode(QPrinter::Color);
 }
 
 } // namespace

@@ -72,11 +72,11 @@ class Destination {
 
     void readColor(Printer& printer) const {
         const auto modes = supported(CUPS_PRINT_COLOR_MODE);
-        const bool isColor = std::ranges::find(modes, "color") != modes.end();
+        printer.CanColor = std::ranges::find(modes, "color") != modes.end();
         const char* chosen = cups_.getOption(CUPS_PRINT_COLOR_MODE, destination_->num_options,
                                              destination_->options);
         const bool isGrey = chosen != nullptr && std::string_view(chosen) == "monochrome";
-        printer.ColorMode = isColor && !isGrey ? colored : monochrome;
+        printer.ColorMode = printer.CanColor && !isGrey ? colored : monochrome;
     }
 
     void readResolution(Printer& printer) const {

@@ -92,6 +92,7 @@ Printer systemPrinter(std::string_view name) {
     printer.hdc = systemToken;
     printer.PixelsPerInchX = printer.PixelsPerInchY = device.resolution();
     printer.ColorMode = info.defaultColorMode() == QPrinter::Color ? colored : monochrome;
+    printer.CanColor = info.supportedColorModes().contains(QPrinter::Color);
     addPapers(printer, device, info);
     addTrays(printer);
     return printer;
