@@ -38,6 +38,14 @@ void tellFailure(Zevlin& form, int step) {
                   toolkit::Icon::Exclamation);
 }
 
+/// Behind the told text, as much as is known: " (Path not found)".
+std::string reasonOf(const toolkit::RunTimeError& failure) {
+    const std::string_view text = failure.description();
+    const std::string_view bare = toolkit::describe(toolkit::Failure::PrinterError);
+    if (text.starts_with(bare)) return std::string(text.substr(bare.size()));
+    return " (" + std::string(text) + ")";
+}
+
 /// What is forced goes before the printer's own setting.
 toolkit::Printer printerOfJob(const Zevlin& form) {
     toolkit::Printer printer = form.CurrentPrinter;
@@ -112,9 +120,11 @@ class PictureDelivery {
         try {
             isOpen = openDocument();
         } catch (const std::exception&) {
-            traceAt(form_, 1200, toolkit::currentFailure());
+            const auto failure = toolkit::currentFailure();
+            traceAt(form_, 1200, failure);
             toolkit::tell("Printer error 'PPB1', could not print the card. Please use 'Printer "
-                          "Setup' to re-select your printer, then try again.",
+                          "Setup' to re-select your printer, then try again." +
+                              reasonOf(failure),
                           toolkit::Icon::Exclamation);
             return false;
         }

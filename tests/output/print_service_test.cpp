@@ -133,6 +133,20 @@ TEST_F(PrintService, AChosenTrayOfTheAlternateMethodAsksForColour) {
     EXPECT_EQ(colorModeAsked(), "color");
 }
 
+TEST_F(PrintService, TheReasonOfARefusedJobReachesTheTraceAndThePlayer) {
+    service().refusesJobs = true;
+    startWithContent();
+    announceError("Error in PrintPictureBox at step 1200: ");
+    printCard();
+    EXPECT_TRUE(traced("Error in PrintPictureBox at step 1200: 482, Printer error (The printer is "
+                       "not accepting jobs.)"));
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text,
+              "Printer error 'PPB1', could not print the card. Please use 'Printer Setup' to "
+              "re-select your printer, then try again. (The printer is not accepting jobs.)");
+    expectUnharmed();
+}
+
 TEST_F(PrintService, TheReasonOfALostPageReachesTheTraceAndThePlayerAndTheJobIsTakenBack) {
     service().losesPages = true;
     startWithContent();
