@@ -24,7 +24,7 @@ TEST_F(PrintImageOnThePage, WithoutADocumentItDrawsNothing) {
 TEST_F(PrintImageOnThePage, AFigureBeyondThirtyTwoBitsIsAFailureOfItsOwn) {
     start();
     announceError("Error in PrintImage: ");
-    PrintImage(form, std::make_shared<const toolkit::Bitmap>(2, 2), {0, 0, 3e9F, 11.5F});
+    PrintImage(form, std::make_shared<const toolkit::CardRecording>(), {0, 0, 3e9F, 11.5F});
     EXPECT_TRUE(traced("Error in PrintImage: 0, 0, 3000000000, 11.5 -- 6, Overflow"));
     EXPECT_FALSE(traced("  PrintImage results: Set=1, Stretch=0, SelObj=1"));
 }
