@@ -84,9 +84,10 @@ void takeOptions(Zevlin& form, InitializeRun& run) {
 
 /// Chooses the printer of the alternate method by its name.
 void choosePrinter(Zevlin& form) {
+    // A printer that is still to be asked for will be this one.
+    if (form.PrinterPending) return;
     if (!form.mPrintAlt.Checked || form.Myprinter.Devicename.empty()) return;
     ignoringFailures([&] {
-        takePendingPrinter(form);
         const std::string& name = form.Myprinter.Devicename;
         // A printer that is chosen already keeps its paper and orientation.
         if (form.CurrentPrinter.DeviceName != name) {
@@ -96,10 +97,7 @@ void choosePrinter(Zevlin& form) {
             if (printer.hdc == 0) return;
             form.CurrentPrinter = std::move(printer);
         }
-        if (form.Myprinter.PaperBin > 0) {
-            form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
-            toolkit::requestColor(form.CurrentPrinter);
-        }
+        takeRememberedTray(form);
         readPrinterFacts(form);
     });
 }

@@ -38,6 +38,11 @@ void describeMachine(Zevlin& form, OptionsDocument& document) {
     const auto screen = toolkit::screen();
     document.printer = form.CurrentPrinter;
     document.facts = form.Myprinter;
+    if (form.PrinterPending) {
+        // What the player chose in an earlier run must not be lost.
+        document.printer.DeviceName = form.Myprinter.Devicename;
+        document.printer.PaperBin = form.Myprinter.PaperBin;
+    }
     document.systemVersion = WinVer(form);
     document.screenWidth = screen.Width;
     document.screenHeight = screen.Height;
@@ -121,9 +126,10 @@ void IniWrite(Zevlin& form) {
 }
 
 void completeOptions(Zevlin& form) {
-    const bool isAnswered = form.PrinterPending && form.PrinterAsked.isAnswered(longestFarewell);
-    if (isAnswered) takePendingPrinter(form);
-    if (isAnswered || form.OptionsUnwritten) writeOptionsFile(form);
+    const bool isAwaited = form.PrinterPending && form.PrinterAsked.isAsked();
+    if (isAwaited) takePendingPrinter(form, longestFarewell);
+    const bool isTaken = isAwaited && !form.PrinterPending;
+    if (isTaken || form.OptionsUnwritten) writeOptionsFile(form);
 }
 
 } // namespace zev

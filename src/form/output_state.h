@@ -23,7 +23,7 @@ struct OutputState {
     toolkit::Printer CurrentPrinter; ///< the printer object
     toolkit::PrintJob PrinterDC;     ///< the document on the printer
     std::string SavedDefaultPrinter; ///< the system's, before the set-up changed it
-    bool PrinterPending = false;     ///< the default printer's facts are still to be taken
+    bool PrinterPending = false;     ///< the printer's facts are still to be taken
     toolkit::PrinterQuestion PrinterAsked;
     bool Printing = false;
     bool PrintAlertShown = false; ///< the box about a narrow page was shown in this run

@@ -1,15 +1,59 @@
 #include "form/printer_facts.h"
 
+#include <string>
 #include <utility>
 
 #include "form/zevlin.h"
 #include "toolkit/print/printer.h"
 #include "toolkit/print/printers.h"
+#include "toolkit/window/program.h"
 
 namespace zev {
 namespace {
 
 constexpr int coloredDepth = 24;
+
+/// The player sees that the program waits.
+class WaitPointer {
+  public:
+    explicit WaitPointer(Zevlin& form)
+        : form_(form), before_(std::exchange(form.MousePointer, toolkit::MousePointer::Hourglass)) {
+    }
+    ~WaitPointer() { form_.MousePointer = before_; }
+    WaitPointer(const WaitPointer&) = delete;
+    WaitPointer& operator=(const WaitPointer&) = delete;
+
+  private:
+    Zevlin& form_;
+    toolkit::MousePointer before_;
+};
+
+/// The window goes on painting.
+void waitForAnswer(Zevlin& form, std::chrono::milliseconds patience) {
+    constexpr std::chrono::milliseconds slice{20};
+    const WaitPointer pointer(form);
+    std::chrono::milliseconds waited{0};
+    while (form.PrinterPending && !form.PrinterAsked.isAnswered() && waited < patience) {
+        toolkit::wait(static_cast<int>(slice.count()));
+        waited += slice;
+    }
+}
+
+/// The printer that the player has chosen for the alternate method in an earlier run.
+std::string rememberedPrinter(const Zevlin& form) {
+    return form.mPrintAlt.Checked ? form.Myprinter.Devicename : std::string();
+}
+
+/// Takes the answer, which must be there.
+void takeAnswer(Zevlin& form) {
+    form.PrinterPending = false;
+    form.CurrentPrinter = form.PrinterAsked.answer();
+    if (form.CurrentPrinter.DeviceName == rememberedPrinter(form)) takeRememberedTray(form);
+    // The options may have named a printer meanwhile.
+    if (form.Myprinter.Devicename.empty())
+        form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
+    readPrinterFacts(form);
+}
 
 float inches(int physical, int offset, int pixelsPerInch) {
     if (pixelsPerInch == 0) return 0;
@@ -37,22 +81,30 @@ void takeDefaultPrinter(Zevlin& form, int& step) {
 }
 
 void takePendingPrinter(Zevlin& form) {
-    if (!std::exchange(form.PrinterPending, false)) return;
-    form.CurrentPrinter = form.PrinterAsked.answer();
-    // The options may have named a printer meanwhile.
-    if (form.Myprinter.Devicename.empty())
-        form.Myprinter.Devicename = form.CurrentPrinter.DeviceName;
-    readPrinterFacts(form);
+    takePendingPrinter(form, std::chrono::milliseconds::max());
+}
+
+void takePendingPrinter(Zevlin& form, std::chrono::milliseconds patience) {
+    if (!form.PrinterPending) return;
+    if (!form.PrinterAsked.isAsked()) askForPendingPrinter(form, [] {});
+    if (!form.PrinterAsked.isAnswered()) waitForAnswer(form, patience);
+    if (form.PrinterPending && form.PrinterAsked.isAnswered()) takeAnswer(form);
 }
 
 void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken) {
     if (!form.PrinterPending) return;
-    if (form.PrinterAsked.isAnswered()) return takePendingPrinter(form);
-    form.PrinterAsked.ask([&form, taken] {
+    if (form.PrinterAsked.isAnswered()) return takeAnswer(form);
+    form.PrinterAsked.ask(rememberedPrinter(form), [&form, taken] {
         if (!form.PrinterPending) return;
-        takePendingPrinter(form);
+        takeAnswer(form);
         taken();
     });
+}
+
+void takeRememberedTray(Zevlin& form) {
+    if (form.Myprinter.PaperBin <= 0) return;
+    form.CurrentPrinter.PaperBin = form.Myprinter.PaperBin;
+    toolkit::requestColor(form.CurrentPrinter);
 }
 
 void readPrinterFacts(Zevlin& form) {

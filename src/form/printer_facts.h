@@ -1,6 +1,7 @@
 // What the program knows of the printer.
 #pragma once
 
+#include <chrono>
 #include <functional>
 
 #include "output/printed_size.h"
@@ -20,12 +21,17 @@ void takePrinterToken(Zevlin& form);
 /// off until something needs them.
 void takeDefaultPrinter(Zevlin& form, int& step);
 
-/// Takes the facts that were put off, if any, and waits for them if need be.
+/// Takes the facts that were put off, if any, and waits for them if need be, with the hourglass: as
+/// long as it takes, or no longer than told. A print service may be silent for minutes.
 void takePendingPrinter(Zevlin& form);
+void takePendingPrinter(Zevlin& form, std::chrono::milliseconds patience);
 
 /// Takes the facts that were put off, if they have arrived. Else it asks for them and returns;
 /// `taken` runs once they have arrived and were taken.
 void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken);
+
+/// Sets the tray that was chosen with the remembered printer, if any.
+void takeRememberedTray(Zevlin& form);
 
 /// Takes the printer object's handle and computes its facts.
 void readPrinterFacts(Zevlin& form);

@@ -1,5 +1,6 @@
 #include "output/print_card.h"
 
+#include <chrono>
 #include <utility>
 
 #include "card/journal.h"
@@ -46,7 +47,18 @@ View viewOf(const Zevlin& form) {
             .menusEnabled = form.MenusEnabled};
 }
 
+/// An export needs no printer, so it doesn't wait long for a print service that is silent.
+void awaitPrinter(Zevlin& form) {
+    constexpr std::chrono::seconds longestWait{2};
+    if (isExporting(form))
+        takePendingPrinter(form, longestWait);
+    else
+        takePendingPrinter(form);
+}
+
 bool refusesNarrowPage(Zevlin& form) {
+    // Nothing is known of the page then.
+    if (form.PrinterPending) return false;
     if (form.Myprinter.PageWidthInches >= narrowPageInches || form.PrintAlertShown) return false;
     form.PrintAlertShown = true;
     return toolkit::show({.text = "Printer's page width is less than 8 inches.\r\n"
@@ -63,7 +75,7 @@ bool refusesNarrowPage(Zevlin& form) {
 bool mayBegin(Zevlin& form) {
     bool isRefused = true;
     trapped(form, trapHead, [&] {
-        takePendingPrinter(form);
+        awaitPrinter(form);
         isRefused = refusesNarrowPage(form);
     });
     return !isRefused;

@@ -42,6 +42,7 @@ void hideWaitText(Zevlin& form) {
 /// it.
 std::optional<toolkit::Printer> askForPrinter(Zevlin& form) {
     const std::string before = toolkit::defaultPrinterName();
+    form.MousePointer = toolkit::MousePointer::Default;
     auto chosen = toolkit::setUpOnScreen(form.CurrentPrinter);
     const bool isChanged = toolkit::defaultPrinterName() != before;
     if (isChanged && form.SavedDefaultPrinter.empty()) form.SavedDefaultPrinter = before;
@@ -52,7 +53,6 @@ void setUpPrimary(Zevlin& form) {
     form.MousePointer = toolkit::MousePointer::Hourglass;
     showWaitText(form);
     takePendingPrinter(form);
-    form.MousePointer = toolkit::MousePointer::Default;
     const auto chosen = askForPrinter(form);
     hideWaitText(form);
     if (!chosen) return;

@@ -8,7 +8,7 @@ namespace {
 
 class PrintCardFailures : public PrintTest {
   protected:
-    ~PrintCardFailures() override { toolkit::overrideDefaultPrinterQuestion({}); }
+    ~PrintCardFailures() override { toolkit::overridePrinterQuestion({}); }
 };
 
 TEST_F(PrintCardFailures, AFailureInTheMiddleIsTracedAndTheCardComesBack) {
@@ -24,8 +24,9 @@ TEST_F(PrintCardFailures, AFailureInTheMiddleIsTracedAndTheCardComesBack) {
 
 TEST_F(PrintCardFailures, AFailureBeforeItsFirstStepIsTracedAsItsOwnAndChangesNothing) {
     toolkit::overridePrinters({});
-    toolkit::overrideDefaultPrinterQuestion(
-        []() -> toolkit::Printer { throw toolkit::RunTimeError(toolkit::Failure::OutOfMemory); });
+    toolkit::overridePrinterQuestion([](const std::string& /*name*/) -> toolkit::Printer {
+        throw toolkit::RunTimeError(toolkit::Failure::OutOfMemory);
+    });
     startWithContent();
     announceError("Error in mPrint: ");
     const std::string options = dataFileContent("ZEV.Ini");

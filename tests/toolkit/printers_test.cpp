@@ -36,5 +36,12 @@ TEST_F(Printers, AMachineWithoutPrinterHasNoDeviceContext) {
     EXPECT_NE(defaultPrinter().hdc, 0);
 }
 
+TEST_F(Printers, OneThatIsAskedForByItsNameIsFoundAndAnotherIsTheDefaultOne) {
+    EXPECT_EQ(printerQuestion(std::string(printToPdfName))().DeviceName, printToPdfName);
+    const Printer usual = printerQuestion({})();
+    EXPECT_NE(usual.hdc, 0);
+    EXPECT_EQ(printerQuestion("Gone for good")().DeviceName, usual.DeviceName);
+}
+
 } // namespace
 } // namespace toolkit

@@ -1,5 +1,6 @@
 #include "toolkit/print/printer_question.h"
 
+#include <chrono>
 #include <future>
 #include <mutex>
 #include <thread>
@@ -27,11 +28,14 @@ PrinterQuestion::~PrinterQuestion() {
     state_->givenUp = true;
 }
 
-void PrinterQuestion::ask(std::function<void()> answered) {
-    if (state_) return;
+void PrinterQuestion::ask(const std::string& name, std::function<void()> answered) {
+    if (state_) {
+        state_->answered = std::move(answered);
+        return;
+    }
     state_ = std::make_shared<State>();
     state_->answered = std::move(answered);
-    std::packaged_task<Printer()> question(defaultPrinterQuestion());
+    std::packaged_task<Printer()> question(printerQuestion(name));
     state_->printer = question.get_future().share();
     const auto deliver = [state = state_] {
         if (!state->givenUp && currentWindow() != nullptr)
@@ -45,13 +49,10 @@ void PrinterQuestion::ask(std::function<void()> answered) {
     }).detach();
 }
 
-bool PrinterQuestion::isAnswered(std::chrono::milliseconds patience) const {
-    return state_ && state_->printer.wait_for(patience) == std::future_status::ready;
+bool PrinterQuestion::isAnswered() const {
+    return state_ && state_->printer.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
 }
 
-Printer PrinterQuestion::answer() {
-    ask([] {});
-    return state_->printer.get();
-}
+Printer PrinterQuestion::answer() const { return state_->printer.get(); }
 
 } // namespace toolkit

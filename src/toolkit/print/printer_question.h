@@ -1,9 +1,9 @@
-// The default printer asked for without keeping anybody waiting.
+// A printer asked for without keeping anybody waiting.
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <memory>
+#include <string>
 
 #include "toolkit/print/printer.h"
 
@@ -18,14 +18,15 @@ class PrinterQuestion {
     PrinterQuestion(const PrinterQuestion&) = delete;
     PrinterQuestion& operator=(const PrinterQuestion&) = delete;
 
-    /// Asks, unless that has been done. `answered` is an event like any other.
-    void ask(std::function<void()> answered);
+    /// Asks for the printer with this name, or for the default one where there is none so called,
+    /// unless that has been done. `answered` is an event like any other, and takes the place of one
+    /// that was given before.
+    void ask(const std::string& name, std::function<void()> answered);
 
     [[nodiscard]] bool isAsked() const { return state_ != nullptr; }
-    /// Whether the answer is there, waiting for it no longer than told.
-    [[nodiscard]] bool isAnswered(std::chrono::milliseconds patience = {}) const;
-    /// Waits for the answer; asks if nobody has.
-    [[nodiscard]] Printer answer();
+    [[nodiscard]] bool isAnswered() const;
+    /// It must have been asked for. Waits for it where it isn't there yet.
+    [[nodiscard]] Printer answer() const;
 
   private:
     struct State;

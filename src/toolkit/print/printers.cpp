@@ -12,7 +12,7 @@ namespace {
 struct PrinterOverrides {
     std::vector<Printer> printers;
     bool noPrinter = false;
-    std::function<Printer()> defaultQuestion;
+    PrinterAnswer answer;
 };
 
 PrinterOverrides& overrides() {
@@ -40,6 +40,15 @@ Printer printToPdf() {
                       paper(9, "A4", 8.27F, 11.69F)};
     layOutPage(printer, 1, Orientation::Portrait);
     return printer;
+}
+
+Printer askSystem(const std::string& name) {
+    if (name == printToPdfName) return printToPdf();
+    Printer printer = name.empty() ? Printer{} : systemPrinter(name);
+    if (printer.hdc != 0) return printer;
+    const auto names = systemPrinterNames();
+    if (!names.empty()) printer = systemPrinter(names.front());
+    return printer.hdc == 0 ? printToPdf() : printer;
 }
 
 const Printer* overridden(std::string_view name) {
@@ -84,22 +93,17 @@ void setDefaultPrinter(std::string_view name) {
     std::rotate(printers.begin(), found, found + 1);
 }
 
-std::function<Printer()> defaultPrinterQuestion() {
-    if (overrides().defaultQuestion) return overrides().defaultQuestion;
-    return [] {
-        const auto names = systemPrinterNames();
-        const Printer printer = names.empty() ? Printer{} : systemPrinter(names.front());
-        return printer.hdc == 0 ? printToPdf() : printer;
-    };
+std::function<Printer()> printerQuestion(std::string name) {
+    if (const auto& answer = overrides().answer)
+        return [answer, name = std::move(name)] { return answer(name); };
+    return [name = std::move(name)] { return askSystem(name); };
 }
 
 bool isAskingSlow() { return overrides().printers.empty() && !overrides().noPrinter; }
 
 void overridePrinters(std::vector<Printer> printers) { overrides().printers = std::move(printers); }
 
-void overrideDefaultPrinterQuestion(std::function<Printer()> question) {
-    overrides().defaultQuestion = std::move(question);
-}
+void overridePrinterQuestion(PrinterAnswer answer) { overrides().answer = std::move(answer); }
 
 void overrideNoPrinter(bool none) { overrides().noPrinter = none; }
 

@@ -25,16 +25,19 @@ namespace toolkit {
 /// Makes an installed printer the default of this player's programs. Failure 482.
 void setDefaultPrinter(std::string_view name);
 
-/// What asks the system for its default printer, in whatever thread.
-[[nodiscard]] std::function<Printer()> defaultPrinterQuestion();
+/// What asks the system, in whatever thread, for the printer with this name, or for its default one
+/// where there is none so called.
+[[nodiscard]] std::function<Printer()> printerQuestion(std::string name);
 
-/// Whether asking for the default printer may take long, so that it is better put off.
+/// Whether asking for a printer may take long, so that it is better put off.
 [[nodiscard]] bool isAskingSlow();
 
 /// For tests: the printers that the system has; an empty list gives back the real ones.
 void overridePrinters(std::vector<Printer> printers);
-/// For tests: what answers for the system's default printer; none gives back the system.
-void overrideDefaultPrinterQuestion(std::function<Printer()> question);
+/// For tests: what answers in the system's place when it is asked for a printer; none gives back
+/// the system.
+using PrinterAnswer = std::function<Printer(const std::string& name)>;
+void overridePrinterQuestion(PrinterAnswer answer);
 /// For tests: a machine where even the default printer has no device context.
 void overrideNoPrinter(bool none);
 
