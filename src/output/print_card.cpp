@@ -6,6 +6,7 @@
 #include "card/journal.h"
 #include "form/file_failures.h"
 #include "form/options.h"
+#include "form/panels.h"
 #include "form/printer_facts.h"
 #include "form/time_stamp.h"
 #include "form/trace.h"
@@ -202,6 +203,8 @@ void restore(Zevlin& form, const View& view) {
 void MPrint_Click(Zevlin& form) {
     if (form.Printing) return;
     Traceit(form, "MPrint_Click");
+    // It would lie over the card that comes back, and the keys would no longer go to it.
+    if (form.THelp.Visible) hideHelp(form);
     if (!mayBegin(form)) return;
     const View view = viewOf(form);
     trapped(form, trapHead, [&] { runJob(form); });

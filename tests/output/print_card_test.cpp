@@ -3,6 +3,7 @@
 #include "form/write_options.h"
 #include "output/print_card.h"
 #include "output/print_test.h"
+#include "toolkit/base/key.h"
 #include "toolkit/print/printers.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
@@ -121,6 +122,34 @@ TEST_F(PrintCard, AnEditInProgressReachesItsFieldAndThePage) {
     EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
     EXPECT_EQ(printed, "open");
     EXPECT_FALSE(form.CText.Visible);
+}
+
+TEST_F(PrintCard, AnOpenHelpPageIsClosedByEveryJob) {
+    startWithContent();
+    for (const char* item : {"File>Print card", "File>Print Partner's card",
+                             "File>Export Image to file as...>GIF", "File>Copy to Clipboard"}) {
+        toolkit::test::typeKey(toolkit::key::f1);
+        ASSERT_TRUE(form.THelp.Visible) << item;
+        const std::string_view name(item);
+        if (name.find("Print ") != std::string_view::npos) answerFile({});
+        if (name.find("Export") != std::string_view::npos) answerInput("");
+        whileAsking = [&] { EXPECT_FALSE(form.THelp.Visible) << item; };
+        EXPECT_TRUE(toolkit::test::chooseMenu(item));
+        EXPECT_FALSE(form.THelp.Visible) << item;
+        EXPECT_EQ(form.ActiveControl, &form.P1) << item;
+        const bool before = form.AMark[2].Visible;
+        clickMark(2);
+        EXPECT_NE(form.AMark[2].Visible, before) << item;
+    }
+}
+
+TEST_F(PrintCard, AHelpPageOfTheFirstRunIsClosedAndTheCardCanBeUsed) {
+    startWithContent();
+    toolkit::test::typeKey(toolkit::key::f1);
+    form.P1.Enabled = false;
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Copy to Clipboard"));
+    EXPECT_FALSE(form.THelp.Visible);
+    EXPECT_TRUE(form.P1.Enabled);
 }
 
 TEST_F(PrintCard, ANarrowPageIsToldOncePerRun) {
