@@ -101,7 +101,7 @@ def copy(program, path):
 def print_to_file(program, path):
     say("Printing the card to a PDF file.")
     program.press("ctrl+p")
-    program.answer_prompt(program.home.named(path), "^Print to PDF$")
+    program.answer_prompt(program.home.named(path), f"^Print to PDF: {CARD}$")
     desktop.wait_for("the page", lambda: holds(path, b"%%EOF\n"))
     return path
 

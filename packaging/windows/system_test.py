@@ -187,7 +187,7 @@ class SettingUpTest(ServiceTest):
         page = self.results / "page.pdf"
         page.unlink(missing_ok=True)
         program.press("ctrl+p")
-        program.answer_prompt(self.home.named(page), "^Print to PDF$")
+        program.answer_prompt(self.home.named(page), "^Print to PDF: ")
         desktop.wait_for("the page", lambda: page.is_file() and
                          page.read_bytes().endswith(b"%%EOF\n"))
         self.assertEqual(self.service.pages(), [])

@@ -26,6 +26,7 @@ struct OutputState {
     bool PrinterPending = false;     ///< the printer's facts are still to be taken
     toolkit::PrinterQuestion PrinterAsked;
     bool Printing = false;
+    bool PrintsPartner = false;   ///< the job at hand is the partner's card
     bool PrintAlertShown = false; ///< the box about a narrow page was shown in this run
     bool HasJobView = false;      ///< zoom and fit are a job's, not the player's
     /// The options file doesn't hold the present state: writing it failed or was put off.

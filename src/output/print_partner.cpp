@@ -32,16 +32,22 @@ std::string lineForPartner(const Zevlin& form, const std::string& ownLine) {
     return text;
 }
 
+void runJob(Zevlin& form) {
+    form.PrintsPartner = true;
+    trapped(form, "Error in MPrintPartner_Click: #", [&] { MPrint_Click(form); });
+    form.PrintsPartner = false;
+}
+
 void printPartner(Zevlin& form) {
     // An open edit of the names line is part of the card, and its box would cover what is printed.
     commitOpenField(form);
-    if (form.NamesField == 0) return MPrint_Click(form);
+    if (form.NamesField == 0) return runJob(form);
     // The journal must not keep the partner's line as the card's.
     flushJournal(form);
     form.Journal.isHeld = true;
     const toolkit::Label kept = form.AText[form.NamesField];
     setNamesLine(form, lineForPartner(form, kept.Tag));
-    trapped(form, "Error in MPrintPartner_Click: #", [&] { MPrint_Click(form); });
+    runJob(form);
     setNamesLine(form, kept.Tag);
     form.AText[form.NamesField].Caption = kept.Caption;
     form.AText[form.NamesField].Tag = kept.Tag;

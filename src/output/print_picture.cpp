@@ -107,7 +107,8 @@ class PictureDelivery {
     }
 
     [[nodiscard]] toolkit::DocumentInfo documentInfo() const {
-        const std::string name = form_.CardName.empty() ? "Card" : form_.CardName;
+        std::string name = form_.CardName.empty() ? "Card" : form_.CardName;
+        if (form_.PrintsPartner) name += " - partner";
         return {.title = name,
                 .filePreset = form_.DataFolder / toolkit::pathFromText(name + ".pdf")};
     }

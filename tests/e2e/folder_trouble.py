@@ -8,7 +8,7 @@ from rescuing import CARD, NO, YES
 from whole_program import desktop, main
 
 BOX = "^Zevlin$"
-PDF_BOX = "^Print to PDF$"
+PDF_BOX = "^Print to PDF: "
 EXPORT_BOX = "^Print card image to disk$"
 SAVE_AS, EXPORT = 3, 8  # rows of the File menu
 OTHER = "Standard American"

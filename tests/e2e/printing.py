@@ -264,7 +264,7 @@ class FilesTest(PrintingTest):
         self.export_bmp(program)
         pdf = self.home.folder / "page.pdf"
         program.press("ctrl+p")
-        program.answer_prompt(pdf, "^Print to PDF$")
+        program.answer_prompt(pdf, "^Print to PDF: ")
         desktop.wait_for("the page", lambda: pdf.exists() and pdf.read_bytes()[-6:] == b"%%EOF\n")
         self.check_page(pdf, 0)
         self.assertLess(pdf.stat().st_size, 150000)

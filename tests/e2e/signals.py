@@ -51,7 +51,7 @@ class Signals(rescuing.RescueTest):
         self.check_below(make_it_ask, "^Zevlin$", signal.SIGHUP)
 
     def test_the_question_follows_the_file_box_of_a_print(self):
-        self.check_below(lambda program: program.press("ctrl+p"), "^Print to PDF$")
+        self.check_below(lambda program: program.press("ctrl+p"), "^Print to PDF: ")
 
     def test_the_question_follows_the_set_up(self):
         self.check_below(lambda program: program.choose_in_file_menu(SETUP), "^Printer Setup$",

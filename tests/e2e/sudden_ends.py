@@ -90,7 +90,7 @@ class SuddenEnds(rescuing.RescueTest):
     def test_killed_while_a_print_asks_for_its_file_it_loses_nothing(self):
         program = self.changed_card()
         program.press("ctrl+p")
-        program.wait_for_box("^Print to PDF$")
+        program.wait_for_box("^Print to PDF: ")
         program.kill()
         self.assert_mark_comes_back()
 
@@ -98,7 +98,7 @@ class SuddenEnds(rescuing.RescueTest):
         program = self.changed_card()
         for turn in range(5):
             program.press("ctrl+p")
-            box = program.wait_for_box("^Print to PDF$")
+            box = program.wait_for_box("^Print to PDF: ")
             program.focus(box)
             desktop.xdotool("key", "ctrl+a", "type", str(self.home.folder / f"page{turn}.pdf"))
             desktop.xdotool("key", "Return")

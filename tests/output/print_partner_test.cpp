@@ -125,6 +125,43 @@ TEST_F(PrintPartner, TwoCardsAreTheOwnOneAndThenThePartners) {
     EXPECT_EQ(form.AText[2].Tag, "Own line");
 }
 
+TEST_F(PrintPartner, TwoCardsAreOfferedTwoFilesAndEachQuestionNamesItsCard) {
+    startAs("Smith", "Jones");
+    const auto own = home / "own.pdf";
+    const auto partners = home / "partners.pdf";
+    answerFile(own);
+    answerFile(partners);
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print two cards"));
+    ASSERT_EQ(fileQuestions.size(), 2U);
+    EXPECT_EQ(fileQuestions[0].preset, dataFolder / "Jones.pdf");
+    EXPECT_EQ(fileQuestions[0].title, "Print to PDF: Jones");
+    EXPECT_EQ(fileQuestions[1].preset, dataFolder / "Jones - partner.pdf");
+    EXPECT_EQ(fileQuestions[1].title, "Print to PDF: Jones - partner");
+    EXPECT_NE(toolkit::readFile(own).find("(Jones)"), std::string::npos);
+    EXPECT_NE(toolkit::readFile(partners).find("(Jones - partner)"), std::string::npos);
+}
+
+TEST_F(PrintPartner, AnUnnamedCardOfThePartnerIsOfferedAFileOfItsOwn) {
+    start();
+    answerFile({});
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print Partner's card"));
+    answerFile({});
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    ASSERT_EQ(fileQuestions.size(), 2U);
+    EXPECT_EQ(fileQuestions[0].preset, dataFolder / "Card - partner.pdf");
+    EXPECT_EQ(fileQuestions[1].preset, dataFolder / "Card.pdf");
+}
+
+TEST_F(PrintPartner, WithoutANamesLineItIsThePartnersFileToo) {
+    writeLayout(smallLayout({{10, 10, 0, 0, 1, 2}}, {}));
+    start();
+    ASSERT_EQ(form.NamesField, 0);
+    answerFile({});
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print Partner's card"));
+    ASSERT_EQ(fileQuestions.size(), 1U);
+    EXPECT_EQ(fileQuestions[0].preset, dataFolder / "Card - partner.pdf");
+}
+
 TEST_F(PrintPartner, NoToTheAlertStopsOnlyTheFirstOfTwoCards) {
     toolkit::overridePrinters({pdfWithPage(7)});
     startAs("Smith", "Jones");

@@ -17,8 +17,9 @@ namespace {
 constexpr double pointsPerInch = 72;
 
 std::filesystem::path askForTarget(const DocumentInfo& info) {
-    return askForFile(
-        {.title = std::string(printToPdfName), .preset = info.filePreset, .pattern = "*.pdf"});
+    return askForFile({.title = std::string(printToPdfName) + ": " + info.title,
+                       .preset = info.filePreset,
+                       .pattern = "*.pdf"});
 }
 
 } // namespace
