@@ -81,7 +81,8 @@ FormTest::FormTest() : home(newFolder()) {
                  if (duringWait) duringWait(milliseconds);
              },
          .player = [this] { actInChooser(); }});
-    // The printers of this machine must not matter.
+    // Neither this machine's printers nor its place must matter: pages are of letter size.
+    toolkit::overridePlace("en_US");
     toolkit::overridePrinters({toolkit::printerNamed(toolkit::printToPdfName)});
     // A screen on which the whole card can be clicked.
     toolkit::overrideScreen({.width = 24000, .height = 24000});
@@ -97,6 +98,7 @@ FormTest::~FormTest() {
     toolkit::overrideProgram({});
     toolkit::overrideScreen({});
     toolkit::overridePrinters({});
+    toolkit::overridePlace({});
     toolkit::overrideNoPrinter(false);
     toolkit::overrideClock(-1);
     fs::remove_all(home);

@@ -16,13 +16,18 @@ namespace {
 class PrintJobs : public testing::Test {
   protected:
     PrintJobs() {
+        // Pages are of letter size.
+        overridePlace("en_US");
         answerDialogsWith(
             {.message = {}, .input = {}, .popup = {}, .file = [this](const auto& question) {
                  asked = question;
                  return target;
              }});
     }
-    ~PrintJobs() override { answerDialogsWith({}); }
+    ~PrintJobs() override {
+        answerDialogsWith({});
+        overridePlace({});
+    }
     PrintJobs(const PrintJobs&) = delete;
     PrintJobs& operator=(const PrintJobs&) = delete;
 

@@ -7,7 +7,16 @@
 namespace toolkit {
 namespace {
 
-TEST(PrinterFacts, PrintToPdfTakesALetterSheetAt600Dots) {
+/// "Print to PDF" takes a sheet of letter size.
+class PrinterFacts : public testing::Test {
+  protected:
+    PrinterFacts() { overridePlace("en_US"); }
+    ~PrinterFacts() override { overridePlace({}); }
+    PrinterFacts(const PrinterFacts&) = delete;
+    PrinterFacts& operator=(const PrinterFacts&) = delete;
+};
+
+TEST_F(PrinterFacts, PrintToPdfTakesALetterSheetAt600Dots) {
     const Printer printer = printerNamed(printToPdfName);
     EXPECT_EQ(printer.PixelsPerInchX, 600);
     EXPECT_EQ(printer.PixelsPerInchY, 600);
@@ -20,7 +29,7 @@ TEST(PrinterFacts, PrintToPdfTakesALetterSheetAt600Dots) {
     EXPECT_EQ(printer.ColorMode, 2);
 }
 
-TEST(PrinterFacts, APageOnItsSideChangesPlacesWithItsMargins) {
+TEST_F(PrinterFacts, APageOnItsSideChangesPlacesWithItsMargins) {
     Printer printer;
     printer.PixelsPerInchX = 300;
     printer.PixelsPerInchY = 600;
@@ -44,7 +53,7 @@ TEST(PrinterFacts, APageOnItsSideChangesPlacesWithItsMargins) {
     EXPECT_EQ(printer.PaperSize, 3);
 }
 
-TEST(PrinterFacts, APaperThatIsntThereChangesNothing) {
+TEST_F(PrinterFacts, APaperThatIsntThereChangesNothing) {
     Printer printer = printerNamed(printToPdfName);
     layOutPage(printer, 77, Orientation::Landscape);
     EXPECT_EQ(printer.Orientation, 1);

@@ -1,7 +1,11 @@
 #include "toolkit/print/printers.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QLocale>
 
 #include "toolkit/base/error.h"
 #include "toolkit/print/system_printers.h"
@@ -12,6 +16,7 @@ namespace {
 struct PrinterOverrides {
     std::vector<Printer> printers;
     bool noPrinter = false;
+    std::string place;
     PrinterAnswer answer;
 };
 
@@ -30,15 +35,42 @@ Paper paper(int code, const char* name, float width, float height) {
             .endMargin = 0};
 }
 
+/// "en_US.UTF-8": the player's language, the country and more. On Linux paper has a variable of its
+/// own.
+std::string playersPlace() {
+    if (!overrides().place.empty()) return overrides().place;
+#ifdef _WIN32
+    return QLocale::system().name().toStdString();
+#else
+    for (const char* name : {"LC_ALL", "LC_PAPER", "LANG"})
+        if (const QByteArray place = qgetenv(name); !place.isEmpty()) return place.toStdString();
+    return {};
+#endif
+}
+
+/// North America writes on letter paper, the rest of the world on A4.
+bool isLetterUsual() {
+    constexpr auto countries = std::to_array<std::string_view>(
+        {"US", "CA", "MX", "PR", "BZ", "CR", "GT", "NI", "PA", "SV"});
+    const std::string place = playersPlace();
+    const std::size_t mark = place.find('_');
+    if (mark == std::string::npos) return false;
+    const std::size_t end = place.find_first_of(".@", mark);
+    const std::string country = place.substr(mark + 1, end - mark - 1);
+    return std::ranges::find(countries, country) != countries.end();
+}
+
 Printer printToPdf() {
     constexpr int dotsPerInch = 600;
+    constexpr int letter = 1;
+    constexpr int a4 = 9;
     Printer printer;
     printer.DeviceName = printToPdfName;
     printer.hdc = 1;
     printer.PixelsPerInchX = printer.PixelsPerInchY = dotsPerInch;
-    printer.Papers = {paper(1, "Letter", 8.5F, 11), paper(5, "Legal", 8.5F, 14),
-                      paper(9, "A4", 8.27F, 11.69F)};
-    layOutPage(printer, 1, Orientation::Portrait);
+    printer.Papers = {paper(letter, "Letter", 8.5F, 11), paper(5, "Legal", 8.5F, 14),
+                      paper(a4, "A4", 8.27F, 11.69F)};
+    layOutPage(printer, isLetterUsual() ? letter : a4, Orientation::Portrait);
     return printer;
 }
 
@@ -104,6 +136,8 @@ bool isAskingSlow() { return overrides().printers.empty() && !overrides().noPrin
 void overridePrinters(std::vector<Printer> printers) { overrides().printers = std::move(printers); }
 
 void overridePrinterQuestion(PrinterAnswer answer) { overrides().answer = std::move(answer); }
+
+void overridePlace(std::string locale) { overrides().place = std::move(locale); }
 
 void overrideNoPrinter(bool none) { overrides().noPrinter = none; }
 

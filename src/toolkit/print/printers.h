@@ -38,6 +38,9 @@ void overridePrinters(std::vector<Printer> printers);
 /// the system.
 using PrinterAnswer = std::function<Printer(const std::string& name)>;
 void overridePrinterQuestion(PrinterAnswer answer);
+/// For tests: the player's place, as in "de_DE", whose paper "Print to PDF" takes; none gives back
+/// the one that the system tells.
+void overridePlace(std::string locale);
 /// For tests: a machine where even the default printer has no device context.
 void overrideNoPrinter(bool none);
 
