@@ -2,7 +2,7 @@
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
-#include "toolkit/window/control/qt_control_looks.h"
+#include "toolkit/text/text_painter.h"
 
 namespace toolkit {
 
@@ -16,6 +16,10 @@ Overlay::Overlay(QWidget& container, const TextBox& box) : QLabel(&container), b
 
 void Overlay::push() {
     if (const QString text = qString(box_.Text); text != this->text()) setText(text);
+    if (font_ != box_.Font) {
+        font_ = box_.Font;
+        setFont(qtFont(box_.Font));
+    }
     setGeometry(pixelsFromTwips(box_.Left), pixelsFromTwips(box_.Top), pixelsFromTwips(box_.Width),
                 pixelsFromTwips(box_.Height));
     if (isHidden() != box_.Visible) return;

@@ -1,6 +1,8 @@
 // A text on the form, over the card, that the player only reads. Internal to the toolkit's sources.
 #pragma once
 
+#include <optional>
+
 #include <QtWidgets/QLabel>
 
 #include "toolkit/model/control.h"
@@ -16,6 +18,7 @@ class Overlay : public QLabel {
 
   private:
     const TextBox& box_;
+    std::optional<FontSpec> font_;
 };
 
 } // namespace toolkit
