@@ -9,6 +9,7 @@ import desktop
 CARD = "Two Over One"
 TEXT = "Ax 3^h+ ^s"
 EXPORT_ROW, COPY_ROW = 8, 10  # of the File menu, counted from 0
+JPEG = f"{CARD}.gif.jpg"  # a name that makes a JPEG file of a GIF
 STAMP_HEIGHT = 40  # pixels at the foot of an image, where the time stands
 
 
@@ -110,7 +111,7 @@ def holds(path, end):
     return path.is_file() and path.stat().st_size > 1000 and path.read_bytes().endswith(end)
 
 
-def show_again(home, picture, page):
+def show_again(home, picture, page, more_images):
     """Saves a picture of the screen, and names the files that were exported and printed."""
     program = desktop.Program(home, home.opening(CARD))
     try:
@@ -119,10 +120,10 @@ def show_again(home, picture, page):
         desktop.wait_for("the card on the screen", lambda: desktop.Card(program).scale > 0)
         desktop.save_screenshot(picture)
         zoom(program)
-        # The ending of the name decides the format, whatever the menu item says.
         files = [export(program, home, row, f"{CARD}.{ending}")
                  for row, ending in enumerate(("gif", "png", "bmp"))]
-        files.append(export(program, home, 0, f"{CARD}.gif.jpg"))
+        # The ending of the name decides the format, whatever the menu item says.
+        files += [export(program, home, 0, name) for name in more_images]
         files.append(copy(program, page.with_name(f"copied.{home.clipboard_kind}")))
         files.append(print_to_file(program, page))
         program.close()
@@ -132,15 +133,16 @@ def show_again(home, picture, page):
         program.kill()
 
 
-def do(home, picture, page):
+def do(home, picture, page, more_images=()):
     """The whole job in a home where the program was never started: a picture of the screen and a
-    printed page lie where they were asked for, and the files that were made are named. An error says
-    what is wrong with the saved card or with the picture."""
+    printed page lie where they were asked for, and the files that were made are named. The card is
+    exported under the names in `more_images`, too. An error says what is wrong with the saved card or
+    with the picture."""
     mark, text = fill_in(home)
     marks, texts = home.records(CARD)
     if mark not in marks or texts.get(text) != TEXT:
         raise RuntimeError(f"{home.card(CARD)} lacks what was filled in")
-    files = show_again(home, picture, page)
+    files = show_again(home, picture, page, more_images)
     if not picture.is_file() or picture.stat().st_size < 20000:
         raise RuntimeError(f"{picture} shows no card")
     return files

@@ -342,13 +342,14 @@ class FilesTest(PrintingTest):
         self.assertEqual(desktop.picture_in(kept).width, 1198)
 
     def test_image_files_are_read_by_others(self):
+        """The ending of a name that holds the chosen one decides the format."""
         program = self.start_with_card()
         self.export_bmp(program)
-        for downs, name in ((0, "card.gif"), (1, "card.png")):
+        for downs, name in ((0, "card.gif"), (1, "card.png"), (0, "card.gif.jpg")):
             program.choose_in_file_menu(EXPORT, "Right", *["Down"] * downs)
             program.answer_prompt(name)
             desktop.wait_for(name, (self.home.data / name).exists)
-        formats = {"card.gif": "GIF", "card.bmp": "BMP", "card.png": "PNG"}
+        formats = {"card.gif": "GIF", "card.bmp": "BMP", "card.png": "PNG", "card.gif.jpg": "JPEG"}
         for name, kind in formats.items():
             told = desktop.output_of("identify", "-format", "%m %w", str(self.home.data / name))
             self.assertRegex(told.decode(), f"^{kind}3? 1198$")
