@@ -57,6 +57,26 @@ TEST_F(DragField, AMarkGoesWhereThePointerGoes) {
     EXPECT_FALSE(form.CardModified);
 }
 
+TEST_F(DragField, AJobPrintsADragThatIsntSavedAndLeavesItSo) {
+    design();
+    const std::string layout = dataFileContent("Definitions.Ini");
+    dragLabel(form.AMark[2], 37, -11);
+    const Place dragged = placeOf(form.AMark[2]);
+    Place printed;
+    answerFile({});
+    whileAsking = [&] { printed = placeOf(form.AMark[2]); };
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    EXPECT_EQ(printed.left, 2 * dragged.left);
+    EXPECT_EQ(printed.top, 2 * dragged.top);
+    EXPECT_EQ(placeOf(form.AMark[2]), dragged);
+    EXPECT_TRUE(form.MShowShapes.Checked);
+    EXPECT_EQ(visibleMarks(), 4);
+    EXPECT_FALSE(form.CardModified);
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), layout);
+    choose("Design>Save Design");
+    EXPECT_NE(dataFileContent("Definitions.Ini"), layout);
+}
+
 TEST_F(DragField, TheGrabPointStaysUnderThePointerStepByStep) {
     design();
     form.AMark[2].Left += 4; // between two pixels

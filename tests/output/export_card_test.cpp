@@ -8,6 +8,7 @@
 #include "output/print_test.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"
+#include "toolkit/picture/image_codecs.h"
 #include "toolkit/print/printers.h"
 #include "toolkit/testing/test_clipboard.h"
 #include "toolkit/testing/test_window.h"
@@ -155,6 +156,27 @@ TEST_F(ExportCard, TheHiddenJpegPathIsComplete) {
     mPrintToDiskPartnerJPG_Click(form);
     EXPECT_TRUE(std::filesystem::exists(dataFile("b.jpg")));
     EXPECT_TRUE(traced("MPrintPartner_Click"));
+}
+
+/// What the encoder makes of a picture at a quality.
+std::string jpegOf(const toolkit::Bitmap& picture, int quality, const std::filesystem::path& file) {
+    const auto encoders = toolkit::imageEncoders();
+    const auto jpeg = std::ranges::find_if(encoders, [](const toolkit::ImageEncoder& encoder) {
+        return encoder.FilenameExtension.find("*.JPG") != std::string::npos;
+    });
+    toolkit::saveImage(picture, file, jpeg->id, quality);
+    return toolkit::readFile(file);
+}
+
+TEST_F(ExportCard, AJpegIsOfQualityEighty) {
+    startWithContent();
+    const auto exact = exported(bmp, "a.bmp");
+    answerInput("a");
+    mPrintToDiskJPG_Click(form);
+    const std::string jpeg = dataFileContent("a.jpg");
+    EXPECT_EQ(jpeg, jpegOf(exact, 80, home / "80.jpg"));
+    for (const int other : {79, 81})
+        EXPECT_NE(jpeg, jpegOf(exact, other, home / "other.jpg")) << other;
 }
 
 TEST_F(ExportCard, ACopyAsksNothingAndFillsTheClipboard) {

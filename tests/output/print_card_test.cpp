@@ -195,6 +195,27 @@ TEST_F(PrintCard, NoAtTheAlertChangesNothing) {
     EXPECT_TRUE(form.PrintAlertShown);
 }
 
+TEST_F(PrintCard, NoAtTheAlertLeavesAFitInForce) {
+    toolkit::overridePrinters({pdfWithPage(7.5F)});
+    toolkit::overrideScreen({.width = 12000, .height = 24000});
+    startWithContent();
+    MFitScreenWidth_Click(form);
+    const std::string options = dataFileContent("ZEV.Ini");
+    const float fit = form.ZoomTable[0];
+    const float width = form.P1.Width;
+    const auto level = form.ZoomLevel;
+    ASSERT_GT(fit, 0);
+    ASSERT_NE(options.find("Fit=1 "), std::string::npos);
+    answer(toolkit::Answer::No);
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    EXPECT_EQ(form.ZoomTable[0], fit);
+    EXPECT_EQ(form.ZoomLevel, level);
+    EXPECT_TRUE(form.MFitScreenWidth.Checked);
+    EXPECT_FALSE(form.MFitScreenHeight.Checked);
+    EXPECT_EQ(form.P1.Width, width);
+    EXPECT_EQ(dataFileContent("ZEV.Ini"), options);
+}
+
 TEST_F(PrintCard, AFitToWidthComesBackWithItsScaleAndItsCheck) {
     toolkit::overrideScreen({.width = 12000, .height = 24000});
     startWithContent();
