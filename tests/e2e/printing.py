@@ -3,6 +3,7 @@ a real print service, the page drawn by a PDF viewer, image files, another progr
 
 import ctypes
 import re
+import socket
 import threading
 import time
 import zlib
@@ -255,6 +256,34 @@ class PrintServiceTest(PrintingTest):
         self.assertIn("Printer=Office", (self.home.data / "ZEV.Ini").read_text("cp1252"))
         program.press("ctrl+p")
         self.wait_for_pages(1)
+        self.leave(program)
+
+
+class SilentServiceTest(PrintingTest):
+    """A print service that takes calls and never answers."""
+
+    def setUp(self):
+        service = socket.create_server(("127.0.0.1", 0))
+        self.addCleanup(service.close)
+        self.home.environment["CUPS_SERVER"] = f"127.0.0.1:{service.getsockname()[1]}"
+
+    def test_a_copy_needs_no_answer(self):
+        program = self.start_with_card()
+        program.choose_in_file_menu(COPY)
+        desktop.wait_for("the picture on the clipboard",
+                         lambda: desktop.picture_on_clipboard("png"))
+        self.leave(program)
+
+    def test_a_start_with_the_alternate_method_needs_no_answer(self):
+        self.leave(self.start_for_the_first_time())
+        options = self.home.data / "ZEV.Ini"
+        settings = options.read_bytes().replace(b"PrintAlt=0", b"PrintAlt=1")
+        options.write_bytes(re.sub(rb"\r\nPrinter=[^\r]*", b"\r\nPrinter=Cellar", settings))
+        program = self.start_again()
+        program.press("ctrl+KP_Add")
+        desktop.wait_for("the zoom", lambda: b"\r\nFit=0 " in options.read_bytes())
+        self.assertIn(b"\r\nPrintAlt=1 ", options.read_bytes())
+        self.assertIn(b"\r\nPrinter=Cellar ", options.read_bytes())
         self.leave(program)
 
 
