@@ -137,8 +137,8 @@ TEST_F(PrintPartner, TwoCardsAreOfferedTwoFilesAndEachQuestionNamesItsCard) {
     EXPECT_EQ(fileQuestions[0].title, "Print to PDF: Jones");
     EXPECT_EQ(fileQuestions[1].preset, dataFolder / "Jones - partner.pdf");
     EXPECT_EQ(fileQuestions[1].title, "Print to PDF: Jones - partner");
-    EXPECT_NE(toolkit::readFile(own).find("(Jones)"), std::string::npos);
-    EXPECT_NE(toolkit::readFile(partners).find("(Jones - partner)"), std::string::npos);
+    EXPECT_NE(toolkit::readFile(own).find(pdfTitle("Jones")), std::string::npos);
+    EXPECT_NE(toolkit::readFile(partners).find(pdfTitle("Jones - partner")), std::string::npos);
 }
 
 TEST_F(PrintPartner, AnUnnamedCardOfThePartnerIsOfferedAFileOfItsOwn) {

@@ -50,6 +50,12 @@ std::string unpackedPdf(std::string_view file) {
     return content.append(file.substr(from));
 }
 
+std::string pdfTitle(std::string_view title) {
+    std::string entry = "/Title (\xFE\xFF";
+    for (const char character : title) (entry += '\0') += character;
+    return entry + ')';
+}
+
 #ifndef _WIN32
 std::string wordsOfPdf(const std::filesystem::path& file) {
     const std::string command = "pdftotext -enc UTF-8 '" + file.string() + "' -";
