@@ -298,7 +298,7 @@ class FilesTest(PrintingTest):
         self.check_page(pdf, 0)
         self.assertLess(pdf.stat().st_size, 150000)
         self.assertEqual(self.pictures_in(pdf), [])
-        words = desktop.output_of("pdftotext", str(pdf)).decode()
+        words = desktop.output_of("pdftotext", str(pdf), "-").decode()
         for text in ("NAMES", "from 4♥ up", "GENERAL APPROACH", "Two Over One", "Jacoby"):
             self.assertIn(text, words)
         fonts = desktop.output_of("pdffonts", str(pdf)).decode().splitlines()[2:]
@@ -314,7 +314,7 @@ class FilesTest(PrintingTest):
         program = self.start_again()
         pdf = self.home.folder / "page.pdf"
         program.press("ctrl+p")
-        program.answer_prompt(pdf, "^Print to PDF$")
+        program.answer_prompt(pdf, "^Print to PDF: ")
         desktop.wait_for("the page", lambda: pdf.exists() and pdf.read_bytes()[-6:] == b"%%EOF\n")
         pictures = self.pictures_in(pdf)
         self.assertEqual(len(pictures), 1)
