@@ -33,7 +33,7 @@ void waitForAnswer(Zevlin& form, std::chrono::milliseconds patience) {
     constexpr std::chrono::milliseconds slice{20};
     const WaitPointer pointer(form);
     std::chrono::milliseconds waited{0};
-    while (form.PrinterPending && !form.PrinterAsked.isAnswered() && waited < patience) {
+    while (!form.PrinterAsked.isAnswered() && waited < patience) {
         toolkit::wait(static_cast<int>(slice.count()));
         waited += slice;
     }
@@ -86,9 +86,10 @@ void takePendingPrinter(Zevlin& form) {
 
 void takePendingPrinter(Zevlin& form, std::chrono::milliseconds patience) {
     if (!form.PrinterPending) return;
-    if (!form.PrinterAsked.isAsked()) askForPendingPrinter(form, [] {});
+    // Who waits takes the answer, and any failure in it: it is no event of its own then.
+    form.PrinterAsked.ask(rememberedPrinter(form), [] {});
     if (!form.PrinterAsked.isAnswered()) waitForAnswer(form, patience);
-    if (form.PrinterPending && form.PrinterAsked.isAnswered()) takeAnswer(form);
+    if (form.PrinterAsked.isAnswered()) takeAnswer(form);
 }
 
 void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken) {

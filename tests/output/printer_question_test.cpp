@@ -31,6 +31,7 @@ class SlowPrintService : public FormTest {
              answer = release_.get_future().share()](const std::string& name) {
                 ++*asked;
                 answer.wait();
+                if (name == "Broken") throw toolkit::RunTimeError(toolkit::Failure::OutOfMemory);
                 toolkit::Printer printer = office;
                 if (!name.empty() && name != "Gone") printer.DeviceName = name;
                 return printer;
@@ -173,6 +174,24 @@ TEST_F(SlowPrintService, PrintCommandWaitsAsLongAsItTakesWithTheHourglass) {
     EXPECT_EQ(waits, 500);
     EXPECT_EQ(fileQuestions.size(), 1U);
     EXPECT_EQ(form.MousePointer, toolkit::MousePointer::Default);
+}
+
+TEST_F(SlowPrintService, FailureThatArrivesWhileACommandWaitsIsTheCommands) {
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Broken\r\n");
+    start();
+    zoomIn();
+    duringWait = [this](int) {
+        answerAndArrive();
+        // The answer goes round as an event, too.
+        for (int i = 0; i < 1000; ++i) {
+            std::this_thread::yield();
+            toolkit::test::settle();
+        }
+    };
+    announceError("Error in mPrint: ");
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+    EXPECT_TRUE(traced("Error in mPrint: 7, Out of memory"));
+    EXPECT_TRUE(fileQuestions.empty());
 }
 
 TEST_F(SlowPrintService, CopyWaitsTwoSecondsWithTheHourglassAndGoesOnWithoutIt) {
