@@ -32,7 +32,7 @@ std::string lineForPartner(const Zevlin& form, const std::string& ownLine) {
     return text;
 }
 
-void runJob(Zevlin& form) {
+void printAsPartner(Zevlin& form) {
     form.PrintsPartner = true;
     trapped(form, "Error in MPrintPartner_Click: #", [&] { MPrint_Click(form); });
     form.PrintsPartner = false;
@@ -41,13 +41,13 @@ void runJob(Zevlin& form) {
 void printPartner(Zevlin& form) {
     // An open edit of the names line is part of the card, and its box would cover what is printed.
     commitOpenField(form);
-    if (form.NamesField == 0) return runJob(form);
+    if (form.NamesField == 0) return printAsPartner(form);
     // The journal must not keep the partner's line as the card's.
     flushJournal(form);
     form.Journal.isHeld = true;
     const toolkit::Label kept = form.AText[form.NamesField];
     setNamesLine(form, lineForPartner(form, kept.Tag));
-    runJob(form);
+    printAsPartner(form);
     setNamesLine(form, kept.Tag);
     form.AText[form.NamesField].Caption = kept.Caption;
     form.AText[form.NamesField].Tag = kept.Tag;
