@@ -24,11 +24,13 @@ namespace fs = std::filesystem;
 using test_faults::Files;
 using test_faults::Kind;
 
-/// The content without what its comments tell of the moment: all after a colon, and figures.
+/// The content without what it tells of the moment: in comments all after a colon, and figures; of
+/// a page when it was made.
 std::string withoutFigures(const std::string& content) {
     std::istringstream lines(content);
     std::string text;
     for (std::string line; std::getline(lines, line); text += line + '\n') {
+        if (line.starts_with("/CreationDate ")) line.clear();
         if (!line.starts_with('\'')) continue;
         line.resize(std::min(line.find(':'), line.size()));
         std::erase_if(line, [](char c) { return c >= '0' && c <= '9'; });
