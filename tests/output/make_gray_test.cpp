@@ -22,9 +22,9 @@ TEST_F(MakeGrayOfTheCard, RecoloursThePictureAndNotTheLabels) {
 TEST_F(MakeGrayOfTheCard, RecoloursTheArtworkLikeThePicture) {
     start();
     toolkit::PictureBox box;
-    const toolkit::Color red = toolkit::rgb(195, 17, 25);
+    constexpr toolkit::Color red = toolkit::rgb(195, 17, 25);
     box.Picture = std::make_shared<const toolkit::Bitmap>(3, 3, red);
-    box.Artwork = [red] {
+    box.Artwork = [] {
         return std::make_shared<const toolkit::Drawing>(
             toolkit::Drawing{3, 3, {toolkit::FilledRectangle{red, 0, 0, 3, 3}}});
     };

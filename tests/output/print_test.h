@@ -46,7 +46,7 @@ inline PrintedPage pageIn(const std::filesystem::path& file) {
     for (auto at = content.find("/Subtype /Image"); at != std::string::npos;
          at = content.find("/Subtype /Image", at + 1)) {
         const std::string image = content.substr(at);
-        std::regex_search(image, found, std::regex("/Width " + number + "/Height " + number));
+        std::regex_search(image, found, std::regex(R"(/Width (\d+)\s/Height (\d+)\s)"));
         page.pixelsAcross = std::stoi(found[1]);
         page.pixelsDown = std::stoi(found[2]);
         ++page.pictures;

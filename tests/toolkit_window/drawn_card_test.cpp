@@ -15,7 +15,7 @@ using RecordedCard = PaintTest;
 
 TEST_F(RecordedCard, HoldsPictureAndArtworkAndTheVisibleLabelsFromBackToFront) {
     card.Picture = std::make_shared<Bitmap>(400, 300, grey);
-    const auto artwork =
+    auto artwork =
         std::make_shared<const Drawing>(Drawing{.width = 800, .height = 600, .items = {}});
     card.Artwork = [artwork] { return artwork; };
     for (int index = 1; index <= 3; ++index) block(marks[index], 10 * index, 60, 20, 10, blue);
