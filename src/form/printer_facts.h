@@ -30,7 +30,7 @@ void takePendingPrinter(Zevlin& form, std::chrono::milliseconds patience);
 /// `taken` runs once they have arrived and were taken.
 void askForPendingPrinter(Zevlin& form, const std::function<void()>& taken);
 
-/// Sets the tray that was chosen with the remembered printer, if any.
+/// Sets the tray that was chosen with the remembered printer, if any, and asks it for colour then.
 void takeRememberedTray(Zevlin& form);
 
 /// Takes the printer object's handle and computes its facts.

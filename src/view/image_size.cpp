@@ -27,14 +27,14 @@ std::string flagsText(float scale, Rescale rescale) {
 }
 
 /// A picture of the card at one size, in pixels, with the white strip at its foot.
-struct Drawing {
+struct PictureSize {
     float scale = 1;
     float width = 0;
     float height = 0; ///< with the strip
     float strip = 0;
 
     /// `ratio` times as large, for screens with smaller pixels.
-    [[nodiscard]] Drawing enlarged(float ratio) const {
+    [[nodiscard]] PictureSize enlarged(float ratio) const {
         return {scale * ratio, wholePixelsOf(width * ratio), wholePixelsOf(height * ratio),
                 strip * ratio};
     }
@@ -44,21 +44,21 @@ float shownScale(float scale) {
     return scale < smallestScale || scale > largestScale ? scaleOfRefusedOnes : scale;
 }
 
-Drawing drawingOf(const CardPicture& source, float scale) {
-    Drawing drawing{.scale = shownScale(scale)};
-    drawing.width = wholePixelsOf(static_cast<float>(source.width()) * drawing.scale);
+PictureSize sizeOf(const CardPicture& source, float scale) {
+    PictureSize size{.scale = shownScale(scale)};
+    size.width = wholePixelsOf(static_cast<float>(source.width()) * size.scale);
     // The strip takes the scale asked for, even where the picture is shown at another one.
-    drawing.strip = scale * stripPixels;
-    drawing.height = wholePixelsOf(
-        wholePixelsOf(static_cast<float>(source.height()) * drawing.scale) + drawing.strip);
-    return drawing;
+    size.strip = scale * stripPixels;
+    size.height =
+        wholePixelsOf(wholePixelsOf(static_cast<float>(source.height()) * size.scale) + size.strip);
+    return size;
 }
 
-ScaleRequest requestOf(const Drawing& drawing) {
-    return {.factor = drawing.scale,
-            .width = static_cast<int>(drawing.width),
-            .height = static_cast<int>(drawing.height),
-            .contentHeight = static_cast<int>(std::floor(drawing.height - drawing.strip))};
+ScaleRequest requestOf(const PictureSize& size) {
+    return {.factor = size.scale,
+            .width = static_cast<int>(size.width),
+            .height = static_cast<int>(size.height),
+            .contentHeight = static_cast<int>(std::floor(size.height - size.strip))};
 }
 
 using SharedPicture = std::shared_ptr<const toolkit::Bitmap>;
@@ -69,12 +69,12 @@ SharedPicture pictureOf(const CardPicture& source, const ScaleRequest& request) 
 
 /// Beyond its full size the picture has nothing more to show: the card is drawn anew, or left for
 /// the screen to stretch.
-SharedPicture enlargedPicture(const CardPicture& source, const Drawing& drawing, float ratio) {
-    const float most = std::max(largestScale / drawing.scale, 1.0F);
+SharedPicture enlargedPicture(const CardPicture& source, const PictureSize& size, float ratio) {
+    const float most = std::max(largestScale / size.scale, 1.0F);
     const auto artwork = ratio > most ? source.artwork() : nullptr;
     if (artwork == nullptr)
-        return pictureOf(source, requestOf(drawing.enlarged(std::min(ratio, most))));
-    const ScaleRequest request = requestOf(drawing.enlarged(ratio));
+        return pictureOf(source, requestOf(size.enlarged(std::min(ratio, most))));
+    const ScaleRequest request = requestOf(size.enlarged(ratio));
     return std::make_shared<const toolkit::Bitmap>(
         toolkit::painted(*artwork, request.factor, request.width, request.height));
 }
@@ -95,13 +95,12 @@ std::size_t ladderStep(const Zevlin& form) {
 void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source,
                  float scale) {
     const auto twips = static_cast<float>(form.TwipsPerPixel);
-    const Drawing drawing = drawingOf(source, scale);
-    target.Width = drawing.width * twips;
-    target.Height = drawing.height * twips;
-    target.Picture = takePicture(form, source, requestOf(drawing));
-    target.Sharp = {target.Picture, [source, drawing](float ratio) {
-                        return enlargedPicture(source, drawing, ratio);
-                    }};
+    const PictureSize size = sizeOf(source, scale);
+    target.Width = size.width * twips;
+    target.Height = size.height * twips;
+    target.Picture = takePicture(form, source, requestOf(size));
+    target.Sharp = {target.Picture,
+                    [source, size](float ratio) { return enlargedPicture(source, size, ratio); }};
     target.Artwork = [source] { return source.artwork(); };
 }
 
@@ -123,7 +122,7 @@ void StartPicture(Zevlin& form) {
     if (form.Printing) return;
     const std::size_t step = ladderStep(form);
     if (step >= form.ZoomTable.size() || form.ZoomTable[step] == form.LastImageScale) return;
-    const ScaleRequest request = requestOf(drawingOf(form.PBase, form.ZoomTable[step]));
+    const ScaleRequest request = requestOf(sizeOf(form.PBase, form.ZoomTable[step]));
     // Where it was made only when it was asked for, a zoom step took nearly half as long again
     // until it was seen: 55 ms instead of 38, medians of one run on a busy machine. Most of a
     // rebuild waits for the disk that takes the options.

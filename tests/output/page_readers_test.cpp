@@ -77,20 +77,9 @@ class PageReaders : public PrintTest {
         toolkit::overrideScreen({.width = 48000, .height = 48000});
         writeLayout(toolkit::readFile(programFolder / "Definitions.Ini.15"));
     }
-    /// Every mark set and the same text in every area.
     void startWith(const std::string& text) {
         start();
-        const auto lines = [](int count, const std::string& rest) {
-            std::string all = std::to_string(count) + "\r\n";
-            for (int number = 1; number <= count; ++number)
-                all += std::to_string(number) + rest + "\r\n";
-            return all;
-        };
-        writeCard("Filled", "'Program version: 2.0.0\r\n\"\",\"\"\r\n" +
-                                lines(form.AMark.UBound(), ",1,0") +
-                                lines(form.AText.UBound(), ",\"" + text + "\",0"));
-        form.CardName = "Filled";
-        GetCardFile(form);
+        openFilledCard(text);
     }
     /// Writes the card at full scale as a page, drawn or as its picture.
     template <typename Draw>

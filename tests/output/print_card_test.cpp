@@ -13,7 +13,17 @@
 namespace zev::test {
 namespace {
 
-class PrintCard : public PrintTest {};
+class PrintCard : public PrintTest {
+  protected:
+    /// The colour of a mark that the card has in blue, while a print asks for its file.
+    toolkit::Color markInAJob() {
+        toolkit::Color mark = 1;
+        answerFile({});
+        whileAsking = [&] { mark = form.AMark[3].ForeColor; };
+        EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
+        return mark;
+    }
+};
 
 TEST_F(PrintCard, StandsOnThePageEightAndATenthInchesWideAtItsCorner) {
     startWithContent();
@@ -282,19 +292,13 @@ TEST_F(PrintCard, AnEightBitPrinterGetsGreyAndBlackUnlessColourIsForced) {
     printer.ColorMode = 1;
     toolkit::overridePrinters({printer});
     startWithContent();
-    toolkit::Color mark = 1;
-    answerFile({});
-    whileAsking = [&] { mark = form.AMark[3].ForeColor; };
-    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
-    EXPECT_EQ(mark, toolkit::black);
+    EXPECT_EQ(markInAJob(), toolkit::black);
     EXPECT_TRUE(traced("MakeGray"));
     EXPECT_EQ(form.AMark[3].ForeColor, form.ColorBlue);
 
     form.MColor.Checked = true;
     form.Trace.clear();
-    answerFile({});
-    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
-    EXPECT_EQ(mark, form.ColorBlue);
+    EXPECT_EQ(markInAJob(), form.ColorBlue);
     EXPECT_FALSE(traced("MakeGray"));
 }
 
@@ -304,11 +308,7 @@ TEST_F(PrintCard, AMonochromePrinterGetsGreyAndBlackByTheAlternateMethodToo) {
     toolkit::overridePrinters({laser(8.1F), grey});
     writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Print to PDF\r\n");
     startWithContent();
-    toolkit::Color mark = 1;
-    answerFile({});
-    whileAsking = [&] { mark = form.AMark[3].ForeColor; };
-    EXPECT_TRUE(toolkit::test::chooseMenu("File>Print card"));
-    EXPECT_EQ(mark, toolkit::black);
+    EXPECT_EQ(markInAJob(), toolkit::black);
     EXPECT_TRUE(traced("MakeGray"));
 }
 

@@ -5,6 +5,7 @@
 
 #include "app/form_load.h"
 #include "app/wiring.h"
+#include "card/load.h"
 #include "card/write_card.h"
 #include "form/write_options.h"
 #include "layout/write_layout.h"
@@ -208,6 +209,20 @@ void FormTest::writeLayout(std::string_view content) {
 
 void FormTest::writeCard(std::string_view name, std::string_view content) {
     toolkit::writeFile(dataFile(std::string(name) + ".zev"), content);
+}
+
+void FormTest::openFilledCard(const std::string& text) {
+    const auto lines = [](int count, const std::string& rest) {
+        std::string all = std::to_string(count) + "\r\n";
+        for (int number = 1; number <= count; ++number)
+            all += std::to_string(number) + rest + "\r\n";
+        return all;
+    };
+    writeCard("Filled", "'Program version: 2.0.0\r\n\"\",\"\"\r\n" +
+                            lines(form.AMark.UBound(), ",1,0") +
+                            lines(form.AText.UBound(), ",\"" + text + "\",0"));
+    form.CardName = "Filled";
+    GetCardFile(form);
 }
 
 void FormTest::answer(toolkit::Answer answer) { answers_.push_back(answer); }

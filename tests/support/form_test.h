@@ -63,6 +63,9 @@ class FormTest : public testing::Test {
     void writeLayout(std::string_view content);
     void writeCard(std::string_view name, std::string_view content);
 
+    /// Opens a card with every mark set and the same text in every area.
+    void openFilledCard(const std::string& text);
+
     // What the player answers, in the order of the boxes.
     void answer(toolkit::Answer answer);
     void answerInput(std::string text);

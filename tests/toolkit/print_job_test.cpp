@@ -68,6 +68,14 @@ TEST_F(PrintJobs, ACancelledQuestionDropsTheJob) {
     job.finish();
 }
 
+TEST_F(PrintJobs, WithoutACardThePageStaysBlank) {
+    ASSERT_TRUE(start());
+    EXPECT_FALSE(job.draw(nullptr, {0, 0, 10, 10}));
+    EXPECT_FALSE(job.stretch(nullptr, {0, 0, 10, 10}));
+    job.finish();
+    EXPECT_TRUE(readFile(target).starts_with("%PDF"));
+}
+
 TEST_F(PrintJobs, AFileThatCantBeMadeRefusesIt) {
     target = folder / "none" / "page.pdf";
     EXPECT_EQ(reasonOf([&] { static_cast<void>(start()); }), "482, Printer error (Path not found)");

@@ -64,17 +64,7 @@ class FilledCard : public FormTest {
     /// Opens a card with every mark set and the same text in every area.
     void startWith(const std::string& text) {
         start();
-        const auto lines = [](int count, const std::string& rest) {
-            std::string all = std::to_string(count) + "\r\n";
-            for (int number = 1; number <= count; ++number)
-                all += std::to_string(number) + rest + "\r\n";
-            return all;
-        };
-        writeCard("Filled", "'Program version: 2.0.0\r\n\"\",\"\"\r\n" +
-                                lines(form.AMark.UBound(), ",1,0") +
-                                lines(form.AText.UBound(), ",\"" + text + "\",0"));
-        form.CardName = "Filled";
-        GetCardFile(form);
+        openFilledCard(text);
         full = form.PBase.scaled(
             {.factor = 1, .width = form.PBase.width(), .height = form.PBase.height()});
     }

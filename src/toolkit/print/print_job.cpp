@@ -88,7 +88,7 @@ bool PrintJob::start(const Printer& printer, const DocumentInfo& info) {
 }
 
 bool PrintJob::draw(std::shared_ptr<const CardRecording> card, const Place& place) {
-    if (!document_) return false;
+    if (!document_ || !card) return false;
     const Printer& printer = document_->printer;
     document_->pages.back().cards.push_back(
         {.card = std::move(card),

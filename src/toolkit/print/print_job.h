@@ -37,8 +37,8 @@ class PrintJob {
         int width = 0;
         int height = 0;
     };
-    /// Draws the card, or a picture pixel by pixel, stretched to the place. False if no document is
-    /// open.
+    /// Draws the card, or a picture pixel by pixel, stretched to the place. False if there is none
+    /// or no document is open.
     bool draw(std::shared_ptr<const CardRecording> card, const Place& place);
     bool stretch(std::shared_ptr<const Bitmap> picture, const Place& place);
     /// What is drawn from now on stands on one more page.
