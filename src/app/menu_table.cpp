@@ -6,6 +6,7 @@
 #include "card/lifecycle.h"
 #include "card/names_line.h"
 #include "card/save.h"
+#include "design/auto_adjust.h"
 #include "design/design_mode.h"
 #include "design/pen.h"
 #include "events/record_tabs.h"
@@ -104,6 +105,7 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MText,       "Text",               "",       MText_Click},
     separator,
     {1, &Zevlin::MSetTabs,    "Set Tab sequence",   "",       MSetTabs_Click, AtStart::Disabled},
+    {1, &Zevlin::MAutoAdjust, "Auto-adjust",        "",       MAutoAdjust_Click, AtStart::Disabled},
     {1, &Zevlin::MSaveShapes, "Save Design",        "",       MSaveShapes_Click, AtStart::Disabled},
     {0, &Zevlin::MHelp,       "&Help",              "",       MHelp_Click},
     // The last one, so that a change of its width doesn't move the others.

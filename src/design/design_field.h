@@ -15,6 +15,11 @@ struct Zevlin;
 /// A field that doesn't exist is failure 340.
 [[nodiscard]] toolkit::Label& labelOf(Zevlin& form, DesignField field);
 
+/// Whether a mark is a checkmark or a filled-in square, and whether it is a circle. The character
+/// that it is drawn with alone tells.
+[[nodiscard]] bool isCheck(const toolkit::Label& mark);
+[[nodiscard]] bool isCircle(const toolkit::Label& mark);
+
 /// The colours of all fields of the kind, by field number.
 [[nodiscard]] std::vector<toolkit::Color>& colorsOf(Zevlin& form, FieldKind kind);
 

@@ -1,6 +1,6 @@
 #include "design/move_marks.h"
 
-#include "form/marks_state.h"
+#include "design/design_field.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
@@ -28,18 +28,6 @@ void moveLabel(toolkit::Label& label, const Step& step) {
         label.Move(label.Left * stretch(step.dX), label.Top * stretch(step.dY));
     }
 }
-
-/// The character that a mark is drawn with, which alone tells its kind; 0 for none.
-char symbolOf(const toolkit::Label& mark) {
-    return mark.Caption.size() == 1 ? mark.Caption.front() : '\0';
-}
-
-bool isCheck(const toolkit::Label& mark) {
-    const char symbol = symbolOf(mark);
-    return symbol == mark_symbol::check || symbol == mark_symbol::square;
-}
-
-bool isCircle(const toolkit::Label& mark) { return symbolOf(mark) == mark_symbol::circle; }
 
 bool isAny(const toolkit::Label& /*field*/) { return true; }
 

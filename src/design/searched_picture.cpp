@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "toolkit/base/error.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 
@@ -18,8 +19,8 @@ bool SearchedPicture::isInk(Pixel pixel) const {
 }
 
 bool SearchedPicture::isInk(float x, float y) const {
-    const float column = countOf(x);
-    const float row = countOf(y);
+    const float column = std::floor(inPixels(x));
+    const float row = std::floor(inPixels(y));
     const bool inside = column >= 0 && row >= 0 && column < static_cast<float>(picture_.width()) &&
                         row < static_cast<float>(picture_.height());
     return !inside || isInk({static_cast<int>(column), static_cast<int>(row)});
@@ -27,12 +28,16 @@ bool SearchedPicture::isInk(float x, float y) const {
 
 void SearchedPicture::erase(Pixel pixel) { picture_.setPixel(pixel.column, pixel.row, *paper_); }
 
-float SearchedPicture::countOf(float place) const {
+float SearchedPicture::inPixels(float length) const {
     if (twips_ == 0) throw toolkit::RunTimeError(toolkit::Failure::DivisionByZero);
-    return std::floor(place / twips_);
+    return length / twips_;
 }
 
-float SearchedPicture::edgeOf(float place) const { return countOf(place) * twips_; }
+float SearchedPicture::edgeOf(float place) const { return std::floor(inPixels(place)) * twips_; }
+
+float SearchedPicture::cutToPixels(float place) const {
+    return std::trunc(inPixels(static_cast<float>(toolkit::toInteger32(place)))) * twips_;
+}
 
 SearchedPicture::Pixel SearchedPicture::pixelAt(int x, int y) const {
     const auto count = [this](int place) {

@@ -33,6 +33,10 @@ class SearchedPicture {
     /// failure 11.
     [[nodiscard]] float edgeOf(float place) const;
 
+    /// The whole twips of a place, without what is over whole pixels. Fails in the same way, and
+    /// beyond 32 bits it is failure 6.
+    [[nodiscard]] float cutToPixels(float place) const;
+
     /// The pixel of a place in whole twips.
     [[nodiscard]] Pixel pixelAt(int x, int y) const;
 
@@ -41,7 +45,7 @@ class SearchedPicture {
     [[nodiscard]] int height() const;
 
   private:
-    [[nodiscard]] float countOf(float place) const;
+    [[nodiscard]] float inPixels(float length) const;
 
     toolkit::Bitmap picture_;
     std::optional<toolkit::Color> paper_;

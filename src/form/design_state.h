@@ -60,8 +60,7 @@ struct DesignState {
     toolkit::MenuItem MCircle;
     toolkit::MenuItem MText;
     toolkit::MenuItem MSetTabs; ///< checked: a TAB sequence is being recorded
-    /// Not on the menu before it can be chosen.
-    toolkit::MenuItem MAutoAdjust{.Enabled = false, .Visible = false};
+    toolkit::MenuItem MAutoAdjust;
     toolkit::MenuItem MSaveShapes;
     /// A read-out on the menu bar: the field pressed last.
     toolkit::MenuItem MCoord{.Caption = "Coordinates", .Visible = false};

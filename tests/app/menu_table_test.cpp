@@ -92,6 +92,7 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {1, "Text", ""},
                                       {1, "", ""},
                                       {1, "Set Tab sequence", ""},
+                                      {1, "Auto-adjust", ""},
                                       {1, "Save Design", ""},
                                       {0, "&Help", ""},
                                       {0, "Coordinates", ""}};
@@ -158,7 +159,7 @@ TEST_F(MenuTable, NoMenuBeginsOrEndsWithASeparator) {
 TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
     start();
     form.MShapes.Visible = true;
-    form.MSetTabs.Enabled = form.MSaveShapes.Enabled = true;
+    form.MSetTabs.Enabled = form.MAutoAdjust.Enabled = form.MSaveShapes.Enabled = true;
     const std::vector<std::pair<std::string, std::string>> traces = {
         {"File>New", "MNew_Click"},
         {"File>Save", "MSave_Click"},
@@ -172,6 +173,7 @@ TEST_F(MenuTable, ChosenItemsRunTheirOwnProcedures) {
         {"Design>Circle", "MCircle_Click"},
         {"Design>Text", "MText_Click"},
         {"Design>Set Tab sequence", "MSetTabs_Click"},
+        {"Design>Auto-adjust", "MAutoAdjust_Click"},
         {"Design>Save Design", "MSaveShapes_Click"},
         {"File>Open...", "MOpen_Click"},
         {"File>Save As...", "MSaveAs_Click"},
@@ -270,6 +272,8 @@ TEST_F(MenuTable, WhatDesigningNeedsIsGreyAtTheStart) {
     EXPECT_FALSE(toolkit::test::chooseMenu("Design>Save Design"));
     EXPECT_FALSE(form.MSetTabs.Enabled);
     EXPECT_FALSE(toolkit::test::chooseMenu("Design>Set Tab sequence"));
+    EXPECT_FALSE(form.MAutoAdjust.Enabled);
+    EXPECT_FALSE(toolkit::test::chooseMenu("Design>Auto-adjust"));
 }
 
 TEST_F(MenuTable, ShortcutsReachTheirItems) {
