@@ -32,8 +32,8 @@ class Designing(whole_program.WholeProgramTest):
         card = desktop.Card(program)
         number = max(card.texts) + 1
         program.press("ctrl+shift+d")
-        # The last of the shapes, above the two commands that end the menu.
-        program.press("alt+d", "Up", "Up", "Up", "Return")
+        # The last of the shapes, above the three commands that end the menu.
+        program.press("alt+d", "Up", "Up", "Up", "Up", "Return")
         left, top, width, height = card.box(card.texts[min(card.texts)])
         x, y = round(card.left) + 2, top + height
         desktop.xdotool("mousemove", x, y, "mousedown", 3, "mousemove", x + 30, y,
