@@ -3,6 +3,8 @@
 
 #include "bench_program.h"
 #include "card/lifecycle.h"
+#include "design/auto_adjust.h"
+#include "design/design_mode.h"
 #include "events/edit_field.h"
 #include "text/set_sym.h"
 #include "toolkit/base/key.h"
@@ -10,6 +12,7 @@
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/application.h"
 #include "view/rebuild.h"
+#include "view/zoom.h"
 
 namespace {
 
@@ -45,6 +48,16 @@ void keyInFullField(benchmark::State& state) {
     }
 }
 BENCHMARK(keyInFullField)->Unit(benchmark::kMicrosecond);
+
+/// All fields of the card at its design size (5) and at full size (11).
+void autoAdjust(benchmark::State& state) {
+    Program program;
+    auto& form = program.form;
+    while (form.ZoomLevel < state.range(0)) zev::MZoomIn_Click(form);
+    zev::MShowShapes_Click(form);
+    for (auto _ : state) zev::MAutoAdjust_Click(form);
+}
+BENCHMARK(autoAdjust)->Arg(5)->Arg(11)->Unit(benchmark::kMillisecond);
 
 /// One field with a symbol, laid out while the card holds this many symbols already.
 void setSymAmong(benchmark::State& state) {

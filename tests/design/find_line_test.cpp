@@ -105,16 +105,19 @@ TEST_F(FindLine, LooksUpFromTheFootAsFarAsSixPixels) {
     EXPECT_EQ(check(100, 101), nothing);
 }
 
-TEST_F(FindLine, TheWayUpReadsFromTheExactFoot) {
-    // The way down begins in row 101 - 3 = 98, from the foot's whole pixel. The way up begins at
-    // the foot itself: with a scale of 0.9 it ends 5.4 pixels above 101.3, in row 96.
-    draw(90, 96, 40, 1);
-    EXPECT_EQ(check(100, 101.3F, 12, 1, 0.9F).down, -6);
-    EXPECT_EQ(check(100, 101.0F, 12, 1, 0.9F).down, -6);
-    draw(90, 96, 40, 1);
-    card = toolkit::Bitmap(200, 200);
-    draw(90, 95, 40, 1);
-    EXPECT_EQ(check(100, 101.3F, 12, 1, 0.9F).down, 0);
+TEST_F(FindLine, TheWayUpBeginsOnePixelBelowTheFoot) {
+    // So small a card that the way down reads one row alone, that above the foot.
+    constexpr float tiny = 0.1F;
+    draw(90, 102, 40, 1);
+    EXPECT_EQ(check(100, 100, 12, 1, tiny).down, 0);
+    EXPECT_EQ(check(100, 101, 12, 1, tiny).down, 1);
+    EXPECT_EQ(check(100, 102, 12, 1, tiny).down, -1);
+}
+
+TEST_F(FindLine, TheWayUpOfATextReadsFromItsFootItself) {
+    draw(90, 100, 60, 1);
+    EXPECT_EQ(text(100, 112, 40, 1, 2), -13);
+    EXPECT_EQ(text(100, 113, 40, 1, 2), 0);
 }
 
 TEST_F(FindLine, StepsKeepTheFractionOfTheScale) {
@@ -153,6 +156,14 @@ TEST_F(FindLine, LooksToBothSidesAsFarAsHalfTheWidth) {
     EXPECT_EQ(check(100, 100, 11.9F), (Found{.down = 1, .right = 0}));
 }
 
+TEST_F(FindLine, HalfTheWidthIsThatOfItsWholePixels) {
+    draw(90, 101, 40, 1);
+    draw(93, 88, 1, 13);
+    // From 2.55 by whole pixels: the column is met at -6.45. Half of 12.95 pixels would reach it.
+    EXPECT_FLOAT_EQ(check(100, 100, 13, 1, 0.85F).right, -6.45F);
+    EXPECT_EQ(check(100, 100, 12.95F, 1, 0.85F).right, 0);
+}
+
 TEST_F(FindLine, TheRowToTheSidesLiesFivePixelsAboveTheLineFound) {
     draw(90, 104, 40, 1);
     draw(98, 99, 1, 1);
@@ -183,6 +194,7 @@ TEST_F(FindLine, ATextLooksFurtherThanACheck) {
     EXPECT_EQ(text(100, 100), 10);
     EXPECT_EQ(text(100, 100, 40, 2), 10);
     EXPECT_EQ(text(100, 99), 0);
+    EXPECT_EQ(text(100, 99, 40, 2), 0);
     EXPECT_EQ(text(100, 90, 40, 3), 20);
     EXPECT_EQ(text(100, 89, 40, 3), 0);
     EXPECT_EQ(text(100, 114), -4);
@@ -244,10 +256,6 @@ TEST_F(FindLine, WithoutTwipsAPlaceIsADivisionByZero) {
     } catch (const toolkit::RunTimeError& failure) {
         EXPECT_EQ(failure.number(), 11);
     }
-}
-
-TEST_F(FindLine, NeedsAPicture) {
-    EXPECT_THROW(SearchedPicture({}, twips, 1), toolkit::RunTimeError);
 }
 
 } // namespace

@@ -59,7 +59,10 @@ void Monkey::checkTrace() {
         // TAB on an item beyond the table of the walk is a failure that is traced.
         const bool isOfWalk = line.starts_with("Error in P1_KeyDown: #9,") ||
                               line.starts_with("Error in xText_LostFocus: #9,");
-        EXPECT_TRUE(troubles_->explains(line) || isOfWalk || (isOfJob && refusesJobs()) ||
+        // The grid that is the small card reaches the edge, beyond which a word has no end.
+        const bool isOfAdjust = line == "Error #9 at 300 in FindCircleAdj";
+        EXPECT_TRUE(troubles_->explains(line) || isOfWalk || isOfAdjust ||
+                    (isOfJob && refusesJobs()) ||
                     (badCard_ && line.starts_with("Error in GetCardFile")) ||
                     line.starts_with("Error in mpopRename_Click: #58,") ||
                     (badTarget_ && line.starts_with("Error in SaveImageToDisk: #")))

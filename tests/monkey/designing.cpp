@@ -106,6 +106,7 @@ void Monkey::design() {
                                                     {20, &Monkey::keyInDesign},
                                                     {12, &Monkey::choosePen},
                                                     {8, &Monkey::recordTabs},
+                                                    {3, &Monkey::autoAdjust},
                                                     {3, &Monkey::saveDesign},
                                                     {4, &Monkey::zoomSome},
                                                     {2, &Monkey::printOrExport},
@@ -174,6 +175,8 @@ void Monkey::recordTabs() {
     }
     if (zevlin().MSetTabs.Checked && chance(80)) choose("Design>Set Tab sequence");
 }
+
+void Monkey::autoAdjust() { choose("Design>Auto-adjust"); }
 
 void Monkey::saveDesign() { choose("Design>Save Design"); }
 

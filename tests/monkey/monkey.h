@@ -154,6 +154,7 @@ class Monkey : public FormTest {
     void keyInDesign();
     void choosePen();
     void recordTabs();
+    void autoAdjust();
     void saveDesign();
 
     // Trouble, other programs, lives and deaths.
