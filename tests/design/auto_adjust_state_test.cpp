@@ -82,6 +82,14 @@ TEST_F(AutoAdjustState, UndoKnowsNothingOfIt) {
     EXPECT_EQ(placesOf(form.AMark), marks);
 }
 
+TEST_F(AutoAdjustState, TheCardStillHasTheKeys) {
+    designOnBlankCard();
+    run();
+    const Place before = placeOf(form.AMark[1]);
+    typeKey(toolkit::key::right, toolkit::shift::shift);
+    EXPECT_EQ(moved(form.AMark[1], before), (Place{1, 0}));
+}
+
 TEST_F(AutoAdjustState, AWordOfTooManyPixelsLeavesItsCircleAndTheRunGoesOn) {
     designOnBlankCard();
     drawTooLargeAWord();

@@ -4,6 +4,7 @@
 
 #include "design/auto_adjust_test.h"
 #include "toolkit/testing/test_window.h"
+#include "toolkit/window/screen.h"
 
 namespace zev::test {
 namespace {
@@ -17,8 +18,8 @@ class AutoAdjust : public AutoAdjustTest {
         const toolkit::Label& mark = form.AMark[index];
         const auto& offsets = form.FontOffsets[ink_kind::circle][size];
         const auto& others = form.CircleAdjust[size];
-        const auto middle = [](float edge, float other) {
-            return std::floor((edge + other + pixel / 2) / 2 / pixel);
+        const auto middle = [this](float edge, float other) {
+            return std::floor((edge + other + twips() / 2) / 2 / twips());
         };
         return {middle(mark.Left + offsets[inkLeft], mark.Left + others[1]),
                 middle(mark.Top + others[2], mark.Top + offsets[inkBottom])};
@@ -186,6 +187,35 @@ TEST_F(AutoAdjust, ACheckIsMeasuredAsItIsDrawn) {
         run();
         EXPECT_EQ(inkOf(mark, ink_kind::check, size), (Place{ink.left - 3, ink.top - 1})) << size;
     }
+}
+
+TEST_F(AutoAdjust, OnAScreenOfOtherPixelsEachSizeOfCircleGoesAroundItsWord) {
+    toolkit::overrideScreen({.twipsPerPixel = 12, .width = 24000, .height = 24000});
+    std::string layout = smallLayout({{100, 100, 0, 0, 1, 1, 161},
+                                      {200, 100, 0, 0, 1, 2, 161},
+                                      {300, 100, 0, 0, 1, 3, 161},
+                                      {400, 100, 0, 0, 1, 1}},
+                                     {{100, 300, 300, 0, 1, 2}});
+    layout.replace(layout.find("15,19200"), 2, "12");
+    writeLayout(layout);
+    designOnBlankCard();
+    ASSERT_EQ(twips(), 12);
+    Places rings;
+    for (int size = 1; size <= 3; ++size) {
+        rings.push_back(ringMiddle(size, static_cast<std::size_t>(size)));
+        draw(static_cast<int>(rings.back().left) - 2, static_cast<int>(rings.back().top) - 4, 3, 5);
+    }
+    draw(90, static_cast<int>(footOf(1, 2)) + 4, 300, 1);
+    const float text = form.AText[1].Top;
+    run();
+    for (int size = 1; size <= 3; ++size) {
+        const Place& ring = rings[static_cast<std::size_t>(size) - 1];
+        EXPECT_EQ(ringMiddle(size, static_cast<std::size_t>(size)),
+                  (Place{ring.left - 1, ring.top - 2}))
+            << size;
+    }
+    EXPECT_EQ(placeOf(form.AMark[4]), (Place{401, 98}));
+    EXPECT_EQ(form.AText[1].Top, text + 4 * 12 - 5);
 }
 
 TEST_F(AutoAdjust, AMarkOfAnotherSizeIsMeasuredAsASmallOne) {

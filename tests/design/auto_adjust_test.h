@@ -26,8 +26,8 @@ class AutoAdjustTest : public DesignTest {
         blank();
     }
     void blank() {
-        drawn = toolkit::Bitmap(static_cast<int>(form.P1.Width / pixel),
-                                static_cast<int>(form.P1.Height / pixel));
+        drawn = toolkit::Bitmap(static_cast<int>(form.P1.Width / twips()),
+                                static_cast<int>(form.P1.Height / twips()));
     }
     void draw(int left, int top, int width, int height) {
         drawn.fill(left, top, width, height, toolkit::black);
@@ -45,16 +45,17 @@ class AutoAdjustTest : public DesignTest {
         choose("Design>Auto-adjust");
     }
 
-    [[nodiscard]] static Place placeOf(const toolkit::Label& label) {
-        return {label.Left / pixel, label.Top / pixel};
+    [[nodiscard]] float twips() const { return form.TwipsPerPixel; }
+    [[nodiscard]] Place placeOf(const toolkit::Label& label) const {
+        return {label.Left / twips(), label.Top / twips()};
     }
-    [[nodiscard]] static Places placesOf(const toolkit::ControlArray<toolkit::Label>& fields) {
+    [[nodiscard]] Places placesOf(const toolkit::ControlArray<toolkit::Label>& fields) const {
         Places places;
         for (int i = 1; i <= fields.UBound(); ++i) places.push_back(placeOf(fields[i]));
         return places;
     }
     /// How far a field has moved, pixels.
-    [[nodiscard]] static Place moved(const toolkit::Label& label, Place from) {
+    [[nodiscard]] Place moved(const toolkit::Label& label, Place from) const {
         const Place now = placeOf(label);
         return {now.left - from.left, now.top - from.top};
     }
@@ -62,7 +63,8 @@ class AutoAdjustTest : public DesignTest {
     /// The first column and the lowest row of the ink in a label, pixels of the card.
     [[nodiscard]] Place inkOf(const toolkit::Label& label, int kind, std::size_t size) const {
         const auto& offsets = form.FontOffsets[static_cast<std::size_t>(kind)][size];
-        return {(label.Left + offsets[inkLeft]) / pixel, (label.Top + offsets[inkBottom]) / pixel};
+        return {(label.Left + offsets[inkLeft]) / twips(),
+                (label.Top + offsets[inkBottom]) / twips()};
     }
     [[nodiscard]] Place checkInk(int index) const {
         const auto size = form.MarkSizes[static_cast<std::size_t>(index)];
