@@ -13,6 +13,12 @@ using namespace toolkit::test;
 
 class AutoAdjust : public AutoAdjustTest {
   protected:
+    [[nodiscard]] float middleColumn() const {
+        return std::floor(static_cast<float>(drawn.width()) / 2);
+    }
+    [[nodiscard]] float middleRow() const {
+        return std::floor(static_cast<float>(drawn.height()) / 2);
+    }
     /// The pixel in the middle of a circle's ink.
     [[nodiscard]] Place ringMiddle(int index, std::size_t size) const {
         const toolkit::Label& mark = form.AMark[index];
@@ -132,8 +138,8 @@ TEST_F(AutoAdjust, AnEmptyPlaceSendsItsCircleToTheMiddleOfTheCard) {
     designOnBlankCard();
     run();
     const Place middle = ringMiddle(4, 2);
-    EXPECT_EQ(middle.left, static_cast<float>(drawn.width() / 2));
-    EXPECT_EQ(middle.top, static_cast<float>(drawn.height() / 2));
+    EXPECT_EQ(middle.left, middleColumn());
+    EXPECT_EQ(middle.top, middleRow());
 }
 
 /// What a circle has found is gone for the fields that follow, and only for these.
@@ -156,7 +162,7 @@ TEST_F(AutoAdjust, FieldsAfterACircleDoWithoutTheInkOfItsWord) {
     EXPECT_EQ(moved(form.AMark[1], before[0]).top, 3 - 2);
     EXPECT_EQ(moved(form.AMark[3], before[2]).top, -2) << "the line is gone";
     EXPECT_EQ(form.AText[1].Top, text - 4 * pixel) << "its line is gone, too";
-    EXPECT_EQ(ringMiddle(4, 2).left, static_cast<float>(drawn.width() / 2));
+    EXPECT_EQ(ringMiddle(4, 2).left, middleColumn());
 }
 
 /// A size 1 circle is drawn at the medium size here, but at the layout's size on other screens.

@@ -11,13 +11,13 @@
 namespace zev {
 namespace {
 
-constexpr int twips = 15;
-constexpr float pixel = 15;
-
 /// A blank card on which lines and words are drawn, in pixels, and the searches over it, in pixels,
 /// too.
 class FindLine : public testing::Test {
   protected:
+    static constexpr int twips = 15;
+    static constexpr float pixel = twips;
+
     void draw(int left, int top, int width, int height) {
         card.fill(left, top, width, height, toolkit::black);
     }
