@@ -30,7 +30,7 @@ BlankedText blankEscapes(std::string_view raw) {
     std::size_t caret = raw.find('^');
     while (caret != std::string_view::npos) {
         const std::string_view before = raw.substr(copied, caret - copied);
-        blanked.caption.append(before).append(3, toolkit::noBreakSpace);
+        blanked.caption.append(before).append(blankedEscape);
         blanked.scanBuffer.append(before).append(1, '^');
         if (caret + 1 < raw.size()) blanked.scanBuffer += toolkit::lowerCase(raw[caret + 1]);
         blanked.scanBuffer += toolkit::noBreakSpace;

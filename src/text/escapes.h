@@ -10,6 +10,9 @@ namespace zev {
 /// Suits in the order of their keys F5 to F8.
 constexpr std::string_view suitLetters = "cdhs";
 
+/// What stands in a shown text in the place of an escape.
+constexpr std::string_view blankedEscape = "\xA0\xA0\xA0";
+
 /// Doubles each "&" that isn't followed by another one.
 void AmpAdd(std::string& text);
 /// Makes every run of ampersands a single one.

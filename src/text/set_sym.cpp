@@ -9,6 +9,7 @@
 #include "form/zevlin.h"
 #include "layout/field.h"
 #include "text/escapes.h"
+#include "toolkit/base/ansi.h"
 #include "toolkit/base/number_text.h"
 
 namespace zev {
@@ -95,6 +96,15 @@ bool liesNearCard(const Zevlin& form, float left) {
     return left > -form.P1.Width && left < form.P1.Width;
 }
 
+/// How far a symbol reaches for a reader: up to the text that stands close behind it. Before a
+/// blank and at the end it is just as wide as it is, which makes the blank the plainer.
+float reachOf(const toolkit::FontSpec& font, std::string_view scanBuffer, std::size_t position) {
+    const std::size_t next = position + blankedEscape.size();
+    const bool isClose = next < scanBuffer.size() && scanBuffer[next] != ' ' &&
+                         scanBuffer[next] != toolkit::noBreakSpace;
+    return isClose ? toolkit::textWidth(font, blankedEscape) : 0;
+}
+
 void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const SuitPlace& place,
                  float left) {
     const toolkit::Label& label = form.AText[index];
@@ -109,6 +119,7 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
     symbol.Move(left, label.Top - pixelsAboveField * twips,
                 toolkit::textWidth(label.Font, std::string_view(scanBuffer).substr(position, 2)),
                 label.Height + pixelsHigher * twips);
+    symbol.Reach = reachOf(label.Font, scanBuffer, position);
     // A symbol is larger than its text, but stands on the same line.
     symbol.Baseline = label.Baseline.movedBy(baselineOf(label) - baselineOf(symbol));
     symbol.Visible = true;

@@ -119,6 +119,31 @@ TEST_F(PageReaders, WordsComeOutAsTheyAreRead) {
         EXPECT_NE(words.find(text), std::string::npos) << text << "\n" << words;
 }
 
+/// How often a text stands among words.
+int countOf(std::string_view text, std::string_view words) {
+    int found = 0;
+    for (auto at = words.find(text); at != std::string_view::npos; at = words.find(text, at + 1))
+        ++found;
+    return found;
+}
+
+// Each text stands in every area and on the names line, in as many sizes and kinds of font as they
+// need. (Words of one letter each, as "2 x 3", this reader runs together in any font.)
+TEST_F(PageReaders, ASuitIsReadWithWhatStandsNextToIt) {
+    start();
+    for (const auto& [typed, read] :
+         {std::pair("4^h: m", "4♥: m"), std::pair("1^s, 2", "1♠, 2"), std::pair("(^c)", "(♣)"),
+          std::pair("^d/^h", "♦/♥"), std::pair("^h ^s ^c up", "♥ ♠ ♣ up"),
+          std::pair("^sAK x", "♠AK x"), std::pair("3^d5", "3♦5"), std::pair("2^c 33", "2♣ 33"),
+          std::pair("^c 10+", "♣ 10+"), std::pair("ab ^c!", "ab ♣!"), std::pair("ab^h", "ab♥")}) {
+        openFilledCard(typed);
+        const auto file = home / "page.pdf";
+        answerFile(file);
+        MPrint_Click(form);
+        EXPECT_EQ(countOf(read, wordsOfPdf(file)), form.AText.UBound()) << read;
+    }
+}
+
 TEST_F(PageReaders, ThePrintedCardHasNoPicture) {
     startWith("4^h up");
     const PrintedPage page = print();
@@ -131,7 +156,7 @@ class PageReader : public PageReaders, public testing::WithParamInterface<Reader
 // Ink is what is darker than half; it counts as off where the other page has no trace of ink in the
 // pixels around it.
 TEST_P(PageReader, DrawsThePageAsTheCardsPictureWithNothingOffByMoreThanAPixel) {
-    startWith("4^h up");
+    startWith("4^h: up");
     form.ZoomLevel = 11;
     RebuildScreenImage(form);
     const Rendering drawn = drawnBy(GetParam(), drawnPage());

@@ -231,6 +231,19 @@ TEST_F(SetSymbols, FailureIsTracedWithTheFieldsNumber) {
     EXPECT_TRUE(traced("Error in SetSym 340, Control array element '77' doesn't exist, index=77"));
 }
 
+TEST_F(SetSymbols, ASymbolReachesToTheTextCloseBehindIt) {
+    startSmall();
+    show(1, "^h: ^s ^c");
+    ASSERT_EQ(form.SText.UBound(), 3);
+    EXPECT_FLOAT_EQ(form.SText[1].Reach, widthIn(1, "\xA0\xA0\xA0"));
+    EXPECT_EQ(form.SText[2].Reach, 0);
+    EXPECT_EQ(form.SText[3].Reach, 0);
+    show(2, "&&^d\xA0x^d5");
+    ASSERT_EQ(form.SText.UBound(), 5);
+    EXPECT_EQ(form.SText[4].Reach, 0);
+    EXPECT_FLOAT_EQ(form.SText[5].Reach, widthIn(2, "\xA0\xA0\xA0"));
+}
+
 TEST_F(SetSymbols, NewCardTakesAllSymbolsAway) {
     startSmall();
     enter(1, "^h ^s");

@@ -47,6 +47,9 @@ struct Label {
     toolkit::BackStyle BackStyle = toolkit::BackStyle::Transparent;
     toolkit::Alignment Alignment = toolkit::Alignment::Left;
     toolkit::Baseline Baseline;
+    /// Of a sign that is laid over blanks of another text: how far they reach, in twips, so that a
+    /// page tells what is read next to it. 0 for other texts.
+    float Reach = 0;
     /// Place in the stack of the container: higher is nearer to the front. Set by its ZOrder.
     int Stack = 0;
     /// Whether the caption is cut off at the label's edges.

@@ -8,6 +8,7 @@
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/text/qt_run_picture.h"
+#include "toolkit/text/qt_suit_reach.h"
 #include "toolkit/text/text_painter.h"
 
 namespace toolkit {
@@ -109,7 +110,8 @@ void paintLabelExactly(QPainter& painter, const Label& label) {
     drawRun(
         painter,
         QPointF((label.Left + textOffset(label, width)) * scale, (label.Top + baseline) * scale),
-        label.Font, scale, label.ForeColor, text);
+        label.Reach > 0 ? suitsReaching(label.Font, label.Reach) : label.Font, scale,
+        label.ForeColor, text);
     if (isCut) painter.restore();
 }
 

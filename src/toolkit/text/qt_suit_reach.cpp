@@ -1,0 +1,95 @@
+#include "toolkit/text/qt_suit_reach.h"
+
+#include <map>
+#include <string>
+#include <string_view>
+
+#include <QtCore/QByteArray>
+#include <QtCore/QtEndian>
+#include <QtGui/QFontDatabase>
+
+#include "toolkit/picture/embedded_file.h"
+#include "toolkit/text/qt_font_family.h"
+
+namespace toolkit {
+namespace {
+
+constexpr std::string_view ownFamily = "Zevlin Suits";
+constexpr int hundredthsOfAnEm = 100;
+constexpr double mostEms = 4;
+
+/// As long as the own name, whose place it takes in the font's file: "Zevlin S0062".
+std::string nameFor(int hundredths) {
+    const std::string number = std::to_string(hundredths);
+    std::string name(ownFamily.substr(0, ownFamily.find("uits")));
+    return name.append(ownFamily.size() - name.size() - number.size(), '0') + number;
+}
+
+/// Where a table of the font's file begins; 0 if there is none.
+qsizetype tableAt(const QByteArray& file, const char* tag) {
+    constexpr qsizetype firstEntry = 12;
+    constexpr qsizetype entryLength = 16;
+    constexpr qsizetype offsetInEntry = 8;
+    const auto count = qFromBigEndian<quint16>(file.constData() + 4);
+    for (qsizetype i = 0; i < count; ++i) {
+        const char* entry = file.constData() + firstEntry + i * entryLength;
+        if (std::string_view(entry, 4) == tag)
+            return qFromBigEndian<quint32>(entry + offsetInEntry);
+    }
+    return 0;
+}
+
+quint16 numberAt(const QByteArray& file, const char* tag, qsizetype place) {
+    return qFromBigEndian<quint16>(file.constData() + tableAt(file, tag) + place);
+}
+
+void setAdvances(QByteArray& file, int hundredths) {
+    constexpr qsizetype unitsPerEm = 18;
+    constexpr qsizetype metricsCount = 34;
+    constexpr qsizetype metricLength = 4;
+    const int units = hundredths * numberAt(file, "head", unitsPerEm) / hundredthsOfAnEm;
+    char* metric = file.data() + tableAt(file, "hmtx");
+    for (int i = 0; i < numberAt(file, "hhea", metricsCount); ++i, metric += metricLength)
+        qToBigEndian(static_cast<quint16>(units), metric);
+}
+
+QByteArray sixteenBits(std::string_view text) {
+    QByteArray wide;
+    for (const char character : text) wide.append('\0').append(character);
+    return wide;
+}
+
+/// True if the font system has taken it.
+bool registerFont(const std::string& name, int hundredths) {
+    const auto data = embeddedFile("/fonts/zevlin-suits.ttf");
+    QByteArray file(reinterpret_cast<const char*>(data.data()),
+                    static_cast<qsizetype>(data.size()));
+    setAdvances(file, hundredths);
+    file.replace(sixteenBits(ownFamily), sixteenBits(name));
+    file.replace(QByteArray(ownFamily.data(), ownFamily.size()), QByteArray::fromStdString(name));
+    QFontDatabase::addApplicationFontFromData(file);
+    return fontFamily(name).nameGiven == name;
+}
+
+bool isAvailable(const std::string& name, int hundredths) {
+    static std::map<int, bool> known;
+    const auto [entry, isNew] = known.try_emplace(hundredths, false);
+    if (isNew) entry->second = registerFont(name, hundredths);
+    return entry->second;
+}
+
+} // namespace
+
+FontSpec suitsReaching(const FontSpec& font, float twips) {
+    if (fontFamily(font.Name).family != QLatin1String(ownFamily.data(), ownFamily.size()))
+        return font;
+    const double ems = static_cast<double>(twips) / (font.Size * twipsPerPoint);
+    if (!(ems > 0 && ems < mostEms)) return font;
+    // Wider by a trace: readers mind a gap, however small, but no overlap.
+    const int hundredths = static_cast<int>(ems * hundredthsOfAnEm) + 1;
+    FontSpec reaching = font;
+    reaching.Name = nameFor(hundredths);
+    return isAvailable(reaching.Name, hundredths) ? reaching : font;
+}
+
+} // namespace toolkit
