@@ -1,8 +1,8 @@
 // The page as other programs read it: its words, and how three of them draw it.
 #include <cstdlib>
-#include <sstream>
 
 #include "card/load.h"
+#include "output/page_rendering.h"
 #include "output/print_card.h"
 #include "output/print_test.h"
 #include "toolkit/print/print_job.h"
@@ -14,62 +14,6 @@
 
 namespace zev::test {
 namespace {
-
-/// Grey pixels of a page as a reader program draws it.
-struct Rendering {
-    int width = 0;
-    int height = 0;
-    std::string pixels;
-
-    /// How dark, 0 to 255; outside the page it is paper.
-    [[nodiscard]] int darkness(int x, int y) const {
-        if (x < 0 || y < 0 || x >= width || y >= height) return 0;
-        const auto at = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
-                        static_cast<std::size_t>(x);
-        return 255 - static_cast<unsigned char>(pixels[at]);
-    }
-    [[nodiscard]] int darkestNear(int x, int y) const {
-        int most = 0;
-        for (int row = y - 1; row <= y + 1; ++row)
-            for (int column = x - 1; column <= x + 1; ++column)
-                most = std::max(most, darkness(column, row));
-        return most;
-    }
-};
-
-Rendering renderingIn(const std::filesystem::path& pgm) {
-    std::istringstream file(toolkit::readFile(pgm));
-    std::string kind;
-    Rendering rendering;
-    int most = 0;
-    file >> kind;
-    while ((file >> std::ws).peek() == '#') std::getline(file, kind);
-    file >> rendering.width >> rendering.height >> most;
-    file.get();
-    rendering.pixels.assign(std::istreambuf_iterator<char>(file), {});
-    return rendering;
-}
-
-/// A program that draws pages of 300 dots to the inch. In its command OUT stands for the PGM file,
-/// IN for the page.
-struct Reader {
-    const char* name;
-    const char* command;
-};
-
-/// It scales pictures smoothly.
-constexpr Reader poppler{"poppler", "pdftoppm -gray -r 300 'IN' >'OUT'"};
-
-std::ostream& operator<<(std::ostream& out, const Reader& reader) { return out << reader.name; }
-
-Rendering drawnBy(const Reader& reader, const std::filesystem::path& page) {
-    const auto file = page.parent_path() / "page.pgm";
-    std::string command = reader.command;
-    command.replace(command.find("'OUT'"), 5, file.string());
-    command.replace(command.find("'IN'"), 4, page.string());
-    if (std::system(command.c_str()) != 0) return {};
-    return renderingIn(file);
-}
 
 class PageReaders : public PrintTest {
   protected:
