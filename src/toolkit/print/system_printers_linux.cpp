@@ -34,6 +34,38 @@ std::string nameOf(const char* localized, const std::string& keyword) {
     return ansiFromUtf8(name + size);
 }
 
+/// What the service lists: its printers, some with instances that have settings of their own.
+class Queues {
+  public:
+    Queues() : cups_(cupsLibrary()) {
+        if (cups_ != nullptr) count_ = cups_->getDests(&list_);
+    }
+    ~Queues() {
+        if (cups_ != nullptr) cups_->freeDests(count_, list_);
+    }
+    Queues(const Queues&) = delete;
+    Queues& operator=(const Queues&) = delete;
+
+    [[nodiscard]] std::span<cups_dest_t> all() const {
+        return {list_, static_cast<std::size_t>(count_)};
+    }
+    /// False if there is none of this name, or the service refuses.
+    [[nodiscard]] bool makeDefault(std::string_view name) {
+        bool isThere = false;
+        for (cups_dest_t& queue : all()) {
+            const bool isWanted = queue.instance == nullptr && queue.name == name;
+            queue.is_default = isWanted ? 1 : 0;
+            isThere = isThere || isWanted;
+        }
+        return isThere && cups_->setDests(CUPS_HTTP_DEFAULT, count_, list_) == 0;
+    }
+
+  private:
+    const CupsLibrary* cups_;
+    cups_dest_t* list_ = nullptr;
+    int count_ = 0;
+};
+
 /// A printer of the service with what it can do.
 class Destination {
   public:
@@ -169,46 +201,24 @@ class Destination {
 } // namespace
 
 std::vector<std::string> systemPrinterNames() {
-    const CupsLibrary* cups = cupsLibrary();
-    if (cups == nullptr) return {};
-    cups_dest_t* list = nullptr;
-    const int count = cups->getDests(&list);
+    const Queues queues;
     std::vector<std::string> names;
-    for (const cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count))) {
-        const auto place = destination.is_default != 0 ? names.begin() : names.end();
-        if (destination.instance == nullptr) names.insert(place, ansiFromUtf8(destination.name));
+    for (const cups_dest_t& queue : queues.all()) {
+        const auto place = queue.is_default != 0 ? names.begin() : names.end();
+        if (queue.instance == nullptr) names.insert(place, ansiFromUtf8(queue.name));
     }
-    cups->freeDests(count, list);
     return names;
 }
 
 std::string systemDefaultPrinterName() {
-    const CupsLibrary* cups = cupsLibrary();
-    if (cups == nullptr) return {};
-    cups_dest_t* list = nullptr;
-    const int count = cups->getDests(&list);
-    std::string name;
-    for (const cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count)))
-        if (destination.is_default != 0) name = ansiFromUtf8(destination.name);
-    cups->freeDests(count, list);
-    return name;
+    const Queues queues;
+    const auto found = std::ranges::find_if(queues.all(), &cups_dest_t::is_default);
+    return found == queues.all().end() ? std::string() : ansiFromUtf8(found->name);
 }
 
 void setSystemDefaultPrinter(std::string_view name) {
-    const CupsLibrary* cups = cupsLibrary();
-    if (cups == nullptr) throw RunTimeError(Failure::PrinterError);
-    cups_dest_t* list = nullptr;
-    const int count = cups->getDests(&list);
-    const std::string wanted = utf8FromAnsi(name);
-    bool isThere = false;
-    for (cups_dest_t& destination : std::span(list, static_cast<std::size_t>(count))) {
-        const bool isWanted = destination.instance == nullptr && destination.name == wanted;
-        destination.is_default = isWanted ? 1 : 0;
-        isThere = isThere || isWanted;
-    }
-    const bool isSet = isThere && cups->setDests(CUPS_HTTP_DEFAULT, count, list) == 0;
-    cups->freeDests(count, list);
-    if (!isSet) throw RunTimeError(Failure::PrinterError);
+    Queues queues;
+    if (!queues.makeDefault(utf8FromAnsi(name))) throw RunTimeError(Failure::PrinterError);
 }
 
 Printer systemPrinter(std::string_view name) {
