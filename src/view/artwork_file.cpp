@@ -45,7 +45,7 @@ std::string lineOf(const toolkit::FilledRectangle& box) {
 std::string lineOf(const toolkit::Words& words) {
     return "words " + colorText(words.color) + ' ' + std::string(faceOf(words)) + ' ' +
            lengthText(words.em) + ' ' + lengthText(words.left) + ' ' + lengthText(words.baseline) +
-           ' ' + words.text;
+           ' ' + lengthText(words.width) + ' ' + words.text;
 }
 
 /// Takes a line apart, word by word.
@@ -106,7 +106,8 @@ toolkit::Words readWords(LineReader& line) {
     if (face != regularFace && face != boldFace && face != suitsFace) LineReader::refuse();
     words.fontName = face == suitsFace ? artworkSuitFont : artworkFont;
     words.bold = face == boldFace;
-    for (double* length : {&words.em, &words.left, &words.baseline}) *length = line.length();
+    for (double* length : {&words.em, &words.left, &words.baseline, &words.width})
+        *length = line.length();
     words.text = line.rest();
     return words;
 }

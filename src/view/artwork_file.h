@@ -2,7 +2,7 @@
 //
 //     artwork WIDTH HEIGHT
 //     box COLOUR LEFT TOP WIDTH HEIGHT
-//     words COLOUR FACE EM LEFT BASELINE TEXT
+//     words COLOUR FACE EM LEFT BASELINE WIDTH TEXT
 //
 // Lengths are pixels of the full picture, colours six hexadecimal digits of red, green and blue,
 // faces "regular", "bold" or "suits". A text is in the code page and goes to the line's end.

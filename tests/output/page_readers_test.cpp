@@ -95,6 +95,16 @@ TEST_F(PageReaders, ThePrintedCardHasNoPicture) {
     EXPECT_LT(std::filesystem::file_size(home / "page.pdf"), 150'000U);
 }
 
+TEST_F(PageReaders, TheArtworkIsSetInItsFontWhereTheMachineHasIt) {
+    startWith("");
+    print();
+    const char* fonts = std::getenv("FONTCONFIG_FILE");
+    const bool isHidden =
+        fonts != nullptr && std::string_view(fonts).ends_with("no_narrow_font.conf");
+    const std::string page = unpackedPdf(toolkit::readFile(home / "page.pdf"));
+    EXPECT_EQ(page.find("LiberationSansNarrow") == std::string::npos, isHidden);
+}
+
 class PageReader : public PageReaders, public testing::WithParamInterface<Reader> {};
 
 // Ink is what is darker than half; it counts as off where the other page has no trace of ink in the

@@ -88,6 +88,28 @@ TEST_F(DrawingPainter, TheReachOfSuitsOfAnotherFontIsItsOwnAffair) {
     EXPECT_FALSE(draws("ZevlinS"));
 }
 
+TEST_F(DrawingPainter, WordsOfAFontOfOtherMeasuresAreFittedToTheirWidth) {
+    auto artwork = std::make_shared<Drawing>();
+    artwork->width = 100;
+    artwork->height = 50;
+    artwork->items = {Words{black, "Arial", false, 20, 30, 40, "mmm", 25}};
+    card->artwork = artwork;
+    // Three letters of 1706 units of 2048 to the em are 49.98 wide.
+    EXPECT_TRUE(draws("25.0097694 0 0 50 1500 2000 cm")) << drawn();
+    artwork->items = {Words{black, "Arial", false, 20, 30, 40, "mmm", 49.98}};
+    EXPECT_FALSE(draws("50 1500 2000 cm")) << drawn();
+}
+
+TEST_F(DrawingPainter, WordsOfAMissingFontAreSetInTheUsualOneAndFitted) {
+    auto artwork = std::make_shared<Drawing>();
+    artwork->width = 100;
+    artwork->height = 50;
+    artwork->items = {Words{black, "No such font", false, 20, 30, 40, "mmm", 25}};
+    card->artwork = artwork;
+    EXPECT_TRUE(draws("+LiberationSans")) << drawn();
+    EXPECT_TRUE(draws("25.0097694 0 0 50 1500 2000 cm")) << drawn();
+}
+
 TEST_F(DrawingPainter, TheGroundOfTheCardIsPaintedWhereItIsntPaper) {
     card->artwork =
         std::make_shared<const Drawing>(Drawing{.width = 100, .height = 50, .items = {}});

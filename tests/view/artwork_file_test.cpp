@@ -11,20 +11,21 @@ using toolkit::FilledRectangle;
 using toolkit::Words;
 
 toolkit::Drawing sample() {
-    return {.width = 2396,
-            .height = 2473,
-            .items = {FilledRectangle{toolkit::rgb(195, 17, 25), 26, 18.5, 1151, 4},
-                      Words{toolkit::white, "Arial Narrow", true, 30, 34.25, 52, "Jacoby 2NT "},
-                      Words{toolkit::black, "Zevlin Print Suits", false, 28, 99, 52, "\xA7"},
-                      Words{toolkit::black, "Arial Narrow", false, 28, 120, 52, "caf\xE9"}}};
+    return {
+        .width = 2396,
+        .height = 2473,
+        .items = {FilledRectangle{toolkit::rgb(195, 17, 25), 26, 18.5, 1151, 4},
+                  Words{toolkit::white, "Arial Narrow", true, 30, 34.25, 52, "Jacoby 2NT ", 104.25},
+                  Words{toolkit::black, "Zevlin Print Suits", false, 28, 99, 52, "\xA7", 20},
+                  Words{toolkit::black, "Arial Narrow", false, 28, 120, 52, "caf\xE9", 37.5}}};
 }
 
 TEST(ArtworkFile, HoldsWhatTheCardIsPrintedWith) {
     EXPECT_EQ(writeArtwork(sample()), "artwork 2396 2473\n"
                                       "box c31119 26 18.5 1151 4\n"
-                                      "words ffffff bold 30 34.25 52 Jacoby 2NT \n"
-                                      "words 000000 suits 28 99 52 \xA7\n"
-                                      "words 000000 regular 28 120 52 caf\xE9\n");
+                                      "words ffffff bold 30 34.25 52 104.25 Jacoby 2NT \n"
+                                      "words 000000 suits 28 99 52 20 \xA7\n"
+                                      "words 000000 regular 28 120 52 37.5 caf\xE9\n");
 }
 
 TEST(ArtworkFile, ReadsWhatItHasWritten) {
@@ -44,7 +45,7 @@ TEST(ArtworkFile, WhatIsNoneIsRefused) {
           "artwork 8 6\nbox 00000 1 2 3 4\n", "artwork 8 6\nbox 0000000 1 2 3 4\n",
           "artwork 8 6\nbox 00000g 1 2 3 4\n", "artwork 8 6\nbox 000000 1 2 3\n",
           "artwork 8 6\nbox 000000 1 2 3 x\n", "artwork 8 6\nbox 000000 1 2 3 nan\n",
-          "artwork 8 6\nwords 000000 thin 28 1 2 a\n", "artwork 8 6\nwords 000000 bold 28 1\n",
+          "artwork 8 6\nwords 000000 thin 28 1 2 3 a\n", "artwork 8 6\nwords 000000 bold 28 1 2\n",
           "artwork 8 6\nline 1 2\n", "GIF89a"})
         EXPECT_THROW(static_cast<void>(readArtwork(file)), toolkit::RunTimeError) << file;
 }

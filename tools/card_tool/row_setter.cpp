@@ -58,6 +58,9 @@ toolkit::Words wordsIn(Ink ink, char32_t letter, Weight weight, double em) {
             .text = std::string(1, byteOf(letter))};
 }
 
+/// Fine enough for a width, and short in a file.
+double hundredths(double length) { return std::round(length * 100) / 100; }
+
 bool stretches(const Item& item) { return item.kind == ItemKind::Area && item.width == 0; }
 
 } // namespace
@@ -163,6 +166,7 @@ void RowSetter::setItem(const Item& item, const RowStyle& style, Span span, int 
 void RowSetter::setWords(const Item& item, const RowStyle& style, double left, int baseline) {
     toolkit::Words words;
     const auto file = [&] {
+        words.width = hundredths(left - words.left);
         if (!words.text.empty()) sheet_.artwork.items.emplace_back(words);
     };
     for (const char32_t letter : item.text) {
@@ -210,6 +214,7 @@ void RowSetter::setCircle(const Item& item, Span span, int baseline) {
     toolkit::Words words = wordsIn(item.ink, item.text.front(), item.weight, circleEm);
     words.left = left;
     words.baseline = baseline;
+    words.width = hundredths(faces_.print(item.weight).advance(item.text.front()) * circleEm);
     sheet_.artwork.items.emplace_back(std::move(words));
     sheet_.marks.push_back({item.id, MarkKind::Circle, item.ink, double(centreX), double(centreY)});
 }

@@ -32,6 +32,8 @@ struct Words {
     double left = 0;
     double baseline = 0;
     std::string text;
+    /// To which the text is fitted where its font has other measures; 0 leaves it as it is.
+    double width = 0;
 
     friend bool operator==(const Words&, const Words&) = default;
 };

@@ -1,11 +1,12 @@
 #include "toolkit/window/card/qt_drawing_painter.h"
 
-#include <algorithm>
+#include <cmath>
 
 #include <QtGui/QPainter>
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/picture/qt_picture.h"
+#include "toolkit/text/font.h"
 #include "toolkit/text/text_painter.h"
 #include "toolkit/window/card/qt_label_painter.h"
 
@@ -16,12 +17,29 @@ void paintItem(QPainter& painter, const FilledRectangle& box) {
     painter.fillRect(QRectF(box.left, box.top, box.width, box.height), qColor(box.color));
 }
 
+/// As long as a pixel of the drawing is taken for a twip. A machine without the font has its wider
+/// kin, which comes closer than what the font system would choose.
+FontSpec fontOf(const Words& words) {
+    const bool isThere = fontNameGiven(words.fontName) == words.fontName;
+    return {.Name = isThere ? words.fontName : "Arial",
+            .Size = static_cast<float>(words.em / twipsPerPoint),
+            .Bold = words.bold,
+            .Italic = false};
+}
+
 void paintItem(QPainter& painter, const Words& words) {
-    const FontSpec font{.Name = words.fontName,
-                        .Size = static_cast<float>(words.em / twipsPerPoint),
-                        .Bold = words.bold,
-                        .Italic = false};
-    drawRun(painter, QPointF(words.left, words.baseline), font, 1, words.color, words.text);
+    constexpr double finest = 0.002;
+    const FontSpec font = fontOf(words);
+    const QPointF start(words.left, words.baseline);
+    const auto width = static_cast<double>(textWidth(font, words.text));
+    const double fit = words.width > 0 && width > 0 ? words.width / width : 1;
+    if (std::abs(fit - 1) < finest)
+        return drawRun(painter, start, font, 1, words.color, words.text);
+    painter.save();
+    painter.translate(start);
+    painter.scale(fit, 1);
+    drawRun(painter, {}, font, 1, words.color, words.text);
+    painter.restore();
 }
 
 void paintArtwork(QPainter& painter, const CardRecording& card) {
