@@ -88,6 +88,22 @@ TEST_F(PageReaders, ASuitIsReadWithWhatStandsNextToIt) {
     }
 }
 
+// The fonts that such a page needs come into the program while it prints. At the card's foot the
+// job renews the time stamp.
+TEST_F(PageReaders, APageWithSuitsLeavesTheScreenAsItWas) {
+    startWith("4^h: m");
+    window->update();
+    const auto before = toolkit::test::grabCard();
+    print();
+    const auto after = toolkit::test::grabCard();
+    ASSERT_EQ(after.height(), before.height());
+    ASSERT_EQ(after.width(), before.width());
+    const int stamp = static_cast<int>(form.Timestamp.Top / pixel);
+    ASSERT_GT(stamp, 1200);
+    for (int y = 0; y < stamp; ++y)
+        ASSERT_TRUE(std::equal(before.row(y), before.row(y) + before.width(), after.row(y))) << y;
+}
+
 TEST_F(PageReaders, ThePrintedCardHasNoPicture) {
     startWith("4^h up");
     const PrintedPage page = print();

@@ -66,28 +66,6 @@ TEST_F(DrawingPainter, OnlyATextThatLeavesItsLabelIsCut) {
     EXPECT_FALSE(draws("W* n")) << drawn();
 }
 
-// A twentieth of a point is a twip; the em of 30 points has 600 of them.
-TEST_F(DrawingPainter, ASuitIsToldToReachAsFarAsItsRoom) {
-    Label suit = label();
-    suit.Font = {.Name = "Symbol", .Size = 30};
-    suit.Caption = "\xA9";
-    suit.Reach = 433;
-    card->labels = {suit};
-    EXPECT_TRUE(draws("/DW 730 ")) << drawn();
-    card->labels[0].Reach = 0;
-    EXPECT_TRUE(draws("/DW 522 ")) << drawn();
-}
-
-TEST_F(DrawingPainter, TheReachOfSuitsOfAnotherFontIsItsOwnAffair) {
-    Label suit = label();
-    suit.Font.Name = "Arial";
-    suit.Caption = "S";
-    suit.Reach = 433;
-    card->labels = {suit};
-    EXPECT_TRUE(draws("LiberationSans")) << drawn();
-    EXPECT_FALSE(draws("ZevlinS"));
-}
-
 TEST_F(DrawingPainter, WordsOfAFontOfOtherMeasuresAreFittedToTheirWidth) {
     auto artwork = std::make_shared<Drawing>();
     artwork->width = 100;

@@ -1,5 +1,6 @@
 #include "toolkit/text/qt_suit_reach.h"
 
+#include <cmath>
 #include <map>
 #include <string>
 #include <string_view>
@@ -84,7 +85,7 @@ FontSpec suitsReaching(const FontSpec& font, float twips) {
     if (fontFamily(font.Name).family != QLatin1String(ownFamily.data(), ownFamily.size()))
         return font;
     const double ems = static_cast<double>(twips) / (font.Size * twipsPerPoint);
-    if (!(ems > 0 && ems < mostEms)) return font;
+    if (ems <= 0 || ems >= mostEms || std::isnan(ems)) return font;
     // Wider by a trace: readers mind a gap, however small, but no overlap.
     const int hundredths = static_cast<int>(ems * hundredthsOfAnEm) + 1;
     FontSpec reaching = font;
