@@ -64,10 +64,10 @@ std::set<Color> colorsIn(const Bitmap& picture, Counts counts) {
     std::uint32_t last = 0;
     for (int y = 1; y < picture.height() - 1; ++y)
         for (int x = 1; x < picture.width() - 1; ++x) {
-            const std::uint32_t pixel = picture.row(y)[x];
-            if (pixel == last || !counts(x, y)) continue;
-            colors.insert(toolkit::colorOf(pixel));
-            last = pixel;
+            const std::uint32_t value = picture.row(y)[x];
+            if (value == last || !counts(x, y)) continue;
+            colors.insert(toolkit::colorOf(value));
+            last = value;
         }
     return colors;
 }

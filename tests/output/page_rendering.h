@@ -22,10 +22,10 @@ struct Rendering {
     std::string pixels;
 
     [[nodiscard]] int channel(int x, int y, int which) const {
-        const std::size_t pixel = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+        const std::size_t place = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
                                   static_cast<std::size_t>(x);
         const auto at =
-            pixel * static_cast<std::size_t>(channels) + static_cast<std::size_t>(which);
+            place * static_cast<std::size_t>(channels) + static_cast<std::size_t>(which);
         return static_cast<unsigned char>(pixels[at]);
     }
     [[nodiscard]] toolkit::Color color(int x, int y) const {

@@ -10,7 +10,7 @@ namespace toolkit::test {
 namespace {
 
 /// A page with a character whose em has 600 twips.
-std::string pageWith(const char* font, const char* character, float reach) {
+std::string pageWithSign(const char* font, const char* character, float reach) {
     auto card = std::make_shared<CardRecording>();
     card->width = 100;
     card->height = 50;
@@ -24,35 +24,35 @@ std::string pageWith(const char* font, const char* character, float reach) {
     return zev::test::unpackedPdf(pdfDocument({&page, 1}, ""));
 }
 
-std::string pageWithSuit(float reach) { return pageWith("Symbol", "\xA9", reach); }
+std::string pageWithSuit(float reach) { return pageWithSign("Symbol", "\xA9", reach); }
 
-bool holds(std::string_view file, std::string_view text) {
+bool pageHolds(std::string_view file, std::string_view text) {
     return file.find(text) != std::string_view::npos;
 }
 
 TEST(SuitReach, ASuitIsToldToReachAsFarAsItsRoomOrATraceFarther) {
-    EXPECT_TRUE(holds(pageWithSuit(433), "/DW 730 "));
-    EXPECT_TRUE(holds(pageWithSuit(437.9F), "/DW 730 "));
-    EXPECT_TRUE(holds(pageWithSuit(60.5F), "/DW 110 "));
+    EXPECT_TRUE(pageHolds(pageWithSuit(433), "/DW 730 "));
+    EXPECT_TRUE(pageHolds(pageWithSuit(437.9F), "/DW 730 "));
+    EXPECT_TRUE(pageHolds(pageWithSuit(60.5F), "/DW 110 "));
 }
 
 TEST(SuitReach, ASuitWithoutRoomOrWithFarTooMuchIsAsWideAsItIs) {
     for (const float reach : {0.0F, -433.0F, 2400.0F, 1e30F})
-        EXPECT_TRUE(holds(pageWithSuit(reach), "/DW 522 ")) << reach;
+        EXPECT_TRUE(pageHolds(pageWithSuit(reach), "/DW 522 ")) << reach;
 }
 
 TEST(SuitReach, TheSignStaysWhereItWas) {
     for (const char* ink :
          {"/FontBBox [22.9492187 -14.6484375 499.511718 576.171875 ]", "<0001> Tj"}) {
-        EXPECT_TRUE(holds(pageWithSuit(0), ink));
-        EXPECT_TRUE(holds(pageWithSuit(433), ink));
+        EXPECT_TRUE(pageHolds(pageWithSuit(0), ink));
+        EXPECT_TRUE(pageHolds(pageWithSuit(433), ink));
     }
 }
 
 TEST(SuitReach, AnotherFontIsLeftAlone) {
-    const std::string page = pageWith("Arial", "S", 433);
-    EXPECT_TRUE(holds(page, "+LiberationSans"));
-    EXPECT_FALSE(holds(page, "ZevlinS"));
+    const std::string page = pageWithSign("Arial", "S", 433);
+    EXPECT_TRUE(pageHolds(page, "+LiberationSans"));
+    EXPECT_FALSE(pageHolds(page, "ZevlinS"));
 }
 
 } // namespace
