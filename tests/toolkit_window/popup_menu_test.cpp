@@ -1,6 +1,9 @@
 // Pop-up menus on the screen.
 #include "fixture.h"
 #include "toolkit/testing/test_boxes.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
 #include "toolkit/window/popup_menu.h"
 
 namespace window_test {
@@ -20,6 +23,22 @@ TEST_F(PopupMenu, PopupRunsTheChosenRow) {
     test::chooseInNextPopup(2);
     popupMenu(rows);
     EXPECT_EQ(log, (Log{"italic"}));
+}
+
+TEST_F(PopupMenu, OpensAtThePointerOnWhicheverScreenTheFormLies) {
+    MenuItem bold{.Caption = "Boldface"};
+    const std::vector<PopupRow> rows{{.item = &bold}};
+    for (const bool isOnSecondScreen : {false, true}) {
+        if (isOnSecondScreen) test::shiftWindow(850, 90);
+        test::moveMouse(px(30), px(40));
+        test::PopupPlace place;
+        test::chooseInNextPopup(0, place);
+        popupMenu(rows);
+        const int originX = isOnSecondScreen ? 800 : 0;
+        const int originY = isOnSecondScreen ? 100 : 0;
+        EXPECT_EQ(place.x, originX + cursorPosition().x);
+        EXPECT_EQ(place.y, originY + cursorPosition().y);
+    }
 }
 
 } // namespace

@@ -69,9 +69,15 @@ void fillNextInputBox(std::string_view utf8, ShownBox& seen) {
 }
 
 void chooseInNextPopup(int row) {
-    onceThere([row] {
+    static PopupPlace unread;
+    chooseInNextPopup(row, unread);
+}
+
+void chooseInNextPopup(int row, PopupPlace& seen) {
+    onceThere([row, &seen] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (menu == nullptr) return false;
+        seen = {menu->x(), menu->y()};
         menu->setActiveAction(menu->actions().at(row));
         QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
         QCoreApplication::sendEvent(menu, &event);

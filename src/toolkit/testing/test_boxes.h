@@ -19,7 +19,13 @@ struct ShownBox {
 void endNextBox(std::optional<Answer> answer, ShownBox& seen);
 /// The next input box gets this text and its OK button.
 void fillNextInputBox(std::string_view utf8, ShownBox& seen);
-/// The row of the next pop-up menu is chosen.
+/// The upper left corner of a pop-up menu, in pixels among all screens.
+struct PopupPlace {
+    int x = 0;
+    int y = 0;
+};
+/// The row of the next pop-up menu is chosen; its place is noted.
+void chooseInNextPopup(int row, PopupPlace& seen);
 void chooseInNextPopup(int row);
 
 } // namespace toolkit::test

@@ -28,10 +28,14 @@ QPoint pointer() { return qGuiApp == nullptr ? QPoint() : QCursor::pos(); }
 
 } // namespace
 
-CursorPosition cursorPosition() {
+QPoint cursorAmongScreens() {
     const QPoint now = pointer();
     if (assumed() && assumed()->pointerThen != now) assumed().reset();
-    const QPoint place = (assumed() ? assumed()->asked : now) - screenOrigin();
+    return assumed() ? assumed()->asked : now;
+}
+
+CursorPosition cursorPosition() {
+    const QPoint place = cursorAmongScreens() - screenOrigin();
     return {place.x(), place.y()};
 }
 

@@ -4,11 +4,11 @@
 
 #include <QtWidgets/QMenu>
 
-#include "toolkit/window/cursor.h"
 #include "toolkit/window/dialog_answers.h"
 #include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/menu/qt_menu_rows.h"
 #include "toolkit/window/qt_box_parent.h"
+#include "toolkit/window/qt_cursor.h"
 #include "toolkit/window/qt_window.h"
 
 namespace toolkit {
@@ -19,8 +19,7 @@ const PopupRow* chosenOnScreen(std::span<const PopupRow> rows) {
     QMenu menu(boxParent());
     std::map<const QAction*, const PopupRow*> byAction;
     for (const PopupRow& row : rows) byAction[&addMenuAction(menu, row.item, row.shortcut)] = &row;
-    const CursorPosition place = cursorPosition();
-    const QAction* chosen = menu.exec({place.x, place.y});
+    const QAction* chosen = menu.exec(cursorAmongScreens());
     const auto found = byAction.find(chosen);
     return found == byAction.end() ? nullptr : found->second;
 }

@@ -5,6 +5,9 @@
 
 namespace toolkit {
 
+/// The cursor's place among all screens; cursorPosition() tells it from the form's screen.
+[[nodiscard]] QPoint cursorAmongScreens();
+
 /// From now on the cursor counts as being here, a place among all screens, until the platform's
 /// pointer really moves.
 void assumeCursorAt(QPoint place);
