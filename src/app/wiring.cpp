@@ -15,6 +15,7 @@
 #include "events/edit_keys.h"
 #include "events/keys.h"
 #include "events/mark_clicks.h"
+#include "form/panels.h"
 #include "form/run_procedure.h"
 #include "form/trace.h"
 #include "form/unsaved.h"
@@ -105,6 +106,14 @@ std::vector<toolkit::LabelGroup> cardGroups(Zevlin& form) {
              .Click = run(form, SText_Click)}};
 }
 
+/// A slot that runs a command. The help would lie over what the command shows.
+auto runCommand(Zevlin& form, void (*procedure)(Zevlin&)) {
+    return [&form, procedure] {
+        if (form.THelp.Visible) hideHelp(form);
+        procedure(form);
+    };
+}
+
 std::vector<toolkit::MenuRow> menuRows(Zevlin& form) {
     std::vector<toolkit::MenuRow> rows;
     for (const MenuEntry& entry : menuTable()) {
@@ -116,7 +125,7 @@ std::vector<toolkit::MenuRow> menuRows(Zevlin& form) {
             row.item->Caption = entry.caption;
             row.item->Enabled = entry.atStart == AtStart::Enabled;
         }
-        if (entry.procedure != nullptr) row.Click = run(form, entry.procedure);
+        if (entry.procedure != nullptr) row.Click = runCommand(form, entry.procedure);
         rows.push_back(row);
     }
     return rows;

@@ -4,6 +4,7 @@
 #include "layout/write_layout.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {
@@ -36,6 +37,34 @@ TEST_F(Wiring, APressOnBareCardReachesTheMarks) {
     EXPECT_TRUE(form.AMark[1].Visible);
     clickMark(1);
     EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+TEST_F(Wiring, AnyCommandClosesTheHelpFirst) {
+    start();
+    for (const char* command :
+         {"Options>Show the Design Menu         Shift Ctrl  D", "Design>Show all Marks",
+          "Design>Red", "File>New", "File>Save As...", "Options>Boldface", "Options>My Name",
+          "View>Fit to screen height", "View>Zoom Out (Smaller)               Ctrl  -"}) {
+        toolkit::test::typeKey(toolkit::key::f1);
+        ASSERT_TRUE(form.THelp.Visible) << command;
+        if (std::string_view(command) == "File>Save As...") answerName("");
+        if (std::string_view(command) == "Options>My Name") answerInput("");
+        ASSERT_TRUE(toolkit::test::chooseMenu(command)) << command;
+        EXPECT_FALSE(toolkit::test::isShown(form.THelp)) << command;
+        EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.P1)) << command;
+    }
+}
+
+TEST_F(Wiring, AShortcutClosesTheHelpFirst) {
+    start();
+    form.MShapes.Visible = true;
+    toolkit::test::typeKey(toolkit::key::f1);
+    ASSERT_TRUE(form.THelp.Visible);
+    toolkit::test::typeKey('A', toolkit::shift::ctrl);
+    EXPECT_TRUE(form.MShowShapes.Checked);
+    EXPECT_FALSE(form.THelp.Visible);
+    toolkit::test::typeKey(toolkit::key::f1);
+    EXPECT_TRUE(toolkit::test::isShown(form.THelp));
 }
 
 TEST_F(Wiring, EscapeHidesTheHelpAndTheCardIsAliveAgain) {
