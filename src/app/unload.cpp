@@ -11,6 +11,7 @@
 #include "form/zevlin.h"
 #include "toolkit/base/number_text.h"
 #include "toolkit/window/program.h"
+#include "view/color_panel.h"
 
 namespace zev {
 
@@ -23,6 +24,8 @@ bool Form_Unload(Zevlin& form, int unloadMode) {
             cancel = true;
             return BCancel_Click(form);
         }
+        // It would lie over the chooser in which the card is named.
+        if (form.ColorPic.Visible) ColorBut_Click(form, colorPanelCancel);
         cancel = CheckMod(form);
         if (cancel) return;
         completeOptions(form);

@@ -22,8 +22,6 @@ constexpr std::array presets{toolkit::rgb(0, 0, 0),   toolkit::rgb(0, 0, 128),
 /// How the options store black, since 0 stands for the ACBL's scheme.
 constexpr toolkit::Color storedBlack = 1;
 
-constexpr int okButton = 0;
-
 void showNumbers(Zevlin& form) {
     for (std::size_t i = 0; i < form.ColorID.size(); ++i)
         form.ColorID[i].Caption = toolkit::numberText(form.ColorScroll[i].Value);
@@ -144,7 +142,7 @@ void ColorScroll_Scroll(Zevlin& form, int /*index*/) {
 
 void ColorBut_Click(Zevlin& form, int index) {
     procedure(form, "ColorBut_Click", [&] {
-        index == okButton ? takeColor(form) : goBack(form);
+        index == colorPanelOk ? takeColor(form) : goBack(form);
         closePanel(form);
     });
 }

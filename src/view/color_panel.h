@@ -15,7 +15,9 @@ void ColorSample_Click(Zevlin& form, int index);
 void ColorID_Click(Zevlin& form, int index);
 /// A slider was moved.
 void ColorScroll_Scroll(Zevlin& form, int index);
-/// OK (0) takes the colour, Cancel (1) goes back to the scheme before; both close the panel.
+constexpr int colorPanelOk = 0;
+constexpr int colorPanelCancel = 1;
+/// OK takes the colour, Cancel goes back to the scheme before; both close the panel.
 void ColorBut_Click(Zevlin& form, int index);
 
 /// Marks the preset that is the chosen colour.

@@ -6,6 +6,7 @@
 #include "card/write_card.h"
 #include "form/write_options.h"
 #include "layout/write_layout.h"
+#include "toolkit/base/key.h"
 #include "toolkit/print/print_dialog.h"
 #include "toolkit/print/printer.h"
 #include "toolkit/print/printers.h"
@@ -172,6 +173,32 @@ TEST_F(Unload, AnEditThatIsStillOpenCountsAsAChange) {
     toolkit::test::closeWindow();
     EXPECT_EQ(boxes.size(), 1U);
     EXPECT_NE(dataFileContent("Jones.zev").find("\"kept\""), std::string::npos);
+}
+
+TEST_F(Unload, TheColourPanelIsCancelledBeforeTheCardIsNamed) {
+    startChanged();
+    ASSERT_TRUE(toolkit::test::chooseMenu("Options>Color Management>Custom..."));
+    ASSERT_TRUE(toolkit::test::isShown(form.ColorPic));
+    answer(toolkit::Answer::Yes);
+    answerChooser([&] {
+        EXPECT_FALSE(toolkit::test::isShown(form.ColorPic));
+        EXPECT_TRUE(toolkit::test::isShown(form.P3));
+        toolkit::test::typeKey(toolkit::key::escape);
+    });
+    toolkit::test::closeWindow();
+    EXPECT_EQ(choosers.size(), 1U);
+    EXPECT_TRUE(form.mcolorscheme[0].Checked);
+    EXPECT_FALSE(form.mcolorscheme[1].Checked);
+    EXPECT_TRUE(toolkit::test::isShown(form.P1));
+}
+
+TEST_F(Unload, AColourThatIsBeingChosenIsGivenUpWithTheProgram) {
+    start();
+    ASSERT_TRUE(toolkit::test::chooseMenu("Options>Color Management>Custom..."));
+    toolkit::test::closeWindow();
+    EXPECT_TRUE(traced("ColorBut_Click"));
+    EXPECT_NE(dataFileContent("ZEV.Ini").find("ColorScheme=0"), std::string::npos);
+    EXPECT_EQ(form.Myprinter.hdc, 0);
 }
 
 TEST_F(Unload, TheEndOfTheSessionAsksAsTheWindowDoes) {
