@@ -44,14 +44,12 @@ BlankedText blankEscapes(std::string_view raw) {
 }
 
 std::vector<SuitPlace> suitPlaces(std::string_view scanBuffer) {
-    std::string buffer(scanBuffer);
-    AmpRem(buffer);
     std::vector<SuitPlace> places;
-    for (std::size_t caret = buffer.find('^'); caret != std::string::npos;
-         caret = buffer.find('^', caret + 1)) {
-        if (caret + 1 == buffer.size()) break;
+    for (std::size_t caret = scanBuffer.find('^'); caret != std::string_view::npos;
+         caret = scanBuffer.find('^', caret + 1)) {
+        if (caret + 1 == scanBuffer.size()) break;
         // The letter is in lower case already, except in an escape that the blanking passed over.
-        const std::size_t suit = suitLetters.find(buffer[caret + 1]);
+        const std::size_t suit = suitLetters.find(scanBuffer[caret + 1]);
         if (suit == std::string_view::npos) continue;
         places.push_back({static_cast<int>(caret) + 1, static_cast<int>(suit) + 1});
     }

@@ -27,14 +27,13 @@ struct BlankedText {
 };
 [[nodiscard]] BlankedText blankEscapes(std::string_view raw);
 
-/// A suit to lay over the text: `position` is the one-based place of its "^" in the scan buffer
-/// with single ampersands, `suit` 1 to 4.
+/// A suit to lay over the text: `position` is the one-based place of its "^" in the scan buffer,
+/// and so of its blanks in the caption; `suit` 1 to 4.
 struct SuitPlace {
     int position = 0;
     int suit = 0;
 };
-/// The places of a scan buffer, its ampersands doubled or single. A "^" with anything but one of
-/// the four small letters behind it gives none.
+/// A "^" with anything but one of the four small letters behind it gives no place.
 [[nodiscard]] std::vector<SuitPlace> suitPlaces(std::string_view scanBuffer);
 
 } // namespace zev

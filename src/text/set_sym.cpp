@@ -58,6 +58,11 @@ void stack(Zevlin& form, int index, toolkit::Label& symbol) {
     form.P1Stack.bringToFront(symbol);
 }
 
+/// Twips that a caption takes where it is painted.
+float paintedWidth(const toolkit::FontSpec& font, std::string_view caption) {
+    return toolkit::textWidth(font, toolkit::paintedText(caption));
+}
+
 /// How far from the text's left edge its symbols begin. Each place is measured from the one before
 /// it: a text of any length is gone through once.
 class SymbolLeads {
@@ -67,7 +72,7 @@ class SymbolLeads {
     /// Twips; positions are one-based and rise from call to call.
     float at(int position) {
         const auto end = static_cast<std::size_t>(position) - 1;
-        lead_ += toolkit::textWidth(font_, caption_.substr(measured_, end - measured_));
+        lead_ += paintedWidth(font_, caption_.substr(measured_, end - measured_));
         measured_ = end;
         return static_cast<float>(lead_);
     }
@@ -82,7 +87,7 @@ class SymbolLeads {
 /// Twips from the card's left edge to where the field's text begins.
 float textLeft(const toolkit::Label& label) {
     if (label.Alignment != toolkit::Alignment::Center) return label.Left;
-    return label.Left + (label.Width - toolkit::textWidth(label.Font, label.Caption)) / 2;
+    return label.Left + (label.Width - paintedWidth(label.Font, label.Caption)) / 2;
 }
 
 /// Twips from the card's top to where the label's font puts its baseline.
@@ -131,9 +136,8 @@ void layOver(Zevlin& form, int index) {
     toolkit::Label& label = form.AText[index];
     label.Tag = label.Caption;
     if (!isField(label)) return;
-    BlankedText blanked = blankEscapes(label.Caption);
+    const BlankedText blanked = blankEscapes(label.Caption);
     label.Caption = blanked.caption;
-    AmpRem(blanked.scanBuffer);
     hideOldSymbols(form, index);
     SymbolLeads leads(label.Font, label.Caption);
     const float start = textLeft(label);

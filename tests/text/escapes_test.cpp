@@ -156,8 +156,8 @@ TEST(SuitPlaces, HoldNoCaretAtTheEnd) {
     EXPECT_EQ(suitsIn(blankEscapes("a^").scanBuffer), Suits{});
 }
 
-TEST(SuitPlaces, CountADoubledAmpersandOnce) {
-    EXPECT_EQ(suitsIn(blankEscapes("a && b^d").scanBuffer), (Suits{{6, 2}}));
+TEST(SuitPlaces, AreThoseOfTheCaptionWithItsDoubledAmpersands) {
+    EXPECT_EQ(suitsIn(blankEscapes("a && b^d").scanBuffer), (Suits{{7, 2}}));
 }
 
 TEST(Escapes, TakeVeryLongTextsInOneGo) {

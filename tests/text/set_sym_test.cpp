@@ -129,12 +129,30 @@ TEST_F(SetSymbols, CaretAtTheEndIsBlankWithoutASymbol) {
     EXPECT_EQ(shownSymbols(1), 1);
 }
 
-TEST_F(SetSymbols, AmpersandBeforeASymbolTakesOneCharacterOffItsLead) {
+TEST_F(SetSymbols, SymbolsBehindAmpersandsStandOnTheBlanksThatArePainted) {
     startSmall();
-    form.AText[1].Alignment = toolkit::Alignment::Left;
-    enter(1, "a&b^h");
-    EXPECT_EQ(form.AText[1].Caption, "a&&b\xA0\xA0\xA0");
-    EXPECT_FLOAT_EQ(form.SText[1].Left, form.AText[1].Left + widthIn(1, "a&&"));
+    for (const auto alignment : {toolkit::Alignment::Left, toolkit::Alignment::Center}) {
+        form.AText[1].Alignment = alignment;
+        show(1, "i && i&&i ^h&&^s");
+        const toolkit::Label& label = form.AText[1];
+        EXPECT_EQ(label.Caption, "i && i&&i \xA0\xA0\xA0&&\xA0\xA0\xA0");
+        const std::string painted = "i & i&i \xA0\xA0\xA0&\xA0\xA0\xA0";
+        const bool isCentred = alignment == toolkit::Alignment::Center;
+        const float start = label.Left + (isCentred ? (label.Width - widthIn(1, painted)) / 2 : 0);
+        const int last = form.SText.UBound();
+        ASSERT_EQ(shownSymbols(1), 2);
+        EXPECT_NEAR(form.SText[last - 1].Left, start + widthIn(1, "i & i&i "), 1);
+        EXPECT_NEAR(form.SText[last].Left, start + widthIn(1, "i & i&i \xA0\xA0\xA0&"), 1);
+    }
+}
+
+TEST_F(SetSymbols, AmpersandBehindASymbolDoesNotMoveIt) {
+    startSmall();
+    enter(1, "^h&&&");
+    const toolkit::Label& label = form.AText[1];
+    ASSERT_EQ(label.Caption, "\xA0\xA0\xA0&&&&");
+    EXPECT_NEAR(form.SText[1].Left, label.Left + (label.Width - widthIn(1, "\xA0\xA0\xA0&&")) / 2,
+                1);
 }
 
 TEST_F(SetSymbols, SecondEditLeavesTheOldSymbolsHidden) {
