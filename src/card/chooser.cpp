@@ -22,10 +22,13 @@ namespace {
 constexpr const char* openFolderTip = "Click to open the folder in Windows Explorer";
 constexpr const char* changeFolderTip = "  Right-click to change";
 
-void setTexts(Zevlin& form) {
+void showWhetherThereAreCards(Zevlin& form) {
     form.FileList.Visible = !form.FileList.List.empty();
     form.LSaveAs.Caption = form.FileList.Visible ? "Select from list or enter a name for a new card"
                                                  : "Enter a name for a new card";
+}
+
+void showFolder(Zevlin& form) {
     form.LPath.Caption = toolkit::captionFor("Folder:  " + toolkit::displayText(form.DataFolder));
     form.LPath.ForeColor = linkBlue;
     form.LPath.ToolTip = openFolderTip;
@@ -65,7 +68,8 @@ class ShownChooser {
 
 void letPlayerChoose(Zevlin& form) {
     PopulateFileList(form);
-    setTexts(form);
+    showWhetherThereAreCards(form);
+    showFolder(form);
     layOutChooser(form);
     const ShownChooser shown(form);
     form.ChooserCancelled = form.ChooserTaken = false;
@@ -86,6 +90,13 @@ std::string chosenName(Zevlin& form) {
 }
 
 } // namespace
+
+void showEmptyFolder(Zevlin& form) {
+    showWhetherThereAreCards(form);
+    layOutChooser(form);
+    // The list, which had it, is gone.
+    form.SetFocus(form.TSaveAs);
+}
 
 bool checkCardName(const std::string& name) {
     if (!hasForbiddenCharacter(name) && !isTemporaryCard(name) &&

@@ -18,6 +18,9 @@ struct Zevlin;
 /// Lists the cards of the data folder by name, none of them selected.
 void PopulateFileList(Zevlin& form);
 
+/// The open chooser after its last card was deleted.
+void showEmptyFolder(Zevlin& form);
+
 /// Whether a card can have the name; tells the player if not.
 [[nodiscard]] bool checkCardName(const std::string& name);
 

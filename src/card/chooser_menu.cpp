@@ -41,6 +41,7 @@ void deleteSelected(Zevlin& form) {
     const bool isCurrent = isCurrentCard(form, path);
     if (std::filesystem::exists(path)) toolkit::deleteFile(path);
     removeEntry(form.FileList);
+    if (form.FileList.List.empty()) showEmptyFolder(form);
     if (isCurrent) {
         form.CardName.clear();
         SetCaption(form);

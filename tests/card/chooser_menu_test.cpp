@@ -56,6 +56,23 @@ TEST_F(ChooserMenu, DeleteRemovesFileEntryAndNameWithoutAQuestion) {
     EXPECT_TRUE(exists("Adams"));
 }
 
+TEST_F(ChooserMenu, DeletingTheLastCardLeavesTheChooserOfAnEmptyFolder) {
+    inChooser([&] {
+        const float height = form.P3.Height;
+        for (int left = 3; left > 0; --left) {
+            EXPECT_TRUE(toolkit::test::isShown(form.FileList));
+            remove(0);
+        }
+        EXPECT_FALSE(toolkit::test::isShown(form.FileList));
+        EXPECT_EQ(form.LSaveAs.Caption, "Enter a name for a new card");
+        EXPECT_LT(form.P3.Height, height);
+        EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.TSaveAs));
+        toolkit::test::typeText("Jones");
+        toolkit::test::typeKey(toolkit::key::enter);
+    });
+    EXPECT_EQ(chosen, "Jones");
+}
+
 TEST_F(ChooserMenu, DeletingTheCurrentCardMakesItUnnamedAndDoesNotClearIt) {
     openNamed("Brown");
     clickMark(1);
