@@ -98,7 +98,7 @@ void renameSelected(Zevlin& form) {
         {.prompt = "Enter new name for this card", .title = "Rename card", .preset = name});
     if (answer.empty()) return;
     const std::string newName(toolkit::trim(answer));
-    if (checkCardName(newName)) renameCard(form, name, newName);
+    if (newName != name && checkCardName(newName)) renameCard(form, name, newName);
 }
 
 } // namespace

@@ -160,14 +160,17 @@ TEST_F(ChooserMenu, RenameOntoAnotherCardIsRefusedInAnyCaseAndNothingIsLost) {
     EXPECT_TRUE(exists("Brown"));
 }
 
-TEST_F(ChooserMenu, RenameOntoItselfSaysThatTheNameIsTaken) {
-    announceError("Error in mpopRename_Click: #58");
-    inChooser([&] {
-        rename(1, "Brown");
-        leave();
-    });
-    EXPECT_EQ(boxes.at(0).text, "Another file already has that name");
-    EXPECT_TRUE(exists("Brown"));
+TEST_F(ChooserMenu, RenameToTheNameThatTheCardHasDoesNothing) {
+    const auto before = fs::last_write_time(dataFile("Brown.zev"));
+    for (const char* name : {"Brown", "  Brown "}) {
+        inChooser([&] {
+            rename(1, name);
+            EXPECT_EQ(form.FileList.ListIndex, 1);
+            leave();
+        });
+    }
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_EQ(fs::last_write_time(dataFile("Brown.zev")), before);
 }
 
 #ifndef _WIN32
