@@ -25,6 +25,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr const char* dataFolderName = "ZEV";
+
 /// A program folder with this file is shared, by players or with a developer, and keeps its files.
 constexpr const char* sharedFile = "zevlin.frm";
 
@@ -156,8 +158,14 @@ fs::path GetSpecialFolder(Zevlin& form, int identifier) {
     return folder;
 }
 
+fs::path dataFolderIn(const fs::path& documents) {
+    const auto found = toolkit::findFile(documents, dataFolderName);
+    std::error_code ignored;
+    return found && fs::is_directory(*found, ignored) ? *found : documents / dataFolderName;
+}
+
 void mDocsFolder_Click(Zevlin& form) {
-    form.DataFolder = form.DocumentsFolder / dataFolderName;
+    form.DataFolder = dataFolderIn(form.DocumentsFolder);
     std::error_code ignored;
     fs::create_directories(form.DataFolder, ignored);
     const auto source = toolkit::programFolder();

@@ -7,8 +7,9 @@ namespace zev {
 
 struct Zevlin;
 
-/// The data folder's name in the documents folder.
-constexpr const char* dataFolderName = "ZEV";
+/// The data folder among the documents, there or not. Its name, too, may be written in another
+/// case.
+[[nodiscard]] std::filesystem::path dataFolderIn(const std::filesystem::path& documents);
 
 /// The shell folder with this identifier (5 is Documents), empty on a failure.
 [[nodiscard]] std::filesystem::path GetSpecialFolder(Zevlin& form, int identifier);

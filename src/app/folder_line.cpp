@@ -37,7 +37,7 @@ void LPath_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
 
 void mpopFolderMenu_Click(Zevlin& form) {
     form.mpopMoveCards.Caption = toolkit::captionFor(
-        "Store cards in " + toolkit::displayText(form.DocumentsFolder / dataFolderName));
+        "Store cards in " + toolkit::displayText(dataFolderIn(form.DocumentsFolder)));
 }
 
 void mpopMoveCards_Click(Zevlin& form) { mDocsFolder_Click(form); }

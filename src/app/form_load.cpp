@@ -57,7 +57,7 @@ struct LoadRun {
 bool findDataFolder(Zevlin& form) {
     form.DocumentsFolder = GetSpecialFolder(form, documentsFolderIdentifier);
     if (form.DocumentsFolder.empty()) return false;
-    form.DataFolder = form.DocumentsFolder / "ZEV";
+    form.DataFolder = dataFolderIn(form.DocumentsFolder);
     const bool firstRun = !toolkit::findFile(form.DataFolder, optionsFileName);
     form.mDocsFolder.Visible = false;
     form.mDocsFolder.Checked = true;

@@ -157,6 +157,49 @@ TEST_F(DataFolder, ATargetOlderThanTheSourceIsReplacedAndTheSourceGoes) {
     EXPECT_FALSE(isInstalled("Sample.zev"));
 }
 
+#ifndef _WIN32
+TEST_F(DataFolder, ItsOwnNameIsMatchedWithoutRegardToCase) {
+    fs::create_directories(dataFolder);
+    writeOptions("Zoom=6\r\n");
+    writeLayout(fewFields());
+    writeCard("Jones", "");
+    const fs::path found = dataFolder.parent_path() / "zev";
+    fs::rename(dataFolder, found);
+    answerName("");
+    start();
+    EXPECT_EQ(form.DataFolder, found);
+    EXPECT_EQ(form.ZoomLevel, 6);
+    EXPECT_FALSE(form.THelp.Visible);
+    EXPECT_FALSE(fs::exists(dataFolder));
+}
+
+TEST_F(DataFolder, AFirstRunFillsTheFolderThatIsThereInAnotherCase) {
+    const fs::path found = dataFolder.parent_path() / "Zev";
+    fs::create_directories(found);
+    start();
+    EXPECT_EQ(form.DataFolder, found);
+    EXPECT_TRUE(fs::exists(found / "Sample.zev"));
+    EXPECT_FALSE(fs::exists(dataFolder));
+}
+
+TEST_F(DataFolder, AFileOfThatNameInAnotherCaseIsNoFolder) {
+    fs::create_directories(dataFolder.parent_path());
+    toolkit::writeFile(dataFolder.parent_path() / "zev", "a note");
+    start();
+    EXPECT_EQ(form.DataFolder, dataFolder);
+    EXPECT_TRUE(fs::exists(dataFile("Sample.zev")));
+}
+
+TEST_F(DataFolder, TheExactNameGoesFirst) {
+    fs::create_directories(dataFolder.parent_path() / "Zev");
+    fs::create_directories(dataFolder);
+    writeOptions("Zoom=6\r\n");
+    writeLayout(fewFields());
+    start();
+    EXPECT_EQ(form.DataFolder, dataFolder);
+}
+#endif
+
 TEST_F(DataFolder, ATargetIsFoundWithoutRegardToCase) {
     keep("Sample.zev", "old", 10s);
     fs::rename(dataFile("Sample.zev"), dataFile("SAMPLE.ZEV"));
