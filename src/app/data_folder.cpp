@@ -153,8 +153,7 @@ void tellFailed(Zevlin& form, const fs::path& source, const toolkit::RunTimeErro
 
 fs::path GetSpecialFolder(Zevlin& form, int identifier) {
     fs::path folder;
-    trapped(form, "Error in GetSpecialFolder: #",
-            [&] { folder = toolkit::specialFolder(identifier); });
+    procedure(form, "GetSpecialFolder", [&] { folder = toolkit::specialFolder(identifier); });
     return folder;
 }
 

@@ -7,6 +7,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "toolkit/base/folder.h"
+#include "toolkit/base/number_text.h"
 #include "toolkit/base/path_text.h"
 #include "toolkit/window/popup_menu.h"
 #include "toolkit/window/program.h"
@@ -26,7 +27,7 @@ void openFolderMenu(Zevlin& form) {
 } // namespace
 
 void LPath_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
-    trapped(form, "Error in LPath_MouseDown: #", [&] {
+    procedure(form, "LPath_MouseDown", toolkit::numberText(mouse.Button), [&] {
         if (mouse.Button == toolkit::button::left) {
             toolkit::showInFileManager(toolkit::resolveFile(form.DataFolder, optionsFileName));
         } else if (mouse.Button == toolkit::button::right && !form.mDocsFolder.Checked) {
@@ -36,11 +37,15 @@ void LPath_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
 }
 
 void mpopFolderMenu_Click(Zevlin& form) {
-    form.mpopMoveCards.Caption = toolkit::captionFor(
-        "Store cards in " + toolkit::displayText(dataFolderIn(form.DocumentsFolder)));
+    procedure(form, "mpopFolderMenu_Click", [&] {
+        form.mpopMoveCards.Caption = toolkit::captionFor(
+            "Store cards in " + toolkit::displayText(dataFolderIn(form.DocumentsFolder)));
+    });
 }
 
-void mpopMoveCards_Click(Zevlin& form) { mDocsFolder_Click(form); }
+void mpopMoveCards_Click(Zevlin& form) {
+    procedure(form, "mpopMoveCards_Click", [&] { mDocsFolder_Click(form); });
+}
 
 void mpopLeaveCards_Click(Zevlin& /*form*/) {}
 

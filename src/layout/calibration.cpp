@@ -76,6 +76,7 @@ void measureAll(Zevlin& form) {
 
 bool Calibrate(Zevlin& form, const toolkit::Label& label, InkMeasure& measure) {
     bool found = false;
+    Traceit(form, "Calibrate");
     trapped(form, "Error in Calibrate ", [&] {
         const auto ink = findInk(printedCaption(label, form.TwipsPerPixel), toolkit::white);
         if (!ink) return;
@@ -92,6 +93,7 @@ bool Calibrate(Zevlin& form, const toolkit::Label& label, InkMeasure& measure) {
 }
 
 void GetOffsets(Zevlin& form) {
+    Traceit(form, "GetOffsets");
     trapped(form, "Error in GetOffsets ", [&] { measureAll(form); });
 }
 

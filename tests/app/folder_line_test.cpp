@@ -63,6 +63,31 @@ TEST_F(FolderLine, MovingTheCardsLeavesNothingToClickFor) {
     });
 }
 
+TEST_F(FolderLine, EachStepIsTraced) {
+    start();
+    form.mDocsFolder.Checked = false;
+    answerPopup([](std::span<const toolkit::PopupRow> rows) { rows[0].Click(); });
+    form.Trace.clear();
+    inChooser([&] {
+        pressFolder(toolkit::button::left);
+        pressFolder(toolkit::button::right);
+    });
+    for (const char* line :
+         {"LPath_MouseDown 1", "LPath_MouseDown 2", "mpopFolderMenu_Click", "mpopMoveCards_Click"})
+        EXPECT_TRUE(traced(line)) << line;
+}
+
+TEST_F(FolderLine, AFailureIsTracedAndGoesNoFurther) {
+    start();
+    form.mDocsFolder.Checked = false;
+    announceError("Error in LPath_MouseDown: #");
+    answerPopup([](std::span<const toolkit::PopupRow>) {
+        throw toolkit::RunTimeError(toolkit::Failure::OutOfMemory);
+    });
+    inChooser([&] { pressFolder(toolkit::button::right); });
+    EXPECT_TRUE(traced("Error in LPath_MouseDown: #7, Out of memory"));
+}
+
 TEST_F(FolderLine, LeavingTheCardsDoesNothing) {
     start();
     form.mDocsFolder.Checked = false;

@@ -107,15 +107,16 @@ TEST_F(FormLoad, ALayoutThatACrashLeftSetAsideComesBack) {
     EXPECT_EQ(form.AMark.UBound(), 4);
 }
 
-TEST_F(FormLoad, TheTraceBeginsWithVersionHelpAndThePath) {
+TEST_F(FormLoad, TheTraceBeginsWithDocumentsVersionHelpAndThePath) {
     toolkit::overrideClock(0);
     start();
     const auto lines = traceLines();
-    ASSERT_GT(lines.size(), 3U);
-    EXPECT_EQ(lines[0], "AppVersion");
-    EXPECT_EQ(lines[1], "HelpCreate");
-    EXPECT_TRUE(lines[2].starts_with("Form_Load 1970-01-01 "));
-    EXPECT_TRUE(lines[2].ends_with(", path: " + dataFolder.string()));
+    ASSERT_GT(lines.size(), 4U);
+    EXPECT_EQ(lines[0], "GetSpecialFolder");
+    EXPECT_EQ(lines[1], "AppVersion");
+    EXPECT_EQ(lines[2], "HelpCreate");
+    EXPECT_TRUE(lines[3].starts_with("Form_Load 1970-01-01 "));
+    EXPECT_TRUE(lines[3].ends_with(", path: " + dataFolder.string()));
 }
 
 TEST_F(FormLoad, APictureInTheDataFolderReplacesTheCardsButNotTheLayout) {

@@ -119,6 +119,16 @@ TEST_F(Calibration, WithoutInkKeepsTheEarlierOffsets) {
     EXPECT_NE(form.FontOffsets, offsets);
 }
 
+TEST_F(Calibration, TracesTheMeasuringAndEachCharacter) {
+    start();
+    form.Trace.clear();
+    GetOffsets(form);
+    const auto lines = traceLines();
+    EXPECT_EQ(lines.at(0), "GetOffsets");
+    EXPECT_EQ(std::ranges::count(lines, "Calibrate"), 9);
+    EXPECT_EQ(lines.size(), 10U);
+}
+
 TEST_F(Calibration, MeasuresRightAndTopOnlyWhereAsked) {
     start();
     toolkit::Label label;
