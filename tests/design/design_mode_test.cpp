@@ -355,5 +355,15 @@ TEST_F(DesignMode, AFailureIsTraced) {
     EXPECT_FALSE(form.MShowShapes.Checked);
 }
 
+TEST_F(DesignMode, TheReadOutIsWholeAtTheSmallestZoom) {
+    writeOptions("Zoom=1\r\n");
+    design();
+    ASSERT_EQ(form.ZoomLevel, 1);
+    form.MCoord.Caption = "350: (-7185,-7418) - (7185,7418)  [7185*7418]";
+    const toolkit::test::ShownReadOut shown = toolkit::test::shownReadOut();
+    EXPECT_EQ(shown.text, form.MCoord.Caption);
+    EXPECT_TRUE(shown.isWhole);
+}
+
 } // namespace
 } // namespace zev::test

@@ -11,7 +11,7 @@ class FormWidget : public WindowTest {
   protected:
     FormWidget() {
         file.Caption = "File";
-        menu = {{.level = 0, .item = &file}};
+        menu = {{.level = 0, .item = &file, .Click = [] {}}};
     }
 
     MenuItem file;

@@ -95,6 +95,18 @@ bool showsCheck(std::string_view captionPath) {
     return row != nullptr && row->isCheckable() && row->isChecked();
 }
 
+ShownReadOut shownReadOut() {
+    updateWindow();
+    MenuBar& bar = window().form().menuBar();
+    const ReadOut* label = bar.readOut();
+    if (label == nullptr || !label->isVisible()) return {};
+    bool isWhole =
+        label->sizeHint().width() <= label->width() && bar.rect().contains(label->geometry());
+    for (QAction* menu : bar.actions())
+        isWhole = isWhole && !bar.actionGeometry(menu).intersects(label->geometry());
+    return {ansiText(label->text()), label->x(), label->width(), isWhole};
+}
+
 void resizeWindow(int wider, int higher) {
     updateWindow();
     QWidget& form = window().form();

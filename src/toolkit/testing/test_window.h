@@ -23,6 +23,14 @@ namespace toolkit::test {
 bool chooseMenu(std::string_view captionPath);
 /// Whether the player who opens its menu sees a check mark at it.
 [[nodiscard]] bool showsCheck(std::string_view captionPath);
+/// The text at the end of the menu bar that is only read, and where it stands on the bar.
+struct ShownReadOut {
+    std::string text; ///< empty where it isn't shown
+    int left = 0;
+    int width = 0;
+    bool isWhole = false; ///< not cut, and under no menu
+};
+[[nodiscard]] ShownReadOut shownReadOut();
 /// The player makes the window larger or shifts it, by pixels.
 void resizeWindow(int wider, int higher);
 void shiftWindow(int toTheRight, int down);

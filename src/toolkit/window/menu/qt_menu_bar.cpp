@@ -1,5 +1,7 @@
 #include "toolkit/window/menu/qt_menu_bar.h"
 
+#include <algorithm>
+
 #include <QtGui/QKeyEvent>
 
 #include "toolkit/base/qt_text.h"
@@ -32,6 +34,10 @@ MenuBar::MenuBar(QWidget& form, const WindowParts& parts, EventDispatcher& dispa
 }
 
 void MenuBar::addEntry(std::size_t row) {
+    if (!hasMenu(row) && !parts_.menu[row].Click) {
+        readOut_ = std::make_unique<ReadOut>(*this, *parts_.menu[row].item);
+        return;
+    }
     Entry& entry = *entries_.emplace_back(std::make_unique<Entry>());
     entry.row = row;
     if (hasMenu(row)) {
@@ -59,10 +65,25 @@ void MenuBar::push() {
         entry->action->setVisible(item.Visible);
         entry->action->setEnabled(item.Enabled);
     }
+    if (readOut_ != nullptr) readOut_->push();
+    placeReadOut();
     const Form& form = *parts_.form;
     if (isEnabled() == form.MenusEnabled) return;
     showRest(form.MousePointer == MousePointer::Hourglass ? Rest::OfAMoment : Rest::Lasting);
     setEnabled(form.MenusEnabled);
+}
+
+void MenuBar::resizeEvent(QResizeEvent* event) {
+    QMenuBar::resizeEvent(event);
+    placeReadOut();
+}
+
+void MenuBar::placeReadOut() {
+    if (readOut_ == nullptr || readOut_->isHidden()) return;
+    int menusEnd = 0;
+    for (QAction* action : actions())
+        menusEnd = std::max(menusEnd, actionGeometry(action).right() + 1);
+    readOut_->place(menusEnd);
 }
 
 /// While the program works for a moment, words that turn grey and back would only flicker.

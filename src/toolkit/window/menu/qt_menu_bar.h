@@ -13,6 +13,7 @@
 
 #include "toolkit/model/window_parts.h"
 #include "toolkit/window/input/qt_event_dispatcher.h"
+#include "toolkit/window/menu/qt_read_out.h"
 
 namespace toolkit {
 
@@ -30,6 +31,12 @@ class MenuBar : public QMenuBar {
     bool choose(std::string_view captionPath);
     /// The row itself; nullptr where it isn't shown or enabled.
     [[nodiscard]] QAction* offeredRow(std::string_view captionPath);
+    /// The row on the bar that is only read: one with neither rows below it nor a Click. nullptr
+    /// where there is none.
+    [[nodiscard]] const ReadOut* readOut() const { return readOut_.get(); }
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
 
   private:
     /// A menu on the bar.
@@ -44,6 +51,7 @@ class MenuBar : public QMenuBar {
 
     void showRest(Rest rest);
     void addEntry(std::size_t row);
+    void placeReadOut();
     void fill(QMenu& menu, std::size_t first, int level);
     std::size_t addRow(QMenu& menu, std::size_t row);
     void connectRow(QAction& action, std::size_t row);
@@ -56,6 +64,7 @@ class MenuBar : public QMenuBar {
     EventDispatcher& dispatcher_;
     std::vector<std::unique_ptr<Entry>> entries_;
     std::vector<QKeySequence> shortcuts_; ///< by row
+    std::unique_ptr<ReadOut> readOut_;
 };
 
 } // namespace toolkit
