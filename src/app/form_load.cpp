@@ -26,6 +26,7 @@
 #include "form/services.h"
 #include "form/settings.h"
 #include "form/trace.h"
+#include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "help/help_page.h"
 #include "layout/check_point.h"
@@ -140,7 +141,7 @@ void prepareForm(Zevlin& form) {
     CheckIniUpdate(form);
     hidePrintColorItems(form);
     form.FormBackColor = form.BackColor;
-    RestoreShapes(form);
+    if (!isAnotherCopyAtWork(form)) RestoreShapes(form);
     setFonts(form);
     setPen(form);
     setZoom(form);

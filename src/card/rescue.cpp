@@ -14,8 +14,6 @@
 #include "form/zevlin.h"
 #include "layout/build_fields.h"
 #include "toolkit/base/files.h"
-#include "toolkit/base/folder.h"
-#include "toolkit/base/number_text.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/window/dialog.h"
 #include "toolkit/window/shell_folders.h"
@@ -24,25 +22,6 @@ namespace zev {
 namespace {
 
 namespace fs = std::filesystem;
-
-constexpr std::string_view namePrefix = "changes-";
-constexpr std::string_view lockExtension = ".lock";
-
-fs::path fileOf(int number) {
-    return toolkit::stateFolder() /
-           (std::string(namePrefix) + toolkit::numberText(number) + std::string(cardExtension));
-}
-
-fs::path lockOf(fs::path file) { return file.replace_extension(lockExtension); }
-
-/// Nobody but the player may read what is in it.
-void makeStateFolder() {
-    const fs::path folder = toolkit::stateFolder();
-    std::error_code ignored;
-    if (fs::is_directory(folder, ignored)) return;
-    fs::create_directories(folder, ignored);
-    fs::permissions(folder, fs::perms::owner_all, ignored);
-}
 
 bool isThere(const fs::path& path) {
     std::error_code ignored;
@@ -54,29 +33,11 @@ bool isEmpty(const fs::path& path) {
     return fs::file_size(path, failed) == 0 && !failed;
 }
 
-/// The lock's file may have been deleted, alone or with its folder.
-bool holdsLock(const JournalState& journal) {
-    return journal.lock.isHeld() && isThere(lockOf(journal.file));
-}
-
 struct Journals {
     std::vector<Rescue> dead; ///< not read yet
     bool hasTraces = false;   ///< any copy, living or dead, keeps or kept a journal
     bool hasLivingCopies = false;
 };
-
-std::vector<fs::path> journalFiles() {
-    std::vector<fs::path> files;
-    const fs::path folder = toolkit::stateFolder();
-    for (const std::string_view extension : {cardExtension, lockExtension}) {
-        for (const std::string& name : toolkit::listFiles(folder, extension)) {
-            if (!name.starts_with(namePrefix)) continue;
-            const fs::path file = (folder / name).replace_extension(cardExtension);
-            if (std::ranges::find(files, file) == files.end()) files.push_back(file);
-        }
-    }
-    return files;
-}
 
 fs::file_time_type timeOf(const fs::path& file) {
     std::error_code ignored;
@@ -168,21 +129,6 @@ void adoptTemporaryCard(Zevlin& form, Journals& journals) {
 }
 
 } // namespace
-
-void openJournal(Zevlin& form) {
-    if (holdsLock(form.Journal)) return;
-    makeStateFolder();
-    constexpr int mostCopies = 1000;
-    for (int number = 1; number <= mostCopies; ++number) {
-        const fs::path file = fileOf(number);
-        if (isThere(file) || !form.Journal.lock.take(lockOf(file))) continue;
-        form.Journal.file = file;
-        // Another copy of the program may have made the file, and ended, before this one had the
-        // lock.
-        if (!isThere(file)) return;
-    }
-    throw toolkit::RunTimeError(toolkit::Failure::PermissionDenied);
-}
 
 std::optional<Rescue> offerRescue(Zevlin& form) {
     toolkit::deleteLeftOvers(toolkit::stateFolder());

@@ -18,9 +18,6 @@ struct Rescue {
     toolkit::FileLock lock;
 };
 
-/// Gives the journal a file that no other copy has. Failures as those of files.
-void openJournal(Zevlin& form);
-
 /// Asks the player about what dead copies left, the oldest first, until one is wanted back. What
 /// they give up is removed; what they don't decide on is asked again at the next start. A temporary
 /// card that was left without any journal is offered likewise.

@@ -1,11 +1,13 @@
 #include "layout/check_point.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <utility>
 
 #include "form/file_failures.h"
 #include "form/trace.h"
+#include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "layout/layout_text.h"
 #include "layout/save_layout.h"
@@ -21,8 +23,14 @@ bool isFolderThere(const Zevlin& form) {
     return std::filesystem::is_directory(form.DataFolder, ignored);
 }
 
+/// Whether the file set aside is that of another copy of the program, whose job puts it back.
+bool isOfAnotherCopy(const Zevlin& form, const std::optional<std::filesystem::path>& setAside) {
+    return setAside && !form.LayoutFileAside && isAnotherCopyAtWork(form);
+}
+
 void putFileBack(Zevlin& form) {
     const auto setAside = toolkit::findFile(form.DataFolder, setAsideName);
+    if (isOfAnotherCopy(form, setAside)) return;
     if (setAside) {
         form.LayoutFileAside = true;
         toolkit::replaceByRename(*setAside, toolkit::resolveFile(form.DataFolder, layoutFileName));
@@ -60,10 +68,12 @@ void CheckPointShapes(Zevlin& form) {
     if (!present) return traceNoFile(form, toolkit::Failure::FileNotFound);
     if (std::filesystem::is_directory(*present))
         return traceNoFile(form, toolkit::Failure::PathFileAccess);
+    const auto old = toolkit::findFile(form.DataFolder, setAsideName);
+    if (isOfAnotherCopy(form, old)) return;
+    // By its lock a start of another copy knows that the layout isn't one that a dead copy left.
+    ignoringFailures([&] { openJournal(form); });
     const bool setAside = trappedAndNoted(form, "Error in CheckPointShapes ", layoutFailure, [&] {
-        if (const auto old = toolkit::findFile(form.DataFolder, setAsideName)) {
-            toolkit::deleteFile(*old);
-        }
+        if (old) toolkit::deleteFile(*old);
         form.LayoutFileAside = true;
         // It must be on the disk before another file gets the layout's name.
         toolkit::replaceByRename(*present, form.DataFolder / setAsideName);

@@ -9,8 +9,9 @@ struct Zevlin;
 /// Sets Definitions.Ini aside as $$TempDef.Ini and writes the present layout in its place.
 void CheckPointShapes(Zevlin& form);
 
-/// Puts the layout that was set aside back; nothing happens if there is none. Where that fails
-/// finishRestore does it later, or the next start.
+/// Puts the layout that was set aside back; nothing happens if there is none, or if it is that of
+/// another living copy of the program. Where that fails finishRestore does it later, or the next
+/// start.
 void RestoreShapes(Zevlin& form);
 
 /// Puts the file back that an earlier RestoreShapes of this run couldn't; false if it still can't.

@@ -4,8 +4,8 @@
 
 #include "card/chooser_menu.h"
 #include "card/journal_fixture.h"
-#include "card/rescue.h"
 #include "card/save.h"
+#include "form/unsaved.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/write_file.h"

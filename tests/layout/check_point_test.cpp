@@ -1,9 +1,11 @@
 #include "layout/check_point.h"
 
+#include "form/unsaved.h"
 #include "layout/layout_text.h"
 #include "layout/save_layout.h"
 #include "layout/write_layout.h"
 #include "support/form_test.h"
+#include "toolkit/base/file_lock.h"
 #include "toolkit/base/write_file.h"
 #include "view/rebuild.h"
 
@@ -98,6 +100,58 @@ TEST_F(CheckPoint, LeftBehindIsRestoredAtTheNextStart) {
     start();
     EXPECT_GT(form.AMark.UBound(), 200);
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
+}
+
+TEST_F(CheckPoint, OfACopyThatIsAtWorkIsLeftAloneByAStart) {
+    toolkit::writeFile(dataFile(setAside), "aside");
+    fs::create_directories(home / "state");
+    toolkit::FileLock lock;
+    ASSERT_TRUE(lock.take(home / "state" / "changes-1.lock"));
+    const std::string before = dataFileContent(layoutFileName);
+    start();
+    EXPECT_FALSE(traced("RestoreShapes"));
+    EXPECT_EQ(dataFileContent(setAside), "aside");
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
+}
+
+TEST_F(CheckPoint, OfACopyThatIsAtWorkIsLeftAloneByAJobOfThisOne) {
+    start();
+    const std::string before = dataFileContent(layoutFileName);
+    toolkit::writeFile(dataFile(setAside), "aside");
+    fs::create_directories(home / "state");
+    toolkit::FileLock lock;
+    ASSERT_TRUE(lock.take(home / "state" / "changes-1.lock"));
+    form.AMark[1].Left += 150;
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent(setAside), "aside");
+    EXPECT_NE(form.LayoutInMemory, before);
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(setAside), "aside");
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
+    EXPECT_EQ(form.LayoutInMemory, before);
+}
+
+TEST_F(CheckPoint, OfADeadCopyIsRestoredAtTheNextStart) {
+    fs::copy_file(dataFile(layoutFileName), dataFile(setAside));
+    writeLayout("broken");
+    fs::create_directories(home / "state");
+    toolkit::writeFile(home / "state" / "changes-1.lock", "");
+    start();
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+    EXPECT_GT(form.AMark.UBound(), 200);
+}
+
+TEST_F(CheckPoint, IsKnownToOtherCopiesAsOneOfALivingCopy) {
+    start();
+    const Zevlin other;
+    EXPECT_FALSE(isAnotherCopyAtWork(other));
+    CheckPointShapes(form);
+    EXPECT_TRUE(isAnotherCopyAtWork(other));
+    EXPECT_FALSE(isAnotherCopyAtWork(form));
+    RestoreShapes(form);
+    EXPECT_FALSE(fs::exists(dataFile(setAside)));
+    form.Journal.lock.release();
+    EXPECT_FALSE(isAnotherCopyAtWork(other));
 }
 
 TEST_F(CheckPoint, WithoutALayoutIsTracedAndWritesNothing) {
