@@ -41,30 +41,26 @@ void rebuildKeepingChanges(Zevlin& form) {
     if (changed) SetMod(form);
 }
 
-/// Leaves design mode, if it is on. A check-point of the layout carries unsaved design through the
-/// rebuild. Returns whether the mode was on.
-bool setDesignAside(Zevlin& form) {
-    if (!form.MShowShapes.Checked) return false;
-    CheckPointShapes(form);
-    form.Slots.toggleDesignMode();
-    return true;
-}
-
-void bringDesignBack(Zevlin& form) {
-    form.Slots.toggleDesignMode();
-    RestoreShapes(form);
-}
-
 void chooseSize(Zevlin& form, const char* name, Item chosen) {
     traceState(form, name);
     if (form.Initializing) return;
-    const bool designing = setDesignAside(form);
-    trapped(form, "Error in " + std::string(name) + ": #", [&] {
+    const std::string head = "Error in " + std::string(name) + ": #";
+    const bool designing = form.MShowShapes.Checked;
+    trapped(form, head, [&] {
+        if (designing) {
+            // It carries unsaved design through the rebuild.
+            CheckPointShapes(form);
+            form.Slots.toggleDesignMode();
+        }
         checkSize(form, chosen);
         IniWrite(form);
         rebuildKeepingChanges(form);
     });
-    if (designing) bringDesignBack(form);
+    if (!designing) return;
+    trapped(form, head, [&] {
+        if (!form.MShowShapes.Checked) form.Slots.toggleDesignMode();
+    });
+    RestoreShapes(form);
 }
 
 /// Places the symbols again, since they depend on the text's width.
