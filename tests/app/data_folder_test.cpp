@@ -222,6 +222,22 @@ TEST_F(DataFolder, ADevelopmentFolderLosesNothing) {
     EXPECT_FALSE(fs::exists(dataFile("zevlin.frm")));
 }
 
+TEST_F(DataFolder, ADevelopmentFolderLosesNothingToCopiesThatAreThereAlready) {
+    install("zevlin.frm", "");
+    install("Equal.zev", "equal");
+    install("Older.gif", "newer");
+    install("Newer.bmp", "older");
+    keep("Sample.zev", "SAMPLE", 0s);
+    keep("Equal.zev", "equal", 0s);
+    keep("Older.gif", "older", 10s);
+    keep("Newer.bmp", "newer", -10s);
+    writeLayout(fewFields());
+    answerName("");
+    start();
+    for (const char* name : {"Sample.zev", "Equal.zev", "Older.gif", "Newer.bmp", "ReadMe.htm"})
+        EXPECT_TRUE(isInstalled(name)) << name;
+}
+
 TEST_F(DataFolder, WhereTheProgramFolderIsSharedNothingOfThePlayersIsReplaced) {
     install("zevlin.frm", "");
     install("Card.gif", "theirs");

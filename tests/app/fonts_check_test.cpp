@@ -1,7 +1,9 @@
 #include <cmath>
 
+#include "app/fonts_check.h"
 #include "app/layouts.h"
 #include "form/write_options.h"
+#include "layout/initialize_run.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"
 
@@ -91,11 +93,26 @@ TEST_F(FontsCheck, ADefectiveNarrowFontGivesWayToTheTextFont) {
     EXPECT_TRUE(boxes.empty());
 }
 
+/// The card is so low that any font but the text font counts as defective.
 TEST_F(FontsCheck, ANarrowFontThatIsMissingKeepsItsNameAndIsMeasuredAsTheTextFont) {
-    wireOnly();
-    writeOptions("Zoom=5\r\nNarrowfont=No Such Font At All\r\n");
+    const char* high = "DejaVu Sans";
+    ASSERT_GT(limitFor(high), limitFor("Arial") * 1.01F);
+    writeOptions("Zoom=5\r\n");
+    useLowPicture(static_cast<int>((limitFor(high) + limitFor("Arial")) / 15) - 15);
     start();
-    EXPECT_EQ(form.NarrowFontName, "Arial Narrow");
+    form.NarrowFontName = "No Such Font At All";
+    for (const char* fallback : {"DejaVu Sans", "Nor This One", "Arial Narrow"}) {
+        form.FallbackFontName = fallback;
+        InitializeRun run;
+        checkFonts(form, run);
+        EXPECT_EQ(form.NarrowFontName, "No Such Font At All") << fallback;
+        EXPECT_EQ(run.step, 1250) << fallback;
+    }
+    form.NarrowFontName = high;
+    announceError("Error in Initialize step 1250");
+    InitializeRun run;
+    checkFonts(form, run);
+    EXPECT_EQ(form.NarrowFontName, "Arial");
 }
 
 } // namespace

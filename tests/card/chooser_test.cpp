@@ -329,6 +329,26 @@ TEST_F(Chooser, ARefusedNameEndsTheCommandLikeACancel) {
     EXPECT_FALSE(form.P3.Visible);
 }
 
+TEST_F(Chooser, ARefusedNameLeavesTheCardItsNameAndItsStar) {
+    start();
+    openCard("Jones", {});
+    const std::string saved = dataFileContent("Jones.zev");
+    clickMark(1);
+    ASSERT_EQ(form.Caption, "Zevlin  ( Jones ) *");
+    answerName("a/b");
+    choose("File>Save As...");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, std::string("'a/b") + invalidTail);
+    EXPECT_EQ(form.CardName, "Jones");
+    EXPECT_EQ(form.Caption, "Zevlin  ( Jones ) *");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_EQ(dataFileContent("Jones.zev"), saved);
+    choose("File>Save");
+    EXPECT_EQ(form.Caption, "Zevlin  ( Jones )");
+    EXPECT_NE(dataFileContent("Jones.zev"), saved);
+}
+
 TEST_F(Chooser, RefusesWhatThePlatformCannotName) {
     start();
     const std::string name(300, 'x');

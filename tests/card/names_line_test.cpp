@@ -272,6 +272,36 @@ TEST_F(NamesLineTest, ASuitInANameIsShownAndKept) {
     EXPECT_EQ(form.ShownSymbols.at(3).size(), 1U);
 }
 
+TEST_F(NamesLineTest, ASuitInANameStandsInItsPlaceAfterARebuild) {
+    start();
+    enterMine("Joe ^h");
+    enterPartner("Ann ^s");
+    for (const char* zoom : {"View>Zoom In (Bigger)                   Ctrl +",
+                             "View>Zoom Out (Smaller)               Ctrl  -"}) {
+        choose(zoom);
+        const toolkit::Label& names = form.AText[3];
+        EXPECT_EQ(names.Tag, "Joe ^h && Ann ^s");
+        EXPECT_EQ(line(), "Joe \xA0\xA0\xA0 && Ann \xA0\xA0\xA0");
+        const auto shown = form.ShownSymbols.at(3);
+        ASSERT_EQ(shown.size(), 2U);
+        EXPECT_EQ(form.SText.UBound(), 2);
+        const std::string painted = toolkit::paintedText(names.Caption);
+        const float start =
+            names.Left + (names.Width - toolkit::textWidth(names.Font, painted)) / 2;
+        const toolkit::Label& heart = form.SText[shown[0]];
+        EXPECT_TRUE(heart.Visible);
+        EXPECT_EQ(heart.Tag, "3");
+        EXPECT_EQ(heart.Caption, "\xA9");
+        EXPECT_EQ(heart.ForeColor, form.ColorRed);
+        EXPECT_EQ(heart.Font.Size, names.Font.Size + 4);
+        EXPECT_NEAR(heart.Left, start + toolkit::textWidth(names.Font, "Joe "), 1);
+        const toolkit::Label& spade = form.SText[shown[1]];
+        EXPECT_EQ(spade.ForeColor, toolkit::black);
+        EXPECT_NEAR(spade.Left, start + toolkit::textWidth(names.Font, "Joe \xA0\xA0\xA0 & Ann "),
+                    1);
+    }
+}
+
 TEST_F(NamesLineTest, NoOldSuitLiesOverANewLine) {
     start();
     typeInto(3, "we^h");

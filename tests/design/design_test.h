@@ -1,6 +1,7 @@
 // Design mode on the small card: three marks, a circle and four texts.
 #pragma once
 
+#include <sstream>
 #include <string>
 
 #include "text/edit_test.h"
@@ -63,6 +64,20 @@ class DesignTest : public EditTest {
         int count = 0;
         for (int i = 1; i <= form.AMark.UBound(); ++i) count += form.AMark[i].Visible ? 1 : 0;
         return count;
+    }
+    /// How many marks and texts the layout file tells: "5 marks, 4 texts".
+    [[nodiscard]] std::string fieldsInFile() const {
+        std::istringstream file(dataFileContent("Definitions.Ini"));
+        std::string marks;
+        std::string texts;
+        std::string last;
+        for (std::string line; std::getline(file, line);) {
+            if (!line.empty() && line.back() == '\r') line.pop_back();
+            if (line.starts_with("' For each one, 9 values")) marks = last;
+            if (line.starts_with("' For each one, 8 values")) texts = last;
+            if (!line.empty() && line.front() != '\'') last = line;
+        }
+        return marks + " marks, " + texts + " texts";
     }
     /// Whether the layout file has this line.
     [[nodiscard]] bool layoutHolds(const std::string& line) const {

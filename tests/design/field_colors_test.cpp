@@ -59,12 +59,12 @@ TEST_F(FieldColors, AChosenColourIsTheFieldsOwn) {
     menuOf(form.AMark[1], 1);
     EXPECT_EQ(form.AMark[1].ForeColor, form.ColorRed);
     EXPECT_EQ(form.MarkColors.at(1), form.ColorRed);
+    EXPECT_FALSE(form.DesignDirty);
     menuOf(form.AText[3], 2);
     EXPECT_EQ(form.AText[3].ForeColor, form.ColorBlue);
     EXPECT_EQ(form.TextColors.at(3), form.ColorBlue);
     menuOf(form.AMark[3], 0);
     EXPECT_EQ(form.AMark[3].ForeColor, form.ColorBlack);
-    EXPECT_FALSE(form.DesignDirty && form.AText.UBound() == 0);
     EXPECT_TRUE(traced("mpopDesignColor_Click"));
     EXPECT_EQ(menuOf(form.AMark[1]), ".X.");
 }
@@ -76,6 +76,11 @@ TEST_F(FieldColors, AColourAloneIsNoChangeOfTheDesign) {
     undo();
     EXPECT_EQ(beeps, 1);
     EXPECT_EQ(form.AMark[1].ForeColor, form.ColorRed);
+    form.PopupKind = 2;
+    form.PopupIndex = 3;
+    mpopDesignColor_Click(form, 3);
+    EXPECT_EQ(form.AText[3].ForeColor, form.ColorBlue);
+    EXPECT_FALSE(form.DesignDirty);
 }
 
 TEST_F(FieldColors, AColourIsSavedWithTheDesign) {

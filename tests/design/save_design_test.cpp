@@ -1,5 +1,6 @@
 // Saving the layout from design mode, and what becomes of unsaved design when the card is built
 // anew.
+#include "app/second_run.h"
 #include "design/design_test.h"
 #include "layout/save_layout.h"
 #include "toolkit/testing/test_window.h"
@@ -76,10 +77,25 @@ TEST_F(SaveDesign, ALabelDraggedOffTheCardIsStillCounted) {
     dragLabel(form.AMark[4], -450, 0);
     EXPECT_LT(form.AMark[4].Left + form.AMark[4].Width, 0);
     choose("Design>Save Design");
-    EXPECT_TRUE(
-        layoutHolds("4\r\n\r\n' The field numbers are not in horizontal or vertical order.  "
-                    "They're in the sequence in which they were added during design."));
+    EXPECT_EQ(fieldsInFile(), "4 marks, 4 texts");
     EXPECT_TRUE(holdsMarkAt(4, -50, 100));
+}
+
+TEST_F(SaveDesign, MarksAndTextsDraggedOffTheCardAreCountedApart) {
+    design();
+    addField();
+    dragLabel(form.AMark[5], -900, 0);
+    dragLabel(form.AText[3], 0, -600);
+    ASSERT_LT(form.AMark[5].Left + form.AMark[5].Width, 0);
+    ASSERT_LT(form.AText[3].Top + form.AText[3].Height, 0);
+    choose("Design>Save Design");
+    EXPECT_EQ(fieldsInFile(), "5 marks, 4 texts");
+    EXPECT_TRUE(holdsMarkAt(5, -100, 600));
+    const SecondRun next(window);
+    EXPECT_EQ(next.form.AMark.UBound(), 5);
+    EXPECT_EQ(next.form.AText.UBound(), 4);
+    EXPECT_LT(next.form.AMark[5].Left, 0);
+    EXPECT_LT(next.form.AText[3].Top, 0);
 }
 
 TEST_F(SaveDesign, UnderACustomColourTheFieldsKeepTheirOwn) {

@@ -106,12 +106,37 @@ TEST_F(CardMouse, SetMarkBehindAnotherTakesTheClickOnlyWhereNoneIsInFront) {
     EXPECT_FALSE(form.AMark[2].Visible);
 }
 
-TEST_F(CardMouse, RightClickOnBareCardOrAnUnsetMarkDoesNothing) {
+TEST_F(CardMouse, RightClickOnAnUnsetMarkDoesNothing) {
     startSmall();
     clickMark(1, right);
     EXPECT_FALSE(form.AMark[1].Visible);
     EXPECT_FALSE(form.CardModified);
     EXPECT_FALSE(form.TabActive);
+}
+
+TEST_F(CardMouse, RightClickOnBareCardDoesNothing) {
+    startSmall();
+    const float x = 800 * pixel;
+    const float y = 800 * pixel;
+    moveMouse(x, y);
+    pressMouse(x, y, right);
+    EXPECT_EQ(form.P1.MousePointer, toolkit::MousePointer::Default);
+    EXPECT_FALSE(form.MarkHitPending);
+    moveMouse(x + 30 * pixel, y + 20 * pixel, right);
+    EXPECT_EQ(form.P1.Left, 0);
+    EXPECT_EQ(form.P1.Top, 0);
+    const auto target = targetOf(2);
+    moveMouse(target.x, target.y, right);
+    releaseMouse(target.x, target.y, right);
+    EXPECT_EQ(form.P1.Left, 0);
+    for (int mark = 1; mark <= 3; ++mark) EXPECT_FALSE(form.AMark[mark].Visible) << mark;
+    EXPECT_EQ(form.AMark.UBound(), 3);
+    EXPECT_EQ(form.AText.UBound(), 4);
+    EXPECT_FALSE(isEditing());
+    EXPECT_FALSE(form.CardModified);
+    EXPECT_FALSE(form.TabActive);
+    EXPECT_EQ(popups, 0);
+    EXPECT_EQ(form.ActiveControl, &form.P1);
 }
 
 TEST_F(CardMouse, RightClickAfterAClearedMarkDoesNotSetItAgain) {

@@ -78,6 +78,26 @@ TEST_F(Options, ALongPrinterNameLosesItsLineWhileTheBinIsKept) {
     EXPECT_EQ(written("Printer"), std::string(26, 'p'));
 }
 
+/// A name of 26 characters just has room for its line, one of 27 doesn't.
+TEST_F(Options, ALongPrinterNameIsLostInTheNextRunWhileTheBinIsKept) {
+    for (const std::size_t length : {26U, 27U}) {
+        toolkit::Printer other = toolkit::defaultPrinter();
+        toolkit::Printer chosen = other;
+        other.DeviceName = "Other";
+        chosen.DeviceName = std::string(length, 'p');
+        toolkit::overridePrinters({other, chosen});
+        startWith("Zoom=5\r\nPrintAlt=1\r\nPrinter=" + chosen.DeviceName + "\r\nPaperBin=3\r\n");
+        ASSERT_EQ(form.CurrentPrinter.DeviceName, chosen.DeviceName);
+        ASSERT_EQ(form.CurrentPrinter.PaperBin, 3);
+        IniWrite(form);
+        const SecondRun next(window);
+        EXPECT_TRUE(next.form.mPrintAlt.Checked);
+        EXPECT_EQ(next.form.CurrentPrinter.DeviceName,
+                  length == 26 ? chosen.DeviceName : other.DeviceName);
+        EXPECT_EQ(next.form.Myprinter.PaperBin, 3);
+    }
+}
+
 TEST_F(Options, TheFontSizeChecksOneItemOfItsMenu) {
     startWith("Zoom=5\r\nFontSize=2\r\n");
     EXPECT_TRUE(form.mLargerTextFont.Checked);

@@ -3,6 +3,8 @@
 #include "app/layouts.h"
 #include "form/write_options.h"
 #include "layout/write_layout.h"
+#include "toolkit/picture/bitmap.h"
+#include "toolkit/picture/bitmap_file.h"
 #include "view/rebuild.h"
 
 namespace zev::test {
@@ -61,15 +63,24 @@ TEST_F(TextFields, TheFirstLargeOneIsTheNamesLine) {
     EXPECT_EQ(form.NamesField, 2);
 }
 
+/// On a picture twice as wide the texts are twice as large, but the names line has no more room.
 TEST_F(TextFields, TheNamesLineStaysLow) {
+    constexpr int width = 2 * 2396;
+    toolkit::savePng(toolkit::Bitmap(width, 4000), dataFile("Convention card.gif"));
+    writeOptions("Zoom=1\r\n");
+    startWith(smallLayout({}, {{.width = 100, .size = 3}, {.width = 100, .size = 3}}));
+    const float highest = form.P1.Width / (width * pixel) * 900;
+    EXPECT_NEAR(highest, 180, 1);
+    EXPECT_GT(form.AText[2].Height, highest + 100);
+    EXPECT_FLOAT_EQ(form.AText[1].Height, highest);
+    EXPECT_FLOAT_EQ(form.Highlight[1].Height, 0.67F * highest);
+}
+
+TEST_F(TextFields, ALowNamesLineKeepsItsHeight) {
     writeOptions("Zoom=5\r\n");
-    startWith(smallLayout({}, {{.width = 100, .size = 3}}));
-    // At half size the line may be 450 twips high; 18 points need less.
+    startWith(smallLayout({}, {{.width = 100, .size = 3}, {.width = 100, .size = 3}}));
     EXPECT_LT(form.AText[1].Height, 450);
-    form.FontChangeAsked = false;
-    writeOptions("Zoom=5\r\nNormalfont=Symbol\r\n");
-    RebuildScreenImage(form);
-    EXPECT_LE(form.AText[1].Height, 450);
+    EXPECT_EQ(form.AText[1].Height, form.AText[2].Height);
 }
 
 TEST_F(TextFields, ALargeHoleIsNoNamesLine) {

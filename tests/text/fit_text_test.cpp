@@ -1,8 +1,10 @@
 #include <cmath>
+#include <set>
 
 #include "form/write_options.h"
 #include "text/edit_test.h"
 #include "text/fit_text.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {
@@ -104,6 +106,34 @@ TEST_F(FitTexts, StepsAreHalfPointsAtEveryZoom) {
     const float steps = (form.TextFontSize[1] - form.AText[1].Font.Size) / 0.5F;
     EXPECT_GT(steps, 1);
     EXPECT_NEAR(steps, std::round(steps), 0.001F);
+}
+
+TEST_F(FitTexts, AZoomChoosesTheStepsAnew) {
+    startSmall();
+    clickText(4);
+    typeText("Notrump overcall");
+    typeKey(toolkit::key::escape);
+    std::set<float> stepsSeen;
+    for (const char* zoom : {"", "View>Zoom In (Bigger)                   Ctrl +",
+                             "View>Zoom Out (Smaller)               Ctrl  -",
+                             "View>Zoom Out (Smaller)               Ctrl  -",
+                             "View>Zoom Out (Smaller)               Ctrl  -"}) {
+        if (*zoom != '\0') ASSERT_TRUE(chooseMenu(zoom));
+        const toolkit::Label& label = form.AText[4];
+        ASSERT_EQ(label.Tag, "Notrump overcall");
+        const float full = form.TextFontSize[1];
+        const float floor = full / 2;
+        const float steps = (full - label.Font.Size) / 0.5F;
+        EXPECT_NEAR(steps, std::round(steps), 0.001F) << zoom;
+        const bool fits = widthIn(4, label.Tag + " ") <= label.Width;
+        EXPECT_TRUE(fits || label.Font.Size <= floor) << zoom;
+        toolkit::FontSpec larger = label.Font;
+        larger.Size += 0.5F;
+        EXPECT_GT(toolkit::textWidth(larger, label.Tag + " "), label.Width) << zoom;
+        EXPECT_EQ(label.Font.Name, form.NarrowFontName);
+        stepsSeen.insert(std::round(steps));
+    }
+    EXPECT_GT(stepsSeen.size(), 1U);
 }
 
 TEST_F(FitTexts, MeasuringFontStaysAndTheBoxIsUntouched) {

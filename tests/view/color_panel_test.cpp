@@ -301,12 +301,34 @@ TEST_F(ColorPanel, CancelGoesBackToTheCustomColour) {
 
 TEST_F(ColorPanel, AcblGivesEachFieldItsOwnColourBack) {
     startWith();
-    form.TextColors[1] = form.ColorBlue; // dyed by hand
     takeSample(5);
     EXPECT_TRUE(toolkit::test::chooseMenu(acbl));
-    EXPECT_EQ(form.AText[1].ForeColor, form.ColorBlue);
+    EXPECT_EQ(form.AText[1].ForeColor, toolkit::black);
     expectLayoutColors();
     EXPECT_EQ(storedScheme(), "0");
+}
+
+TEST_F(ColorPanel, AcblGivesAFieldBackTheBlueThatThePlayerGaveIt) {
+    startWith();
+    typeKey('D', toolkit::shift::shift | toolkit::shift::ctrl);
+    ASSERT_TRUE(form.MShowShapes.Checked);
+    const auto makeBlue = [](std::span<const toolkit::PopupRow> rows) { rows[2].Click(); };
+    for (const toolkit::Label* label : {&form.AText[1], &form.AMark[2]}) {
+        answerPopup(makeBlue);
+        const CardPoint at = middleOf(*label);
+        toolkit::test::click(at.x, at.y, toolkit::button::right);
+    }
+    ASSERT_EQ(popups, 2);
+    typeKey('D', toolkit::shift::shift | toolkit::shift::ctrl);
+    ASSERT_FALSE(form.MShowShapes.Checked);
+    EXPECT_EQ(form.AText[1].ForeColor, form.ColorBlue);
+    takeSample(5);
+    expectFields(brown);
+    EXPECT_TRUE(toolkit::test::chooseMenu(acbl));
+    EXPECT_EQ(form.AText[1].ForeColor, form.ColorBlue);
+    EXPECT_EQ(form.AMark[2].ForeColor, form.ColorBlue);
+    EXPECT_EQ(form.AMark[1].ForeColor, toolkit::black);
+    EXPECT_EQ(form.AText[2].ForeColor, toolkit::rgb(195, 17, 25));
 }
 
 TEST_F(ColorPanel, NothingElseCanBeReached) {

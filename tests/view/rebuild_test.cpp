@@ -14,6 +14,7 @@
 #include "card/lifecycle.h"
 #include "card/save.h"
 #include "form/background.h"
+#include "toolkit/base/files.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 
@@ -146,6 +147,42 @@ TEST_F(Rebuild, TheStampNeverTellsTheTemporaryName) {
 }
 
 #ifndef _WIN32 // no file is a pipe there
+TEST_F(Rebuild, WithoutALayoutTakesTheInstalledOneAndKeepsTheCard) {
+    startWithContent();
+    ASSERT_LT(form.AMark.UBound(), 200);
+    fs::remove(dataFile("Definitions.Ini"));
+    form.TraceOn = true;
+    RebuildScreenImage(form);
+    EXPECT_TRUE(
+        traced("Initialize step 1280: Definitions.Ini not found in " + dataFolder.string()));
+    EXPECT_TRUE(traced("Initialize step 1350: creating " + dataFile("Definitions.Ini").string()));
+    EXPECT_EQ(dataFileContent("Definitions.Ini"),
+              toolkit::readFile(programFolder / "Definitions.Ini.15"));
+    EXPECT_GT(form.AMark.UBound(), 200);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_EQ(form.AText[1].Tag, "a \"quote\" && more");
+    EXPECT_TRUE(form.CardModified);
+    // It is no first run.
+    EXPECT_FALSE(form.THelp.Visible);
+    EXPECT_FALSE(form.MFitScreenWidth.Checked);
+    EXPECT_TRUE(form.P1.Visible);
+}
+
+TEST_F(Rebuild, WithoutAnyLayoutIsTracedAndKeepsCardAndFields) {
+    startWithContent();
+    const int marks = form.AMark.UBound();
+    fs::remove(dataFile("Definitions.Ini"));
+    fs::remove(programFolder / "Definitions.Ini.15");
+    announceError("Error in Initialize 53, File not found, after step 1300");
+    RebuildScreenImage(form);
+    EXPECT_TRUE(traced("Error in Initialize 53, File not found, after step 1300"));
+    EXPECT_EQ(form.AMark.UBound(), marks);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_EQ(form.AText[1].Tag, "a \"quote\" && more");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_TRUE(form.P1.Visible);
+}
+
 TEST_F(Rebuild, ATemporaryCardThatVanishesInBetweenTakesNothingAlong) {
     startWithContent();
     // The rebuild waits for its layout from a pipe; meanwhile the card's file is removed.

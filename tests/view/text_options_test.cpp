@@ -92,11 +92,14 @@ TEST_F(TextOptions, NormalOnTopOfNormalStillRebuilds) {
 }
 
 TEST_F(TextOptions, BigIsSevenPointsOnACardOfHalfItsDesignSize) {
+    writeOptions("Zoom=2\r\n");
     start();
+    ASSERT_EQ(form.CardScale, 0.5F);
     chooseSize("Big");
-    EXPECT_EQ(form.TextFontSize[1], 14 * form.CardScale);
-    EXPECT_NEAR(14 * 0.5F, form.TextFontSize[1] / form.CardScale * 0.5F, 0.001F);
-    EXPECT_EQ(form.TextFontSize[1], form.TextFontSize[2]);
+    EXPECT_EQ(form.TextFontSize[1], 7);
+    EXPECT_EQ(form.TextFontSize[2], 7);
+    enter(1, "abc");
+    EXPECT_EQ(form.AText[1].Font.Size, 7);
 }
 
 TEST_F(TextOptions, ASizeIsSeenAtOnceAndAtTheNextStart) {
