@@ -52,6 +52,40 @@ class Choosing(whole_program.WholeProgramTest):
             program.wait_for_title(rf"\( {title} \)$")
             self.leave(program)
 
+    def test_the_command_line_opens_cards_of_the_data_folder_only(self):
+        self.leave(self.start_for_the_first_time())
+        first, second = (self.home.card(name).read_bytes()
+                         for name in ("Standard American", "Two Over One"))
+        elsewhere = self.home.folder / "elsewhere"
+        elsewhere.mkdir()
+        for name in ("Jones", "Alone"):
+            (elsewhere / f"{name}.zev").write_bytes(second)
+        for name in ("Jones", "a", "a.b"):
+            self.home.card(name).write_bytes(first)
+        program = self.start(self.home.named(elsewhere / "Jones.zev"))
+        program.wait_for_title(r"\( Jones \)$")
+        self.save_with_another_mark(program, "Jones")
+        self.assertEqual((elsewhere / "Jones.zev").read_bytes(), second)
+        for argument, title in ((self.home.named(elsewhere / "Alone.zev"), r"\(unnamed\)"),
+                                ("a.b.zev", r"\( a \)"), ("jones.ZEV", r"\( jones \)")):
+            program = self.start(argument)
+            program.wait_for_title(title + "$")
+            self.leave(program)
+        program = self.start("Two", "Over", "One")
+        program.wait_for_title(r"\( Two Over One \)$")
+
+    def save_with_another_mark(self, program, name):
+        """Clicks a mark that isn't set, saves and leaves: the card keeps what it held before."""
+        before = self.home.records(name)
+        card = desktop.Card(program)
+        mark = min(set(card.marks) - before[0])
+        card.click_mark(mark)
+        program.wait_for_title(r"\*$")
+        program.press("ctrl+s")
+        program.wait_for_title(rf"\( {name} \)$")
+        self.assertEqual(self.home.records(name), (before[0] | {mark}, before[1]))
+        self.leave(program)
+
     def test_a_name_that_no_card_can_have_opens_nothing(self):
         self.leave(self.start_for_the_first_time())
         content = self.home.card("Standard American").read_bytes()
