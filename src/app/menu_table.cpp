@@ -108,7 +108,7 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MAutoAdjust, "Auto-adjust",        "",       MAutoAdjust_Click, AtStart::Disabled},
     {1, &Zevlin::MSaveShapes, "Save Design",        "",       MSaveShapes_Click, AtStart::Disabled},
     {0, &Zevlin::MHelp,       "&Help",              "",       MHelp_Click},
-    // The last one, so that a change of its width doesn't move the others.
+    // Only to be read.
     {0, &Zevlin::MCoord,      "Coordinates",        "",       nullptr},
 });
 // clang-format on

@@ -172,6 +172,12 @@ TEST_F(ReadOutOnTheBar, StaysWholeBesideTheMenusOfANarrowBar) {
     EXPECT_TRUE(test::shownReadOut().isWhole);
 }
 
+TEST_F(ReadOutOnTheBar, GivesWayWhereEvenTheMenusHaveNoRoom) {
+    readOut.Caption = "A menu that takes more of the bar than there is left of it by now";
+    test::resizeWindow(-450, 0);
+    EXPECT_EQ(test::shownReadOut().width, 0);
+}
+
 TEST_F(MenuBar, BarCountsAsPartOfTheFrame) {
     EXPECT_GT(form.FrameHeight - form.FrameWidth, px(10));
 }

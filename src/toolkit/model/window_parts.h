@@ -13,7 +13,8 @@
 
 namespace toolkit {
 
-/// One row of the menu bar's table.
+/// One row of the menu bar's table. A row on the bar with neither rows below it nor a Click is a
+/// text at the bar's end that is only read.
 struct MenuRow {
     int level = 0;               ///< 0 on the bar, 1 in its menu, 2 in a submenu
     MenuItem* item = nullptr;    ///< none: a separator
