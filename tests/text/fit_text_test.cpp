@@ -118,7 +118,9 @@ TEST_F(FitTexts, AZoomChoosesTheStepsAnew) {
                              "View>Zoom Out (Smaller)               Ctrl  -",
                              "View>Zoom Out (Smaller)               Ctrl  -",
                              "View>Zoom Out (Smaller)               Ctrl  -"}) {
-        if (*zoom != '\0') ASSERT_TRUE(chooseMenu(zoom));
+        if (*zoom != '\0') {
+            ASSERT_TRUE(chooseMenu(zoom));
+        }
         const toolkit::Label& label = form.AText[4];
         ASSERT_EQ(label.Tag, "Notrump overcall");
         const float full = form.TextFontSize[1];
