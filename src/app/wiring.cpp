@@ -75,7 +75,10 @@ void wireBoxes(Zevlin& form) {
 
 void wireHelp(Zevlin& form) {
     form.THelp.KeyPress = run(form, THelp_KeyPress);
+    form.THelp.MouseDown = run(form, THelp_MouseDown);
     form.THelp.Click = run(form, THelp_Click);
+    // Arrows and the search by letters must not open the browser.
+    form.THelp.ClicksByKey = false;
 }
 
 /// A slot that runs the mouse procedure of a label.

@@ -3,10 +3,12 @@
 #include <algorithm>
 
 #include "form/panels.h"
+#include "form/printer_facts.h"
 #include "form/settings.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "help/help_text.h"
+#include "help/printed_help.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/path_text.h"
 #include "toolkit/window/program.h"
@@ -20,34 +22,75 @@ constexpr float heightMargin = 6;
 /// Pixels of the form that stay free around the page.
 constexpr float freeWidth = 4;
 constexpr float freeHeight = 10;
+/// Points; in a form too narrow for it the lines are cut.
+constexpr float smallestFont = 8.25F;
+constexpr std::string_view printedTitle = "How To Use the Zevlin";
 
 void bringToFront(Zevlin& form, toolkit::Control& control) {
     control.Stack = std::max({form.P1.Stack, form.THelp.Stack, form.PopHelp.Stack}) + 1;
 }
 
-float widestLine(const toolkit::ListBox& list) {
+float widestLine(const Zevlin& form) {
     float widest = 0;
-    for (const auto& line : list.List)
-        widest = std::max(widest, toolkit::textWidth(list.Font, line));
+    for (const auto& line : form.THelp.List)
+        widest = std::max(widest, toolkit::textWidth(form.Testtext.Font, line));
     return widest;
 }
 
+/// In letters as large as the form has room for. Title bar and menu bar are no room.
 void sizeToText(Zevlin& form) {
+    toolkit::ListBox& page = form.THelp;
     const auto pixel = static_cast<float>(form.TwipsPerPixel);
-    const auto lines = static_cast<float>(form.THelp.List.size());
-    const float width = widestLine(form.THelp) + widthMargin * pixel;
-    const float height = toolkit::textHeight(form.THelp.Font) * lines + heightMargin * pixel;
-    form.THelp.Width = std::min(width, form.Width - freeWidth * pixel);
-    form.THelp.Height = std::min(height, form.Height - freeHeight * pixel);
+    const float widest = form.ScaleWidth() - freeWidth * pixel;
+    page.Font = fittedHelpFont(page.Font, page.List, widest - widthMargin * pixel);
+    page.Font.Size = std::max(page.Font.Size, smallestFont);
+    form.Testtext.Font = page.Font;
+    const auto lines = static_cast<float>(page.List.size());
+    const float height = toolkit::textHeight(form.Testtext.Font) * lines + heightMargin * pixel;
+    page.Width = std::min(widestLine(form) + widthMargin * pixel, widest);
+    page.Height = std::min(height, form.ScaleHeight() - freeHeight * pixel);
 }
 
 void showPage(Zevlin& form) {
     sizeToText(form);
-    form.THelp.Move((form.Width - form.THelp.Width) / 2, (form.Height - form.THelp.Height) / 2);
+    form.THelp.Move((form.ScaleWidth() - form.THelp.Width) / 2,
+                    (form.ScaleHeight() - form.THelp.Height) / 2);
     form.THelp.Visible = true;
     bringToFront(form, form.THelp);
     form.SetFocus(form.THelp);
     form.THelp.ListIndex = 1;
+    form.THelp.TopIndex = 0;
+}
+
+/// Twips by which the text stays away from the ends of the printable part: from those of the paper
+/// it is half an inch at least.
+float marginBeside(int unprintablePixels, float twipsPerPixel) {
+    constexpr float halfInch = 720;
+    return std::max(0.0F, halfInch - static_cast<float>(unprintablePixels) * twipsPerPixel);
+}
+
+void printLines(toolkit::PrintJob& job, const Zevlin& form) {
+    const toolkit::Printer& printer = form.CurrentPrinter;
+    const float left = marginBeside(printer.PhysicalOffsetX, printer.TwipsPerPixelX);
+    const float top = marginBeside(printer.PhysicalOffsetY, printer.TwipsPerPixelY);
+    const auto title = std::string(printedTitle) + "  (Version " + form.ProgramVersion + ")";
+    const auto help = printedHelp(
+        {.Name = form.THelp.Font.Name}, form.THelp.List, title,
+        {.width = printer.ScaleWidth - 2 * left, .height = printer.ScaleHeight - 2 * top});
+    std::size_t page = 0;
+    for (const PrintedLine& line : help.lines) {
+        for (; page < line.page; ++page) job.turnPage();
+        job.write(line.text, help.font, left, top + line.top);
+    }
+}
+
+void printPage(Zevlin& form) {
+    takePendingPrinter(form);
+    const std::string name(printedTitle);
+    const auto preset = form.DataFolder / toolkit::pathFromText(name + ".pdf");
+    if (!form.PrinterDC.start(form.CurrentPrinter, {.title = name, .filePreset = preset})) return;
+    printLines(form.PrinterDC, form);
+    form.PrinterDC.finish();
 }
 
 } // namespace
@@ -74,6 +117,12 @@ void THelp_KeyPress(Zevlin& form, int& KeyAscii) {
         hideHelp(form);
         bringToFront(form, form.P1);
     });
+}
+
+void THelp_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    Traceit(form, "Thelp_MouseDown");
+    if (mouse.Button != toolkit::button::right) return;
+    trapped(form, "Error in THelp_MouseDown: #", [&] { printPage(form); });
 }
 
 void THelp_Click(Zevlin& form) {

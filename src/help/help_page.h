@@ -1,6 +1,10 @@
 // The help page: a list of lines that lies over the card until the player closes it.
 #pragma once
 
+namespace toolkit {
+struct MouseArguments;
+}
+
 namespace zev {
 
 struct Zevlin;
@@ -14,7 +18,10 @@ void MHelp_Click(Zevlin& form);
 /// Esc and Enter close the page.
 void THelp_KeyPress(Zevlin& form, int& KeyAscii);
 
-/// The two lines that name the web site open it.
+/// A right click prints the page on the printer as it is set up. A failure is only traced.
+void THelp_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
+
+/// A click on one of the two lines that name the web site opens it.
 void THelp_Click(Zevlin& form);
 
 } // namespace zev

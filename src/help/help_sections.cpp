@@ -25,6 +25,9 @@ ENTERING TEXT
   * Suit Symbols: F5=Club, F6=Diamond, F7=Heart, F8=Spade.  They display as  ^c  ^d  ^h  ^s  while being edited.
        * The suit symbols themselves appear as soon as you leave the text area.
        * You can also type them yourself:  1^h  becomes 1 and a heart.
+  * Ctrl+C copies what you have selected, or else the whole text.  Ctrl+X cuts what you have selected.  Ctrl+V pastes.
+       * What you copied in one text area replaces all of the text in another one.  What you cut, or copied in another
+         program, goes in at the blinking cursor.
   * Ctrl+Z restores the current text area to its previous contents and settings.  This is a one-level UNDO.
   * To leave a text area, press TAB to go on to the next one, click somewhere else, or press ESC.
        * What you typed is kept, whichever way you leave.
@@ -34,6 +37,7 @@ DISK FILES
        to keep the card under its present name, and 'Save As' to keep it under another name.
   * 'Open' shows a list of your cards.  Double-click one, or select it and press Enter.
       * This is the ONLY correct way to open existing cards. Don't try to open them in Windows Explorer.
+       * Before the list appears, the card you were working on is closed.  If you click 'Cancel', you have an empty card.
        * Right-click a card in the list to Delete or Rename it.  Delete does NOT ask you first.
   * A '*' behind the card's name at the top of the window means that the card has unsaved changes.
        * You will be warned, and can save them, before another card is opened and before the program ends.
@@ -42,11 +46,14 @@ DISK FILES
 
 PRINTING
   * The 'Print' options on the File menu print immediately, so use 'Printer Setup' first, if needed.
-       * You can print your own card, your partner's card (with your partner's name first), or both.
+       * You can print your own card (Ctrl+P), your partner's card (with your partner's name first), or both.
+  * 'Print to PDF' in 'Printer Setup' (on Windows: 'Print to file') asks for a file name and makes a PDF file.
   * 'Printer Setup' settings are remembered within a session, but not from one session to the next.
   * ZEV prints in color or black (not grayscale) based on the printer's capabilities and current settings.
        * (Printing always uses the largest size, regardless of the on-screen Zoom level.)
   * 'Export Image' saves a picture of the card as a file, so that you can email it to someone else.
+       * 'Export Partner Image' does the same with your partner's card, but for the two 'PNG' items:
+       * 'PNG' under 'Export Image' saves your partner's card, and 'PNG' under 'Export Partner Image' saves your own.
   * 'Copy to Clipboard' lets you paste a picture of the card into any program that supports images.
   * If you get blank pages, try these things, one at a time:
        * in 'Printer Setup', select another printer, click OK, then select your own printer again;
@@ -60,6 +67,8 @@ THE OPTIONS MENU
        Otherwise, the printed Partner's card will show the name of the card (the file name).
        * The Names line is an ordinary text area: you can change what it says at any time.
   * 'Zoom' and 'Fit' only affect the screen image size; the card always prints at about 8 x 8-1/2 inches.
+       * They are on the View menu.  Ctrl and + (the = key) makes the card bigger, Ctrl and - makes it smaller,
+         and Ctrl+0 fits it to the width of the screen.
   * 'Font size' makes the text in ordinary text areas Smaller, Normal, Larger, or Big.
        * Text that won't fit at the size you choose is still made smaller.
   * 'Boldface' uses boldface in all text areas of all cards, until you turn it off.
@@ -68,6 +77,7 @@ THE OPTIONS MENU
        * 'ACBL Compliant' uses black for most things, red for Alertable ones, and blue for announcements.
        * 'Custom...' lets you select one (non-ACBL compliant) color for all Text and Marks.
   * 'Fill-in checkmarks' uses solid squares, which are more noticeable, instead of checkmarks.
+  * To see these instructions again, press F1 or select 'Help' beside the menus.
 )";
 
 constexpr std::string_view changingLayout = R"(
@@ -75,7 +85,8 @@ CHANGING THE CARD LAYOUT WITH THE 'DESIGN' MENU
   * The Design menu is hidden.  Use 'Show the Design Menu' on the OPTIONS menu (Shift+Ctrl+D) to show it or hide it.
        * It works only with a blank card, so you will be asked to save the card you are working on.
        * It changes the layout of ALL your cards, those that you made earlier, too.
-  * 'Show all Marks' (Ctrl+A) shows every mark and text area there is.  Use it again to go back to normal.
+       * As soon as it is shown, 'Show all Marks' is on: every mark and text area appears, and can be changed.
+  * Use 'Show all Marks' (Ctrl+A) to go back to normal and keep the Design menu, and again to go on with the design.
   * To move something, drag it with the left button.
   * To change the width of a text area, hold Ctrl down and drag it with the left button.
   * To change the color of something, right-click it and select Black, Red, or Blue.

@@ -1,13 +1,19 @@
 #include "help/help_page.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <gtest/gtest.h>
 
 #include "form/settings.h"
 #include "form/zevlin.h"
+#include "support/form_test.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/program_overrides.h"
+#include "toolkit/testing/test_controls.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 
 namespace {
 
@@ -21,6 +27,8 @@ class HelpPage : public testing::Test {
         form.DataFolder = "/home/joe/Documents/ZEV";
         form.Width = 19200;
         form.Height = 15360;
+        form.FrameWidth = 2 * 15;
+        form.FrameHeight = 50 * 15;
         form.P1.Visible = true;
         zev::HelpCreate(form);
     }
@@ -75,8 +83,8 @@ TEST_F(HelpPage, ShowsItselfInTheMiddleWithTheFocusOnItsSecondLine) {
     EXPECT_TRUE(form.THelp.Visible);
     EXPECT_EQ(form.ActiveControl, &form.THelp);
     EXPECT_EQ(form.THelp.ListIndex, 1);
-    EXPECT_FLOAT_EQ(form.THelp.Left, (form.Width - form.THelp.Width) / 2);
-    EXPECT_FLOAT_EQ(form.THelp.Top, (form.Height - form.THelp.Height) / 2);
+    EXPECT_FLOAT_EQ(form.THelp.Left, (form.ScaleWidth() - form.THelp.Width) / 2);
+    EXPECT_FLOAT_EQ(form.THelp.Top, (form.ScaleHeight() - form.THelp.Height) / 2);
     EXPECT_GT(form.THelp.Stack, form.P1.Stack);
     EXPECT_TRUE(wasTraced("MHelp_Click"));
 }
@@ -100,10 +108,52 @@ TEST_F(HelpPage, StaysWithinASmallForm) {
     form.Width = 6000;
     form.Height = 4500;
     show();
-    EXPECT_FLOAT_EQ(form.THelp.Width, 6000 - 4 * 15);
-    EXPECT_FLOAT_EQ(form.THelp.Height, 4500 - 10 * 15);
+    EXPECT_FLOAT_EQ(form.THelp.Width, form.ScaleWidth() - 4 * 15);
+    EXPECT_FLOAT_EQ(form.THelp.Height, form.ScaleHeight() - 10 * 15);
     EXPECT_FLOAT_EQ(form.THelp.Left, 30);
     EXPECT_FLOAT_EQ(form.THelp.Top, 75);
+}
+
+/// The insides of forms on screens of common sizes, in pixels, and the least size of the letters.
+struct HelpScreen {
+    float width = 0;
+    float height = 0;
+    float points = 0;
+};
+class HelpPageOnScreens : public HelpPage, public testing::WithParamInterface<HelpScreen> {};
+
+TEST_P(HelpPageOnScreens, LiesInsideTheFormInReadableLettersAndCutsNoLine) {
+    form.Width = GetParam().width * 15 + form.FrameWidth;
+    form.Height = GetParam().height * 15 + form.FrameHeight;
+    show();
+    const auto& page = form.THelp;
+    EXPECT_GE(page.Left, 0);
+    EXPECT_GE(page.Top, 0);
+    EXPECT_LE(page.Left + page.Width, form.ScaleWidth());
+    EXPECT_LE(page.Top + page.Height, form.ScaleHeight());
+    EXPECT_GE(page.Font.Size, GetParam().points);
+    EXPECT_LE(page.Font.Size, 11);
+    for (const auto& line : page.List)
+        EXPECT_LE(toolkit::textWidth(page.Font, line), page.Width - 49 * 15) << line;
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, HelpPageOnScreens,
+                         testing::Values(HelpScreen{1918, 1010, 11}, HelpScreen{1280, 950, 10},
+                                         HelpScreen{1022, 530, 10}, HelpScreen{798, 530, 8.25F}));
+
+TEST_F(HelpPage, IsMeasuredInItsOwnFont) {
+    form.Testtext.Font = {.Name = "Arial Narrow", .Size = 30, .Bold = true};
+    show();
+    EXPECT_EQ(form.Testtext.Font, form.THelp.Font);
+}
+
+TEST_F(HelpPage, LettersGrowAgainWithTheForm) {
+    form.Width = 6000;
+    show();
+    EXPECT_FLOAT_EQ(form.THelp.Font.Size, 8.25F);
+    form.Width = 40000;
+    show();
+    EXPECT_FLOAT_EQ(form.THelp.Font.Size, 11);
 }
 
 TEST_F(HelpPage, WithoutLinesIsNotShown) {
@@ -162,6 +212,94 @@ TEST_F(HelpPage, CanBeShownAgain) {
     show();
     EXPECT_TRUE(form.THelp.Visible);
     EXPECT_GT(form.THelp.Stack, form.P1.Stack);
+}
+
+/// The page in the real window.
+class HelpWindow : public zev::test::FormTest {
+  protected:
+    void open() {
+        start();
+        toolkit::test::typeKey(toolkit::key::f1);
+        ASSERT_TRUE(form.THelp.Visible);
+    }
+    void clickRow(int row) {
+        const auto point = toolkit::test::pointOnRow(form.THelp, row);
+        toolkit::test::click(point.x, point.y);
+    }
+    void goTo(int line) {
+        form.THelp.ListIndex = line;
+        window->update();
+    }
+};
+
+TEST_F(HelpWindow, TheLastLinesAndTheLinkCanBeReached) {
+    open();
+    const auto& page = form.THelp;
+    toolkit::test::typeKey(toolkit::key::end);
+    EXPECT_EQ(page.ListIndex, static_cast<int>(page.List.size()) - 1);
+    const float rowHeight = std::floor(toolkit::textHeight(page.Font) / 15) * 15;
+    const auto rows = static_cast<int>((page.Height - 30) / rowHeight);
+    EXPECT_EQ(page.TopIndex + rows, static_cast<int>(page.List.size()));
+    clickRow(form.WebsiteLine);
+    EXPECT_EQ(launched, std::vector<std::string>{std::string(zev::webAddress) + "/history#faq"});
+}
+
+TEST_F(HelpWindow, AClickOnEachLinkOpensTheWebPageAndOnNoOtherLine) {
+    open();
+    for (int line = 0; line < static_cast<int>(form.THelp.List.size()); ++line) {
+        if (line == form.MoreInformationLine || line == form.WebsiteLine) continue;
+        goTo(line);
+        clickRow(line);
+    }
+    EXPECT_TRUE(launched.empty());
+    for (const int line : {form.MoreInformationLine, form.WebsiteLine}) {
+        if (!form.THelp.Visible) toolkit::test::typeKey(toolkit::key::f1);
+        launched.clear();
+        goTo(line);
+        clickRow(line);
+        EXPECT_EQ(launched.size(), 1U);
+        EXPECT_FALSE(form.THelp.Visible);
+        EXPECT_TRUE(form.P1.Enabled);
+        EXPECT_EQ(form.ActiveControl, &form.P1);
+    }
+}
+
+TEST_F(HelpWindow, NoKeyOpensTheBrowser) {
+    open();
+    const auto lines = static_cast<int>(form.THelp.List.size());
+    for (int line = 1; line < lines; ++line) toolkit::test::typeKey(toolkit::key::down);
+    EXPECT_EQ(form.THelp.ListIndex, lines - 1);
+    for (const int key : {toolkit::key::pageUp, toolkit::key::home, toolkit::key::end})
+        toolkit::test::typeKey(key);
+    goTo(0);
+    toolkit::test::typeText("more");
+    EXPECT_EQ(form.THelp.ListIndex, form.MoreInformationLine);
+    toolkit::test::typeKey(toolkit::key::space);
+    EXPECT_TRUE(launched.empty());
+    EXPECT_TRUE(form.THelp.Visible);
+}
+
+TEST_F(HelpWindow, OpenedAgainItShowsItsTop) {
+    open();
+    toolkit::test::typeKey(toolkit::key::end);
+    ASSERT_GT(form.THelp.TopIndex, 0);
+    toolkit::test::typeKey(toolkit::key::escape, 0, "\x1B");
+    toolkit::test::typeKey(toolkit::key::f1);
+    toolkit::test::settle();
+    EXPECT_EQ(form.THelp.TopIndex, 0);
+    clickRow(0);
+    EXPECT_EQ(form.THelp.ListIndex, 0);
+}
+
+TEST_F(HelpWindow, TheWheelsWayIsForgottenToo) {
+    open();
+    for (int notch = 0; notch < 100; ++notch) toolkit::test::turnWheelOver(form.THelp, -120);
+    toolkit::test::typeKey(toolkit::key::escape, 0, "\x1B");
+    ASSERT_GT(form.THelp.TopIndex, 0);
+    toolkit::test::typeKey(toolkit::key::f1);
+    toolkit::test::settle();
+    clickRow(0);
+    EXPECT_EQ(form.THelp.TopIndex, 0);
 }
 
 } // namespace

@@ -128,6 +128,55 @@ TEST(HelpText, SaysHowToChangeTheLayoutAndThatItMustBeSaved) {
     }
 }
 
+/// The page from one title to the next, its lines joined by blanks.
+std::string chapter(std::string_view title, std::string_view next) {
+    const auto lines = page().lines;
+    std::string text;
+    for (auto line = indexOf(lines, title) + 1; line < indexOf(lines, next); ++line) {
+        const std::string& words = lines[static_cast<std::size_t>(line)];
+        text += ' ' + words.substr(std::min(words.find_first_not_of(' '), words.size()));
+    }
+    return text;
+}
+
+bool holds(std::string_view text, std::string_view part) {
+    return text.find(part) != std::string_view::npos;
+}
+
+TEST(HelpText, ShowingTheDesignMenuIsSaidToShowAllMarks) {
+    const auto design = chapter("CHANGING THE CARD LAYOUT WITH THE 'DESIGN' MENU",
+                                "DEFINING OR CHANGING THE 'TAB' SEQUENCE");
+    EXPECT_TRUE(holds(design, "As soon as it is shown, 'Show all Marks' is on"));
+    EXPECT_TRUE(holds(design, "'Show all Marks' (Ctrl+A) to go back to normal"));
+}
+
+TEST(HelpText, ZoomAndFitAreSaidToStandInTheViewMenuWithTheirKeys) {
+    const auto options =
+        chapter("THE OPTIONS MENU", "CHANGING THE CARD LAYOUT WITH THE 'DESIGN' MENU");
+    EXPECT_TRUE(holds(options, "They are on the View menu.  Ctrl and + (the = key)"));
+    EXPECT_TRUE(holds(options, "Ctrl and - makes it smaller, and Ctrl+0 fits it"));
+    EXPECT_TRUE(holds(options, "press F1"));
+}
+
+TEST(HelpText, SaysHowToCopyCutAndPaste) {
+    const auto text = chapter("ENTERING TEXT", "DISK FILES");
+    for (const std::string_view key : {"Ctrl+C", "Ctrl+X", "Ctrl+V"})
+        EXPECT_TRUE(holds(text, key)) << key;
+}
+
+TEST(HelpText, SaysWhatOpenAndCancelLeaves) {
+    EXPECT_TRUE(
+        holds(chapter("DISK FILES", "PRINTING"), "If you click 'Cancel', you have an empty card."));
+}
+
+TEST(HelpText, SaysHowToMakeAPdfFileAndWhoseCardEachPngIs) {
+    const auto printing = chapter("PRINTING", "THE OPTIONS MENU");
+    EXPECT_TRUE(holds(printing, "your own card (Ctrl+P)"));
+    EXPECT_TRUE(holds(printing, "'Print to PDF' in 'Printer Setup'"));
+    EXPECT_TRUE(holds(printing, "'PNG' under 'Export Image' saves your partner's card, and 'PNG' "
+                                "under 'Export Partner Image' saves your own."));
+}
+
 TEST(HelpText, NormalInstructionsEndWithTheLinkAndARule) {
     const auto help = page();
     const auto link = static_cast<std::size_t>(help.moreInformationLine);

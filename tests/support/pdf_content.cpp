@@ -58,7 +58,10 @@ std::string pdfTitle(std::string_view title) {
 
 #ifndef _WIN32
 std::string wordsOfPdf(const std::filesystem::path& file) {
-    const std::string command = "pdftotext -enc UTF-8 '" + file.string() + "' -";
+    return outputOf("pdftotext -enc UTF-8 '" + file.string() + "' -");
+}
+
+std::string outputOf(const std::string& command) {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> output(popen(command.c_str(), "r"),
                                                                  pclose);
     if (output == nullptr) throw std::runtime_error(command);

@@ -16,6 +16,9 @@ namespace zev::test {
 #ifndef _WIN32
 /// Its words as a reader program finds them, in UTF-8, a blank between two words of a line.
 [[nodiscard]] std::string wordsOfPdf(const std::filesystem::path& file);
+
+/// What a command of the shell prints.
+[[nodiscard]] std::string outputOf(const std::string& command);
 #endif
 
 } // namespace zev::test

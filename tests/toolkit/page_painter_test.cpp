@@ -31,5 +31,17 @@ TEST(PagePainter, ACardWithoutASizeIsLeftOut) {
     EXPECT_EQ(zev::test::unpackedPdf(pdfDocument({&page, 1}, "")).find(" re\n"), std::string::npos);
 }
 
+TEST(PagePainter, ItemsLieOverTheCardsAtTheirPlacesOfThePage) {
+    const Page page{.width = 612,
+                    .height = 792,
+                    .cards = {{boxOf(100, 50), 72, 36, 300, 100}},
+                    .items = {FilledRectangle{
+                        .color = black, .left = 72, .top = 36, .width = 300, .height = 10}}};
+    const std::string file = zev::test::unpackedPdf(pdfDocument({&page, 1}, ""));
+    const auto item = file.find("16.6666666 0 0 16.6666666 0 0 cm\n72 36 300 10 re");
+    ASSERT_NE(item, std::string::npos) << file;
+    EXPECT_GT(item, file.find("0 0 100 50 re"));
+}
+
 } // namespace
 } // namespace toolkit::test

@@ -1,7 +1,12 @@
 #include "toolkit/print/print_job.h"
 
+#include <cmath>
+#include <regex>
+#include <sstream>
+
 #include <gtest/gtest.h>
 
+#include "support/pdf_content.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
@@ -49,6 +54,37 @@ class PrintJobs : public testing::Test {
     FileQuestion asked;
     PrintJob job;
 };
+
+#ifndef _WIN32
+TEST_F(PrintJobs, LinesOfTextStandAtTheirPlacesOnTheirPages) {
+    ASSERT_TRUE(start());
+    const FontSpec font{.Name = "Arial", .Size = 20};
+    job.write("First line", font, 1440, 720);
+    job.turnPage();
+    job.write("Other page", font, 0, 0);
+    job.finish();
+    // A line each for pages and words, with the places of these.
+    std::istringstream output(zev::test::outputOf("pdftotext -bbox '" + target.string() + "' -"));
+    const std::regex word(R"x(xMin="([-0-9.]+)" yMin="([-0-9.]+)".*>(\w+)</word>)x");
+    std::vector<std::string> found;
+    std::smatch part;
+    for (std::string line; std::getline(output, line);) {
+        if (line.find("<page") != std::string::npos) found.emplace_back("page");
+        if (!std::regex_search(line, part, word)) continue;
+        found.push_back(part[3].str() + " " + std::to_string(std::lround(std::stod(part[1]))) +
+                        " " + std::to_string(std::lround(std::stod(part[2]))));
+    }
+    EXPECT_EQ(found, (std::vector<std::string>{"page", "First 72 36", "line 116 36", "page",
+                                               "Other 0 0", "page 56 0"}));
+}
+#endif
+
+TEST_F(PrintJobs, NothingIsWrittenWithoutADocument) {
+    job.write("lost", {}, 0, 0);
+    ASSERT_TRUE(start());
+    job.finish();
+    EXPECT_EQ(zev::test::unpackedPdf(readFile(target)).find(" Tf"), std::string::npos);
+}
 
 TEST_F(PrintJobs, WritesThePageWhenItIsFinished) {
     ASSERT_TRUE(start());

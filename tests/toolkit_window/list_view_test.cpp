@@ -48,6 +48,36 @@ TEST_F(ListView, ArrowMovesTheCurrentRowAndClicks) {
     EXPECT_EQ(times("list.Click"), 2);
 }
 
+TEST_F(ListView, ArrowIsNoClickWhereTheListSaysSo) {
+    openList({"one", "two", "three"});
+    list.ClicksByKey = false;
+    list.ListIndex = 0;
+    form.SetFocus(list);
+    test::typeKey(key::down);
+    test::typeText("th");
+    EXPECT_EQ(list.ListIndex, 2);
+    EXPECT_EQ(times("list.Click"), 0);
+    test::click(px(110), middleOfRow(1));
+    EXPECT_EQ(times("list.Click"), 1);
+}
+
+TEST_F(ListView, ProgramAndPlayerScrollTheSameRows) {
+    openList(std::vector<std::string>(20, "row"));
+    form.SetFocus(list);
+    list.ListIndex = 0;
+    test::typeKey(key::end);
+    const int lowest = list.TopIndex;
+    EXPECT_GT(lowest, 0);
+    list.TopIndex = 3;
+    test::typeKey(key::f1);
+    EXPECT_EQ(list.TopIndex, 3);
+    test::click(px(110), middleOfRow(0));
+    EXPECT_EQ(list.ListIndex, 3);
+    list.TopIndex = 19;
+    window->update();
+    EXPECT_EQ(list.TopIndex, lowest);
+}
+
 TEST_F(ListView, EnterAndEscapeComeAsCharacters) {
     openList({"one"});
     form.SetFocus(list);

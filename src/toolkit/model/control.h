@@ -129,9 +129,11 @@ struct TextBox : Control {
 struct ListBox : Control {
     std::vector<std::string> List;
     int ListIndex = -1;    ///< the current row; -1 for none
+    int TopIndex = 0;      ///< the uppermost row in sight
     int PointedIndex = -1; ///< the row under the last press; -1 below the last row
     std::string ToolTip;
-    int RowGap = 0; ///< pixels by which a row is higher than its line
+    int RowGap = 0;          ///< pixels by which a row is higher than its line
+    bool ClicksByKey = true; ///< whether a key that changes the current row counts as a click
 };
 
 /// An item of the menu bar or of a pop-up menu; "&" marks its access key.

@@ -12,7 +12,7 @@
 
 namespace toolkit {
 
-/// Places and sizes in pixels of the picture.
+/// Places and sizes in pixels of the picture, on a page in points.
 struct FilledRectangle {
     Color color = black;
     double left = 0;
@@ -23,7 +23,8 @@ struct FilledRectangle {
     friend bool operator==(const FilledRectangle&, const FilledRectangle&) = default;
 };
 
-/// Characters of the code page side by side, unkerned. Em and place in pixels of the picture.
+/// Characters of the code page side by side, unkerned. Em and place in pixels of the picture, on a
+/// page in points.
 struct Words {
     Color color = black;
     std::string fontName;

@@ -18,11 +18,12 @@ struct PlacedCard {
     double height = 0;
 };
 
-/// Lengths in points.
+/// All lengths in points.
 struct Page {
     double width = 0;
     double height = 0;
     std::vector<PlacedCard> cards{};
+    std::vector<DrawnItem> items{}; ///< over the cards, at places of the page
 };
 
 } // namespace toolkit

@@ -9,6 +9,7 @@
 #include "toolkit/print/pdf_document.h"
 #include "toolkit/print/system_print_job.h"
 #include "toolkit/print/system_printers.h"
+#include "toolkit/text/font.h"
 #include "toolkit/window/dialog.h"
 
 namespace toolkit {
@@ -106,6 +107,20 @@ bool PrintJob::stretch(std::shared_ptr<const Bitmap> picture, const Place& place
     card->height = picture->height();
     card->picture = std::move(picture);
     return draw(std::move(card), place);
+}
+
+void PrintJob::write(std::string_view text, const FontSpec& font, float left, float top) {
+    if (!document_) return;
+    const Printer& printer = document_->printer;
+    document_->pages.back().items.emplace_back(
+        Words{.color = black,
+              .fontName = font.Name,
+              .bold = font.Bold,
+              .em = font.Size,
+              .left = document_->across(printer.PhysicalOffsetX) + left / twipsPerPoint,
+              .baseline = document_->down(printer.PhysicalOffsetY) +
+                          (top + textAscent(font)) / twipsPerPoint,
+              .text = std::string(text)});
 }
 
 void PrintJob::turnPage() {

@@ -1,4 +1,4 @@
-// A document on a printer: opened, cards drawn on its pages, closed.
+// A document on a printer: opened, cards and lines of text put on its pages, closed.
 #pragma once
 
 #include <filesystem>
@@ -41,6 +41,9 @@ class PrintJob {
     /// or no document is open.
     bool draw(std::shared_ptr<const CardRecording> card, const Place& place);
     bool stretch(std::shared_ptr<const Bitmap> picture, const Place& place);
+    /// Writes a line of text in black. The place of its top left corner in twips from the corner of
+    /// the printable part of the page. Nothing happens if no document is open.
+    void write(std::string_view text, const FontSpec& font, float left, float top);
     /// What is drawn from now on stands on one more page.
     void turnPage();
 

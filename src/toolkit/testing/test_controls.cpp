@@ -64,7 +64,10 @@ std::string toolTipAt(const Control& control, PointOnCard point) {
 }
 
 void turnWheelOver(const Control& control, int rotation) {
-    QWidget& widget = shownWidget(control);
+    // A list takes it where its rows are.
+    QWidget& shown = shownWidget(control);
+    const auto* list = dynamic_cast<ListView*>(&shown);
+    QWidget& widget = list == nullptr ? shown : *list->viewport();
     const QPointF place = QRectF(widget.rect()).center();
     QWheelEvent event(place, widget.mapToGlobal(place), QPoint(), QPoint(0, rotation), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);

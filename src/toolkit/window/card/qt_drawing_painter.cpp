@@ -69,10 +69,12 @@ void paintGround(QPainter& painter, const CardRecording& card) {
 
 } // namespace
 
-void paintDrawing(QPainter& painter, const Drawing& drawing) {
-    for (const DrawnItem& item : drawing.items)
+void paintItems(QPainter& painter, std::span<const DrawnItem> items) {
+    for (const DrawnItem& item : items)
         std::visit([&painter](const auto& drawn) { paintItem(painter, drawn); }, item);
 }
+
+void paintDrawing(QPainter& painter, const Drawing& drawing) { paintItems(painter, drawing.items); }
 
 void paintRecording(QPainter& painter, const CardRecording& card) {
     paintGround(painter, card);

@@ -1,11 +1,16 @@
 // Paints what a card is drawn of. Internal to the toolkit's sources.
 #pragma once
 
+#include <span>
+
 #include "toolkit/model/drawing.h"
 
 class QPainter;
 
 namespace toolkit {
+
+/// At the painter's scale, one unit for each unit of the items' lengths.
+void paintItems(QPainter& painter, std::span<const DrawnItem> items);
 
 /// At the painter's scale, one unit for each pixel of the drawing. Its paper isn't painted.
 void paintDrawing(QPainter& painter, const Drawing& drawing);

@@ -3,6 +3,7 @@
 #include <QtCore/QItemSelectionModel>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QScrollBar>
 
 #include "toolkit/base/qt_text.h"
 
@@ -29,7 +30,10 @@ ListView::ListView(QWidget& parent, Form& form, ListBox& list, EventDispatcher& 
 ListView::~ListView() { setModel(nullptr); }
 
 void ListView::pull() {
-    if (isHidden() || currentIndex().row() == knownIndex_) return;
+    if (isHidden()) return;
+    if (const int top = verticalScrollBar()->value(); top != knownTop_)
+        knownTop_ = list_.TopIndex = top;
+    if (currentIndex().row() == knownIndex_) return;
     knownIndex_ = list_.ListIndex = currentIndex().row();
 }
 
@@ -39,6 +43,7 @@ void ListView::push() {
         // Setting no current row keeps the view from choosing one when it gets the focus.
         if (rows_.replace(list_.List)) setCurrentIndex({});
         pushIndex();
+        pushTop();
         if (const QString tip = qString(list_.ToolTip); tip != toolTip()) setToolTip(tip);
     }
     looks_.push(*this, list_, {});
@@ -49,10 +54,17 @@ void ListView::pushIndex() {
     if (currentIndex().row() != list_.ListIndex) setCurrentIndex(rows_.index(list_.ListIndex));
 }
 
+/// Rows scroll as wholes, so the bar's value is a row.
+void ListView::pushTop() {
+    if (list_.TopIndex == knownTop_) return;
+    verticalScrollBar()->setValue(list_.TopIndex);
+    knownTop_ = list_.TopIndex = verticalScrollBar()->value();
+}
+
 void ListView::takeKey(QKeyEvent& event) {
     const int before = currentIndex().row();
     keyPressEvent(&event);
-    if (currentIndex().row() != before) mouse_.send(&Control::Click);
+    if (list_.ClicksByKey && currentIndex().row() != before) mouse_.send(&Control::Click);
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {

@@ -28,6 +28,7 @@ class ListView : public QListView {
 
   private:
     void pushIndex();
+    void pushTop();
 
     ListBox& list_;
     ControlMouse mouse_;
@@ -35,6 +36,7 @@ class ListView : public QListView {
     ListRows rows_;
     ListRowPainter painter_;
     int knownIndex_ = -1;
+    int knownTop_ = 0;
 };
 
 } // namespace toolkit
