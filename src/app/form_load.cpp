@@ -29,6 +29,7 @@
 #include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "help/help_page.h"
+#include "help/menu_tooltips.h"
 #include "layout/check_point.h"
 #include "layout/check_update.h"
 #include "toolkit/base/clock.h"
@@ -93,6 +94,9 @@ void applyKindOfBuild(Zevlin& form) {
     form.MShowDesignMenu.Checked = !form.ProductionBuild;
     form.WheelHooked = form.ProductionBuild;
     if (form.WheelHooked) hookWheel(form);
+    if (!form.ProductionBuild) return;
+    InitMenuDescriptions(form);
+    hookMenus(form);
 }
 
 void hidePrintColorItems(Zevlin& form) {

@@ -31,7 +31,9 @@ bool Form_Unload(Zevlin& form, int unloadMode) {
         completeOptions(form);
         releasePrinter(form);
         restoreDefaultPrinter(form);
-        if (form.WheelHooked) unhookWheel(form);
+        if (!form.WheelHooked) return;
+        unhookWheel(form);
+        unhookMenus(form);
     });
     return cancel;
 }

@@ -79,6 +79,9 @@ void wireHelp(Zevlin& form) {
     form.THelp.Click = run(form, THelp_Click);
     // Arrows and the search by letters must not open the browser.
     form.THelp.ClicksByKey = false;
+    form.PopHelp.BackColor = toolkit::rgb(255, 255, 225);
+    form.PopHelp.MultiLine = true;
+    form.PopHelp.Margin = 5;
 }
 
 /// A slot that runs the mouse procedure of a label.
@@ -151,7 +154,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.cardTextBoxes = {&form.CText, &form.LText};
     parts.lists = {&form.THelp};
     parts.panels = wirePanels(form);
-    parts.overlays = {&form.PleaseWait};
+    parts.overlays = {&form.PleaseWait, &form.PopHelp};
     parts.menu = menuRows(form);
     return parts;
 }

@@ -243,6 +243,17 @@ TEST_F(FormLoad, TheMenuHelpTakesAQuarterOfTheForm) {
     EXPECT_EQ(form.PopHelp.Height, 1200);
 }
 
+TEST_F(FormLoad, TheMenusAreExplainedBeforeTheLayoutIsLookedAt) {
+    start();
+    const auto lines = traceLines();
+    const auto at = [&](std::string_view line) { return std::ranges::find(lines, line); };
+    ASSERT_NE(at("InitMenuDescriptions"), lines.end());
+    EXPECT_LT(at("IsProductionEnvironment"), at("InitMenuDescriptions"));
+    EXPECT_LT(at("InitMenuDescriptions"), at("CheckIniUpdate"));
+    EXPECT_EQ(form.Lmenus.List.size(), 11U);
+    EXPECT_TRUE(form.MenuSelect);
+}
+
 TEST_F(FormLoad, TheCardHasTheFocusSoThatKeysReachIt) {
     start();
     EXPECT_EQ(form.ActiveControl, &form.P1);

@@ -1,6 +1,7 @@
 #include "app/hooks.h"
 
 #include "support/form_test.h"
+#include "toolkit/testing/test_menus.h"
 #include "toolkit/testing/test_mouse.h"
 
 namespace zev::test {
@@ -17,6 +18,24 @@ TEST_F(Hooks, TheWheelReachesTheCardOnlyWhileItIsHooked) {
     hookWheel(form);
     toolkit::test::turnWheel(-120);
     EXPECT_LT(form.P1.Top, 0);
+}
+
+TEST_F(Hooks, MenusAreExplainedOnlyWhileTheyAreHooked) {
+    start();
+    const auto isExplained = [&] {
+        toolkit::test::openMenu("Options");
+        toolkit::test::pointAtRow("Boldface");
+        const bool isRead = !toolkit::test::readRow("Boldface").description.empty();
+        EXPECT_EQ(isRead, form.PopHelp.Visible);
+        toolkit::test::clickBesideMenus();
+        return isRead;
+    };
+    EXPECT_TRUE(isExplained());
+    unhookMenus(form);
+    unhookMenus(form);
+    EXPECT_FALSE(isExplained());
+    hookMenus(form);
+    EXPECT_TRUE(isExplained());
 }
 
 } // namespace

@@ -11,6 +11,7 @@
 #include "toolkit/print/printer.h"
 #include "toolkit/print/printers.h"
 #include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_menus.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
 
@@ -161,6 +162,23 @@ TEST_F(Unload, TheWheelMovesTheCardUntilTheFormIsUnloaded) {
     EXPECT_LT(moveOfWheel(), 0);
     toolkit::test::closeWindow();
     EXPECT_EQ(moveOfWheel(), 0);
+}
+
+TEST_F(Unload, MenusAreExplainedUntilTheFormIsUnloaded) {
+    startChanged();
+    const auto isExplained = [&] {
+        toolkit::test::openMenu("Options");
+        toolkit::test::pointAtRow("Boldface");
+        const bool isShown = form.PopHelp.Visible;
+        toolkit::test::clickBesideMenus();
+        return isShown;
+    };
+    answer(toolkit::Answer::Cancel);
+    toolkit::test::closeWindow();
+    EXPECT_TRUE(isExplained());
+    answer(toolkit::Answer::No);
+    toolkit::test::closeWindow();
+    EXPECT_FALSE(isExplained());
 }
 
 TEST_F(Unload, AnEditThatIsStillOpenCountsAsAChange) {

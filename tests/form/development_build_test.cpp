@@ -33,5 +33,12 @@ TEST_F(DevelopmentBuild, LeavesTheWheelAlone) {
     EXPECT_TRUE(traced("Form_Unload 0"));
 }
 
+TEST_F(DevelopmentBuild, ExplainsNoMenus) {
+    start();
+    EXPECT_TRUE(form.Lmenus.List.empty());
+    EXPECT_EQ(form.MenuSelect, nullptr);
+    EXPECT_FALSE(traced("InitMenuDescriptions"));
+}
+
 } // namespace
 } // namespace zev::test

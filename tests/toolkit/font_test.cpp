@@ -91,6 +91,16 @@ TEST(Font, ALineHasAWordHoweverNarrowItIs) {
     EXPECT_EQ(lengthOfLine(arial(11), "", 0), 0U);
 }
 
+TEST(Font, ATextIsWrappedAtBlanksThatFallAway) {
+    using Lines = std::vector<std::string_view>;
+    const FontSpec font = arial(11);
+    const float room = textWidth(font, "one two") + 1;
+    EXPECT_EQ(wrappedLines(font, "one two one two three", room),
+              (Lines{"one two", "one two", "three"}));
+    EXPECT_EQ(wrappedLines(font, "one", 0), Lines{"one"});
+    EXPECT_EQ(wrappedLines(font, "", room), Lines{});
+}
+
 TEST(Font, AStandInReportsTheNameAskedFor) {
     for (const char* name : {"Arial", "Arial Narrow", "Wingdings", "Symbol", "arial"})
         EXPECT_EQ(fontNameGiven(name), name);

@@ -61,5 +61,40 @@ TEST_F(Overlay, IsPaintedInTheFontThatItWasMeasuredIn) {
     }
 }
 
+/// How many lines of ink stand between the box's frame's sides.
+int inkLines(Color ground) {
+    const Bitmap shown = test::grabWindow();
+    int lines = 0;
+    bool wasInk = false;
+    for (int y = 0; y < shown.height(); ++y) {
+        // The box begins at 10, 10 of the form and its text five pixels further on.
+        if (shown.pixel(12, y) != ground) continue;
+        bool isInk = false;
+        for (int x = 15; x < 100; ++x) isInk = isInk || shown.pixel(x, y) != ground;
+        if (isInk && !wasInk) ++lines;
+        wasInk = isInk;
+    }
+    return lines;
+}
+
+TEST_F(Overlay, BreaksTheTextIntoLinesWhereItSaysSo) {
+    overlay.Text = "mmmmm mmmmm mmmmm mmmmm";
+    overlay.BackColor = rgb(255, 255, 225);
+    overlay.Font = {.Name = "Arial", .Size = 9};
+    overlay.MultiLine = true;
+    overlay.Margin = 5;
+    const float room = textWidth(overlay.Font, "mmmmm mmmmm");
+    overlay.Move(px(10), px(10), room + px(11), px(100));
+    overlay.Visible = true;
+    window->update();
+    EXPECT_EQ(inkLines(overlay.BackColor), 2);
+    overlay.Width = room + px(9);
+    window->update();
+    EXPECT_EQ(inkLines(overlay.BackColor), 4);
+    overlay.Text = "mmmmm";
+    window->update();
+    EXPECT_EQ(inkLines(overlay.BackColor), 1);
+}
+
 } // namespace
 } // namespace window_test

@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "toolkit/base/error.h"
 #include "toolkit/model/control.h"
@@ -24,6 +25,18 @@ struct FormBackground {
     std::string text{};                   ///< printed in the bottom left corner, size 8 bold
 
     friend bool operator==(const FormBackground&, const FormBackground&) = default;
+};
+
+/// Which row of the menu bar's menus is highlighted, and where. Twips, relative to the form.
+struct MenuSelection {
+    std::string Caption{}; ///< of the row's item; empty where no row is highlighted
+    float RowTop = 0;
+    float Left = 0; ///< this and the following: what the open menus cover
+    float Top = 0;
+    float Width = 0;
+    float Height = 0;
+
+    friend bool operator==(const MenuSelection&, const MenuSelection&) = default;
 };
 
 /// Left, Top, Width and Height are those of the outer frame, twips on the screen that holds its
@@ -52,6 +65,12 @@ struct Form {
     std::function<void(KeyArguments&)> KeyDown;
     /// Wheel: keys held, rotation in 120ths, pointer x and y in screen pixels.
     std::function<void(int keys, int rotation, int x, int y)> MouseWheel;
+    /// Another row of the menus is highlighted, or none any more. Before a chosen row's Click none
+    /// is. Of a menu whose header is highlighted the header counts, until one of its rows is.
+    std::function<void(const MenuSelection&)> MenuSelect;
+    /// What the row with this caption does, for those who have the screen read to them; may be
+    /// empty. Asked when the row's menu opens.
+    std::function<std::string(std::string_view caption)> MenuDescription;
     /// The player closes the window; true refuses.
     std::function<bool()> QueryClose;
     /// The session ends, or another program asks this one to; true refuses.

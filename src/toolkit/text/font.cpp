@@ -49,6 +49,17 @@ std::size_t lengthOfLine(const FontSpec& font, std::string_view text, float widt
     return length;
 }
 
+std::vector<std::string_view> wrappedLines(const FontSpec& font, std::string_view text,
+                                           float width) {
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t length = lengthOfLine(font, text, width);
+        lines.push_back(text.substr(0, length));
+        text.remove_prefix(std::min(text.size(), length + 1));
+    }
+    return lines;
+}
+
 std::string fontNameGiven(std::string_view name) { return fontFamily(name).nameGiven; }
 
 float fontSizeGiven(float points) {

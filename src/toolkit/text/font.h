@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "toolkit/text/font_spec.h"
 
@@ -22,6 +23,10 @@ namespace toolkit {
 /// Length of the words at the beginning of a text that fit into a line of this width, twips; the
 /// first word always counts. The next line begins after the blank that follows.
 [[nodiscard]] std::size_t lengthOfLine(const FontSpec& font, std::string_view text, float width);
+
+/// The lines, broken at blanks, in which a text fits into the width, twips.
+[[nodiscard]] std::vector<std::string_view> wrappedLines(const FontSpec& font,
+                                                         std::string_view text, float width);
 
 /// The name that the font system reports after this one was asked for: the same text where the font
 /// is installed or has a substitute, else the name of the font that is used in its place.

@@ -64,6 +64,7 @@ WindowImplementation::WindowImplementation(WindowParts shown)
 }
 
 WindowImplementation::~WindowImplementation() {
+    form_.menuBar().stopTelling();
     reckonByScreenOf(nullptr);
     theWindow() = nullptr;
 }

@@ -1,7 +1,12 @@
 #include "toolkit/window/control/qt_overlay.h"
 
+#include <cmath>
+
+#include <QtGui/QPainter>
+
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
+#include "toolkit/text/font.h"
 #include "toolkit/text/text_painter.h"
 
 namespace toolkit {
@@ -20,6 +25,7 @@ void Overlay::push() {
         font_ = box_.Font;
         setFont(qtFont(box_.Font));
     }
+    if (box_.MultiLine) update();
     setGeometry(pixelsFromTwips(box_.Left), pixelsFromTwips(box_.Top), pixelsFromTwips(box_.Width),
                 pixelsFromTwips(box_.Height));
     if (isHidden() != box_.Visible) return;
@@ -29,6 +35,20 @@ void Overlay::push() {
     setPalette(colors);
     setVisible(box_.Visible);
     raise();
+}
+
+void Overlay::paintEvent(QPaintEvent* event) {
+    if (!box_.MultiLine) return QLabel::paintEvent(event);
+    QPainter painter(this);
+    drawFrame(&painter);
+    const double pixelsPerTwip = 1.0 / twipsPerPixel();
+    const float room = box_.Width - 2 * twipsFromPixels(box_.Margin);
+    double baseline = box_.Margin + textAscent(box_.Font) * pixelsPerTwip;
+    for (const std::string_view line : wrappedLines(box_.Font, box_.Text, room)) {
+        drawRun(painter, QPointF(box_.Margin, std::round(baseline)), box_.Font, pixelsPerTwip,
+                box_.ForeColor, line);
+        baseline += textHeight(box_.Font) * pixelsPerTwip;
+    }
 }
 
 } // namespace toolkit

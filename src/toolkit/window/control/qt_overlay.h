@@ -16,6 +16,9 @@ class Overlay : public QLabel {
     /// Takes over what the program changed.
     void push();
 
+  protected:
+    void paintEvent(QPaintEvent* event) override;
+
   private:
     const TextBox& box_;
     std::optional<FontSpec> font_;

@@ -4,7 +4,9 @@
 
 #include <QtGui/QKeyEvent>
 
+#include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
+#include "toolkit/window/menu/qt_accessible_row.h"
 #include "toolkit/window/menu/qt_menu_rows.h"
 
 namespace toolkit {
@@ -23,9 +25,11 @@ QAction* offeredAction(const QList<QAction*>& offered, std::string_view caption)
 } // namespace
 
 MenuBar::MenuBar(QWidget& form, const WindowParts& parts, EventDispatcher& dispatcher)
-    : QMenuBar(&form), parts_(parts), dispatcher_(dispatcher) {
+    : QMenuBar(&form), parts_(parts), dispatcher_(dispatcher),
+      watch_([this](const HighlightedRow& highlighted) { tellSelection(highlighted); }) {
     setNativeMenuBar(false);
     setFocusPolicy(Qt::NoFocus);
+    tellRowDescriptions();
     for (std::size_t row = 0; row < parts.menu.size(); ++row) {
         const std::string_view text = parts.menu[row].shortcut;
         shortcuts_.push_back(QKeySequence::fromString(qString(text), QKeySequence::PortableText));
@@ -42,6 +46,7 @@ void MenuBar::addEntry(std::size_t row) {
     entry.row = row;
     if (hasMenu(row)) {
         entry.action = addMenu(&entry.menu);
+        watch_.watch(entry.menu);
         connect(&entry.menu, &QMenu::aboutToShow, this, [this, &entry] {
             entry.menu.clear();
             for (QMenu* submenu :
@@ -114,12 +119,16 @@ std::size_t MenuBar::addRow(QMenu& menu, std::size_t row) {
     const MenuRow& shown = parts_.menu[row];
     if (!hasMenu(row)) {
         QAction& action = addMenuAction(menu, shown.item, shown.shortcut);
-        if (shown.item != nullptr) connectRow(action, row);
+        if (shown.item == nullptr) return row + 1;
+        connectRow(action, row);
+        describe(action, row);
         return row + 1;
     }
     QMenu& submenu = *menu.addMenu(qString(shown.item->Caption));
     submenu.menuAction()->setVisible(shown.item->Visible);
     submenu.setEnabled(shown.item->Enabled);
+    describe(*submenu.menuAction(), row);
+    watch_.watch(submenu);
     fill(submenu, row + 1, shown.level + 1);
     do {
         ++row;
@@ -129,6 +138,31 @@ std::size_t MenuBar::addRow(QMenu& menu, std::size_t row) {
 
 void MenuBar::connectRow(QAction& action, std::size_t row) {
     connect(&action, &QAction::triggered, this, [this, row] { run(row); });
+}
+
+/// Styles of the desktop change an action's text, so the row is known by its number.
+void MenuBar::describe(QAction& action, std::size_t row) {
+    action.setData(QVariant::fromValue(row));
+    const auto& description = parts_.form->MenuDescription;
+    if (description) action.setWhatsThis(qString(description(parts_.menu[row].item->Caption)));
+}
+
+void MenuBar::tellSelection(const HighlightedRow& highlighted) {
+    MenuSelection selection;
+    if (highlighted.row != nullptr && highlighted.row->data().isValid()) {
+        const QRect menus = highlighted.menus.translated(-mapToGlobal(QPoint(0, height())));
+        const int rowTop = mapFromGlobal(highlighted.place.topLeft()).y() - height();
+        selection = {.Caption =
+                         parts_.menu[highlighted.row->data().value<std::size_t>()].item->Caption,
+                     .RowTop = twipsFromPixels(rowTop),
+                     .Left = twipsFromPixels(menus.left()),
+                     .Top = twipsFromPixels(menus.top()),
+                     .Width = twipsFromPixels(menus.width()),
+                     .Height = twipsFromPixels(menus.height())};
+    }
+    if (told_ == selection || !parts_.form->MenuSelect) return;
+    told_ = selection;
+    dispatcher_.run([&] { parts_.form->MenuSelect(selection); });
 }
 
 void MenuBar::run(std::size_t row) {

@@ -13,6 +13,7 @@
 
 #include "toolkit/model/window_parts.h"
 #include "toolkit/window/input/qt_event_dispatcher.h"
+#include "toolkit/window/menu/qt_menu_watch.h"
 #include "toolkit/window/menu/qt_read_out.h"
 
 namespace toolkit {
@@ -24,6 +25,8 @@ class MenuBar : public QMenuBar {
     MenuBar(QWidget& form, const WindowParts& parts, EventDispatcher& dispatcher);
 
     void push();
+    /// The form hears no more of the menus, which may still be open when the window goes.
+    void stopTelling() { watch_.stop(); }
     /// Runs the row whose shortcut this is, if it and all menus around it are shown and enabled.
     bool runShortcut(const QKeyEvent& event);
     /// As if the player had opened the menus and chosen the row; captions without "&", joined by
@@ -59,9 +62,13 @@ class MenuBar : public QMenuBar {
     [[nodiscard]] std::optional<std::size_t> menuAround(std::size_t row) const;
     [[nodiscard]] bool hasMenu(std::size_t row) const;
     void run(std::size_t row);
+    void describe(QAction& action, std::size_t row);
+    void tellSelection(const HighlightedRow& highlighted);
 
     const WindowParts& parts_;
     EventDispatcher& dispatcher_;
+    MenuWatch watch_; ///< outlives the menus
+    MenuSelection told_;
     std::vector<std::unique_ptr<Entry>> entries_;
     std::vector<QKeySequence> shortcuts_; ///< by row
     std::unique_ptr<ReadOut> readOut_;

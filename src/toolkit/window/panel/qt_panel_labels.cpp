@@ -45,13 +45,11 @@ void paintWrappedLabel(QPainter& painter, const Label& label) {
     Label line = label;
     line.Height = textHeight(label.Font);
     const std::string text = paintedText(label.Caption);
-    std::string_view rest = text;
-    while (!rest.empty() && line.Top + line.Height <= label.Top + label.Height + line.Height / 2) {
-        const std::size_t length = lengthOfLine(label.Font, rest, label.Width);
-        line.Caption = captionFor(rest.substr(0, length));
+    for (const std::string_view words : wrappedLines(label.Font, text, label.Width)) {
+        if (line.Top + line.Height > label.Top + label.Height + line.Height / 2) return;
+        line.Caption = captionFor(words);
         paintLabel(painter, line);
         line.Top += line.Height;
-        rest.remove_prefix(std::min(rest.size(), length + 1));
     }
 }
 
