@@ -135,49 +135,6 @@ TEST_F(MenuBar, OtherModifiersAreAnotherKey) {
     EXPECT_EQ(times("card.KeyDown 83/3"), 1);
 }
 
-/// A row on the bar without rows and without a Click.
-class ReadOutOnTheBar : public MenuBar {
-  protected:
-    ReadOutOnTheBar() {
-        menu.push_back({.level = 0, .item = &places});
-        places.Caption = "7: (7185,7418) - (7185,7418)  [123*456]";
-    }
-    MenuItem places;
-};
-
-TEST_F(ReadOutOnTheBar, StandsAtItsEndAndKeepsItsPlaceWhileItChanges) {
-    const test::ShownReadOut before = test::shownReadOut();
-    EXPECT_EQ(before.text, places.Caption);
-    EXPECT_TRUE(before.isWhole);
-    EXPECT_EQ(before.left + before.width, 640);
-    places.Caption = "8 && 9";
-    const test::ShownReadOut after = test::shownReadOut();
-    EXPECT_EQ(after.text, "8 & 9");
-    EXPECT_EQ(after.left, before.left);
-    EXPECT_EQ(after.width, before.width);
-}
-
-TEST_F(ReadOutOnTheBar, CantBeChosenAndGoesWithItsItem) {
-    EXPECT_FALSE(test::chooseMenu("7: (7185,7418) - (7185,7418)  [123*456]"));
-    places.Visible = false;
-    EXPECT_EQ(test::shownReadOut().text, "");
-}
-
-TEST_F(ReadOutOnTheBar, StaysWholeBesideTheMenusOfANarrowBar) {
-    for (const int wider : {-200, 150, -160}) {
-        test::resizeWindow(wider, 0);
-        EXPECT_TRUE(test::shownReadOut().isWhole) << wider;
-    }
-    readOut.Caption = "A menu that takes more of the bar";
-    EXPECT_TRUE(test::shownReadOut().isWhole);
-}
-
-TEST_F(ReadOutOnTheBar, GivesWayWhereEvenTheMenusHaveNoRoom) {
-    readOut.Caption = "A menu that takes more of the bar than there is left of it by now";
-    test::resizeWindow(-450, 0);
-    EXPECT_EQ(test::shownReadOut().width, 0);
-}
-
 TEST_F(MenuBar, BarCountsAsPartOfTheFrame) {
     EXPECT_GT(form.FrameHeight - form.FrameWidth, px(10));
 }
