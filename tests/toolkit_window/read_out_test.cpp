@@ -12,9 +12,13 @@ class ReadOut : public WindowTest {
     ReadOut() {
         file.Caption = "&File";
         places.Caption = "7: (7185,7418) - (7185,7418)  [123*456]";
-        menu = {{.level = 0, .item = &file, .Click = [] {}}, {.level = 0, .item = &places}};
+        view.Caption = "&View";
+        menu = {{.level = 0, .item = &file, .Click = [] {}},
+                {.level = 0, .item = &view, .Click = [] {}},
+                {.level = 0, .item = &places}};
     }
     MenuItem file;
+    MenuItem view;
     MenuItem places;
 };
 
@@ -46,9 +50,11 @@ TEST_F(ReadOut, StaysWholeBesideTheMenusOfANarrowBar) {
 }
 
 TEST_F(ReadOut, GivesWayWhereEvenTheMenusHaveNoRoom) {
-    file.Caption = "A menu that takes more of the bar than there is left of it by now";
+    view.Caption = "A menu that takes more of the bar than there is left of it by now";
     test::resizeWindow(-450, 0);
     EXPECT_EQ(test::shownReadOut().width, 0);
+    view.Caption = "&View";
+    EXPECT_GT(test::shownReadOut().width, 0);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 // Failures of the whole-card options: each is traced with its command's name, and nobody is told.
-#include <cstdlib>
+#include <cstddef>
 #include <new>
 #include <utility>
 
@@ -14,16 +14,19 @@ namespace {
 /// From so many bytes on no memory is to be had; 0 for no limit.
 std::size_t scarceFrom = 0;
 
+constexpr std::align_val_t alignment{alignof(std::max_align_t)};
+
 } // namespace
 
 // All memory of this program comes from here.
 void* operator new(std::size_t size) {
     if (scarceFrom > 0 && size >= scarceFrom) throw std::bad_alloc();
-    if (void* memory = std::malloc(size > 0 ? size : 1)) return memory;
-    throw std::bad_alloc();
+    return ::operator new(size, alignment);
 }
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t /*size*/) noexcept { std::free(memory); }
+void operator delete(void* memory) noexcept { ::operator delete(memory, alignment); }
+void operator delete(void* memory, std::size_t /*size*/) noexcept {
+    ::operator delete(memory, alignment);
+}
 
 namespace zev::test {
 namespace {

@@ -86,12 +86,8 @@ void MenuBar::resizeEvent(QResizeEvent* event) {
 void MenuBar::placeReadOut() {
     if (readOut_ == nullptr || readOut_->isHidden()) return;
     int menusEnd = 0;
-    for (QAction* action : actions()) {
-        if (!action->isVisible()) continue;
-        // Without a place it has folded away, for want of room.
-        const QRect where = actionGeometry(action);
-        menusEnd = std::max(menusEnd, where.isEmpty() ? width() : where.right() + 1);
-    }
+    for (QAction* action : actions())
+        menusEnd = std::max(menusEnd, actionGeometry(action).right() + 1);
     readOut_->place(menusEnd);
 }
 
