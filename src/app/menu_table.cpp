@@ -6,6 +6,7 @@
 #include "card/lifecycle.h"
 #include "card/names_line.h"
 #include "card/save.h"
+#include "card/undo_card.h"
 #include "design/auto_adjust.h"
 #include "design/design_mode.h"
 #include "design/pen.h"
@@ -59,6 +60,9 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::mPrintToClipboard, "Copy to Clipboard", "",  mPrintToClipboard_Click},
     separator,
     {1, &Zevlin::MExit,       "E&xit",              "",       MExit_Click},
+    {0, &Zevlin::MEdit,       "&Edit",              "",       nullptr},
+    {1, &Zevlin::MUndo,       "&Undo",              "Ctrl+Z", MUndo_Click, AtStart::Disabled},
+    {1, &Zevlin::MRedo,       "&Redo",              "Ctrl+Y", MRedo_Click, AtStart::Disabled},
     {0, &Zevlin::MView,       "&View",              "",       nullptr},
     {1, &Zevlin::MZoomIn,     "Zoom In (Bigger)                   Ctrl +", "", MZoomIn_Click},
     {1, &Zevlin::MZoomOut,    "Zoom Out (Smaller)               Ctrl  -",  "", MZoomOut_Click},

@@ -66,6 +66,11 @@ void showText(Zevlin& form, int index, const std::string& raw) {
     SetSym(form, index);
 }
 
+void showField(Zevlin& form, int index, const CardDocument::Text& text) {
+    showStyles(form, index, text.switches);
+    showText(form, index, text.text);
+}
+
 void showDocument(Zevlin& form, const CardDocument& document) {
     form.PartnerName = document.partner.name;
     form.PartnerNumber = document.partner.number;
@@ -73,11 +78,8 @@ void showDocument(Zevlin& form, const CardDocument& document) {
     for (int i = 1; i <= marks; ++i)
         form.AMark[i].Visible = document.marks[static_cast<std::size_t>(i) - 1];
     const int texts = std::min(form.AText.UBound(), static_cast<int>(document.texts.size()));
-    for (int i = 1; i <= texts; ++i) {
-        const CardDocument::Text& text = document.texts[static_cast<std::size_t>(i) - 1];
-        showStyles(form, i, text.switches);
-        showText(form, i, text.text);
-    }
+    for (int i = 1; i <= texts; ++i)
+        showField(form, i, document.texts[static_cast<std::size_t>(i) - 1]);
 }
 
 } // namespace zev

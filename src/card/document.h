@@ -18,6 +18,9 @@ struct Zevlin;
 /// over.
 void showDocument(Zevlin& form, const CardDocument& document);
 
+/// Gives one field the text with its style.
+void showField(Zevlin& form, int index, const CardDocument::Text& text);
+
 /// Puts a raw text with doubled ampersands into its field, fitted and with its suit symbols.
 void showText(Zevlin& form, int index, const std::string& raw);
 

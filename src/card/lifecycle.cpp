@@ -10,6 +10,7 @@
 #include "card/load.h"
 #include "card/names_line.h"
 #include "card/save.h"
+#include "card/undo_card.h"
 #include "form/modified.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
@@ -55,6 +56,7 @@ void makeNewCard(Zevlin& form) {
     ShowNames(form, NamesUpdate::FillEmpty);
     ResetMod(form);
     if (showsTitle(form)) SetCaption(form);
+    if (!form.Carried) beginHistory(form, true);
 }
 
 void announceOpening(Zevlin& form) {

@@ -9,6 +9,7 @@
 #include "card/document.h"
 #include "card/file_seen.h"
 #include "card/names_line.h"
+#include "card/undo_card.h"
 #include "form/background.h"
 #include "form/modified.h"
 #include "form/trace.h"
@@ -124,6 +125,7 @@ void loadCard(Zevlin& form) {
 void GetCardFile(Zevlin& form) {
     Traceit(form, "GetCardFile");
     trapped(form, "Error in GetCardFile ", [&] { loadCard(form); });
+    if (!form.Carried) beginHistory(form, true);
 }
 
 } // namespace zev

@@ -8,6 +8,7 @@
 
 #include "card/document.h"
 #include "card/file_seen.h"
+#include "card/undo_card.h"
 #include "form/modified.h"
 #include "form/trace.h"
 #include "form/unsaved.h"
@@ -148,6 +149,7 @@ void openRescued(Zevlin& form, Rescue rescue) {
     form.CardFileSeen = SeenFile{.cardName = form.CardName, .state = rescue.card.file};
     showDocument(form, rescue.card.document);
     SetMod(form);
+    beginHistory(form, false);
     // Where the layout lacks a field for part of the card, the file stays and is offered again.
     if (!hasRoomFor(form, rescue.card.document)) return;
     form.Journal.file = std::move(rescue.file);

@@ -9,6 +9,7 @@
 #include "card/document.h"
 #include "card/file_seen.h"
 #include "card/journal.h"
+#include "card/undo_card.h"
 #include "card/write_card.h"
 #include "form/file_failures.h"
 #include "form/modified.h"
@@ -138,6 +139,7 @@ void writeToFile(Zevlin& form, const std::filesystem::path& file) {
     toolkit::writeFile(file, content);
     rememberFile(form, file, content);
     finishSave(form);
+    noteSavedCard(form);
 }
 
 void saveCard(Zevlin& form) {

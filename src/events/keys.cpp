@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "card/undo_card.h"
 #include "design/design_mode.h"
 #include "design/move_marks.h"
 #include "events/tab_walk.h"
@@ -120,6 +121,14 @@ bool moveMarksByKey(Zevlin& form, const toolkit::KeyArguments& key) {
     }
 }
 
+/// Beside the menu's key, the one of most other programs. True if it was this one.
+bool redoByKey(Zevlin& form, const toolkit::KeyArguments& key) {
+    if (key.KeyCode != 'Z' || key.Shift != (toolkit::shift::shift | toolkit::shift::ctrl))
+        return false;
+    MRedo_Click(form);
+    return true;
+}
+
 bool isDesignKey(const toolkit::KeyArguments& key) {
     return key.Shift == (toolkit::shift::shift | toolkit::shift::ctrl) &&
            (key.KeyCode == 'D' || key.KeyCode == 'S');
@@ -129,6 +138,7 @@ void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
     if (moveCardByKey(form, key.KeyCode, key.Shift)) return;
     if (zoomByKey(form, key)) return;
     if (moveMarksByKey(form, key)) return;
+    if (redoByKey(form, key)) return;
     if (toolkit::isKeyRepeat()) return;
     if (isDesignKey(key)) {
         MShowDesignMenu_Click(form);

@@ -8,6 +8,7 @@
 
 #include "card/card_file.h"
 #include "card/file_state.h"
+#include "card/history.h"
 #include "toolkit/base/file_lock.h"
 #include "toolkit/model/control.h"
 #include "toolkit/model/panel.h"
@@ -49,6 +50,9 @@ struct CardState {
     std::optional<CarriedCard> Carried; ///< while the screen is rebuilt
     std::optional<SeenFile> CardFileSeen;
     JournalState Journal;
+    CardHistory History;
+    bool StepPending = false; ///< the card has changed since a step was noted
+    int FieldOfStep = 0;      ///< the text that was open at the end of the event before; 0 for none
     std::int16_t NamesField = 0;      ///< the text field of the names line; 0 for none
     std::string FormTitle = "Zevlin"; ///< what every caption of the form begins with
 
@@ -68,6 +72,9 @@ struct CardState {
     toolkit::MenuItem MOpen;
     toolkit::MenuItem MSave;
     toolkit::MenuItem MSaveAs;
+    toolkit::MenuItem MEdit;
+    toolkit::MenuItem MUndo;
+    toolkit::MenuItem MRedo;
     toolkit::MenuItem MMyID;
     toolkit::MenuItem MPartnerID;
 };

@@ -24,7 +24,7 @@ void composeTitle(Zevlin& form) {
 
 void SetMod(Zevlin& form) {
     procedure(form, "SetMod", flagText(form.CardModified), [&] {
-        form.CardModified = true;
+        form.CardModified = form.StepPending = true;
         form.mpopUndo.Enabled = true;
         noteChange(form);
         SetCaption(form);

@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "card/undo_card.h"
 #include "form/modified.h"
 #include "form/options.h"
 #include "form/trace.h"
@@ -78,6 +79,7 @@ void toggleBold(Zevlin& form) {
         layOutAnew(form, i);
     });
     form.CText.Font.Bold = form.LText.Font.Bold = form.mBold.Checked;
+    adoptDressedCard(form);
     noteChange(form);
 }
 
@@ -89,6 +91,7 @@ void toggleLeftJustify(Zevlin& form) {
         form.AText[i].Alignment = alignment;
         layOutAnew(form, i);
     });
+    adoptDressedCard(form);
     noteChange(form);
 }
 

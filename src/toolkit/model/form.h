@@ -71,6 +71,8 @@ struct Form {
     /// What the row with this caption does, for those who have the screen read to them; may be
     /// empty. Asked when the row's menu opens.
     std::function<std::string(std::string_view caption)> MenuDescription;
+    /// An event's procedures are done; the window hasn't taken over the values yet.
+    std::function<void()> Settled;
     /// The player closes the window; true refuses.
     std::function<bool()> QueryClose;
     /// The session ends, or another program asks this one to; true refuses.

@@ -33,7 +33,11 @@ void updateWindow() {
 
 WindowImplementation::WindowImplementation(WindowParts shown)
     : parts_(std::move(shown)),
-      dispatcher_({[this] { pull(); }, [this] { push(); },
+      dispatcher_({[this] { pull(); },
+                   [this] {
+                       if (parts_.form->Settled) parts_.form->Settled();
+                   },
+                   [this] { push(); },
                    [this](const RunTimeError& failure) {
                        if (parts_.form->Unhandled) parts_.form->Unhandled(failure);
                    },

@@ -39,6 +39,7 @@ void EventDispatcher::run(const std::function<void()>& handler) {
     hooks_.pull();
     ++depth_;
     guarded(handler);
+    if (depth_ == 1 && hooks_.settle) guarded(hooks_.settle);
     --depth_;
     hooks_.push();
     if (depth_ == 0 && closeAsked_) scheduleClose();

@@ -19,8 +19,9 @@ void rethrowKept();
 class EventDispatcher {
   public:
     struct Hooks {
-        std::function<void()> pull; ///< what the player changed goes into the values
-        std::function<void()> push; ///< what the program changed goes to the widgets
+        std::function<void()> pull;   ///< what the player changed goes into the values
+        std::function<void()> settle; ///< after the outermost handler
+        std::function<void()> push;   ///< what the program changed goes to the widgets
         std::function<void(const RunTimeError&)> unhandled;
         std::function<void()> close; ///< the player closes the window
         std::function<bool()> end;   ///< the session ends; whether the program does

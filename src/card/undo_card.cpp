@@ -1,0 +1,125 @@
+#include "card/undo_card.h"
+
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "card/document.h"
+#include "card/history.h"
+#include "form/modified.h"
+#include "form/trace.h"
+#include "form/zevlin.h"
+#include "text/edit_box.h"
+#include "toolkit/base/number_text.h"
+
+namespace zev {
+namespace {
+
+/// A job, a rebuild and design mode use the fields for something else than the player's card.
+bool isCardInUse(const Zevlin& form) {
+    return form.Printing || form.Carried || form.Journal.isHeld || form.MShowShapes.Checked;
+}
+
+std::string nameOfText(const Zevlin& form, int number) {
+    if (number == form.NamesField) return "the names line";
+    return "text " + toolkit::numberText(number);
+}
+
+/// What the player did, as the menu tells it behind "Undo".
+std::string describe(const Zevlin& form, const CardStep& step) {
+    const int fields = static_cast<int>(step.marks.size() + step.texts.size());
+    if (fields > 1) return "changes in " + toolkit::numberText(fields) + " fields";
+    if (!step.marks.empty()) return "check box " + toolkit::numberText(step.marks.front().number);
+    if (step.texts.empty()) return "partner's name";
+    const CardStep::Text& text = step.texts.front();
+    const bool isTyped = text.before.text != text.after.text;
+    return (isTyped ? "typing in " : "style of ") + nameOfText(form, text.number);
+}
+
+std::string caption(const Zevlin& form, std::string verb, const CardStep* step) {
+    return step == nullptr ? verb : verb + " " + describe(form, *step);
+}
+
+void nameSteps(Zevlin& form) {
+    form.MUndo.Caption = caption(form, "&Undo", form.History.toUndo());
+    form.MRedo.Caption = caption(form, "&Redo", form.History.toRedo());
+}
+
+/// An open text has an undo of its own.
+void offerSteps(Zevlin& form) {
+    const bool isOffered = !isEditing(form) && !isCardInUse(form);
+    form.MUndo.Enabled = isOffered && form.History.toUndo() != nullptr;
+    form.MRedo.Enabled = isOffered && form.History.toRedo() != nullptr;
+}
+
+/// The text that is open is as it was until it is left.
+void noteWithoutOpenText(Zevlin& form, int open) {
+    CardDocument card = documentOf(form);
+    const auto& texts = form.History.card().texts;
+    const auto place = static_cast<std::size_t>(open) - 1;
+    if (open > 0 && place < texts.size()) card.texts.at(place) = texts[place];
+    form.History.note(std::move(card));
+    form.StepPending = open != 0;
+    nameSteps(form);
+}
+
+void showStep(Zevlin& form, const CardStep& step) {
+    for (const CardStep::Mark& mark : step.marks) {
+        if (form.AMark.exists(mark.number)) form.AMark[mark.number].Visible = mark.isSet;
+    }
+    for (const CardStep::Text& text : step.texts) {
+        if (form.AText.exists(text.number)) showField(form, text.number, text.after);
+    }
+    if (!step.partner) return;
+    form.PartnerName = step.partner->after.name;
+    form.PartnerNumber = step.partner->after.number;
+}
+
+void go(Zevlin& form, CardStep (CardHistory::*move)()) {
+    showStep(form, (form.History.*move)());
+    adoptDressedCard(form);
+    nameSteps(form);
+    if (form.History.isSaved())
+        ResetMod(form);
+    else
+        SetMod(form);
+}
+
+} // namespace
+
+void beginHistory(Zevlin& form, bool isSaved) {
+    form.History.begin(documentOf(form), isSaved);
+    form.StepPending = false;
+    nameSteps(form);
+}
+
+void noteCardStep(Zevlin& form) {
+    if (!isCardInUse(form)) {
+        const int open = isEditing(form) ? form.TIndex : 0;
+        const bool isStillOpen = open != 0 && open == form.FieldOfStep;
+        form.FieldOfStep = open;
+        if (form.StepPending && !isStillOpen) noteWithoutOpenText(form, open);
+    }
+    offerSteps(form);
+}
+
+void noteSavedCard(Zevlin& form) {
+    noteCardStep(form);
+    form.History.markSaved();
+}
+
+void adoptDressedCard(Zevlin& form) { form.History.adopt(documentOf(form)); }
+
+void MUndo_Click(Zevlin& form) {
+    procedure(form, "MUndo_Click", [&] {
+        if (form.MUndo.Enabled) go(form, &CardHistory::undo);
+    });
+}
+
+void MRedo_Click(Zevlin& form) {
+    procedure(form, "MRedo_Click", [&] {
+        if (form.MRedo.Enabled) go(form, &CardHistory::redo);
+    });
+}
+
+} // namespace zev
