@@ -9,6 +9,7 @@
 #include "form/modified.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
+#include "layout/field_names.h"
 #include "text/edit_box.h"
 #include "toolkit/base/number_text.h"
 
@@ -20,29 +21,27 @@ bool isCardInUse(const Zevlin& form) {
     return form.Printing || form.Carried || form.Journal.isHeld || form.MShowShapes.Checked;
 }
 
-std::string nameOfText(const Zevlin& form, int number) {
-    if (number == form.NamesField) return "the names line";
-    return "text " + toolkit::numberText(number);
-}
-
 /// What the player did, as the menu tells it behind "Undo".
-std::string describe(const Zevlin& form, const CardStep& step) {
+std::string describe(const CardStep& step) {
     const int fields = static_cast<int>(step.marks.size() + step.texts.size());
     if (fields > 1) return "changes in " + toolkit::numberText(fields) + " fields";
-    if (!step.marks.empty()) return "check box " + toolkit::numberText(step.marks.front().number);
-    if (step.texts.empty()) return "partner's name";
+    if (!step.marks.empty()) {
+        const CardStep::Mark& mark = step.marks.front();
+        return (mark.isSet ? "setting " : "clearing ") + nameOfMark(mark.number);
+    }
+    if (step.texts.empty()) return "change of partner's name";
     const CardStep::Text& text = step.texts.front();
     const bool isTyped = text.before.text != text.after.text;
-    return (isTyped ? "typing in " : "style of ") + nameOfText(form, text.number);
+    return (isTyped ? "typing in " : "style of ") + nameOfText(text.number);
 }
 
-std::string caption(const Zevlin& form, std::string verb, const CardStep* step) {
-    return step == nullptr ? verb : verb + " " + describe(form, *step);
+std::string caption(std::string verb, const CardStep* step) {
+    return step == nullptr ? verb : verb + " " + describe(*step);
 }
 
 void nameSteps(Zevlin& form) {
-    form.MUndo.Caption = caption(form, "&Undo", form.History.toUndo());
-    form.MRedo.Caption = caption(form, "&Redo", form.History.toRedo());
+    form.MUndo.Caption = caption("&Undo", form.History.toUndo());
+    form.MRedo.Caption = caption("&Redo", form.History.toRedo());
 }
 
 /// An open text has an undo of its own.

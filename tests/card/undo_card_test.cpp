@@ -155,12 +155,13 @@ TEST_F(UndoCard, TheMenuTellsWhatItWouldDo) {
     EXPECT_FALSE(form.MUndo.Enabled);
     EXPECT_EQ(form.MUndo.Caption, "&Undo");
     typeInto(1, "one");
-    EXPECT_EQ(form.MUndo.Caption, "&Undo typing in text 1");
-    choose("Edit>Undo typing in text 1");
+    EXPECT_EQ(form.MUndo.Caption, "&Undo typing in Names, both partners");
+    choose("Edit>Undo typing in Names, both partners");
     EXPECT_EQ(form.MUndo.Caption, "&Undo");
-    EXPECT_EQ(form.MRedo.Caption, "&Redo typing in text 1");
+    EXPECT_EQ(form.MRedo.Caption, "&Redo typing in Names, both partners");
     clickMark(2);
-    EXPECT_EQ(form.MUndo.Caption, "&Undo check box 2");
+    EXPECT_EQ(form.MUndo.Caption,
+              "&Undo setting General approach, two over one game forcing except when suit rebid");
     EXPECT_FALSE(form.MRedo.Enabled);
 }
 

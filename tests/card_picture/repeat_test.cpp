@@ -5,6 +5,7 @@
 #include <QtCore/QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 
@@ -45,7 +46,7 @@ TEST(Tool, WritesTheSameBytesOnEachRun) {
         EXPECT_TRUE(fileBytes(entry.path().string()) == fileBytes(again)) << again;
         ++files;
     }
-    EXPECT_EQ(files, 10);
+    EXPECT_EQ(files, 11);
 }
 
 std::string described(const QTemporaryDir& folder, const std::string& text) {
@@ -77,6 +78,39 @@ TEST(Tool, RefusesWordsItDoesntKnow) {
         runTool(buildArguments(described(folder, "panel\nfrobnicate\nend\n"), folder.path()));
     EXPECT_EQ(run.code, 1);
     EXPECT_NE(run.said.find("card.txt:2: no such word: frobnicate"), std::string::npos) << run.said;
+}
+
+TEST(Tool, GivesEachFieldTheNameThatAPersonSays) {
+    const std::vector<std::string> lines = linesOf(fileBytes(CARD_OUTPUT "/names.txt"));
+    EXPECT_EQ(lines.size(), fieldNumbers("mark").size() + fieldNumbers("text").size());
+    const auto nameOf = [&](const std::string& kind, const std::string& id) {
+        const std::string head = kind + " " + std::to_string(fieldNumbers(kind).at(id)) + " ";
+        const auto line =
+            std::ranges::find_if(lines, [&](const auto& text) { return text.starts_with(head); });
+        return line == lines.end() ? std::string() : line->substr(head.size());
+    };
+    EXPECT_EQ(nameOf("mark", "1nt.stayman"), "Notrump opening bids, 2 clubs Stayman");
+    EXPECT_EQ(nameOf("mark", "s.akx.1"), "Leads versus suits, ace of A K x");
+    EXPECT_EQ(nameOf("text", "names"), "Names, both partners");
+}
+
+/// Two fields, and the names that the file gives them.
+Outcome buildWithNames(const std::string& names) {
+    const QTemporaryDir folder;
+    std::ofstream(folder.path().toStdString() + "/names.txt") << names;
+    return runTool(
+        buildArguments(described(folder, "panel\nrow [a] <b>\nend\npanel\nend\n"), folder.path()));
+}
+
+TEST(Tool, RefusesNamesThatDontFitTheFields) {
+    EXPECT_EQ(buildWithNames("# names\n\na: One\nb: Two\n").code, 0);
+    EXPECT_NE(buildWithNames("a: One\n").said.find("no spoken name: b"), std::string::npos);
+    EXPECT_NE(buildWithNames("a: One\nb: Two\nc: Three\n").said.find("no field: c"),
+              std::string::npos);
+    EXPECT_NE(buildWithNames("a: One\nb: One\n").said.find("names.txt:2: two fields"),
+              std::string::npos);
+    EXPECT_NE(buildWithNames("a: One\na: Two\n").said.find("has two names: a"), std::string::npos);
+    EXPECT_NE(buildWithNames("a\n").said.find("names.txt:1: no name"), std::string::npos);
 }
 
 TEST(Tool, StoresQuotesAsTheCharacterThatStandsForThem) {

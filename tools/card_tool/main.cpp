@@ -14,6 +14,7 @@
 #include "card_tool/picture.h"
 #include "card_tool/preview.h"
 #include "card_tool/sample_card.h"
+#include "card_tool/spoken_names.h"
 #include "card_tool/typesetter.h"
 #include "toolkit/base/error.h"
 #include "toolkit/base/write_file.h"
@@ -77,6 +78,8 @@ void build(const std::vector<std::string>& arguments) {
     writePictures(sheet, folder);
     writeArtwork(sheet, folder);
     writeFieldNames(sheet, folder);
+    write(folder / "names.txt",
+          card_tool::spokenNames(path(arguments[2]).replace_filename("names.txt"), sheet));
     for (std::size_t at = 4; at < arguments.size(); ++at) {
         const card_tool::SampleCard sample = card_tool::readSampleCard(arguments[at]);
         write(folder / (sample.name + ".zev"), card_tool::cardText(sample, sheet));
