@@ -32,6 +32,9 @@ void wireChooser(Zevlin& form) {
 
 toolkit::PanelContents chooser(Zevlin& form) {
     wireChooser(form);
+    form.P3.AccessibleName = "Cards";
+    form.TSaveAs.AccessibleName = "Name of the card";
+    form.FileList.AccessibleName = "Cards";
     toolkit::PanelContents panel;
     panel.box = &form.P3;
     panel.labels = {&form.LSaveAs, &form.LPath};
@@ -54,6 +57,9 @@ void wireColorPanel(Zevlin& form) {
 
 toolkit::PanelContents colorPanel(Zevlin& form) {
     wireColorPanel(form);
+    form.ColorPic.AccessibleName = "Color of marks and texts";
+    for (std::size_t i = 0; const char* name : {"Red", "Green", "Blue"})
+        form.ColorScroll.at(i++).AccessibleName = name;
     toolkit::LabelGroup samples;
     samples.labels = &form.ColorSample;
     samples.Click = run(form, ColorSample_Click);

@@ -11,6 +11,7 @@
 #include "design/design_mode.h"
 #include "design/drag_field.h"
 #include "design/undo.h"
+#include "events/accessible_fields.h"
 #include "events/card_mouse.h"
 #include "events/edit_field.h"
 #include "events/edit_keys.h"
@@ -76,6 +77,7 @@ void wireBoxes(Zevlin& form) {
 }
 
 void wireHelp(Zevlin& form) {
+    form.THelp.AccessibleName = "Help";
     form.THelp.KeyPress = run(form, THelp_KeyPress);
     form.THelp.MouseDown = run(form, THelp_MouseDown);
     form.THelp.Click = run(form, THelp_Click);
@@ -158,6 +160,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.panels = wirePanels(form);
     parts.overlays = {&form.PleaseWait, &form.PopHelp};
     parts.menu = menuRows(form);
+    parts.accessible = accessibleCard(form);
     return parts;
 }
 

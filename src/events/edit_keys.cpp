@@ -22,10 +22,8 @@ namespace zev {
 namespace {
 
 void closeWithEscape(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
-    xText_LostFocus(form, box);
+    leaveField(form, box);
     KeyAscii = 0;
-    form.OrigIndex = form.TIndex = form.ClickIndex = 0;
-    form.SetFocus(form.P1);
 }
 
 void closeWithEnter(Zevlin& form, toolkit::TextBox& box, int& KeyAscii) {
@@ -121,6 +119,12 @@ void pressKey(Zevlin& form, std::string_view name, int key) {
 }
 
 } // namespace
+
+void leaveField(Zevlin& form, toolkit::TextBox& box) {
+    xText_LostFocus(form, box);
+    form.OrigIndex = form.TIndex = form.ClickIndex = 0;
+    form.SetFocus(form.P1);
+}
 
 void xText_KeyDown(Zevlin& form, toolkit::TextBox& box, toolkit::KeyArguments& key) {
     trapped(form, "Error in xText_KeyDown: #", [&] {

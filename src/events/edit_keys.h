@@ -41,6 +41,9 @@ void mpopBold_Click(Zevlin& form);
 void mpopItalic_Click(Zevlin& form);
 void mpopLeft_Click(Zevlin& form);
 
+/// Takes over what the box holds, and closes it.
+void leaveField(Zevlin& form, toolkit::TextBox& box);
+
 /// Opens the pop-up menu of a text field.
 void openTextMenu(Zevlin& form);
 

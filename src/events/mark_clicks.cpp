@@ -8,6 +8,7 @@
 #include "form/panels.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
+#include "text/edit_box.h"
 #include "toolkit/base/number_text.h"
 
 namespace zev {
@@ -72,6 +73,16 @@ void rememberTabMark(Zevlin& form, int index) {
     form.TabCursorX = form.CursorPos.x;
     form.TabCursorY = form.CursorPos.y;
     form.TabCode = toolkit::toInteger16(index + firstMarkItem);
+}
+
+void turnMark(Zevlin& form, int index) {
+    commitOpenField(form);
+    form.SetFocus(form.P1);
+    toolkit::Label& mark = form.AMark[index];
+    mark.Visible = !mark.Visible;
+    rememberTabMark(form, index);
+    SetMod(form);
+    form.P1Stack.bringToFront(mark);
 }
 
 void SText_MouseMove(Zevlin& form, int index, toolkit::MouseArguments& mouse) {

@@ -18,6 +18,9 @@ void SText_MouseMove(Zevlin& form, int index, toolkit::MouseArguments& mouse);
 void SText_MouseUp(Zevlin& form, int index, toolkit::MouseArguments& mouse);
 void SText_Click(Zevlin& form, int index);
 
+/// Sets or clears the mark without the mouse; the walk by TAB goes on from there.
+void turnMark(Zevlin& form, int index);
+
 /// Lets SPACE and TAB act on this mark while the cursor stays where it is now.
 void rememberTabMark(Zevlin& form, int index);
 

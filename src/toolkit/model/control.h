@@ -59,6 +59,8 @@ struct Control {
     Color BackColor = white;
     /// Higher is nearer to the front among the controls of one container.
     int Stack = 0;
+    std::string
+        AccessibleName; ///< for screen readers, where no caption says it; set before the window
 
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/model/accessible_card.h"
 #include "toolkit/model/control.h"
 #include "toolkit/model/form.h"
 #include "toolkit/model/label.h"
@@ -36,6 +37,7 @@ struct WindowParts {
     std::vector<PanelContents> panels{};   ///< the same
     std::vector<TextBox*> overlays{};      ///< on the form, over all else; only to be read
     std::vector<MenuRow> menu{};
+    AccessibleCard accessible{};
 };
 
 } // namespace toolkit

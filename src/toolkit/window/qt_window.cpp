@@ -4,7 +4,10 @@
 #include <utility>
 
 #include <QtCore/QCoreApplication>
+#include <QtGui/QAccessible>
 
+#include "toolkit/base/qt_text.h"
+#include "toolkit/window/card/qt_accessible_card.h"
 #include "toolkit/window/qt_screen.h"
 
 namespace toolkit {
@@ -59,6 +62,8 @@ WindowImplementation::WindowImplementation(WindowParts shown)
     for (TextBox* overlay : parts_.overlays)
         overlays_.push_back(std::make_unique<Overlay>(form_.area(), *overlay));
     watchKeys();
+    nameControls();
+    answerScreenReaders();
     theWindow() = this;
     reckonByScreenOf(&form_);
     // The bar's height belongs to the frame, by which the program sizes the form before its first
@@ -88,6 +93,30 @@ void WindowImplementation::watchKeys() {
     for (const auto& panel : panels_) panel->watch(keys_);
 }
 
+void WindowImplementation::nameControls() {
+    const auto name = [this](const Control& control) {
+        if (QWidget* widget = widgetOf(&control);
+            widget != nullptr && !control.AccessibleName.empty())
+            widget->setAccessibleName(qString(control.AccessibleName));
+    };
+    for (const ListBox* list : parts_.lists) name(*list);
+    for (const PanelContents& panel : parts_.panels) {
+        name(*panel.box);
+        for (const PanelControl& control : panel.controls)
+            std::visit([&](const auto* shown) { name(*shown); }, control);
+    }
+}
+
+/// The box over a text bears the text's name.
+void WindowImplementation::nameOpenBox() {
+    if (!QAccessible::isActive() || !parts_.accessible.focused) return;
+    const auto focused = parts_.accessible.focused();
+    if (!focused || focused->kind != FieldId::Kind::Text) return;
+    const QString name = qString(parts_.accessible.name(*focused));
+    for (const auto& box : boxes_)
+        if (!box->isHidden() && box->accessibleName() != name) box->setAccessibleName(name);
+}
+
 void WindowImplementation::pull() {
     if (pushing_) return;
     form_.pull();
@@ -107,6 +136,8 @@ void WindowImplementation::push() {
     for (const auto& overlay : overlays_) overlay->push();
     pushFocus();
     form_.pushVisible();
+    nameOpenBox();
+    tellScreenReaders(card_);
     pushing_ = false;
 }
 

@@ -38,6 +38,8 @@ class WindowImplementation {
     void pushFocus();
     void pushStacking();
     void watchKeys();
+    void nameControls();
+    void nameOpenBox();
 
     WindowParts parts_;
     EventDispatcher dispatcher_;

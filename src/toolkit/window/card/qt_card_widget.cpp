@@ -10,7 +10,8 @@
 namespace toolkit {
 CardWidget::CardWidget(QWidget& container, const WindowParts& parts, EventDispatcher& dispatcher,
                        Wheel& wheel)
-    : QWidget(&container), parts_(parts), mouse_(parts, dispatcher), wheel_(wheel) {
+    : QWidget(&container), parts_(parts), dispatcher_(dispatcher), mouse_(parts, dispatcher),
+      wheel_(wheel) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMouseTracking(true);
     setFocusPolicy(Qt::NoFocus);
@@ -145,6 +146,14 @@ void CardWidget::mouseReleaseEvent(QMouseEvent* event) {
     if (button != 0)
         mouse_.release(pointerOf(*event), button,
                        others == 0 ? CardMouse::Held::None : CardMouse::Held::Others);
+}
+
+void CardWidget::activate(FieldId field) {
+    dispatcher_.run([&] { parts_.accessible.activate(field); });
+}
+
+void CardWidget::replaceText(FieldId field, int start, int end, const std::string& utf8) {
+    dispatcher_.run([&] { parts_.accessible.replace(field, start, end, utf8); });
 }
 
 void CardWidget::wheelEvent(QWheelEvent* event) { wheel_.turn(*event); }

@@ -17,6 +17,13 @@ class CardWidget : public QWidget {
 
     /// Takes over what the program changed and asks for a repaint of just that.
     void push();
+    /// Whether it goes on showing what it showed before, whatever becomes of the values.
+    [[nodiscard]] bool isFrozen() const;
+
+    // For screen readers.
+    [[nodiscard]] const AccessibleCard& accessible() const { return parts_.accessible; }
+    void activate(FieldId field);
+    void replaceText(FieldId field, int start, int end, const std::string& utf8);
 
   protected:
     void paintEvent(QPaintEvent* event) override;
@@ -28,7 +35,6 @@ class CardWidget : public QWidget {
 
   private:
     [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
-    [[nodiscard]] bool isFrozen() const;
     void pushPlace();
     void pushPicture();
     void pushWaitPointer();
@@ -38,6 +44,7 @@ class CardWidget : public QWidget {
     [[nodiscard]] bool findSharpPicture(double ratio);
 
     const WindowParts& parts_;
+    EventDispatcher& dispatcher_;
     CardMouse mouse_;
     Wheel& wheel_;
     LabelScene scene_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include <QtCore/QSignalBlocker>
 #include <QtGui/QFontMetricsF>
 #include <QtGui/QGuiApplication>
 #include <QtGui/QInputMethod>
@@ -67,7 +68,8 @@ EditBox::EditBox(QWidget& parent, Form& form, TextBox& box, const Control& conta
     setContextMenuPolicy(Qt::NoContextMenu);
     setDragEnabled(false);
     setAcceptDrops(false);
-    connect(this, &QLineEdit::textEdited, this, [this] { noteEdit(); });
+    // Whatever the box itself doesn't set is the player's, by keys or through a screen reader.
+    connect(this, &QLineEdit::textChanged, this, [this] { noteEdit(); });
 }
 
 EditBox::Selection EditBox::shownSelection() const {
@@ -137,7 +139,7 @@ void EditBox::pushBaseLine(int line) {
 }
 
 void EditBox::pushText() {
-    if (const QString wanted = qString(box_.Text); wanted != text()) setText(wanted);
+    if (const QString wanted = qString(box_.Text); wanted != text()) setOwnText(wanted);
     knownText_ = box_.Text;
 }
 
@@ -158,6 +160,11 @@ void EditBox::pushSelection() {
     knownSelection_ = wanted;
 }
 
+void EditBox::setOwnText(const QString& text) {
+    const QSignalBlocker silent(this);
+    setText(text);
+}
+
 void EditBox::noteEdit() {
     convertTyped();
     dispatcher_.run([this] {
@@ -169,7 +176,7 @@ void EditBox::convertTyped() {
     if (std::ranges::all_of(text(), isTypeable)) return;
     const QString shown = text();
     const std::string before = typedText(shown.left(cursorPosition()));
-    setText(qString(typedText(shown)));
+    setOwnText(qString(typedText(shown)));
     setCursorPosition(static_cast<int>(before.size()));
 }
 

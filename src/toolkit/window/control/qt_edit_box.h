@@ -52,6 +52,7 @@ class EditBox : public QLineEdit {
     [[nodiscard]] int baseline() const;
     void pushBaseLine(int line);
     void convertTyped();
+    void setOwnText(const QString& text);
     void noteEdit();
     void copySelection(QClipboard::Mode mode);
     void pasteFrom(QClipboard::Mode mode);

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QtGui/QKeyEvent>
+#include <QtWidgets/QApplication>
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
@@ -133,7 +134,12 @@ std::size_t MenuBar::addRow(QMenu& menu, std::size_t row) {
 }
 
 void MenuBar::connectRow(QAction& action, std::size_t row) {
-    connect(&action, &QAction::triggered, this, [this, row] { run(row); });
+    connect(&action, &QAction::triggered, this, [this, row] {
+        // A screen reader leaves them open.
+        while (QWidget* menu = QApplication::activePopupWidget())
+            if (!menu->close()) break;
+        run(row);
+    });
 }
 
 /// Styles of the desktop change an action's text, so the row is known by its number.

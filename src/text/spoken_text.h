@@ -1,0 +1,32 @@
+// A text of the card as one says it: its suits as words.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zev {
+
+class SpokenText {
+  public:
+    /// `typed`: single ampersands, suits as escapes.
+    explicit SpokenText(std::string_view typed);
+
+    /// "5 hearts up" for "5^h up". A word is set off by blanks where there are none.
+    [[nodiscard]] const std::string& text() const { return text_; }
+    /// The typed text with `inserted`, typed as well, instead of the places from `start` to before
+    /// `end` of what is said. A word of which any part goes, goes whole.
+    [[nodiscard]] std::string replaced(int start, int end, std::string_view inserted) const;
+
+  private:
+    std::string typed_;
+    std::string text_;
+    /// For each character that is said: where what it stands for begins and ends in the typed text.
+    struct Origin {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+    };
+    std::vector<Origin> origins_;
+};
+
+} // namespace zev

@@ -1,0 +1,46 @@
+#include "text/spoken_text.h"
+
+#include <gtest/gtest.h>
+
+namespace zev {
+namespace {
+
+std::string said(std::string_view typed) { return SpokenText(typed).text(); }
+
+TEST(SpokenText, SaysSuitsAsWords) {
+    EXPECT_EQ(said("from 4^h up"), "from 4 hearts up");
+    EXPECT_EQ(said("^C"), "clubs");
+    EXPECT_EQ(said("^d^s"), "diamonds spades");
+    EXPECT_EQ(said("4^s: minors"), "4 spades: minors");
+    EXPECT_EQ(said("2^hT"), "2 hearts T");
+    EXPECT_EQ(said("(^h)"), "(hearts)");
+}
+
+TEST(SpokenText, LeavesEverythingElse) {
+    EXPECT_EQ(said(""), "");
+    EXPECT_EQ(said("15-17 & ^x ^"), "15-17 & ^x ^");
+}
+
+TEST(SpokenText, IsReplacedWhole) {
+    EXPECT_EQ(SpokenText("4^h").replaced(0, 8, "5^s"), "5^s");
+    EXPECT_EQ(SpokenText("").replaced(0, 0, "new"), "new");
+    EXPECT_EQ(SpokenText("old").replaced(0, 3, ""), "");
+}
+
+TEST(SpokenText, IsReplacedInPart) {
+    const SpokenText text("4^h up"); // 4 hearts up
+    EXPECT_EQ(text.replaced(0, 1, "5"), "5^h up");
+    EXPECT_EQ(text.replaced(9, 11, "down"), "4^h down");
+    EXPECT_EQ(text.replaced(11, 11, "!"), "4^h up!");
+    // A word of a suit goes whole.
+    EXPECT_EQ(text.replaced(3, 5, "^s"), "4^s up");
+    EXPECT_EQ(text.replaced(1, 8, ""), "4 up");
+}
+
+TEST(SpokenText, PlacesOutsideAreItsEnds) {
+    EXPECT_EQ(SpokenText("abc").replaced(-5, 99, "x"), "x");
+    EXPECT_EQ(SpokenText("abc").replaced(99, 1, "x"), "abcx");
+}
+
+} // namespace
+} // namespace zev
