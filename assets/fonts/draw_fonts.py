@@ -24,9 +24,11 @@ KAPPA = 0.5522847498
 
 MARKS_ASCENT, MARKS_DESCENT = 1843, 430
 MARK_ADVANCE, RING_ADVANCE = 1822, 1746
-# Centre of check and square: 10.5 and 15.5 pixels from the left and top of their cell when the
-# em is 24 pixels, so that a box on whole pixels of the picture has the mark in its middle.
+# Centre of square and box: 10.5 and 15.5 pixels from the left and top of their cell when the em is
+# 24 pixels, so that a box on whole pixels of the picture has a square in its middle.
 MARK_CENTRE = (896, MARKS_ASCENT - 1323)
+# A check begins inside its box at the lower left and rises out of it at the upper right.
+CHECK_CENTRE = (MARK_CENTRE[0] + 215, MARK_CENTRE[1] + 280)
 # Centre of the ring: 12.5 and 16.5 pixels when the em is 29 1/3 pixels.
 RING_CENTRE = (873, MARKS_ASCENT - 1152)
 RING_RADIUS = 778
@@ -95,7 +97,7 @@ def square(pen):
 
 def check(weight):
     """A pen stroke: a short press down, a long one up that thins out to the tip."""
-    x, y = MARK_CENTRE
+    x, y = CHECK_CENTRE
     left, right, bottom, top = x - 700, x + 700, y - 720, y + 720
 
     def draw(pen):

@@ -7,8 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <set>
+#include <variant>
 
 namespace card_picture {
 namespace {
@@ -22,6 +24,10 @@ constexpr double barHeight = 34;
 /// Between a bar and the first row's boxes and between the last row's and the frame.
 constexpr double paperAroundRows = 14;
 constexpr double leastPaper = 8;
+/// Between the writing line of an area's last row and the frame.
+constexpr double leastPaperBelowLine = 6;
+/// From the words' base line, on which typed text stands, to the writing line.
+constexpr int lineBelowWords = 12;
 
 const card_tool::Sheet& sheet() {
     static const card_tool::Sheet set = card_tool::typeset(
@@ -52,6 +58,15 @@ bool isDivider(const card_tool::InkShape& shape) {
 bool isContent(const card_tool::InkShape& shape) {
     return shape.ink != card_tool::Ink::Paper && !isRule(shape, frameLine) &&
            !isRule(shape, barHeight) && !isDivider(shape);
+}
+
+bool isWritingLine(const card_tool::InkShape& shape) {
+    return isRectangle(shape) && shape.bounds.height() == thinLine &&
+           shape.ink != card_tool::Ink::Paper;
+}
+/// Words and boxes.
+bool isWordOrBox(const card_tool::InkShape& shape) {
+    return isContent(shape) && !isWritingLine(shape);
 }
 
 std::vector<QRectF> boundsOf(bool (*chosen)(const card_tool::InkShape&)) {
@@ -119,15 +134,19 @@ TEST(Composition, RulesHaveTwoWeights) {
 TEST(Composition, NothingTouchesAFrame) {
     const std::vector<QRectF> lines = frameLines();
     ASSERT_GT(lines.size(), 60U);
-    for (const QRectF& content : boundsOf(isContent)) {
-        const QRectF around = content.adjusted(-leastPaper, -leastPaper, leastPaper, leastPaper);
-        // A heading stands in its bar, which covers the frame's upper line.
-        const bool inBar =
-            std::ranges::any_of(bars(), [&](const QRectF& bar) { return bar.intersects(content); });
-        if (inBar) continue;
-        for (const QRectF& line : lines)
-            EXPECT_FALSE(around.intersects(line)) << content.left() << "," << content.top();
-    }
+    const auto expectFree = [&](bool (*chosen)(const card_tool::InkShape&), double below) {
+        for (const QRectF& content : boundsOf(chosen)) {
+            const QRectF around = content.adjusted(-leastPaper, -leastPaper, leastPaper, below);
+            // A heading stands in its bar, which covers the frame's upper line.
+            const bool inBar = std::ranges::any_of(
+                bars(), [&](const QRectF& bar) { return bar.intersects(content); });
+            if (inBar) continue;
+            for (const QRectF& line : lines)
+                EXPECT_FALSE(around.intersects(line)) << content.left() << "," << content.top();
+        }
+    };
+    expectFree(isWordOrBox, leastPaper);
+    expectFree(isWritingLine, leastPaperBelowLine);
 }
 
 /// The paper between a bar and the nearest content below it.
@@ -147,33 +166,63 @@ double paperAbove(const QRectF& line, const std::vector<QRectF>& contents) {
 }
 
 TEST(Composition, AreasHaveTheSamePaperBelowTheirBarAndAboveTheirFoot) {
-    const std::vector<QRectF> contents = boundsOf(isContent);
+    const std::vector<QRectF> contents = boundsOf(isWordOrBox);
+    const std::vector<QRectF> writingLines = boundsOf(isWritingLine);
     for (const QRectF& bar : bars())
         EXPECT_GE(paperBelow(bar, contents), paperAroundRows) << bar.left() << "," << bar.top();
     const std::vector<QRectF> lines = frameLines();
     std::size_t feet = 0;
     for (const QRectF& line : lines) {
-        const double paperRows = paperAbove(line, contents);
+        const double belowWords = paperAbove(line, contents);
+        const double belowLines = paperAbove(line, writingLines);
         // Above the upper lines lies the area before, foot and all.
-        if (line.width() < line.height() || paperRows > paperAroundRows) continue;
+        if (line.width() < line.height() || std::min(belowWords, belowLines) > paperAroundRows)
+            continue;
         ++feet;
-        EXPECT_GE(paperRows, paperAroundRows - 2) << line.left() << "," << line.top();
+        EXPECT_GE(belowWords, paperAroundRows - 2) << line.left() << "," << line.top();
+        EXPECT_TRUE(belowLines == leastPaperBelowLine || belowLines > paperAroundRows)
+            << line.left() << "," << line.top();
     }
-    // The leads have more: rings reach below their letters.
-    EXPECT_EQ(feet, lines.size() / 4 - 1);
+    // The leads have more, as rings reach below their letters; the names stand on their frame.
+    EXPECT_EQ(feet, lines.size() / 4 - 2);
+}
+
+/// The leads have a pitch of their own, and shift what stands beside and below them.
+double topOfLeads() {
+    const auto leads = std::ranges::find_if(
+        sheet().marks, [](const card_tool::MarkPlace& mark) { return mark.id == "s.xx.1"; });
+    return leads == sheet().marks.end() ? 0 : leads->centreY;
+}
+
+/// The left panel has two columns of areas, whose rows shift against each other.
+int columnOf(double x) { return x < fold / 2.0 ? 0 : x < fold ? 1 : 2; }
+
+TEST(Composition, TypedTextStandsOnTheBaseLineOfTheWordsOfItsRow) {
+    int rows = 0;
+    for (const card_tool::TextPlace& text : sheet().texts) {
+        if (text.size == card_tool::AreaSize::Large) continue;
+        if (text.left < fold && text.ruleTop + 2 * pitch > topOfLeads()) continue;
+        for (const auto& item : sheet().artwork.items) {
+            const auto* words = std::get_if<toolkit::Words>(&item);
+            if (words == nullptr) continue;
+            const double above = text.ruleTop - words->baseline;
+            if (std::abs(above - lineBelowWords) >= pitch / 2.0) continue;
+            if (columnOf(words->left) != columnOf(text.left)) continue;
+            ++rows;
+            EXPECT_EQ(above, lineBelowWords) << text.id;
+        }
+    }
+    EXPECT_GT(rows, 100);
 }
 
 TEST(Composition, RowsOfNeighbouringColumnsStandOnOneLine) {
     std::set<int> left;
     std::set<int> right;
-    const auto leads = std::ranges::find_if(
-        sheet().marks, [](const card_tool::MarkPlace& mark) { return mark.id == "s.xx.1"; });
-    ASSERT_NE(leads, sheet().marks.end());
     for (const card_tool::TextPlace& text : sheet().texts) {
         if (text.size == card_tool::AreaSize::Large) continue;
         if (text.left > fold)
             right.insert(text.ruleTop % pitch);
-        else if (text.ruleTop < leads->centreY)
+        else if (text.ruleTop < topOfLeads())
             left.insert(text.ruleTop % pitch);
     }
     EXPECT_EQ(left.size(), 1U);

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int boxHalf = 15;
 
-/// The middle of a mark's ink, in full pixels.
+/// The middle of a filled square in a mark's label, in full pixels.
 struct Middle {
     double x = 0;
     double y = 0;
@@ -41,7 +41,7 @@ std::optional<Middle> boxAround(const Picture& picture, Middle place) {
     return Middle{x + (*right - *left + 1) / 2.0, y + (*down - *up + 1) / 2.0};
 }
 
-TEST(Fields, EachCheckStandsInTheMiddleOfItsPrintedBox) {
+TEST(Fields, EachSquareStandsInTheMiddleOfItsPrintedBox) {
     for (const int twips : {12, 13, 15})
         for (const Field& mark : layout(twips).marks) {
             if (!mark.isCheck()) continue;
@@ -51,6 +51,24 @@ TEST(Fields, EachCheckStandsInTheMiddleOfItsPrintedBox) {
             const double most = twips == 15 ? 0.5 : 1.3;
             EXPECT_NEAR(box->x, ink.x, most) << mark.number << " for " << twips;
             EXPECT_NEAR(box->y, ink.y, most) << mark.number << " for " << twips;
+        }
+}
+
+TEST(Fields, EachCheckBeginsAtTheLowerLeftOfItsBoxAndRisesOutOfIt) {
+    for (const int twips : {12, 13, 15})
+        for (const Field& mark : layout(twips).marks) {
+            if (!mark.isCheck()) continue;
+            const auto box = boxAround(fullPicture(), middleOf(mark, twips));
+            ASSERT_TRUE(box) << mark.number;
+            const CheckInk ink = checkInk(mark, twips);
+            const double left = 2 * (mark.left + ink.left) - (box->x - boxHalf);
+            EXPECT_GE(left, 0) << mark.number << " for " << twips;
+            EXPECT_LT(left, 4) << mark.number << " for " << twips;
+            const double foot = box->y + boxHalf - 2 * (mark.top + ink.bottom);
+            EXPECT_GE(foot, 2) << mark.number << " for " << twips;
+            EXPECT_LT(foot, 5) << mark.number << " for " << twips;
+            EXPECT_GT(2 * (mark.left + ink.right), box->x + boxHalf + 4) << mark.number;
+            EXPECT_LT(2 * (mark.top + ink.top), box->y - boxHalf - 4) << mark.number;
         }
 }
 
@@ -75,19 +93,22 @@ std::optional<int> ruleUnder(const Field& text, double baseline) {
             if (picture.at(x, y) != colour) return false;
         return true;
     };
-    for (int y = static_cast<int>(baseline) - 4; y < static_cast<int>(baseline) + 6; ++y)
+    for (int y = static_cast<int>(baseline) - 4; y < static_cast<int>(baseline) + 24; ++y)
         if (wholeRow(y)) return y;
     return std::nullopt;
 }
 
-TEST(Fields, EachTextStandsOnItsPrintedRule) {
+TEST(Fields, EachTextStandsClearOfItsPrintedRule) {
     for (const int twips : {12, 13, 15})
         for (const Field& text : layout(twips).texts) {
-            const double baseline = 2 * (text.top + textLine(text, twips).ascent);
+            const LineHeight line = textLine(text, twips);
+            const double baseline = 2 * (text.top + line.ascent);
             const auto rule = ruleUnder(text, baseline);
             ASSERT_TRUE(rule) << "no rule at text " << text.number << " for " << twips;
-            EXPECT_LE(baseline, *rule) << text.number << " for " << twips;
-            EXPECT_GE(baseline, *rule - 2) << text.number << " for " << twips;
+            EXPECT_LT(baseline + 2 * line.reach, *rule - 2) << text.number << " for " << twips;
+            if (text.size == 1) {
+                EXPECT_NEAR(baseline, *rule - 12, 1) << text.number << " for " << twips;
+            }
         }
 }
 
@@ -95,6 +116,8 @@ TEST(Fields, RulesEndWhereTheTextsEnd) {
     for (const Field& text : layout(15).texts) {
         const auto rule = ruleUnder(text, 2 * (text.top + textLine(text, 15).ascent));
         ASSERT_TRUE(rule) << text.number;
+        // The names stand on their frame.
+        if (text.size == 3) continue;
         EXPECT_FALSE(fullPicture().ink(2 * text.left - 2, *rule)) << text.number;
         EXPECT_FALSE(fullPicture().ink(2 * (text.left + text.width) + 1, *rule)) << text.number;
     }

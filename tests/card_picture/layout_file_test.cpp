@@ -100,12 +100,12 @@ TEST(LayoutFile, OffsetsGrowWithTheFontAndEndInZero) {
 }
 
 TEST(LayoutFile, OffsetsAreThoseOfTheCheckInItsCell) {
-    // The check reaches from 0.0957 em to the right of its cell's left edge down to 1.0 em from its
+    // The check reaches from 0.2 em to the right of its cell's left edge down to 0.861 em from its
     // top.
     for (const int twips : {12, 13, 15}) {
         const double em = 18.0 * 20 / twips;
-        EXPECT_NEAR(layout(twips).offsets[0], 0.0957 * em - 0.5, 1) << twips;
-        EXPECT_NEAR(layout(twips).offsets[1], 0.997 * em - 0.5, 1) << twips;
+        EXPECT_NEAR(layout(twips).offsets[0], 0.2007 * em - 0.5, 1) << twips;
+        EXPECT_NEAR(layout(twips).offsets[1], 0.8608 * em - 0.5, 1) << twips;
     }
 }
 

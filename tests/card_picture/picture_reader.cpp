@@ -24,9 +24,16 @@ double em(double points, int twips) { return points * 20 / twips; }
 constexpr double unitsPerEm = 2048;
 constexpr int pictureBlock = 0xF000;
 
+QRawFont markFont(const char* file) {
+    return {QString::fromLatin1(file), unitsPerEm, QFont::PreferNoHinting};
+}
+quint32 glyphOf(const QRawFont& font, int code) {
+    return font.glyphIndexesForString(QString(QChar(pictureBlock + code))).front();
+}
+
 Glyph glyphInEms(const char* file, int code) {
-    const QRawFont font(QString::fromLatin1(file), unitsPerEm, QFont::PreferNoHinting);
-    const quint32 glyph = font.glyphIndexesForString(QString(QChar(pictureBlock + code))).front();
+    const QRawFont font = markFont(file);
+    const quint32 glyph = glyphOf(font, code);
     const QRectF ink = font.pathForGlyph(glyph).boundingRect();
     return {ink.center().x() / unitsPerEm, (font.ascent() + ink.center().y()) / unitsPerEm,
             ink.width() / 2 / unitsPerEm,
@@ -40,7 +47,10 @@ LineHeight lineInEms(QFont::Weight weight) {
     wanted.setWeight(weight);
     wanted.setHintingPreference(QFont::PreferNoHinting);
     const QRawFont font = QRawFont::fromFont(wanted);
-    return {font.ascent() / unitsPerEm, (font.ascent() + font.descent()) / unitsPerEm};
+    const double reach =
+        font.pathForGlyph(font.glyphIndexesForString("g").front()).boundingRect().bottom();
+    return {font.ascent() / unitsPerEm, (font.ascent() + font.descent()) / unitsPerEm,
+            reach / unitsPerEm};
 }
 
 } // namespace
@@ -98,12 +108,21 @@ Colour printedColour(int number) {
 }
 
 Glyph markGlyph(const Field& mark, int twips) {
-    static const Glyph check = glyphInEms(CARD_FONTS "/zevlin-marks-bold.ttf", 252);
+    static const Glyph square = glyphInEms(CARD_FONTS "/zevlin-marks-bold.ttf", 110);
     static const Glyph ring = glyphInEms(CARD_FONTS "/zevlin-marks-regular.ttf", 161);
-    const Glyph& one = mark.isCheck() ? check : ring;
+    const Glyph& one = mark.isCheck() ? square : ring;
     const double size = em(markPoints[mark.size - 1], twips);
     return {one.centreX * size, one.centreY * size, one.radius * size, one.advance * size,
             one.height * size};
+}
+
+CheckInk checkInk(const Field& mark, int twips) {
+    static const QRawFont font = markFont(CARD_FONTS "/zevlin-marks-bold.ttf");
+    static const QRectF ink = font.pathForGlyph(glyphOf(font, 252)).boundingRect();
+    const double size = em(markPoints[mark.size - 1], twips) / unitsPerEm;
+    const double line = font.ascent() * size;
+    return {ink.left() * size, line + ink.top() * size, ink.right() * size,
+            line + ink.bottom() * size};
 }
 
 LineHeight textLine(const Field& text, int twips) {
@@ -111,7 +130,7 @@ LineHeight textLine(const Field& text, int twips) {
     static const LineHeight bold = lineInEms(QFont::Bold);
     const LineHeight& one = text.size == 3 ? bold : regular;
     const double size = em(textPoints[text.size - 1], twips);
-    return {one.ascent * size, one.height * size};
+    return {one.ascent * size, one.height * size, one.reach * size};
 }
 
 } // namespace card_picture

@@ -37,7 +37,8 @@ struct Picture {
 /// The colour that a field of that number is printed in, at full strength.
 [[nodiscard]] Colour printedColour(int number);
 
-/// Where a character's ink lies in its label, in pixels of the screen, and how high its line is.
+/// How a mark's character lies in its label, in pixels of the screen. The centre is that of the
+/// print that it belongs to: a letter's is the ring's, a box's that of a filled square.
 struct Glyph {
     double centreX = 0;
     double centreY = 0;
@@ -46,10 +47,20 @@ struct Glyph {
     double height = 0;
 };
 [[nodiscard]] Glyph markGlyph(const Field& mark, int twips);
-/// The ascent and line height of a text area's font, in pixels of the screen.
+/// The ink of a check, in pixels from its label's corner.
+struct CheckInk {
+    double left = 0;
+    double top = 0;
+    double right = 0;
+    double bottom = 0;
+};
+[[nodiscard]] CheckInk checkInk(const Field& mark, int twips);
+/// The ascent and line height of a text area's font, and how far letters reach below the base
+/// line, in pixels of the screen.
 struct LineHeight {
     double ascent = 0;
     double height = 0;
+    double reach = 0;
 };
 [[nodiscard]] LineHeight textLine(const Field& text, int twips);
 

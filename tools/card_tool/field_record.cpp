@@ -15,6 +15,20 @@ float designPixels(int fullPixels) { return static_cast<float>(fullPixels) / ful
 
 int colorNumber(Ink ink) { return ink == Ink::Red ? 2 : ink == Ink::Blue ? 3 : 1; }
 
+/// The lowest row of the rule, in design pixels.
+float lowestRow(const TextPlace& text) { return designPixels(text.ruleTop + text.ruleWidth) - 1; }
+
+/// The rows from a bracket's lowest to the rule's lowest. The program's own adjustment of fields
+/// seeks 4 rows, for large texts 6, whatever the size of the card; with one less here it finds what
+/// is nearest to that at every size.
+float airBelowBrackets(AreaSize size) { return size == AreaSize::Large ? 5 : 3; }
+
+/// The lowest row of a bracket's ink in its label.
+float bracketFoot(const Typeface& face, double em) {
+    const double foot = face.outline(U'[', em).boundingRect().bottom();
+    return static_cast<float>(std::round(face.ascent() * em) + std::ceil(foot) - 1);
+}
+
 } // namespace
 
 zev::FieldRecord markRecord(const MarkPlace& mark, const Typefaces& faces, int twipsPerPixel) {
@@ -37,9 +51,8 @@ zev::FieldRecord textRecord(const TextPlace& text, const Typefaces& faces, int t
     record.color = colorNumber(text.ink);
     record.size = static_cast<int>(text.size);
     const double em = emPixels(pointsOf(textPoints, record.size), twipsPerPixel);
-    const double top = double(text.ruleTop) / fullPerDesign - face.ascent() * em;
     record.left = designPixels(text.left);
-    record.top = static_cast<float>(std::floor(top));
+    record.top = lowestRow(text) - airBelowBrackets(text.size) - bracketFoot(faces.textRegular, em);
     record.width = designPixels(text.width);
     record.height = rounded(face.height() * em);
     return record;

@@ -5,11 +5,18 @@
 #include "card_tool/units.h"
 
 namespace card_tool {
+namespace {
+
+constexpr char32_t squareCode = 110;
+
+} // namespace
 
 MarkCell markCell(const Typefaces& faces, MarkKind kind) {
     const Typeface& face = markFace(faces, kind);
     const auto code = static_cast<char32_t>(markSymbol(kind));
-    const QPointF middle = face.outline(code, 1).boundingRect().center();
+    // A check leans out of its box; a filled square covers it.
+    const char32_t middleCode = kind == MarkKind::Check ? squareCode : code;
+    const QPointF middle = face.outline(middleCode, 1).boundingRect().center();
     return {face.advance(code), face.height(), middle.x(), face.ascent() + middle.y()};
 }
 

@@ -30,7 +30,7 @@ constexpr int picturedTwips = 15;
 struct MarkCell {
     double width = 0;
     double height = 0;
-    /// The middle of the ink, from the left and from the top of the cell.
+    /// The middle of the mark's box or letter, from the left and from the top of the cell.
     double centreX = 0;
     double centreY = 0;
 };
@@ -44,7 +44,7 @@ struct MarkCell {
 }
 
 /// The full pixel nearest to a wanted centre on which a mark stands exactly when its label is on a
-/// whole design pixel. Offset is that of the ink's middle within the cell, in full pixels.
+/// whole design pixel. Offset is that of the middle within the cell, in full pixels.
 [[nodiscard]] int exactCentre(double wanted, double offset);
 
 /// The offset of a mark's middle within its cell, in full pixels, at the pictured resolution.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
 
 #include "card_tool/failure.h"
@@ -15,10 +16,9 @@ namespace {
 // A box's edges lie on even full pixels, as its centre is odd: so they stay crisp at half scale.
 constexpr int boxSide = 30;
 constexpr int ruleWidth = 2;
-// The box stands on the level of the rules of the text areas, which lies below the words' base
-// line.
 constexpr int boxCentreAboveBaseline = 9;
-constexpr int ruleBelowBaseline = 4;
+// Typed text stands on the words' base line, and its descenders are clear of the rule.
+constexpr int ruleBelowBaseline = 12;
 constexpr double circlePitch = 46;
 constexpr double circleEm = 30;
 constexpr int circleAboveBaseline = 9;
@@ -223,10 +223,18 @@ void RowSetter::setArea(const Item& item, Span span, int baseline) {
     const double left = evenDown(span.left + 1);
     const double width = evenDown(span.right - left + 0.001);
     const int ruleTop = baseline + ruleBelowBaseline;
-    rectangle(item.ink, left, ruleTop, width, ruleWidth);
+    if (item.areaSize == AreaSize::Small) rectangle(item.ink, left, ruleTop, width, ruleWidth);
     sheet_.texts.push_back({item.id, item.areaSize, item.ink, static_cast<int>(left),
-                            static_cast<int>(width), ruleTop});
+                            static_cast<int>(width), ruleTop, ruleWidth});
     walkTo(FieldKind::Text, sheet_.texts.size());
+}
+
+void RowSetter::standLargeTextsOn(std::size_t firstText, int lineTop, int lineWidth) {
+    for (TextPlace& text : std::span(sheet_.texts).subspan(firstText)) {
+        if (text.size != AreaSize::Large) continue;
+        text.ruleTop = lineTop;
+        text.ruleWidth = lineWidth;
+    }
 }
 
 void RowSetter::walkTo(FieldKind kind, std::size_t number) {

@@ -43,6 +43,11 @@ class RowSetter {
     /// span.
     void setCell(const Cell& cell, const RowStyle& style, Span span, int baseline);
 
+    /// Lets the large texts from this one on stand on a line that is printed already, in full
+    /// pixels.
+    void standLargeTextsOn(std::size_t firstText, int lineTop, int lineWidth);
+    [[nodiscard]] std::size_t textCount() const { return sheet_.texts.size(); }
+
     /// A filled rectangle.
     void rectangle(Ink ink, double left, double top, double width, double height);
 

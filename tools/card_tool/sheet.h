@@ -30,7 +30,7 @@ struct MarkPlace {
     double centreY = 0;
 };
 
-/// Where a text belongs: over its printed rule, in full pixels. Left and width are even.
+/// Where a text belongs: over its printed rule, in full pixels. All lengths are even.
 struct TextPlace {
     std::string id;
     AreaSize size = AreaSize::Small;
@@ -38,6 +38,7 @@ struct TextPlace {
     int left = 0;
     int width = 0;
     int ruleTop = 0;
+    int ruleWidth = 2;
 };
 
 enum class FieldKind { Mark, Text };

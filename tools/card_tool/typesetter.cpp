@@ -113,10 +113,12 @@ class Typesetter {
 
     int setFrame(const Node& frame, Place place) {
         const Span outer = place.span;
+        const std::size_t firstText = setter_.textCount();
         place.span = {outer.left + framePadding, outer.right - framePadding};
         place.within = Place::Within::Frame;
         const int height = setStack(frame, place) + barLift;
         drawFrame(outer, place.top + barTop, place.top + height - frameFoot);
+        setter_.standLargeTextsOn(firstText, place.top + height - frameFoot - frameLine, frameLine);
         return height;
     }
 
