@@ -19,7 +19,6 @@ namespace {
 void dressBox(Zevlin& form, toolkit::TextBox& box, int index) {
     const toolkit::Label& field = form.AText[index];
     box.Font = field.Font;
-    box.Baseline = field.Baseline;
     box.ForeColor = field.ForeColor;
     box.Move(field.Left, field.Top, field.Width, field.Height);
     box.Text = field.Tag;
@@ -134,7 +133,6 @@ void takeOverTyping(Zevlin& form, toolkit::TextBox& box) {
     // A shrinking field makes the box shrink with it.
     box.Font.Name = field.Font.Name;
     box.Font.Size = field.Font.Size;
-    box.Baseline = field.Baseline;
 }
 
 void xText_GotFocus(Zevlin& form, toolkit::TextBox& box) {

@@ -2,7 +2,6 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
-#include "text/base_line.h"
 #include "text/fit.h"
 #include "toolkit/base/number_text.h"
 
@@ -13,15 +12,6 @@ float fullSize(const Zevlin& form, int index) {
     const auto cell = static_cast<std::size_t>(index);
     const int size = cell < form.TextSizes.size() ? form.TextSizes[cell] : 1;
     return form.TextFontSize[size == 2 || size == 3 ? static_cast<std::size_t>(size) : 1];
-}
-
-/// A text of full size stands on its rule; a smaller one stands free, where its font puts it.
-toolkit::Baseline lineOfFullSize(const Zevlin& form, const toolkit::Label& label) {
-    const auto twips = static_cast<float>(form.TwipsPerPixel);
-    const float printedPixels = static_cast<float>(form.PBase.width()) / designWidth;
-    return baselineOverRule(label.Top + toolkit::textAscent(label.Font),
-                            {.ofFields = form.TextScale * twips,
-                             .ofPrint = form.LastImageScale * printedPixels * twips});
 }
 
 void fit(Zevlin& form, int index) {
@@ -35,8 +25,6 @@ void fit(Zevlin& form, int index) {
                                                   .width = label.Width,
                                                   .text = label.Caption},
                                                  toolkit::textWidth);
-    label.Baseline =
-        label.Font.Size == regular.Size ? lineOfFullSize(form, label) : toolkit::Baseline{};
 }
 
 } // namespace

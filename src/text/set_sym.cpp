@@ -126,7 +126,7 @@ void placeSymbol(Zevlin& form, int index, const std::string& scanBuffer, const S
                 label.Height + pixelsHigher * twips);
     symbol.Reach = reachOf(label.Font, scanBuffer, position);
     // A symbol is larger than its text, but stands on the same line.
-    symbol.Baseline = label.Baseline.movedBy(baselineOf(label) - baselineOf(symbol));
+    symbol.Lowered = baselineOf(label) - baselineOf(symbol);
     symbol.Visible = true;
     shownSymbols(form, index).push_back(form.SText.UBound());
     stack(form, index, symbol);

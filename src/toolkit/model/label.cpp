@@ -1,25 +1,6 @@
 #include "toolkit/model/label.h"
 
-#include <algorithm>
-#include <cmath>
-
 namespace toolkit {
-namespace {
-
-/// Pixels by which a row may miss the limits: places in twips aren't more precise.
-constexpr double precision = 1.0 / 256;
-
-} // namespace
-
-double paintedLine(double wanted, double highest, double lowest) {
-    const double first = std::ceil(highest - precision);
-    const double last = std::floor(lowest + precision);
-    if (first <= last) return std::clamp(std::nearbyint(wanted), first, last);
-    const double rowAbove = std::floor(highest);
-    const double rowBelow = std::ceil(lowest);
-    return highest - rowAbove < rowBelow - lowest ? highest : lowest;
-}
-
 std::string paintedText(std::string_view caption) {
     std::string painted;
     painted.reserve(caption.size());

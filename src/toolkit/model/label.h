@@ -1,7 +1,6 @@
 // A label: plain values that the card paints. It is no window; hundreds of them cost nothing.
 #pragma once
 
-#include <limits>
 #include <string>
 #include <string_view>
 
@@ -12,24 +11,6 @@ namespace toolkit {
 
 enum class Alignment : int { Left = 0, Right = 1, Center = 2 };
 enum class BackStyle : int { Transparent = 0, Opaque = 1 };
-
-/// Where a caption stands, in twips below the line on which its font alone would put it. It is
-/// painted on the row of the screen's pixels nearest to `Wanted` that lies from `Highest` to
-/// `Lowest`; between two rows only where none does, as near to a row as may be.
-struct Baseline {
-    float Wanted = 0;
-    float Highest = -std::numeric_limits<float>::infinity();
-    float Lowest = std::numeric_limits<float>::infinity();
-
-    [[nodiscard]] Baseline movedBy(float twips) const {
-        return {Wanted + twips, Highest + twips, Lowest + twips};
-    }
-
-    friend bool operator==(const Baseline&, const Baseline&) = default;
-};
-
-/// The same in pixels: the place, whole if it can be, where the baseline is painted.
-[[nodiscard]] double paintedLine(double wanted, double highest, double lowest);
 
 /// Places are twips relative to the container and kept exactly; painting rounds them to pixels.
 /// In the caption "&&" paints one "&", a single "&" none.
@@ -46,7 +27,8 @@ struct Label {
     Color BackColor = white;
     toolkit::BackStyle BackStyle = toolkit::BackStyle::Transparent;
     toolkit::Alignment Alignment = toolkit::Alignment::Left;
-    toolkit::Baseline Baseline;
+    /// Twips by which the caption stands below the line on which its font would put it.
+    float Lowered = 0;
     /// Of a sign that is laid over blanks of another text: how far they reach, in twips, so that a
     /// page tells what is read next to it. 0 for other texts.
     float Reach = 0;

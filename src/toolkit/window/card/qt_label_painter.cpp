@@ -7,7 +7,6 @@
 #include <QtGui/QPainter>
 
 #include "toolkit/base/qt_geometry.h"
-#include "toolkit/text/qt_run_picture.h"
 #include "toolkit/text/qt_suit_reach.h"
 #include "toolkit/text/text_painter.h"
 
@@ -36,32 +35,23 @@ float textOffset(const Label& label, float width) {
     return 0;
 }
 
-/// A baseline in the painter's own coordinates, and whether it is a whole row of the device.
-struct PaintedLine {
-    double y = 0;
-    bool isWhole = true;
-};
+/// Twips from the card's top.
+double baselineOf(const Label& label) {
+    return static_cast<double>(label.Top + textAscent(label.Font) + label.Lowered);
+}
 
-/// Rounded once, from the exact place: the baseline of a text keeps to its printed rule, and a
-/// mark to its box, as well as the rows of the screen allow.
-PaintedLine paintedLineOf(const Label& label, const QTransform& device) {
-    const double rowsPerTwip = device.m22() / twipsPerPixel();
-    const auto line = static_cast<double>(label.Top + textAscent(label.Font));
-    const auto rows = [&](float below) {
-        return (line + static_cast<double>(below)) * rowsPerTwip;
-    };
-    const Baseline& base = label.Baseline;
-    const double row = paintedLine(rows(base.Wanted), rows(base.Highest), rows(base.Lowest));
+/// The baseline on the nearest row of the device's pixels, in the painter's own coordinates.
+double paintedLineOf(const Label& label, const QTransform& device) {
+    const double row = std::nearbyint(baselineOf(label) * device.m22() / twipsPerPixel());
     // The picture below begins on a whole row of the device, whatever lies above the card.
-    const double start = std::round(device.dy());
-    return {(row + start - device.dy()) / device.m22(), row == std::nearbyint(row)};
+    return (row + std::round(device.dy()) - device.dy()) / device.m22();
 }
 
 /// Whether ink of the text may lie outside the label.
 bool mayLeave(const Label& label, float width) {
     const float leaning = label.Font.Italic ? textHeight(label.Font) * leaningShare : 0;
-    return width + 2 * leaning > label.Width || label.Baseline.Wanted < 0 ||
-           textHeight(label.Font) + label.Baseline.Wanted > label.Height;
+    return width + 2 * leaning > label.Width || label.Lowered < 0 ||
+           textHeight(label.Font) + label.Lowered > label.Height;
 }
 
 } // namespace
@@ -86,10 +76,9 @@ void paintLabel(QPainter& painter, const Label& label) {
     if (text.empty()) return;
     const auto scale = static_cast<double>(twipsPerPixel());
     const float offset = textOffset(label, textWidth(label.Font, text));
-    const PaintedLine line = paintedLineOf(label, painter.deviceTransform());
-    const QPointF origin(static_cast<double>(label.Left + offset) / scale, line.y);
-    const auto draw = line.isWhole ? drawRun : drawRunBetweenRows;
-    draw(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
+    const QPointF origin(static_cast<double>(label.Left + offset) / scale,
+                         paintedLineOf(label, painter.deviceTransform()));
+    drawRun(painter, origin, label.Font, 1 / scale, label.ForeColor, text);
 }
 
 void paintLabelExactly(QPainter& painter, const Label& label) {
@@ -100,18 +89,16 @@ void paintLabelExactly(QPainter& painter, const Label& label) {
     const std::string text = textOf(label);
     if (text.empty()) return;
     const float width = textWidth(label.Font, text);
-    const float baseline = textAscent(label.Font) + label.Baseline.Wanted;
     // A page where nothing needs cutting is smaller.
     const bool isCut = label.Clips && mayLeave(label, width);
     if (isCut) {
         painter.save();
         painter.setClipRect(place);
     }
-    drawRun(
-        painter,
-        QPointF((label.Left + textOffset(label, width)) * scale, (label.Top + baseline) * scale),
-        label.Reach > 0 ? suitsReaching(label.Font, label.Reach) : label.Font, scale,
-        label.ForeColor, text);
+    drawRun(painter,
+            QPointF((label.Left + textOffset(label, width)) * scale, baselineOf(label) * scale),
+            label.Reach > 0 ? suitsReaching(label.Font, label.Reach) : label.Font, scale,
+            label.ForeColor, text);
     if (isCut) painter.restore();
 }
 

@@ -20,7 +20,7 @@ bool looksAlike(const Label& left, const Label& right) {
            left.Height == right.Height && left.Stack == right.Stack && left.Clips == right.Clips &&
            left.ForeColor == right.ForeColor && left.BackColor == right.BackColor &&
            left.BackStyle == right.BackStyle && left.Alignment == right.Alignment &&
-           left.Baseline == right.Baseline && left.Caption == right.Caption &&
+           left.Lowered == right.Lowered && left.Caption == right.Caption &&
            left.Font == right.Font;
 }
 

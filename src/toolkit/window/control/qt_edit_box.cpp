@@ -1,6 +1,7 @@
 #include "toolkit/window/control/qt_edit_box.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 #include <QtCore/QSignalBlocker>
@@ -124,10 +125,8 @@ void EditBox::push() {
 /// The row of the card below the text's feet, as the label's.
 int EditBox::baseline() const {
     const auto twips = static_cast<double>(twipsPerPixel());
-    const auto line = static_cast<double>(box_.Top + textAscent(box_.Font));
-    const auto pixels = [&](float below) { return (line + static_cast<double>(below)) / twips; };
-    const Baseline& base = box_.Baseline;
-    return qRound(paintedLine(pixels(base.Wanted), pixels(base.Highest), pixels(base.Lowest)));
+    return static_cast<int>(
+        std::nearbyint(static_cast<double>(box_.Top + textAscent(box_.Font)) / twips));
 }
 
 /// A line edit puts its text at its top by its own measures of the font; the label goes by the
