@@ -32,6 +32,7 @@
 #include "help/menu_tooltips.h"
 #include "layout/check_point.h"
 #include "layout/check_update.h"
+#include "layout/renew_layout.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/base/file_names.h"
 #include "toolkit/base/files.h"
@@ -52,6 +53,7 @@ constexpr int documentsFolderIdentifier = 5;
 struct LoadRun {
     int step = 0;
     bool showHelp = false;
+    bool layoutAsked = false;     ///< whether the layout for the present card was offered
     std::optional<Rescue> rescue; ///< what the player wants back from an earlier run
 };
 
@@ -140,12 +142,16 @@ void choosePicture(Zevlin& form) {
     }
 }
 
-void prepareForm(Zevlin& form) {
+void prepareForm(Zevlin& form, LoadRun& run) {
     applyKindOfBuild(form);
     CheckIniUpdate(form);
     hidePrintColorItems(form);
     form.FormBackColor = form.BackColor;
-    if (!isAnotherCopyAtWork(form)) RestoreShapes(form);
+    // What the other one has set aside is its own.
+    if (!isAnotherCopyAtWork(form)) {
+        RestoreShapes(form);
+        run.layoutAsked = renewLayout(form);
+    }
     setFonts(form);
     setPen(form);
     setZoom(form);
@@ -200,12 +206,14 @@ void finish(Zevlin& form, LoadRun& run) {
     form.OrigIndex = 0;
     if (run.rescue) openRescued(form, std::move(*run.rescue));
     toolkit::doEvents();
+    // The version in the options says that the layout was offered.
+    if (run.layoutAsked) IniWrite(form);
     tellFileFailures(form);
 }
 
 void load(Zevlin& form, std::string_view commandLine, LoadRun& run) {
     run.step = 1000;
-    prepareForm(form);
+    prepareForm(form, run);
     run.step = 2000;
     takeDefaultPrinter(form, run.step);
     run.step = 2100;

@@ -25,18 +25,20 @@ constexpr std::string_view updateQuestion =
 constexpr std::string_view updateRefused =
     "No changes made, but ZEV may not work properly until you complete this update.";
 
-void offerUpdate(const std::filesystem::path& layout) {
+} // namespace
+
+bool isUpdateWanted() {
     const auto answer = toolkit::show({.text = std::string(updateQuestion),
                                        .buttons = toolkit::Buttons::OkCancel,
                                        .icon = toolkit::Icon::Information,
                                        .title = "ZEV Update",
                                        .preset = {}});
-    if (answer == toolkit::Answer::Ok) {
-        toolkit::deleteFile(layout);
-    } else {
-        toolkit::tell(updateRefused, toolkit::Icon::Information);
-    }
+    if (answer == toolkit::Answer::Ok) return true;
+    toolkit::tell(updateRefused, toolkit::Icon::Information);
+    return false;
 }
+
+namespace {
 
 void checkUpdate(Zevlin& form) {
     const auto layout = toolkit::findFile(form.DataFolder, layoutFileName);
@@ -50,7 +52,7 @@ void checkUpdate(Zevlin& form) {
                              toolkit::numberText(installedLayout(form.TwipsPerPixel)));
     if (!numbered) return;
     const auto offered = comparedVersion(toolkit::readFile(*numbered));
-    if (offered && isBelow(*present, *offered)) offerUpdate(*layout);
+    if (offered && isBelow(*present, *offered) && isUpdateWanted()) toolkit::deleteFile(*layout);
 }
 
 } // namespace

@@ -9,4 +9,7 @@ struct Zevlin;
 /// the player's. A failure ends the program.
 void CheckIniUpdate(Zevlin& form);
 
+/// Asks whether the layout may be replaced; a refusal is answered with what it may cost.
+[[nodiscard]] bool isUpdateWanted();
+
 } // namespace zev

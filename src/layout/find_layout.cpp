@@ -21,8 +21,6 @@
 namespace zev {
 namespace {
 
-constexpr const char* replacedLayoutName = "Definitions.old";
-
 constexpr std::string_view screenFontsQuestion =
     "The Windows screen fonts have changed since the last time you used ZEV, so checkmarks, "
     "circles, and text will not line up properly on the card.\r\n\r\n"

@@ -25,7 +25,7 @@ constexpr std::string_view wholeCard =
     "\r\n"
     "' This contains the settings for the card called: Jones\r\n"
     "' You may delete it from your computer if you no longer need it\r\n"
-    "' Program version: 2.0.0\r\n"
+    "' Program version: 2.1.0\r\n"
     "\r\n"
     "' Partner's name and ACBL ID number (both are optional)\r\n"
     "\"Jane Doe\",\"12345\"\r\n"

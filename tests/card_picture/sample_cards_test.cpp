@@ -54,7 +54,7 @@ TEST(SampleCards, OpenWithTheWordsThatTheProgramWrites) {
         EXPECT_EQ(lines[3], "");
         EXPECT_EQ(lines[4], "' This contains the settings for the card called: " + name);
         EXPECT_EQ(lines[5], "' You may delete it from your computer if you no longer need it");
-        EXPECT_EQ(lines[6], "' Program version: 2.0.0");
+        EXPECT_EQ(lines[6], "' Program version: " CARD_VERSION);
         EXPECT_EQ(lines[8], "' Partner's name and ACBL ID number (both are optional)");
         EXPECT_EQ(lines[9], R"("","")");
         EXPECT_EQ(lines[11], "' # of mark-fields to follow");

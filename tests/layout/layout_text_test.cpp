@@ -48,7 +48,7 @@ constexpr std::string_view wholeLayout =
 ' files reference the field numbers in this file, so changing this file will affect the appearance of all cards.
 
 ' The next few lines describe the environment in which this file was created
-' Program version: 2.0.0
+' Program version: 2.1.0
 
 ' Screen TwipsPerPixel (usually 15, 13, or 12) and Screen Width in twips
 15,24000

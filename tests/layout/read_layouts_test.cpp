@@ -43,7 +43,7 @@ TEST_F(ReadLayout, OfEightValuesIsRewrittenWithNine) {
     EXPECT_EQ(form.AMark[2].Left, 3000);
     MSaveShapes_Click(form);
     const std::string saved = dataFileContent("Definitions.Ini");
-    EXPECT_NE(saved.find("' Program version: 2.0.0\r\n"), std::string::npos);
+    EXPECT_NE(saved.find("' Program version: 2.1.0\r\n"), std::string::npos);
     EXPECT_NE(saved.find(",1,1,252,0\r\n2,"), std::string::npos);
     EXPECT_NE(saved.find(",2,1,161,0\r\n"), std::string::npos);
 }

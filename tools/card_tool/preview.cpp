@@ -15,7 +15,6 @@ namespace card_tool {
 namespace {
 
 constexpr double suitPointsMore = 4;
-constexpr double suitPixelsHigher = 6;
 /// The suit signs in the order of zev::suitLetters.
 constexpr std::u32string_view suitSigns = U"\u2663\u2666\u2665\u2660";
 const std::string regularName = "Arial";
@@ -72,8 +71,9 @@ class FieldPainter {
         paintLetters(face, em, {left, at.top + face.ascent() * em}, shown, place.ink);
         for (const zev::SuitPlace& suit : zev::suitPlaces(blanked.scanBuffer)) {
             const auto before = static_cast<std::size_t>(suit.position) - 1;
-            paintSuit(suit.suit, font.Size,
-                      {left + textWidth(face, shown.substr(0, before), em), at.top});
+            paintSuit(
+                suit.suit, font.Size,
+                {left + textWidth(face, shown.substr(0, before), em), at.top + face.ascent() * em});
         }
     }
 
@@ -108,12 +108,11 @@ class FieldPainter {
         }
     }
 
-    /// Suits count from 1.
-    void paintSuit(int suit, double points, QPointF topLeft) {
+    /// Suits count from 1, and stand on the line of their text.
+    void paintSuit(int suit, double points, QPointF at) {
         const double em = ems(points + suitPointsMore);
         const char32_t sign = suitSigns.at(static_cast<std::size_t>(suit) - 1);
-        topLeft.ry() += faces_.suits.ascent() * em - suitPixelsHigher;
-        paint(faces_.suits, suitCode(sign), em, topLeft, isRedSuit(sign) ? Ink::Red : Ink::Black);
+        paint(faces_.typedSuits, suitCode(sign), em, at, isRedSuit(sign) ? Ink::Red : Ink::Black);
     }
 
     void paint(const Typeface& face, char32_t character, double em, QPointF at, Ink ink) {

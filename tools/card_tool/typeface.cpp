@@ -50,6 +50,7 @@ Typefaces loadTypefaces(const std::filesystem::path& ownFonts) {
     return {.printRegular = Typeface::installed("Liberation Sans Narrow", Weight::Regular),
             .printBold = Typeface::installed("Liberation Sans Narrow", Weight::Bold),
             .suits = Typeface::fromFile(ownFonts / "zevlin-print-suits.ttf"),
+            .typedSuits = Typeface::fromFile(ownFonts / "zevlin-suits.ttf"),
             .marksRegular = Typeface::fromFile(ownFonts / "zevlin-marks-regular.ttf"),
             .marksBold = Typeface::fromFile(ownFonts / "zevlin-marks-bold.ttf"),
             .textRegular = Typeface::installed("Liberation Sans", Weight::Regular),

@@ -46,6 +46,7 @@ struct Typefaces {
     Typeface printRegular;
     Typeface printBold;
     Typeface suits;
+    Typeface typedSuits;
     Typeface marksRegular;
     Typeface marksBold;
     Typeface textRegular;
