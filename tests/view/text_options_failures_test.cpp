@@ -14,18 +14,18 @@ namespace {
 /// From so many bytes on no memory is to be had; 0 for no limit.
 std::size_t scarceFrom = 0;
 
-constexpr std::align_val_t alignment{alignof(std::max_align_t)};
+constexpr std::align_val_t blockAlignment{alignof(std::max_align_t)};
 
 } // namespace
 
 // All memory of this program comes from here.
 void* operator new(std::size_t size) {
     if (scarceFrom > 0 && size >= scarceFrom) throw std::bad_alloc();
-    return ::operator new(size, alignment);
+    return ::operator new(size, blockAlignment);
 }
-void operator delete(void* memory) noexcept { ::operator delete(memory, alignment); }
+void operator delete(void* memory) noexcept { ::operator delete(memory, blockAlignment); }
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
-    ::operator delete(memory, alignment);
+    ::operator delete(memory, blockAlignment);
 }
 
 namespace zev::test {
