@@ -55,7 +55,9 @@ bool Monkey::refusesJobs() const {
 void Monkey::checkTrace() {
     for (const std::string& line : takeErrors()) {
         const bool isOfJob = line.starts_with("Error in PrintPictureBox at step 1200: 482") ||
-                             line.starts_with("Error in PrintPictureBox at step 2300: 482");
+                             line.starts_with("Error in PrintPictureBox at step 2300: 482") ||
+                             // A right click on the help prints it.
+                             line.starts_with("Error in THelp_MouseDown: #482");
         // TAB on an item beyond the table of the walk is a failure that is traced.
         const bool isOfWalk = line.starts_with("Error in P1_KeyDown: #9,") ||
                               line.starts_with("Error in xText_LostFocus: #9,");
