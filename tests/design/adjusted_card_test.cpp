@@ -30,8 +30,7 @@ struct Ink {
 
 class AdjustedCard : public FormTest, public testing::WithParamInterface<int> {
   protected:
-    AdjustedCard() {
-        twips = GetParam();
+    AdjustedCard() : twips(GetParam()) {
         toolkit::overrideScreen({.twipsPerPixel = twips, .width = 24000, .height = 24000});
         const auto installed = programFolder / ("Definitions.Ini." + std::to_string(twips));
         std::filesystem::copy_file(installed, dataFile("Definitions.Ini"),
