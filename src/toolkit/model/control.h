@@ -124,8 +124,8 @@ struct TextBox : Control {
     int SelStart = 0;  ///< characters before the selection or caret
     int SelLength = 0; ///< characters selected
     toolkit::Alignment Alignment = toolkit::Alignment::Left;
-    bool MultiLine = false; ///< of an overlay: the text is broken into lines, from the left
-    int Margin = 0;         ///< pixels between those lines and the edges
+    bool MultiLine = false;       ///< of an overlay: the text is broken into lines, from the left
+    int Margin = 0;               ///< pixels between those lines and the edges
     std::function<void()> Change; ///< the player has changed Text
 };
 
