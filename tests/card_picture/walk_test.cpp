@@ -26,7 +26,7 @@ const Field& fieldOf(const Layout& from, int item) {
                             : from.texts.at(static_cast<std::size_t>(item - 1));
 }
 
-TEST(Walk, VisitsEachTextAndCheckmarkOnce) {
+TEST(Walk, VisitsEachFieldOnce) {
     for (const int twips : {12, 13, 15}) {
         const Layout& from = layout(twips);
         const std::vector<int> walk = walkOf(from);
@@ -34,8 +34,7 @@ TEST(Walk, VisitsEachTextAndCheckmarkOnce) {
         EXPECT_EQ(visited.size(), walk.size());
         std::set<int> wanted;
         for (const Field& text : from.texts) wanted.insert(text.number);
-        for (const Field& mark : from.marks)
-            if (mark.isCheck()) wanted.insert(firstMark + mark.number);
+        for (const Field& mark : from.marks) wanted.insert(firstMark + mark.number);
         EXPECT_EQ(visited, wanted);
     }
 }
@@ -44,6 +43,20 @@ TEST(Walk, LeadsFromTheLastFieldToTheFirst) {
     const std::vector<int> walk = walkOf(layout(15));
     EXPECT_EQ(layout(15).tab.at(walk.back()), walk.front());
     EXPECT_EQ(layout(15).tab.size(), walk.size());
+}
+
+TEST(Walk, ComesToTheCirclesAfterAllOtherFields) {
+    bool circles = false;
+    int last = 0;
+    for (const int item : walkOf(layout(15))) {
+        const bool isCircle = item > firstMark && fieldOf(layout(15), item).isCircle();
+        EXPECT_TRUE(isCircle || !circles) << item;
+        // Holding by holding, as they are numbered.
+        EXPECT_TRUE(!isCircle || item > last) << item;
+        circles = circles || isCircle;
+        last = item;
+    }
+    EXPECT_TRUE(circles);
 }
 
 TEST(Walk, GoesThroughTheRightPanelFirst) {

@@ -59,7 +59,8 @@ struct Sheet {
     toolkit::Drawing artwork;
     std::vector<MarkPlace> marks;
     std::vector<TextPlace> texts;
-    /// Texts and checkmarks in the order in which TAB visits them; the last one leads to the first.
+    /// The fields in the order in which TAB visits them: texts and checkmarks as they stand, then
+    /// the circles. The last one leads to the first.
     std::vector<FieldNumber> walk;
 };
 

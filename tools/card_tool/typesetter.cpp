@@ -280,7 +280,7 @@ class Typesetter {
     std::string faults_;
 };
 
-/// Marks were numbered as they came; circles go to the end, and the walk follows.
+/// Marks were numbered as they came; circles go to the end, of the walk, too.
 void putCirclesLast(Sheet& sheet) {
     std::vector<int> newNumber(sheet.marks.size() + 1);
     std::vector<MarkPlace> sorted;
@@ -294,6 +294,9 @@ void putCirclesLast(Sheet& sheet) {
     for (FieldNumber& field : sheet.walk)
         if (field.kind == FieldKind::Mark)
             field.number = newNumber[static_cast<std::size_t>(field.number)];
+    for (std::size_t at = 0; at < sheet.marks.size(); ++at)
+        if (sheet.marks[at].kind == MarkKind::Circle)
+            sheet.walk.push_back({FieldKind::Mark, static_cast<int>(at) + 1});
 }
 
 void checkNames(const Sheet& sheet) {
