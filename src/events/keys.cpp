@@ -80,7 +80,10 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
 /// The zoom keys, with Ctrl alone. Held down they walk on along the ladder. True if it was one of
 /// them.
 bool zoomByKey(Zevlin& form, const toolkit::KeyArguments& key) {
-    if (key.Shift != toolkit::shift::ctrl) return false;
+    // Many keyboards have the "+" above the "=".
+    const bool isShiftedPlus = key.Shift == (toolkit::shift::shift | toolkit::shift::ctrl) &&
+                               key.KeyCode == toolkit::key::plus;
+    if (key.Shift != toolkit::shift::ctrl && !isShiftedPlus) return false;
     switch (key.KeyCode) {
     case toolkit::key::digit0:
         // This key always ends in a fit; the other two leave one.

@@ -10,6 +10,7 @@
 #include "toolkit/base/number_text.h"
 #include "toolkit/window/cursor.h"
 #include "view/task_bar.h"
+#include "view/zoom.h"
 
 namespace zev {
 namespace {
@@ -168,10 +169,35 @@ void pullOnScreen(Zevlin& form, int item) {
     form.P1.Move(left, top);
 }
 
+/// A card that has room in the form stays where the zoom has put it; a larger one leaves no gap.
+float withoutGap(float wanted, float now, float room, float size) {
+    return size <= room ? now : std::clamp(wanted, room - size, 0.0F);
+}
+
+/// The point of the card under the pointer, which is given in pixels of the screen, stays there.
+void zoomAt(Zevlin& form, int rotation, int x, int y) {
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    const auto across = [&] { return twips * static_cast<float>(x) - form.FrameWidth - form.Left; };
+    const auto down = [&] { return twips * static_cast<float>(y) - form.FrameHeight - form.Top; };
+    const toolkit::PictureBox& card = form.P1;
+    const float width = card.Width;
+    const float shareAcross = (across() - card.Left) / card.Width;
+    const float shareDown = (down() - card.Top) / card.Height;
+    if (rotation > 0)
+        MZoomIn_Click(form);
+    else
+        MZoomOut_Click(form);
+    if (card.Width == width) return;
+    form.P1.Move(
+        withoutGap(across() - shareAcross * card.Width, card.Left, form.ScaleWidth(), card.Width),
+        withoutGap(down() - shareDown * card.Height, card.Top, form.ScaleHeight(), card.Height));
+}
+
 } // namespace
 
-void MouseWheel(Zevlin& form, int /*keys*/, int rotation, int /*x*/, int /*y*/) {
+void MouseWheel(Zevlin& form, int keys, int rotation, int x, int y) {
     if (!form.P1.Visible || !form.WheelHooked) return;
+    if (keys == toolkit::shift::ctrl) return zoomAt(form, rotation, x, y);
     const float step = stepOf(form);
     form.P1.Top = rotation > 0 ? std::min(wholeTwips(form.P1.Top + step), form.ScaleHeight())
                                : std::max(wholeTwips(form.P1.Top - step), -form.P1.Height);

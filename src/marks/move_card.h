@@ -5,7 +5,8 @@ namespace zev {
 
 struct Zevlin;
 
-/// One step of the wheel, a tenth of the card's height; it can take the card out of sight.
+/// One step of the wheel, a tenth of the card's height; it can take the card out of sight. With
+/// Ctrl it zooms; x and y, pixels of the screen, are where the pointer is.
 void MouseWheel(Zevlin& form, int keys, int rotation, int x, int y);
 
 /// Pulls the card so that the field with this item number lies in the work area.

@@ -103,6 +103,73 @@ TEST_F(MoveCard, WheelGoesPastWhereTheKeysStop) {
     EXPECT_EQ(form.P1.Left, 0);
 }
 
+TEST_F(MoveCard, WithCtrlTheWheelZoomsOneStepANotch) {
+    startSmall();
+    const auto level = form.ZoomLevel;
+    turnWheel(120, shift::ctrl);
+    EXPECT_EQ(form.ZoomLevel, level + 1);
+    turnWheel(-240, shift::ctrl);
+    EXPECT_EQ(form.ZoomLevel, level - 1);
+    EXPECT_EQ(form.P1.Top, 0);
+}
+
+/// In a window that fills the screen, with the pointer in its middle.
+class ZoomAtPointer : public MoveCard {
+  protected:
+    void startFilling() {
+        startSmall();
+        changeExtent(Extent::Maximised);
+        while (form.P1.Width <= form.ScaleWidth() || form.P1.Height <= form.ScaleHeight())
+            typeKey(key::add, shift::ctrl);
+        x = toolkit::pixelsFromTwips(form.Left + form.FrameWidth + form.ScaleWidth() / 2);
+        y = toolkit::pixelsFromTwips(form.Top + form.FrameHeight + form.ScaleHeight() / 2);
+    }
+    /// Where on the card the pointer is, in design pixels.
+    [[nodiscard]] CardPoint pointed() const {
+        const float scale = form.P1.Width / 1198;
+        return {
+            (static_cast<float>(x) * pixel - form.Left - form.FrameWidth - form.P1.Left) / scale,
+            (static_cast<float>(y) * pixel - form.Top - form.FrameHeight - form.P1.Top) / scale};
+    }
+    int x = 0;
+    int y = 0;
+    void zoom(int rotation) { MouseWheel(form, shift::ctrl, rotation, x, y); }
+};
+
+TEST_F(ZoomAtPointer, ThePointUnderThePointerStays) {
+    startFilling();
+    form.P1.Move(-20 * pixel, -30 * pixel);
+    const CardPoint before = pointed();
+    zoom(120);
+    EXPECT_NEAR(pointed().x, before.x, 1);
+    EXPECT_NEAR(pointed().y, before.y, 1);
+    zoom(120);
+    zoom(-120);
+    EXPECT_NEAR(pointed().x, before.x, 2);
+    EXPECT_NEAR(pointed().y, before.y, 2);
+}
+
+TEST_F(ZoomAtPointer, ACardThatFillsTheFormLeavesNoGap) {
+    startFilling();
+    typeKey(key::add, shift::ctrl);
+    x = toolkit::pixelsFromTwips(form.Left + form.FrameWidth);
+    y = toolkit::pixelsFromTwips(form.Top + form.FrameHeight);
+    form.P1.Move(farLeft(), farTop());
+    zoom(-120);
+    EXPECT_GE(form.P1.Left, farLeft());
+    EXPECT_LE(form.P1.Left, 0);
+    EXPECT_GE(form.P1.Top, farTop());
+    EXPECT_LE(form.P1.Top, 0);
+}
+
+TEST_F(ZoomAtPointer, AtTheEndOfTheLadderTheCardStaysWhereItIs) {
+    startFilling();
+    for (int i = 0; i < 12; ++i) zoom(120);
+    form.P1.Move(60 * pixel, 70 * pixel);
+    zoom(120);
+    expectAt(60 * pixel, 70 * pixel);
+}
+
 TEST_F(MoveCard, WheelTakesOneStepWhateverTheRotation) {
     startLarge();
     MouseWheel(form, 0, -1, 0, 0);

@@ -90,13 +90,13 @@ void doubleClick(float x, float y) {
     releaseMouse(x, y);
 }
 
-void turnWheel(int rotation) {
+void turnWheel(int rotation, int shift) {
     updateWindow();
     CardWidget& card = window().card();
     const QPointF place = card.mapToGlobal(QRectF(card.rect()).center());
     QWidget& widget = widgetUnder(place);
     QWheelEvent event(widget.mapFromGlobal(place), place, QPoint(), QPoint(0, rotation),
-                      Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+                      Qt::NoButton, modifiersOf(shift), Qt::NoScrollPhase, false);
     // Only wheel events from outside go on to the widget behind one that can't use them.
     QSpontaneKeyEvent::setSpontaneous(&event);
     QCoreApplication::instance()->notify(&widget, &event);

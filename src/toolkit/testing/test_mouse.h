@@ -13,7 +13,7 @@ void releaseMouse(float x, float y, int button = button::left, int shift = 0);
 void click(float x, float y, int button = button::left, int shift = 0);
 void doubleClick(float x, float y);
 /// At the middle of the card, over whatever lies there; 120 is one notch away from the player.
-void turnWheel(int rotation);
+void turnWheel(int rotation, int shift = 0);
 
 /// A place for the mouse helpers, wherever it lies.
 struct PointOnCard {
