@@ -147,11 +147,9 @@ void prepareForm(Zevlin& form, LoadRun& run) {
     CheckIniUpdate(form);
     hidePrintColorItems(form);
     form.FormBackColor = form.BackColor;
-    // What the other one has set aside is its own.
-    if (!isAnotherCopyAtWork(form)) {
-        RestoreShapes(form);
-        run.layoutAsked = renewLayout(form);
-    }
+    // What another one has set aside is its own, and a job's layout stands in its place.
+    if (!isAnotherCopyAtWork(form)) RestoreShapes(form);
+    if (!isLayoutSetAside(form)) run.layoutAsked = renewLayout(form);
     setFonts(form);
     setPen(form);
     setZoom(form);

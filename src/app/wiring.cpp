@@ -44,7 +44,7 @@ void wireForm(Zevlin& form) {
 void wireSlots(Zevlin& form) {
     form.Slots.initialize = [&form] { Initialize(form); };
     form.Slots.toggleDesignMode = [&form] { MShowShapes_Click(form); };
-    form.Slots.restorePicture = [&form] { RestoreBackgroundPicture(form, Rescale::IfChanged); };
+    form.Slots.restorePicture = [&form] { restorePictureOfFields(form); };
     form.Slots.ringJournal = [&form] { ringJournal(form); };
 }
 

@@ -10,7 +10,7 @@ namespace zev {
 
 struct Zevlin;
 
-/// BitsPerPixel of a printer without colours.
+/// BitsPerPixel of a printer without colours: with less, the job would leave its colours to it.
 constexpr int monochromeDepth = 8;
 
 /// Before anything else is known: whether there is a printer at all.

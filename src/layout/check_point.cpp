@@ -54,6 +54,10 @@ bool finishRestore(Zevlin& form) {
     return !form.LayoutFileAside;
 }
 
+bool isLayoutSetAside(const Zevlin& form) {
+    return toolkit::findFile(form.DataFolder, setAsideName).has_value();
+}
+
 void CheckPointShapes(Zevlin& form) {
     Traceit(form, "CheckPointShapes");
     // Without fields nothing would be written in place of the layout set aside.

@@ -9,6 +9,9 @@ struct Zevlin;
 /// Sets Definitions.Ini aside as $$TempDef.Ini and writes the present layout in its place.
 void CheckPointShapes(Zevlin& form);
 
+/// Whether a layout is set aside, by this copy of the program or another one.
+[[nodiscard]] bool isLayoutSetAside(const Zevlin& form);
+
 /// Puts the layout that was set aside back; nothing happens if there is none, or if it is that of
 /// another living copy of the program. Where that fails finishRestore does it later, or the next
 /// start.

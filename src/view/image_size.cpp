@@ -132,6 +132,13 @@ void StartPicture(Zevlin& form) {
                           })};
 }
 
+void restorePictureOfFields(Zevlin& form) {
+    const std::size_t step = ladderStep(form);
+    const bool isShown = form.LastImageScale == 0 || step >= form.ZoomTable.size() ||
+                         shownScale(form.ZoomTable[step]) == form.LastImageScale;
+    if (form.Carried || isShown) RestoreBackgroundPicture(form, Rescale::IfChanged);
+}
+
 void RestoreBackgroundPicture(Zevlin& form, Rescale rescale) {
     Traceit(form,
             std::string(truthText(rescale == Rescale::Always)) + " RestoreBackgroundPicture ");

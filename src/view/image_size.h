@@ -27,4 +27,8 @@ void StartPicture(Zevlin& form);
 /// Gives the card the size of the present zoom step or fit.
 void RestoreBackgroundPicture(Zevlin& form, Rescale rescale);
 
+/// The same for a new card, if the size has changed. Outside a rebuild the picture stays for which
+/// the fields were made: a zoom that was refused leaves another step, but no other picture.
+void restorePictureOfFields(Zevlin& form);
+
 } // namespace zev

@@ -2,6 +2,7 @@
 
 #include "layout/save_layout.h"
 #include "support/form_test.h"
+#include "toolkit/base/file_lock.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/window/screen.h"
@@ -49,6 +50,27 @@ TEST_F(RenewLayout, AnUntouchedOneIsReplacedAndKept) {
     // It is no first run: neither help nor another size of the card.
     EXPECT_FALSE(form.THelp.Visible);
     EXPECT_FALSE(form.MFitScreenWidth.Checked);
+}
+
+TEST_F(RenewLayout, IsReplacedBesideACopyThatIsAtWork) {
+    std::filesystem::create_directories(home / "state");
+    toolkit::FileLock lock;
+    ASSERT_TRUE(lock.take(home / "state" / "changes-1.lock"));
+    lastRunBy("2.0.0");
+    writeLayout(former());
+    start();
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), installed());
+}
+
+TEST_F(RenewLayout, StaysWhileAnotherCopyHasSetALayoutAside) {
+    std::filesystem::create_directories(home / "state");
+    toolkit::FileLock lock;
+    ASSERT_TRUE(lock.take(home / "state" / "changes-1.lock"));
+    toolkit::writeFile(dataFile("$$TempDef.Ini"), "aside");
+    lastRunBy("2.0.0");
+    writeLayout(former());
+    start();
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), former());
 }
 
 TEST_F(RenewLayout, OneOfAnotherResolutionMakesPlaceForThisScreens) {

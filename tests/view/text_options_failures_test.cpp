@@ -23,6 +23,13 @@ void* operator new(std::size_t size) {
     if (scarceFrom > 0 && size >= scarceFrom) throw std::bad_alloc();
     return ::operator new(size, blockAlignment);
 }
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    try {
+        return ::operator new(size);
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
 void operator delete(void* memory) noexcept { ::operator delete(memory, blockAlignment); }
 void operator delete(void* memory, std::size_t /*size*/) noexcept {
     ::operator delete(memory, blockAlignment);

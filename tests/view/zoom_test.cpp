@@ -244,12 +244,31 @@ TEST_F(Zoom, PlusAndMinusOfBothKeyboardsZoomWithCtrlAlone) {
     for (const int plus : {key::add, key::plus}) {
         typeKey(plus, shift::ctrl);
         EXPECT_EQ(form.ZoomLevel, 6);
-        for (const int held : {0, shift::shift, shift::alt, shift::ctrl + shift::shift})
-            typeKey(plus, held);
+        for (const int held : {0, shift::shift, shift::alt}) typeKey(plus, held);
         EXPECT_EQ(form.ZoomLevel, 6);
         typeKey(plus == key::add ? key::subtract : key::minus, shift::ctrl);
         EXPECT_EQ(form.ZoomLevel, 5);
     }
+}
+
+TEST_F(Zoom, ThePlusAboveTheEqualsSignZoomsInWithCtrlAndShift) {
+    startAtStep(5);
+    typeKey(key::add, shift::ctrl + shift::shift);
+    EXPECT_EQ(form.ZoomLevel, 5);
+    typeKey(key::plus, shift::ctrl + shift::shift);
+    EXPECT_EQ(form.ZoomLevel, 6);
+}
+
+TEST_F(Zoom, ANewCardBehindARefusedZoomKeepsTheSizeThatIsThere) {
+    startAtStep(5);
+    fitTo(1.3F);
+    const float width = form.P1.Width;
+    zoomIn();
+    ASSERT_EQ(form.ZoomTable[0], 0);
+    ASSERT_TRUE(toolkit::test::chooseMenu("File>New"));
+    EXPECT_EQ(form.P1.Width, width);
+    zoomOut();
+    EXPECT_NEAR(form.P1.Width, 0.9F * 2396 * pixel, pixel);
 }
 
 TEST_F(Zoom, AHeldKeyGoesOnAlongTheLadder) {
