@@ -68,8 +68,13 @@ bool Monkey::isCleanHit(CardPoint point, const Label* wanted) {
         if (over->Visible && lies(point, *over)) return false;
     for (const Label& mark : zevlin().AMark)
         if (&mark != wanted && lies(point, mark)) return false;
+    // One that begins within the pointer's pixel takes the whole pixel.
+    const auto liesNear = [&point](const Label& text) {
+        return lies(CardPoint{point.x - pixel, point.y - pixel}, text) ||
+               lies(CardPoint{point.x + pixel, point.y + pixel}, text) || lies(point, text);
+    };
     for (const Label& text : zevlin().AText)
-        if (&text != wanted && &text != &zevlin().AText[0] && lies(point, text)) return false;
+        if (&text != wanted && &text != &zevlin().AText[0] && liesNear(text)) return false;
     return std::ranges::none_of(zevlin().SText, [&point](const Label& symbol) {
         return symbol.Visible && lies(point, symbol);
     });
