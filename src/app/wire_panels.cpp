@@ -32,7 +32,7 @@ void wireChooser(Zevlin& form) {
 
 toolkit::PanelContents chooser(Zevlin& form) {
     wireChooser(form);
-    form.P3.AccessibleName = "Cards";
+    form.P3.AccessibleName = "Choose a card";
     form.TSaveAs.AccessibleName = "Name of the card";
     form.FileList.AccessibleName = "Cards";
     toolkit::PanelContents panel;

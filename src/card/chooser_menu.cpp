@@ -44,6 +44,7 @@ void deleteSelected(Zevlin& form) {
     if (form.FileList.List.empty()) showEmptyFolder(form);
     if (isCurrent) {
         form.CardName.clear();
+        form.History.forgetSaved();
         SetCaption(form);
         // The unsaved changes now belong to an unnamed card: the journal has to say so.
         noteChange(form);

@@ -80,7 +80,12 @@ void CardHistory::apply(const CardStep& step) {
     }
     for (const CardStep::Text& text : step.texts) {
         const auto place = static_cast<std::size_t>(text.number) - 1;
-        if (place < card_.texts.size()) card_.texts[place] = text.after;
+        if (place >= card_.texts.size()) continue;
+        // What an option has changed of the style since then stays.
+        const int changed = text.before.switches ^ text.after.switches;
+        CardDocument::Text& now = card_.texts[place];
+        now.text = text.after.text;
+        now.switches = (now.switches & ~changed) | (text.after.switches & changed);
     }
     if (step.partner) card_.partner = step.partner->after;
 }

@@ -52,6 +52,8 @@ class CardHistory {
     void adopt(CardDocument card) { card_ = std::move(card); }
     /// The card was saved as it was noted last.
     void markSaved() { savedAt_ = position_; }
+    /// The card's file is gone.
+    void forgetSaved() { savedAt_.reset(); }
     /// Whether the card is as it was saved last.
     [[nodiscard]] bool isSaved() const { return savedAt_ == position_; }
 

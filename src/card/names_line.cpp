@@ -72,7 +72,7 @@ void changePartnerId(Zevlin& form) {
     form.PartnerNumber = partner.number;
     ShowNames(form, NamesUpdate::Replace);
     // The names are part of the card even where the layout has no line for them.
-    if (!form.CardModified) SetMod(form);
+    if (!form.StepPending) SetMod(form);
 }
 
 std::string lineToShow(const Zevlin& form, NamesUpdate update) {

@@ -35,7 +35,7 @@ std::string describe(const CardStep& step) {
     return (isTyped ? "typing in " : "style of ") + nameOfText(text.number);
 }
 
-std::string caption(std::string verb, const CardStep* step) {
+std::string caption(const std::string& verb, const CardStep* step) {
     return step == nullptr ? verb : verb + " " + describe(*step);
 }
 
@@ -51,15 +51,15 @@ void offerSteps(Zevlin& form) {
     form.MRedo.Enabled = isOffered && form.History.toRedo() != nullptr;
 }
 
+int openText(const Zevlin& form) { return isEditing(form) ? form.TIndex : 0; }
+
 /// The text that is open is as it was until it is left.
-void noteWithoutOpenText(Zevlin& form, int open) {
+CardDocument cardWithoutOpenText(const Zevlin& form) {
     CardDocument card = documentOf(form);
     const auto& texts = form.History.card().texts;
-    const auto place = static_cast<std::size_t>(open) - 1;
-    if (open > 0 && place < texts.size()) card.texts.at(place) = texts[place];
-    form.History.note(std::move(card));
-    form.StepPending = open != 0;
-    nameSteps(form);
+    const auto place = static_cast<std::size_t>(openText(form)) - 1;
+    if (place < texts.size() && place < card.texts.size()) card.texts[place] = texts[place];
+    return card;
 }
 
 void showStep(Zevlin& form, const CardStep& step) {
@@ -67,7 +67,10 @@ void showStep(Zevlin& form, const CardStep& step) {
         if (form.AMark.exists(mark.number)) form.AMark[mark.number].Visible = mark.isSet;
     }
     for (const CardStep::Text& text : step.texts) {
-        if (form.AText.exists(text.number)) showField(form, text.number, text.after);
+        const auto place = static_cast<std::size_t>(text.number) - 1;
+        const auto& texts = form.History.card().texts;
+        if (form.AText.exists(text.number) && place < texts.size())
+            showField(form, text.number, texts[place]);
     }
     if (!step.partner) return;
     form.PartnerName = step.partner->after.name;
@@ -94,20 +97,26 @@ void beginHistory(Zevlin& form, bool isSaved) {
 
 void noteCardStep(Zevlin& form) {
     if (!isCardInUse(form)) {
-        const int open = isEditing(form) ? form.TIndex : 0;
+        const int open = openText(form);
         const bool isStillOpen = open != 0 && open == form.FieldOfStep;
         form.FieldOfStep = open;
-        if (form.StepPending && !isStillOpen) noteWithoutOpenText(form, open);
+        if (form.StepPending && !isStillOpen) {
+            form.History.note(cardWithoutOpenText(form));
+            form.StepPending = open != 0;
+            nameSteps(form);
+        }
     }
     offerSteps(form);
 }
 
 void noteSavedCard(Zevlin& form) {
+    // A card that is saved under another name may go without its partner.
+    form.StepPending = true;
     noteCardStep(form);
     form.History.markSaved();
 }
 
-void adoptDressedCard(Zevlin& form) { form.History.adopt(documentOf(form)); }
+void adoptDressedCard(Zevlin& form) { form.History.adopt(cardWithoutOpenText(form)); }
 
 void MUndo_Click(Zevlin& form) {
     procedure(form, "MUndo_Click", [&] {

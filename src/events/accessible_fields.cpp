@@ -51,8 +51,12 @@ std::vector<FieldId> fieldsInOrder(const Zevlin& form) {
         if (isNew && labelOf(form, field) != nullptr) order.push_back(field);
         return isNew;
     };
-    for (int item = 1; item > 0 && item <= form.TabTable.UBound(); item = form.TabTable[item])
-        if (!add(fieldOf(item))) break;
+    // The count of turns ends a circle of holes, too.
+    int item = 1;
+    for (int turns = form.TabTable.UBound(); turns > 0 && item > 0; --turns) {
+        if (item > form.TabTable.UBound() || !add(fieldOf(item))) break;
+        item = form.TabTable[item];
+    }
     for (int i = 1; i <= form.AText.UBound(); ++i) add({FieldId::Kind::Text, i});
     for (int i = 1; i <= form.AMark.UBound(); ++i) add({FieldId::Kind::CheckBox, i});
     return order;
@@ -98,13 +102,37 @@ void activate(Zevlin& form, FieldId field) {
     AText_Click(form, field.number);
 }
 
+/// The typed text with a UTF-8 text instead of the places from `start` to before `end` of what is
+/// said. What stays the same at both ends stays as it was typed: a suit's word is its suit.
+std::string edited(const SpokenText& spoken, int start, int end, std::string_view utf8) {
+    const std::string& said = spoken.text();
+    const auto size = static_cast<int>(said.size());
+    start = std::clamp(start, 0, size);
+    end = std::clamp(end, start, size);
+    const TypedAround whole = spoken.around(start, end);
+    std::string inserted =
+        toolkit::ansiFromTyped(utf8, {.before = whole.before, .after = whole.after});
+    const auto replaced = std::string_view(said).substr(static_cast<std::size_t>(start),
+                                                        static_cast<std::size_t>(end - start));
+    const auto head = std::ranges::mismatch(replaced, inserted).in1 - replaced.begin();
+    const std::string_view rest = replaced.substr(static_cast<std::size_t>(head));
+    inserted.erase(0, static_cast<std::size_t>(head));
+    const auto [last, lastInserted] =
+        std::mismatch(rest.rbegin(), rest.rend(), inserted.rbegin(), inserted.rend());
+    const auto tail = last - rest.rbegin();
+    inserted.erase(inserted.size() - static_cast<std::size_t>(tail));
+    const TypedAround left =
+        spoken.around(start + static_cast<int>(head), end - static_cast<int>(tail));
+    return left.before + inserted + left.after;
+}
+
 void replaceText(Zevlin& form, FieldId field, int start, int end, std::string_view utf8) {
     if (field.kind != FieldId::Kind::Text || !isWithinReach(form, field)) return;
     commitOpenField(form);
     const SpokenText spoken(typedTextOf(form, field.number));
     activate(form, field);
     toolkit::TextBox& box = openBox(form);
-    box.Text = spoken.replaced(start, end, toolkit::ansiFromTyped(utf8));
+    box.Text = edited(spoken, start, end, utf8);
     takeOverTyping(form, box);
     leaveField(form, box);
 }
@@ -117,7 +145,12 @@ toolkit::AccessibleCard accessibleCard(Zevlin& form) {
         .sections = [&form] { return sectionsOf(form); },
         .label = [&form](FieldId field) { return labelOf(form, field); },
         .name = nameOf,
-        .isSet = [&form](FieldId field) { return form.AMark[field.number].Visible; },
+        // Design mode shows all marks, set or not.
+        .isSet =
+            [&form](FieldId field) {
+                return !form.MShowShapes.Checked && form.AMark[field.number].Visible;
+            },
+        .isWithinReach = [&form](FieldId field) { return isWithinReach(form, field); },
         .text =
             [&form](FieldId field) { return SpokenText(typedTextOf(form, field.number)).text(); },
         .focused = [&form] { return focusedField(form); },

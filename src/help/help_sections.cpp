@@ -29,6 +29,8 @@ ENTERING TEXT
        * What you copied in one text area replaces all of the text in another one.  What you cut, or copied in another
          program, goes in at the blinking cursor.
   * Ctrl+Z restores the current text area to its previous contents and settings.  This is a one-level UNDO.
+       * With no text area open, Ctrl+Z takes back the last change of the card, then the one before, and so on,
+         and Ctrl+Y brings it back.  'Undo' and 'Redo' on the Edit menu tell what they would do.
   * To leave a text area, press TAB to go on to the next one, click somewhere else, or press ESC.
        * What you typed is kept, whichever way you leave.
 

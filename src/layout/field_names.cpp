@@ -1,5 +1,6 @@
 #include "layout/field_names.h"
 
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
@@ -21,7 +22,7 @@ Names readNames() {
     Names names;
     while (!rest.empty()) {
         const std::string_view line = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(line.size() + 1);
+        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
         const std::string_view name = line.substr(line.find(' ', line.find(' ') + 1) + 1);
         (line.starts_with("mark") ? names.marks : names.texts).push_back(name);
     }

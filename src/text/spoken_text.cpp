@@ -39,21 +39,22 @@ SpokenText::SpokenText(std::string_view typed) : typed_(typed) {
             continue;
         }
         const Origin origin{place, place + 2};
-        if (!text_.empty() && joinsWords(text_.back())) say(" ", origin);
+        // The blanks between words stand for nothing that was typed.
+        if (!text_.empty() && joinsWords(text_.back())) say(" ", {place, place});
         say(word, origin);
         place += 2;
-        if (place < typed.size() && joinsWords(typed[place])) say(" ", origin);
+        if (place < typed.size() && joinsWords(typed[place])) say(" ", {place, place});
     }
 }
 
-std::string SpokenText::replaced(int start, int end, std::string_view inserted) const {
+TypedAround SpokenText::around(int start, int end) const {
     const auto size = static_cast<int>(origins_.size());
     start = std::clamp(start, 0, size);
     end = std::clamp(end, start, size);
     const auto at = [this](int place) { return origins_[static_cast<std::size_t>(place)]; };
     const std::size_t from = start < size ? at(start).begin : typed_.size();
     const std::size_t to = end > start ? at(end - 1).end : from;
-    return typed_.substr(0, from) + std::string(inserted) + typed_.substr(to);
+    return {typed_.substr(0, from), typed_.substr(to)};
 }
 
 } // namespace zev

@@ -7,6 +7,12 @@
 
 namespace zev {
 
+/// A typed text before and behind a place.
+struct TypedAround {
+    std::string before;
+    std::string after;
+};
+
 class SpokenText {
   public:
     /// `typed`: single ampersands, suits as escapes.
@@ -14,9 +20,9 @@ class SpokenText {
 
     /// "5 hearts up" for "5^h up". A word is set off by blanks where there are none.
     [[nodiscard]] const std::string& text() const { return text_; }
-    /// The typed text with `inserted`, typed as well, instead of the places from `start` to before
-    /// `end` of what is said. A word of which any part goes, goes whole.
-    [[nodiscard]] std::string replaced(int start, int end, std::string_view inserted) const;
+    /// What is left of the typed text without the places from `start` to before `end` of what is
+    /// said. A word of which any part goes, goes whole.
+    [[nodiscard]] TypedAround around(int start, int end) const;
 
   private:
     std::string typed_;

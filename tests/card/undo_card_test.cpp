@@ -1,5 +1,6 @@
 #include "card/undo_card.h"
 
+#include "card/chooser_menu.h"
 #include "card/write_card.h"
 #include "card_form_test.h"
 #include "toolkit/base/key.h"
@@ -177,6 +178,63 @@ TEST_F(UndoCard, TakesBackThePartnersName) {
     EXPECT_EQ(form.AText[form.NamesField].Tag, "Jones");
     redo();
     EXPECT_EQ(form.PartnerNumber, "123");
+}
+
+TEST_F(UndoCard, APartnerWhoWasLeftBehindAtASaveDoesntComeBack) {
+    start();
+    openCard("Jones", {.partner = "\"Joe\",\"1\""});
+    answer(toolkit::Answer::No);
+    answerName("Smith");
+    choose("File>Save As...");
+    ASSERT_EQ(form.PartnerName, "");
+    clickMark(1);
+    undo();
+    EXPECT_EQ(form.PartnerName, "");
+    EXPECT_FALSE(hasStar());
+}
+
+TEST_F(UndoCard, KeepsTheStyleThatAnOptionHasGivenSince) {
+    start();
+    choose("Options>Boldface");
+    typeInto(1, "one");
+    choose("Options>Boldface");
+    undo();
+    redo();
+    EXPECT_EQ(form.AText[1].Tag, "one");
+    EXPECT_FALSE(form.AText[1].Font.Bold);
+    choose("Options>Left-Justify all text");
+    undo();
+    redo();
+    EXPECT_EQ(form.AText[1].Alignment, toolkit::Alignment::Left);
+}
+
+TEST_F(UndoCard, AnOptionTakesNoStepFromATextThatIsOpen) {
+    start();
+    openCard("Jones", {.texts = {"1,\"old\",0"}});
+    clickText(1);
+    typeKey('I', toolkit::shift::ctrl, "\x09");
+    choose("Options>Boldface");
+    typeKey(toolkit::key::escape, 0, "\x1b");
+    clickMark(1);
+    undo();
+    EXPECT_TRUE(hasStar());
+    undo();
+    EXPECT_FALSE(form.AText[1].Font.Italic);
+}
+
+TEST_F(UndoCard, ACardWhoseFileIsDeletedIsSavedNowhere) {
+    start();
+    openCard("Jones", {});
+    clickMark(1);
+    answerChooser([this] {
+        form.FileList.ListIndex = 0;
+        ASSERT_EQ(form.FileList.List, std::vector<std::string>{"Jones"});
+        mpopDelete_Click(form);
+        typeKey(toolkit::key::escape, 0, "\x1b");
+    });
+    choose("File>Save As...");
+    undo();
+    EXPECT_TRUE(hasStar());
 }
 
 TEST_F(UndoCard, IsTraced) {

@@ -138,7 +138,7 @@ class ScreenReaderTest(whole_program.WholeProgramTest):
         fields[description].queryEditableText().setTextContents("4\u2665 up")
         hears("object:text-changed:insert", description)
         self.assertEqual(fields[description].queryText().getText(0, -1), "4 hearts up")
-        one_notrump = "Notrump opening bids, 1 notrump from"
+        one_notrump = "Notrump opening bids, 1 notrump, lowest points"
         self.act(fields[one_notrump])
         hears("object:state-changed:focused", one_notrump)
         program.press("1", "5", "Escape")

@@ -5,7 +5,7 @@
 namespace zev::test {
 namespace {
 
-constexpr std::string_view oneNotrump = "Notrump opening bids, 1 notrump from";
+constexpr std::string_view oneNotrump = "Notrump opening bids, 1 notrump, lowest points";
 constexpr std::string_view transfer = "Notrump opening bids, 2 diamonds transfer to hearts";
 
 using toolkit::test::accessibleField;

@@ -96,6 +96,33 @@ TEST_F(AccessibleFields, ATextIsSaidAndReplacedWithItsSuits) {
     EXPECT_EQ(card.text(area(2)), "5 & 4 hearts up");
 }
 
+TEST_F(AccessibleFields, WhatStaysOfATextKeepsItsSuits) {
+    startCard();
+    card.replace(area(2), 0, 0, "5\u2665");
+    card.replace(area(2), 0, 8, "5 hearts up");
+    EXPECT_EQ(form.AText[2].Tag, "5^h up");
+    card.replace(area(2), 0, 11, "4 hearts up");
+    EXPECT_EQ(form.AText[2].Tag, "4^h up");
+    card.replace(area(2), 8, 8, "\u2660");
+    EXPECT_EQ(form.AText[2].Tag, "4^h ^s up");
+}
+
+TEST_F(AccessibleFields, ACircleOfHolesInTheWalkEnds) {
+    startCard();
+    form.TabTable.set(1, 2);
+    form.TabTable.set(2, 2);
+    form.AText[1].Width = form.AText[2].Width = 0;
+    EXPECT_FALSE(card.sections().empty());
+}
+
+TEST_F(AccessibleFields, DesignModeShowsMarksThatArentSet) {
+    startCard();
+    toolkit::test::typeKey('D', toolkit::shift::shift | toolkit::shift::ctrl);
+    ASSERT_TRUE(form.AMark[1].Visible);
+    EXPECT_FALSE(card.isSet(box(1)));
+    EXPECT_FALSE(card.isWithinReach(box(1)));
+}
+
 TEST_F(AccessibleFields, ReplacingATextLeavesTheOneThatIsOpenCommitted) {
     startCard();
     card.activate(area(2));

@@ -24,7 +24,7 @@ TEST_F(FieldNames, EachFieldOfTheInstalledCardHasOneOfItsOwn) {
 TEST(FieldNamesOfTheCard, SayWhatIsPrintedThere) {
     EXPECT_EQ(nameOfMark(12), "Notrump opening bids, 2 clubs Stayman");
     EXPECT_EQ(nameOfMark(187), "Leads versus suits, ace of A K x");
-    EXPECT_EQ(nameOfText(4), "Notrump opening bids, 1 notrump from");
+    EXPECT_EQ(nameOfText(4), "Notrump opening bids, 1 notrump, lowest points");
 }
 
 TEST(FieldNamesOfTheCard, WhatAPlayerHasAddedIsToldByKindAndNumber) {

@@ -7,6 +7,11 @@ namespace {
 
 std::string said(std::string_view typed) { return SpokenText(typed).text(); }
 
+std::string replaced(const SpokenText& text, int start, int end, const std::string& inserted) {
+    const TypedAround around = text.around(start, end);
+    return around.before + inserted + around.after;
+}
+
 TEST(SpokenText, SaysSuitsAsWords) {
     EXPECT_EQ(said("from 4^h up"), "from 4 hearts up");
     EXPECT_EQ(said("^C"), "clubs");
@@ -22,24 +27,31 @@ TEST(SpokenText, LeavesEverythingElse) {
 }
 
 TEST(SpokenText, IsReplacedWhole) {
-    EXPECT_EQ(SpokenText("4^h").replaced(0, 8, "5^s"), "5^s");
-    EXPECT_EQ(SpokenText("").replaced(0, 0, "new"), "new");
-    EXPECT_EQ(SpokenText("old").replaced(0, 3, ""), "");
+    EXPECT_EQ(replaced(SpokenText("4^h"), 0, 8, "5^s"), "5^s");
+    EXPECT_EQ(replaced(SpokenText(""), 0, 0, "new"), "new");
+    EXPECT_EQ(replaced(SpokenText("old"), 0, 3, ""), "");
 }
 
 TEST(SpokenText, IsReplacedInPart) {
     const SpokenText text("4^h up"); // 4 hearts up
-    EXPECT_EQ(text.replaced(0, 1, "5"), "5^h up");
-    EXPECT_EQ(text.replaced(9, 11, "down"), "4^h down");
-    EXPECT_EQ(text.replaced(11, 11, "!"), "4^h up!");
+    EXPECT_EQ(replaced(text, 0, 1, "5"), "5^h up");
+    EXPECT_EQ(replaced(text, 9, 11, "down"), "4^h down");
+    EXPECT_EQ(replaced(text, 11, 11, "!"), "4^h up!");
     // A word of a suit goes whole.
-    EXPECT_EQ(text.replaced(3, 5, "^s"), "4^s up");
-    EXPECT_EQ(text.replaced(1, 8, ""), "4 up");
+    EXPECT_EQ(replaced(text, 3, 5, "^s"), "4^s up");
+    EXPECT_EQ(replaced(text, 1, 8, ""), "4 up");
+}
+
+TEST(SpokenText, TheBlanksOfItsWordsStandForNothing) {
+    const SpokenText text("4^hx"); // 4 hearts x
+    EXPECT_EQ(replaced(text, 8, 8, "!"), "4^h!x");
+    EXPECT_EQ(replaced(text, 8, 9, ""), "4^hx");
+    EXPECT_EQ(replaced(text, 1, 2, ""), "4^hx");
 }
 
 TEST(SpokenText, PlacesOutsideAreItsEnds) {
-    EXPECT_EQ(SpokenText("abc").replaced(-5, 99, "x"), "x");
-    EXPECT_EQ(SpokenText("abc").replaced(99, 1, "x"), "abcx");
+    EXPECT_EQ(replaced(SpokenText("abc"), -5, 99, "x"), "x");
+    EXPECT_EQ(replaced(SpokenText("abc"), 99, 1, "x"), "abcx");
 }
 
 } // namespace

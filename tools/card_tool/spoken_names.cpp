@@ -20,7 +20,8 @@ Names readNames(const std::filesystem::path& path) {
     for (std::string line; std::getline(file, line);) {
         ++number;
         if (line.empty() || line.front() == '#') continue;
-        const std::string place = path.filename().string() + ":" + std::to_string(number) + ": ";
+        std::string place = path.filename().string();
+        place += ":" + std::to_string(number) + ": ";
         const auto colon = line.find(": ");
         if (colon == std::string::npos) throw Failure(place + "no name");
         const std::string name = line.substr(colon + 2);

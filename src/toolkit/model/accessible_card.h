@@ -36,6 +36,8 @@ struct AccessibleCard {
     std::function<const Label*(FieldId)> label{}; ///< nullptr for a field that is gone
     std::function<std::string(FieldId)> name{};
     std::function<bool(FieldId)> isSet{};
+    /// Whether it can be changed just now.
+    std::function<bool(FieldId)> isWithinReach{};
     std::function<std::string(FieldId)> text{};
     /// The field that the keys would act on.
     std::function<std::optional<FieldId>()> focused{};

@@ -134,9 +134,9 @@ void WindowImplementation::push() {
     for (const auto& panel : panels_) panel->push();
     pushStacking();
     for (const auto& overlay : overlays_) overlay->push();
+    nameOpenBox();
     pushFocus();
     form_.pushVisible();
-    nameOpenBox();
     tellScreenReaders(card_);
     pushing_ = false;
 }

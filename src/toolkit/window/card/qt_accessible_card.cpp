@@ -38,6 +38,7 @@ void AccessibleCardWidget::forget() const {
 
 void AccessibleCardWidget::build() const {
     if (!card_.accessible().sections || fieldCount_ == card_.accessible().fieldCount()) return;
+    const bool isFirst = fieldCount_ < 0;
     forget();
     fieldCount_ = card_.accessible().fieldCount();
     for (const AccessibleSection& section : card_.accessible().sections()) {
@@ -54,6 +55,10 @@ void AccessibleCardWidget::build() const {
             told.isSet = source.isSet(told.field);
     }
     focused_ = source.focused();
+    if (!isFirst) {
+        QAccessibleEvent event(&card_, QAccessible::ObjectReorder);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 int AccessibleCardWidget::childCount() const {
@@ -118,14 +123,17 @@ void AccessibleCardWidget::tellField(Told& told) {
     QAccessible::updateAccessibility(&event);
 }
 
-/// A text that is open has a box of its own, which tells its focus itself.
+/// A text that is open has a box of its own, which tells its focus itself, but not where it goes on
+/// to the next text.
 void AccessibleCardWidget::tellFocus() {
     const auto focused = card_.accessible().focused();
-    if (std::exchange(focused_, focused) == focused || !focused) return;
-    if (focused->kind != FieldId::Kind::CheckBox) return;
-    QAccessibleInterface* field = interfaceOf(*focused);
-    if (field == nullptr) return;
-    QAccessibleEvent event(field, QAccessible::Focus);
+    const auto before = std::exchange(focused_, focused);
+    if (before == focused || !focused) return;
+    const bool isBox = focused->kind == FieldId::Kind::Text;
+    if (isBox && (!before || before->kind != FieldId::Kind::Text)) return;
+    QAccessibleInterface* part = isBox ? QAccessibleWidget::focusChild() : interfaceOf(*focused);
+    if (part == nullptr) return;
+    QAccessibleEvent event(part, QAccessible::Focus);
     QAccessible::updateAccessibility(&event);
 }
 

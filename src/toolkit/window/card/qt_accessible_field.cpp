@@ -106,6 +106,7 @@ QAccessible::State AccessibleFieldPart::state() const {
         return state;
     }
     state.focusable = true;
+    state.disabled = !card_.accessible().isWithinReach(field_.id);
     state.focused = card_.accessible().focused() == field_.id;
     state.editable = isText();
     state.checkable = !isText();

@@ -49,8 +49,6 @@ class AccessibleFieldPart : public QAccessibleInterface,
   public:
     AccessibleFieldPart(CardWidget& card, AccessibleSectionPart& section, AccessibleField field);
 
-    [[nodiscard]] FieldId field() const { return field_.id; }
-
     [[nodiscard]] bool isValid() const override;
     [[nodiscard]] QObject* object() const override { return nullptr; }
     [[nodiscard]] QWindow* window() const override;

@@ -2,6 +2,7 @@
 
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
+#include <QtWidgets/QApplication>
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/picture/qt_picture.h"
@@ -148,12 +149,15 @@ void CardWidget::mouseReleaseEvent(QMouseEvent* event) {
                        others == 0 ? CardMouse::Held::None : CardMouse::Held::Others);
 }
 
+/// A message box keeps mouse and keys from the card, and screen readers, too.
+bool CardWidget::isReachable() { return QApplication::activeModalWidget() == nullptr; }
+
 void CardWidget::activate(FieldId field) {
-    dispatcher_.run([&] { parts_.accessible.activate(field); });
+    if (isReachable()) dispatcher_.run([&] { parts_.accessible.activate(field); });
 }
 
 void CardWidget::replaceText(FieldId field, int start, int end, const std::string& utf8) {
-    dispatcher_.run([&] { parts_.accessible.replace(field, start, end, utf8); });
+    if (isReachable()) dispatcher_.run([&] { parts_.accessible.replace(field, start, end, utf8); });
 }
 
 void CardWidget::wheelEvent(QWheelEvent* event) { wheel_.turn(*event); }

@@ -35,6 +35,7 @@ class CardWidget : public QWidget {
 
   private:
     [[nodiscard]] CardPointer pointerOf(const QMouseEvent& event) const;
+    [[nodiscard]] static bool isReachable();
     void pushPlace();
     void pushPicture();
     void pushWaitPointer();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QApplication>
 
@@ -135,10 +136,12 @@ std::size_t MenuBar::addRow(QMenu& menu, std::size_t row) {
 
 void MenuBar::connectRow(QAction& action, std::size_t row) {
     connect(&action, &QAction::triggered, this, [this, row] {
-        // A screen reader leaves them open.
+        if (QApplication::activePopupWidget() == nullptr) return runIfOffered(row);
+        // A row pressed by a screen reader leaves its menus open, and the reader waits for an
+        // answer.
         while (QWidget* menu = QApplication::activePopupWidget())
             if (!menu->close()) break;
-        run(row);
+        QTimer::singleShot(0, this, [this, row] { runIfOffered(row); });
     });
 }
 
@@ -165,6 +168,11 @@ void MenuBar::tellSelection(const HighlightedRow& highlighted) {
     if (told_ == selection || !parts_.form->MenuSelect) return;
     told_ = selection;
     dispatcher_.run([&] { parts_.form->MenuSelect(selection); });
+}
+
+/// A row stays after its menu has closed, and a screen reader can press it whatever has come since.
+void MenuBar::runIfOffered(std::size_t row) {
+    if (mayAct(row) && QApplication::activeModalWidget() == nullptr) run(row);
 }
 
 void MenuBar::run(std::size_t row) {

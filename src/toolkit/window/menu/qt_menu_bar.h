@@ -61,6 +61,7 @@ class MenuBar : public QMenuBar {
     [[nodiscard]] bool mayAct(std::size_t row) const;
     [[nodiscard]] std::optional<std::size_t> menuAround(std::size_t row) const;
     [[nodiscard]] bool hasMenu(std::size_t row) const;
+    void runIfOffered(std::size_t row);
     void run(std::size_t row);
     void describe(QAction& action, std::size_t row);
     void tellSelection(const HighlightedRow& highlighted);
