@@ -122,10 +122,12 @@ TEST_F(FormLoad, TheTraceBeginsWithDocumentsVersionHelpAndThePath) {
 TEST_F(FormLoad, APictureInTheDataFolderReplacesTheCardsButNotTheLayout) {
     toolkit::savePng(toolkit::Bitmap(2000, 2000, toolkit::rgb(1, 2, 3)),
                      dataFile("Convention card.gif"));
+    const std::string layout = dataFileContent("Definitions.Ini");
     start();
     EXPECT_EQ(form.PBase.width(), 2000);
     EXPECT_EQ(form.P1.Width, 1000 * 15);
     EXPECT_EQ(form.AMark.UBound(), 1);
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), layout);
     EXPECT_EQ(toolkit::test::grabCard().pixel(500, 500), toolkit::rgb(1, 2, 3));
 }
 

@@ -329,6 +329,17 @@ TEST_F(Chooser, ARefusedNameEndsTheCommandLikeACancel) {
     EXPECT_FALSE(form.P3.Visible);
 }
 
+TEST_F(Chooser, ARefusedNameOpensABlankCard) {
+    start();
+    openCard("Jones", {});
+    answerName("a/b");
+    choose("File>Open...");
+    EXPECT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(form.CardName, "");
+    EXPECT_EQ(form.Caption, "Zevlin  (unnamed)");
+    EXPECT_FALSE(form.CardModified);
+}
+
 TEST_F(Chooser, ARefusedNameLeavesTheCardItsNameAndItsStar) {
     start();
     openCard("Jones", {});

@@ -9,6 +9,7 @@
 #include "form/zevlin.h"
 #include "support/form_test.h"
 #include "toolkit/base/key.h"
+#include "toolkit/base/path_text.h"
 #include "toolkit/base/program_overrides.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_keys.h"
@@ -231,6 +232,25 @@ class HelpWindow : public zev::test::FormTest {
         window->update();
     }
 };
+
+TEST_F(HelpWindow, EnterAndEscapeGiveTheCardTheKeysAgain) {
+    open();
+    toolkit::test::typeKey(toolkit::key::enter, 0, "\r");
+    EXPECT_FALSE(form.THelp.Visible);
+    EXPECT_EQ(form.ActiveControl, &form.P1);
+    toolkit::test::typeKey(toolkit::key::f1);
+    ASSERT_TRUE(form.THelp.Visible);
+    toolkit::test::typeKey(toolkit::key::escape, 0, "\x1b");
+    EXPECT_FALSE(form.THelp.Visible);
+    EXPECT_EQ(form.ActiveControl, &form.P1);
+}
+
+TEST_F(HelpWindow, NamesTheFolderOfThisRun) {
+    open();
+    const std::string line =
+        "       These files are in this folder: " + toolkit::displayText(dataFolder);
+    EXPECT_NE(std::ranges::find(form.THelp.List, line), form.THelp.List.end()) << line;
+}
 
 TEST_F(HelpWindow, TheLastLinesAndTheLinkCanBeReached) {
     open();

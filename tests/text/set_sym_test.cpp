@@ -86,6 +86,9 @@ TEST_F(SetSymbols, SecondOfTwoEscapesInARowStaysVisibleUnderItsSymbol) {
     EXPECT_EQ(form.AText[1].Caption, "\xA0\xA0\xA0^s");
     EXPECT_EQ(shownSymbols(1), 2);
     EXPECT_EQ(form.SText[2].Caption, "\xAA");
+    // Over the escape that is seen.
+    EXPECT_NEAR(form.SText[2].Left - form.SText[1].Left, widthIn(1, "\xA0\xA0\xA0"), 1);
+    EXPECT_NEAR(form.SText[2].Width, widthIn(1, "^s"), 1);
 }
 
 TEST_F(SetSymbols, CapitalLetterShowsItsSuitAndStaysInTagAndFile) {

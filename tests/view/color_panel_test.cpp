@@ -276,6 +276,8 @@ TEST_F(ColorPanel, CancelGoesBackToTheAcblColours) {
     startWith();
     open();
     clickOn(form.ColorSample[2]);
+    // What stands in other colours meanwhile gets the scheme's again.
+    form.AMark[1].ForeColor = form.AText[1].ForeColor = toolkit::rgb(1, 2, 3);
     cancel();
     EXPECT_EQ(form.ColorScheme, 0);
     EXPECT_TRUE(form.mcolorscheme[0].Checked);
