@@ -11,6 +11,16 @@ namespace {
 
 using Names = std::map<std::string, std::string>;
 
+/// Takes one line over; what is wrong with it, empty if nothing is.
+std::string takeLine(const std::string& line, Names& names, std::set<std::string>& taken) {
+    const auto colon = line.find(": ");
+    if (colon == std::string::npos) return "no name";
+    const std::string name = line.substr(colon + 2);
+    if (!taken.insert(name).second) return "two fields have the name " + name;
+    const std::string field = line.substr(0, colon);
+    return names.emplace(field, name).second ? "" : "the field has two names: " + field;
+}
+
 Names readNames(const std::filesystem::path& path) {
     std::ifstream file(path);
     if (!file) throw Failure("can't read " + path.string());
@@ -20,14 +30,9 @@ Names readNames(const std::filesystem::path& path) {
     for (std::string line; std::getline(file, line);) {
         ++number;
         if (line.empty() || line.front() == '#') continue;
-        std::string place = path.filename().string();
-        place += ":" + std::to_string(number) + ": ";
-        const auto colon = line.find(": ");
-        if (colon == std::string::npos) throw Failure(place + "no name");
-        const std::string name = line.substr(colon + 2);
-        if (!taken.insert(name).second) throw Failure(place + "two fields have the name " + name);
-        if (!names.emplace(line.substr(0, colon), name).second)
-            throw Failure(place + "the field has two names: " + line.substr(0, colon));
+        const std::string fault = takeLine(line, names, taken);
+        if (fault.empty()) continue;
+        throw Failure(path.filename().string() + ":" + std::to_string(number) + ": " + fault);
     }
     return names;
 }
