@@ -10,13 +10,11 @@
 #include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "text/escapes.h"
+#include "toolkit/base/files.h"
 #include "toolkit/base/write_file.h"
 
 namespace zev {
 namespace {
-
-/// Whether a job or a rebuild uses the controls just now: what they hold isn't the player's card.
-bool isCardAway(const Zevlin& form) { return form.Printing || form.Carried || form.Journal.isHeld; }
 
 std::string journalText(const Zevlin& form) {
     RescuedCard card;
@@ -35,8 +33,7 @@ bool hasUnsavedChanges(const Zevlin& form) {
 
 /// The file may have been deleted, alone or with its folder.
 bool holds(const JournalState& journal, const std::string& text) {
-    std::error_code ignored;
-    return text == journal.written && std::filesystem::exists(journal.file, ignored);
+    return text == journal.written && toolkit::isThere(journal.file);
 }
 
 void writeJournal(Zevlin& form) {

@@ -24,11 +24,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool isThere(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(path, ignored);
-}
-
 bool isEmpty(const fs::path& path) {
     std::error_code failed;
     return fs::file_size(path, failed) == 0 && !failed;
@@ -54,7 +49,7 @@ Journals findJournals() {
             journals.hasLivingCopies = true;
         else if (isEmpty(file))
             discardJournal(file);
-        else if (isThere(file))
+        else if (toolkit::isThere(file))
             journals.dead.push_back(std::move(rescue));
     }
     std::ranges::sort(journals.dead, {}, [](const Rescue& rescue) { return timeOf(rescue.file); });

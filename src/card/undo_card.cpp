@@ -8,6 +8,7 @@
 #include "card/history.h"
 #include "form/modified.h"
 #include "form/trace.h"
+#include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "layout/field_names.h"
 #include "text/edit_box.h"
@@ -16,10 +17,8 @@
 namespace zev {
 namespace {
 
-/// A job, a rebuild and design mode use the fields for something else than the player's card.
-bool isCardInUse(const Zevlin& form) {
-    return form.Printing || form.Carried || form.Journal.isHeld || form.MShowShapes.Checked;
-}
+/// Design mode shows all marks, set or not.
+bool isCardInUse(const Zevlin& form) { return isCardAway(form) || form.MShowShapes.Checked; }
 
 /// What the player did, as the menu tells it behind "Undo".
 std::string describe(const CardStep& step) {

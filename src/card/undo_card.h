@@ -1,8 +1,6 @@
 // Undo and redo of the card: each mark, each text with its style, back to the card's opening.
 #pragma once
 
-#include <string>
-
 namespace zev {
 
 struct Zevlin;

@@ -4,8 +4,8 @@
 
 #include "design/design_field.h"
 #include "form/field_values.h"
-#include "form/marks_state.h"
 #include "form/zevlin.h"
+#include "layout/layout_file.h"
 #include "text/edit_box.h"
 #include "toolkit/base/color.h"
 #include "toolkit/base/number_text.h"

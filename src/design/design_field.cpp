@@ -1,8 +1,8 @@
 #include "design/design_field.h"
 
 #include "form/field_values.h"
-#include "form/marks_state.h"
 #include "form/zevlin.h"
+#include "layout/layout_file.h"
 
 namespace zev {
 namespace {

@@ -102,37 +102,15 @@ void activate(Zevlin& form, FieldId field) {
     AText_Click(form, field.number);
 }
 
-/// The typed text with a UTF-8 text instead of the places from `start` to before `end` of what is
-/// said. What stays the same at both ends stays as it was typed: a suit's word is its suit.
-std::string edited(const SpokenText& spoken, int start, int end, std::string_view utf8) {
-    const std::string& said = spoken.text();
-    const auto size = static_cast<int>(said.size());
-    start = std::clamp(start, 0, size);
-    end = std::clamp(end, start, size);
-    const TypedAround whole = spoken.around(start, end);
-    std::string inserted =
-        toolkit::ansiFromTyped(utf8, {.before = whole.before, .after = whole.after});
-    const auto replaced = std::string_view(said).substr(static_cast<std::size_t>(start),
-                                                        static_cast<std::size_t>(end - start));
-    const auto head = std::ranges::mismatch(replaced, inserted).in1 - replaced.begin();
-    const std::string_view rest = replaced.substr(static_cast<std::size_t>(head));
-    inserted.erase(0, static_cast<std::size_t>(head));
-    const auto [last, lastInserted] =
-        std::mismatch(rest.rbegin(), rest.rend(), inserted.rbegin(), inserted.rend());
-    const auto tail = last - rest.rbegin();
-    inserted.erase(inserted.size() - static_cast<std::size_t>(tail));
-    const TypedAround left =
-        spoken.around(start + static_cast<int>(head), end - static_cast<int>(tail));
-    return left.before + inserted + left.after;
-}
-
 void replaceText(Zevlin& form, FieldId field, int start, int end, std::string_view utf8) {
     if (field.kind != FieldId::Kind::Text || !isWithinReach(form, field)) return;
     commitOpenField(form);
     const SpokenText spoken(typedTextOf(form, field.number));
+    const TypedAround around = spoken.around(start, end);
     activate(form, field);
     toolkit::TextBox& box = openBox(form);
-    box.Text = edited(spoken, start, end, utf8);
+    box.Text = spoken.replaced(
+        start, end, toolkit::ansiFromTyped(utf8, {.before = around.before, .after = around.after}));
     takeOverTyping(form, box);
     leaveField(form, box);
 }

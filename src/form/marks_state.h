@@ -13,13 +13,6 @@
 
 namespace zev {
 
-/// Characters of the mark font.
-namespace mark_symbol {
-constexpr char check = '\xFC';  // 252
-constexpr char square = 'n';    // 110
-constexpr char circle = '\xA1'; // 161
-} // namespace mark_symbol
-
 struct MarksState {
     toolkit::ControlArray<toolkit::Label> AMark; ///< a mark is set exactly when it is visible
     std::vector<toolkit::Color> MarkColors;      ///< present colour of each AMark

@@ -6,6 +6,7 @@
 
 #include "card/card_file.h"
 #include "form/zevlin.h"
+#include "toolkit/base/files.h"
 #include "toolkit/base/folder.h"
 #include "toolkit/base/number_text.h"
 #include "toolkit/window/shell_folders.h"
@@ -35,14 +36,9 @@ void makeStateFolder() {
     fs::permissions(folder, fs::perms::owner_all, ignored);
 }
 
-bool isThere(const fs::path& path) {
-    std::error_code ignored;
-    return fs::exists(path, ignored);
-}
-
 /// The lock's file may have been deleted, alone or with its folder.
 bool holdsLock(const JournalState& journal) {
-    return journal.lock.isHeld() && isThere(lockOf(journal.file));
+    return journal.lock.isHeld() && toolkit::isThere(lockOf(journal.file));
 }
 
 } // namespace
@@ -68,18 +64,20 @@ void openJournal(Zevlin& form) {
     constexpr int mostCopies = 1000;
     for (int number = 1; number <= mostCopies; ++number) {
         const fs::path file = fileOf(number);
-        if (isThere(file) || !form.Journal.lock.take(lockOf(file))) continue;
+        if (toolkit::isThere(file) || !form.Journal.lock.take(lockOf(file))) continue;
         form.Journal.file = file;
         // Another copy of the program may have made the file, and ended, before this one had the
         // lock.
-        if (!isThere(file)) return;
+        if (!toolkit::isThere(file)) return;
     }
     throw toolkit::RunTimeError(toolkit::Failure::PermissionDenied);
 }
 
+bool isCardAway(const Zevlin& form) { return form.Printing || form.Carried || form.Journal.isHeld; }
+
 bool isAnotherCopyAtWork(const Zevlin& form) {
     return std::ranges::any_of(journalFiles(), [&form](const fs::path& file) {
-        if (!isThere(lockOf(file))) return false;
+        if (!toolkit::isThere(lockOf(file))) return false;
         if (form.Journal.lock.isHeld() && file == form.Journal.file) return false;
         return !toolkit::FileLock().take(lockOf(file));
     });

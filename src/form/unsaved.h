@@ -11,6 +11,9 @@ struct Zevlin;
 /// The card has changed, or the text of the open field: the journal has it within two seconds.
 void noteChange(Zevlin& form);
 
+/// Whether a job or a rebuild uses the controls just now: what they hold isn't the player's card.
+[[nodiscard]] bool isCardAway(const Zevlin& form);
+
 /// Gives the journal a file that no other copy of the program has, and locks it until this one
 /// ends. Failures as those of files.
 void openJournal(Zevlin& form);

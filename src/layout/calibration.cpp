@@ -5,6 +5,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/ink.h"
+#include "layout/layout_file.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/text/draw_text.h"
 

@@ -11,6 +11,13 @@
 
 namespace zev {
 
+/// Characters of the mark font.
+namespace mark_symbol {
+constexpr char check = '\xFC';  // 252
+constexpr char square = 'n';    // 110
+constexpr char circle = '\xA1'; // 161
+} // namespace mark_symbol
+
 /// Ink offsets of a layout in its file's order: kind 1..3, in it size 1..3, in it left and bottom.
 constexpr int offsetCount = 18;
 using FileOffsets = std::array<float, offsetCount>;

@@ -10,13 +10,14 @@
 #include "layout/initialize_run.h"
 #include "layout/layout_file.h"
 #include "layout/version.h"
+#include "toolkit/base/ansi.h"
 
 namespace zev {
 namespace {
 
-constexpr int circleCode = 161;
-constexpr int checkCode = 252;
-constexpr int squareCode = 110;
+constexpr int checkCode = toolkit::code(mark_symbol::check);
+constexpr int squareCode = toolkit::code(mark_symbol::square);
+constexpr int circleCode = toolkit::code(mark_symbol::circle);
 
 /// How large a mark is drawn, and which corrections go with it.
 struct MarkDress {

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 
 #include "text/escapes.h"
+#include "toolkit/base/ansi.h"
 
 namespace zev {
 namespace {
@@ -14,14 +14,18 @@ constexpr std::array<std::string_view, 4> suitWords{"clubs", "diamonds", "hearts
 /// The word for the escape at that place; empty if there is none.
 std::string_view wordAt(std::string_view text, std::size_t place) {
     if (place + 1 >= text.size() || text[place] != '^') return {};
-    const auto letter =
-        static_cast<char>(std::tolower(static_cast<unsigned char>(text[place + 1])));
-    const auto suit = suitLetters.find(letter);
+    const auto suit = suitLetters.find(toolkit::lowerCase(text[place + 1]));
     return suit == std::string_view::npos ? std::string_view{} : suitWords[suit];
 }
 
 bool joinsWords(char character) {
-    return std::isalnum(static_cast<unsigned char>(character)) != 0 || character == '^';
+    const auto isWithin = [character](char first, char last) {
+        return toolkit::code(first) <= toolkit::code(character) &&
+               toolkit::code(character) <= toolkit::code(last);
+    };
+    // From there on the code page has letters with their marks.
+    return isWithin('0', '9') || isWithin('a', 'z') || isWithin('A', 'Z') ||
+           isWithin('\xC0', '\xFF') || character == '^';
 }
 
 } // namespace
@@ -55,6 +59,21 @@ TypedAround SpokenText::around(int start, int end) const {
     const std::size_t from = start < size ? at(start).begin : typed_.size();
     const std::size_t to = end > start ? at(end - 1).end : from;
     return {typed_.substr(0, from), typed_.substr(to)};
+}
+
+std::string SpokenText::replaced(int start, int end, std::string_view typed) const {
+    const auto size = static_cast<int>(text_.size());
+    start = std::clamp(start, 0, size);
+    end = std::clamp(end, start, size);
+    const auto before = text_.begin() + start;
+    const auto behind = text_.begin() + end;
+    const auto [head, newHead] = std::mismatch(before, behind, typed.begin(), typed.end());
+    const auto [tail, newTail] =
+        std::mismatch(std::reverse_iterator(behind), std::reverse_iterator(head), typed.rbegin(),
+                      std::reverse_iterator(newHead));
+    const TypedAround left = around(static_cast<int>(head - text_.begin()),
+                                    static_cast<int>(tail.base() - text_.begin()));
+    return left.before + std::string(newHead, newTail.base()) + left.after;
 }
 
 } // namespace zev

@@ -23,6 +23,9 @@ class SpokenText {
     /// What is left of the typed text without the places from `start` to before `end` of what is
     /// said. A word of which any part goes, goes whole.
     [[nodiscard]] TypedAround around(int start, int end) const;
+    /// The typed text with another one in the place of these. What stays the same at both ends
+    /// stays as it was typed: a suit's word is its suit.
+    [[nodiscard]] std::string replaced(int start, int end, std::string_view typed) const;
 
   private:
     std::string typed_;

@@ -1,8 +1,11 @@
 #include "card/undo_card.h"
 
+#include <algorithm>
+
 #include "card/chooser_menu.h"
+#include "card/journal.h"
+#include "card/journal_fixture.h"
 #include "card/write_card.h"
-#include "card_form_test.h"
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
@@ -12,7 +15,7 @@ namespace {
 
 using toolkit::test::typeKey;
 
-class UndoCard : public CardFormTest {
+class UndoCard : public JournalTest {
   protected:
     static void undo() { typeKey('Z', toolkit::shift::ctrl); }
     static void redo() { typeKey('Y', toolkit::shift::ctrl); }
@@ -20,6 +23,9 @@ class UndoCard : public CardFormTest {
         int count = 0;
         for (int i = 1; i <= form.SText.UBound(); ++i) count += form.SText[i].Visible ? 1 : 0;
         return count;
+    }
+    [[nodiscard]] auto journaledMarks() const {
+        return std::ranges::count(content().document.marks, true);
     }
     [[nodiscard]] bool hasStar() const { return form.Caption.ends_with(" *"); }
 };
@@ -132,13 +138,14 @@ TEST_F(UndoCard, AnotherCardBeginsWithoutSteps) {
     EXPECT_FALSE(form.CardModified);
 }
 
-TEST_F(UndoCard, OutlastsAZoomAPrintAndAnOption) {
+TEST_F(UndoCard, OutlastsAZoomACopyAndAnOption) {
     start();
     openCard("Jones", {});
     clickMark(1);
     typeInto(1, "one");
     choose("View>" + form.MZoomIn.Caption);
     choose("Options>Boldface");
+    choose("File>Copy to Clipboard");
     EXPECT_EQ(form.AText[1].Tag, "one");
     undo();
     EXPECT_EQ(form.AText[1].Tag, "");
@@ -251,12 +258,15 @@ TEST_F(UndoCard, TheJournalHoldsWhatWasTakenBack) {
     openCard("Jones", {});
     clickMark(1);
     clickMark(2);
+    flushJournal(form);
+    EXPECT_EQ(journaledMarks(), 2);
     undo();
-    EXPECT_TRUE(form.CardModified);
+    flushJournal(form);
+    EXPECT_EQ(journaledMarks(), 1);
     undo();
     // Nothing is left that could be lost.
     EXPECT_FALSE(form.CardModified);
-    EXPECT_TRUE(form.Journal.written.empty());
+    EXPECT_FALSE(isThere());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "events/edit_field.h"
 #include "events/mark_clicks.h"
+#include "layout/layout_file.h"
 #include "text/edit_test.h"
 #include "toolkit/base/twips.h"
 #include "toolkit/testing/test_keys.h"

@@ -7,9 +7,8 @@ namespace {
 
 std::string said(std::string_view typed) { return SpokenText(typed).text(); }
 
-std::string replaced(const SpokenText& text, int start, int end, const std::string& inserted) {
-    const TypedAround around = text.around(start, end);
-    return around.before + inserted + around.after;
+std::string replaced(const SpokenText& text, int start, int end, std::string_view inserted) {
+    return text.replaced(start, end, inserted);
 }
 
 TEST(SpokenText, SaysSuitsAsWords) {
@@ -19,6 +18,7 @@ TEST(SpokenText, SaysSuitsAsWords) {
     EXPECT_EQ(said("4^s: minors"), "4 spades: minors");
     EXPECT_EQ(said("2^hT"), "2 hearts T");
     EXPECT_EQ(said("(^h)"), "(hearts)");
+    EXPECT_EQ(said("caf\xE9^h\xC9t"), "caf\xE9 hearts \xC9t");
 }
 
 TEST(SpokenText, LeavesEverythingElse) {
@@ -47,6 +47,20 @@ TEST(SpokenText, TheBlanksOfItsWordsStandForNothing) {
     EXPECT_EQ(replaced(text, 8, 8, "!"), "4^h!x");
     EXPECT_EQ(replaced(text, 8, 9, ""), "4^hx");
     EXPECT_EQ(replaced(text, 1, 2, ""), "4^hx");
+}
+
+TEST(SpokenText, WhatStaysTheSameStaysAsItWasTyped) {
+    const SpokenText text("4^h up, 5^s"); // 4 hearts up, 5 spades
+    EXPECT_EQ(replaced(text, 0, 22, "4 hearts up, 6 spades"), "4^h up, 6^s");
+    EXPECT_EQ(replaced(text, 0, 22, "4 hearts up, 5 spades"), "4^h up, 5^s");
+    EXPECT_EQ(replaced(SpokenText("aa"), 0, 2, "aaa"), "aaa");
+    EXPECT_EQ(replaced(SpokenText("aaa"), 0, 3, "aa"), "aa");
+}
+
+TEST(SpokenText, TellsWhatStandsAroundAPlace) {
+    const TypedAround around = SpokenText("4^h up").around(2, 5);
+    EXPECT_EQ(around.before, "4");
+    EXPECT_EQ(around.after, " up");
 }
 
 TEST(SpokenText, PlacesOutsideAreItsEnds) {

@@ -3,19 +3,16 @@
 #include <cmath>
 
 #include "card_tool/units.h"
+#include "layout/layout_file.h"
+#include "toolkit/base/ansi.h"
 
 namespace card_tool {
-namespace {
-
-constexpr char32_t squareCode = 110;
-
-} // namespace
-
 MarkCell markCell(const Typefaces& faces, MarkKind kind) {
     const Typeface& face = markFace(faces, kind);
     const auto code = static_cast<char32_t>(markSymbol(kind));
     // A check leans out of its box; a filled square covers it.
-    const char32_t middleCode = kind == MarkKind::Check ? squareCode : code;
+    const char32_t middleCode =
+        kind == MarkKind::Check ? toolkit::code(zev::mark_symbol::square) : code;
     const QPointF middle = face.outline(middleCode, 1).boundingRect().center();
     return {face.advance(code), face.height(), middle.x(), face.ascent() + middle.y()};
 }

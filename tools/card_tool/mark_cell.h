@@ -5,6 +5,8 @@
 
 #include "card_tool/sheet.h"
 #include "card_tool/typeface.h"
+#include "layout/layout_file.h"
+#include "toolkit/base/ansi.h"
 
 namespace card_tool {
 
@@ -20,7 +22,8 @@ constexpr int picturedTwips = 15;
 
 /// The character of the mark font, and the face that the program sets it in.
 [[nodiscard]] constexpr int markSymbol(MarkKind kind) {
-    return kind == MarkKind::Check ? 252 : 161;
+    return toolkit::code(kind == MarkKind::Check ? zev::mark_symbol::check
+                                                 : zev::mark_symbol::circle);
 }
 [[nodiscard]] inline const Typeface& markFace(const Typefaces& faces, MarkKind kind) {
     return kind == MarkKind::Check ? faces.marksBold : faces.marksRegular;

@@ -33,6 +33,11 @@ std::string readFile(const fs::path& path) {
     }
 }
 
+bool isThere(const fs::path& path) {
+    std::error_code ignored;
+    return fs::exists(path, ignored);
+}
+
 void requireFile(const fs::path& path) {
     std::error_code error;
     const fs::file_status status = fs::status(path, error);

@@ -12,6 +12,8 @@ namespace toolkit {
 /// way, 57, and 7 above 256 MiB.
 [[nodiscard]] std::string readFile(const std::filesystem::path& path);
 
+/// Whether there is anything of that name; a folder that can't be read has nothing.
+[[nodiscard]] bool isThere(const std::filesystem::path& path);
 /// Does nothing where the file is there. Failures 53, 70, 75 for a folder.
 void requireFile(const std::filesystem::path& path);
 

@@ -59,8 +59,8 @@ struct Control {
     Color BackColor = white;
     /// Higher is nearer to the front among the controls of one container.
     int Stack = 0;
-    std::string
-        AccessibleName; ///< for screen readers, where no caption says it; set before the window
+    /// For screen readers, where no caption says it; set before the window is made.
+    std::string AccessibleName;
 
     std::function<void()> GotFocus;
     std::function<void()> LostFocus;
