@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <iterator>
 #include <ostream>
 #include <sstream>
 #include <string>
@@ -46,7 +45,8 @@ struct Rendering {
 };
 
 inline Rendering renderingIn(const std::filesystem::path& pgm) {
-    std::istringstream file(toolkit::readFile(pgm));
+    const std::string content = toolkit::readFile(pgm);
+    std::istringstream file(content);
     std::string kind;
     std::string comment;
     Rendering rendering;
@@ -56,7 +56,7 @@ inline Rendering renderingIn(const std::filesystem::path& pgm) {
     file >> rendering.width >> rendering.height >> most;
     file.get();
     rendering.channels = kind == "P6" ? 3 : 1;
-    rendering.pixels.assign(std::istreambuf_iterator<char>(file), {});
+    rendering.pixels = content.substr(static_cast<std::size_t>(file.tellg()));
     return rendering;
 }
 

@@ -75,7 +75,6 @@ void build(const std::vector<std::string>& arguments) {
     const path folder = arguments.at(3);
     std::filesystem::create_directories(folder);
     writeLayouts(sheet, faces, folder);
-    writePictures(sheet, folder);
     writeArtwork(sheet, folder);
     writeFieldNames(sheet, folder);
     write(folder / "names.txt",
@@ -84,6 +83,8 @@ void build(const std::vector<std::string>& arguments) {
         const card_tool::SampleCard sample = card_tool::readSampleCard(arguments[at]);
         write(folder / (sample.name + ".zev"), card_tool::cardText(sample, sheet));
     }
+    // Last, as it takes longest: what is wrong with the rest is told at once.
+    writePictures(sheet, folder);
 }
 
 void previewTo(const std::vector<std::string>& arguments) {
