@@ -57,10 +57,10 @@ void readOptionsFile(Zevlin& form, InitializeRun& run) {
         return;
     }
     run.step = 300;
-    std::string content = toolkit::readFile(*file);
+    toolkit::FileHandle opened(*file, toolkit::FileMode::Read);
     run.step = 310;
     Traceit(form, "Initialize step 310: ZEV.Ini opened successfully in " + folder);
-    readOptions(form, std::move(content));
+    readOptions(form, toolkit::readFile(std::move(opened)));
     run.step = 400;
     form.OptionsVersion = form.VersionSeen;
     form.mpopBold.Enabled = !form.mBold.Checked;
@@ -87,19 +87,28 @@ void choosePrinter(Zevlin& form) {
     // A printer that is still to be asked for will be this one.
     if (form.PrinterPending) return;
     if (!form.mPrintAlt.Checked || form.Myprinter.Devicename.empty()) return;
-    ignoringFailures([&] {
-        const std::string& name = form.Myprinter.Devicename;
-        // A printer that is chosen already keeps its paper and orientation.
-        if (form.CurrentPrinter.DeviceName != name) {
-            const auto names = toolkit::printerNames();
-            if (std::ranges::find(names, name) == names.end()) return;
-            toolkit::Printer printer = toolkit::printerNamed(name);
-            if (printer.hdc == 0) return;
-            form.CurrentPrinter = std::move(printer);
-        }
-        takeRememberedTray(form);
-        readPrinterFacts(form);
-    });
+    const std::string& name = form.Myprinter.Devicename;
+    // A printer that is chosen already keeps its paper and orientation.
+    if (form.CurrentPrinter.DeviceName != name) {
+        const auto names = toolkit::printerNames();
+        if (std::ranges::find(names, name) == names.end()) return;
+        toolkit::Printer printer = toolkit::printerNamed(name);
+        if (printer.hdc == 0) return;
+        form.CurrentPrinter = std::move(printer);
+    }
+    takeRememberedTray(form);
+    readPrinterFacts(form);
+}
+
+void takePrinter(Zevlin& form, InitializeRun& run) {
+    run.step = 550;
+    try {
+        choosePrinter(form);
+    } catch (const std::exception&) {
+        // A rebuild goes on with the printer that the program has.
+        if (!form.Carried) throw;
+        traceFailedInitialize(form, toolkit::currentFailure(), run.step);
+    }
 }
 
 void sizePicture(Zevlin& form) {
@@ -160,8 +169,7 @@ void runSteps(Zevlin& form, InitializeRun& run) {
     run.step = 100;
     begin(form);
     takeOptions(form, run);
-    run.step = 550;
-    choosePrinter(form);
+    takePrinter(form, run);
     run.step = 600;
     sizePicture(form);
     run.step = 700;

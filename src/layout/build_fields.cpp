@@ -105,7 +105,9 @@ void buildFromFile(Zevlin& form, InitializeRun& run) {
     run.step = 1480;
     Traceit(form, "Initialize step 1480: about to open Definitions.Ini in " +
                       toolkit::displayText(form.DataFolder));
-    std::string content = toolkit::readFile(file);
+    toolkit::FileHandle opened(file, toolkit::FileMode::Read);
+    run.step = 1500;
+    std::string content = toolkit::readFile(std::move(opened));
     buildFrom(form, run, content);
     form.LayoutInMemory = std::move(content);
 }

@@ -1,8 +1,14 @@
+#include <functional>
+
+#include "app/initialize.h"
 #include "app/layouts.h"
 #include "form/settings.h"
 #include "layout/layout_text.h"
 #include "layout/write_layout.h"
+#include "toolkit/print/printer.h"
+#include "toolkit/print/printers.h"
 #include "toolkit/window/shell_folders.h"
+#include "view/rebuild.h"
 
 namespace zev::test {
 namespace {
@@ -11,11 +17,17 @@ namespace fs = std::filesystem;
 
 class InitializeFailure : public FormTest {
   protected:
-    /// The trace line and the box of a start that ends; the player answers Cancel.
+    ~InitializeFailure() override { toolkit::overridePrinterQuestion({}); }
+
+    /// The trace line and the box of a start that ends.
     void expectEnd(const std::string& failure, int step, toolkit::Answer choice) {
+        expectEndOf([&] { start(); }, failure, step, choice);
+    }
+    void expectEndOf(const std::function<void()>& run, const std::string& failure, int step,
+                     toolkit::Answer choice) {
         announceError("Error in Initialize " + failure);
         answer(choice);
-        EXPECT_TRUE(failsProgram([&] { start(); }));
+        EXPECT_TRUE(failsProgram(run));
         EXPECT_TRUE(
             traced("Error in Initialize " + failure + ", after step " + std::to_string(step)));
         ASSERT_EQ(boxes.size(), 1U);
@@ -55,6 +67,8 @@ TEST_F(InitializeFailure, OptionsThatCannotBeReadAreOfferedForDeletion) {
     fs::remove(dataFile("ZEV.Ini"));
     fs::create_directory(dataFile("ZEV.Ini"));
     expectEnd("75, Path/File access error", 300, toolkit::Answer::Ok);
+    EXPECT_FALSE(
+        traced("Initialize step 310: ZEV.Ini opened successfully in " + dataFolder.string()));
     EXPECT_EQ(boxes[0].text,
               "The 'ZEV.Ini' file in '" + dataFolder.string() +
                   "' contains errors at Step#: 300\n\nThe best way to try to fix this is to delete "
@@ -70,14 +84,17 @@ TEST_F(InitializeFailure, OptionsAtFaultAreDeletedOnOk) {
     // Opening succeeds, reading doesn't.
     fs::remove(dataFile("ZEV.Ini"));
     fs::create_symlink("/proc/self/mem", dataFile("ZEV.Ini"));
-    expectEnd("57, Device I/O error", 300, toolkit::Answer::Ok);
+    expectEnd("57, Device I/O error", 310, toolkit::Answer::Ok);
+    EXPECT_TRUE(
+        traced("Initialize step 310: ZEV.Ini opened successfully in " + dataFolder.string()));
+    EXPECT_NE(boxes[0].text.find("' contains errors at Step#: 310\n"), std::string::npos);
     EXPECT_FALSE(fs::exists(fs::symlink_status(dataFile("ZEV.Ini"))));
 }
 
 TEST_F(InitializeFailure, OptionsAtFaultStayOnCancel) {
     fs::remove(dataFile("ZEV.Ini"));
     fs::create_symlink("/proc/self/mem", dataFile("ZEV.Ini"));
-    expectEnd("57, Device I/O error", 300, toolkit::Answer::Cancel);
+    expectEnd("57, Device I/O error", 310, toolkit::Answer::Cancel);
     EXPECT_TRUE(fs::exists(fs::symlink_status(dataFile("ZEV.Ini"))));
 }
 
@@ -86,6 +103,62 @@ TEST_F(InitializeFailure, ABadLayoutIsDeletedOnOk) {
     expectEnd("13, Type mismatch", 1500, toolkit::Answer::Ok);
     EXPECT_EQ(boxes[0].text, layoutText(1500));
     EXPECT_FALSE(fs::exists(dataFile("Definitions.Ini")));
+}
+
+/// Makes the fields anew, as at a start, over a layout that was put there since.
+TEST_F(InitializeFailure, ALayoutThatOpensAndCannotBeRead) {
+    start();
+    fs::remove(dataFile("Definitions.Ini"));
+    fs::create_symlink("/proc/self/mem", dataFile("Definitions.Ini"));
+    expectEndOf([&] { Initialize(form); }, "57, Device I/O error", 1500, toolkit::Answer::Cancel);
+    EXPECT_EQ(boxes[0].text, layoutText(1500));
+}
+
+TEST_F(InitializeFailure, ALayoutThatCannotBeOpened) {
+    start();
+    fs::remove(dataFile("Definitions.Ini"));
+    fs::create_directory(dataFile("Definitions.Ini"));
+    expectEndOf([&] { Initialize(form); }, "75, Path/File access error", 1480,
+                toolkit::Answer::Cancel);
+}
+
+TEST_F(InitializeFailure, APrinterThatFailsIsBlamedOnTheOptionsThatNameIt) {
+    toolkit::Printer first = toolkit::defaultPrinter();
+    first.DeviceName = "First";
+    toolkit::Printer second = first;
+    second.DeviceName = "Second";
+    toolkit::overridePrinters({first, second});
+    toolkit::overridePrinterQuestion([first](const std::string& name) {
+        if (name == "Second") throw toolkit::RunTimeError(toolkit::Failure::PrinterError);
+        return first;
+    });
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Second\r\n");
+    expectEnd("482, Printer error", 550, toolkit::Answer::Ok);
+    EXPECT_NE(boxes[0].text.find("' contains errors at Step#: 550\n"), std::string::npos);
+    EXPECT_FALSE(fs::exists(dataFile("ZEV.Ini")));
+}
+
+TEST_F(InitializeFailure, APrinterThatFailsInARebuildIsTracedAndLeavesTheCard) {
+    // Its name is too long for the options, which so keep the other one's.
+    const std::string longName = "The first of the two printers";
+    toolkit::Printer first = toolkit::defaultPrinter();
+    first.DeviceName = longName;
+    toolkit::Printer second = first;
+    second.DeviceName = "Second";
+    second.hdc = 0;
+    toolkit::overridePrinters({first, second});
+    writeOptions("Zoom=5\r\nPrintAlt=1\r\nPrinter=Second\r\n");
+    start();
+    form.AMark[1].Visible = true;
+    toolkit::overridePrinterQuestion([](const std::string& /*name*/) -> toolkit::Printer {
+        throw toolkit::RunTimeError(toolkit::Failure::PrinterError);
+    });
+    announceError("Error in Initialize 482, Printer error");
+    RebuildScreenImage(form);
+    EXPECT_TRUE(traced("Error in Initialize 482, Printer error, after step 550"));
+    EXPECT_TRUE(boxes.empty());
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_EQ(form.CurrentPrinter.DeviceName, longName);
 }
 
 TEST_F(InitializeFailure, ALayoutThatEndsInItsEnvironment) {

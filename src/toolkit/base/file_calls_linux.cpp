@@ -32,6 +32,16 @@ int openWith(const std::filesystem::path& path, int flags) {
     return uninterrupted([&] { return ::open(path.c_str(), flags | O_CLOEXEC, newFile); });
 }
 
+/// A folder could be opened, and only not be read.
+int openToRead(const std::filesystem::path& path) {
+    const int file = openWith(path, O_RDONLY);
+    struct stat opened {};
+    if (file == -1 || ::fstat(file, &opened) != 0 || !S_ISDIR(opened.st_mode)) return file;
+    ::close(file);
+    errno = EISDIR;
+    return -1;
+}
+
 bool isStillNamed(int file, const std::filesystem::path& path) {
     struct stat opened {};
     struct stat named {};
@@ -60,7 +70,7 @@ int openBeside(const std::filesystem::path& path) {
 int openFile(const std::filesystem::path& path, FileMode mode) {
     switch (mode) {
     case FileMode::Read:
-        return openWith(path, O_RDONLY);
+        return openToRead(path);
     case FileMode::Replace:
         return openWith(path, O_WRONLY | O_CREAT | O_TRUNC);
     case FileMode::Append:

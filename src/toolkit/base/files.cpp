@@ -6,7 +6,6 @@
 
 #include "toolkit/base/error.h"
 #include "toolkit/base/file_calls.h"
-#include "toolkit/base/file_handle.h"
 
 namespace toolkit {
 namespace {
@@ -20,8 +19,9 @@ constexpr std::size_t largestContent = std::size_t{256} * 1024 * 1024;
 
 } // namespace
 
-std::string readFile(const fs::path& path) {
-    FileHandle file(path, FileMode::Read);
+std::string readFile(const fs::path& path) { return readFile(FileHandle(path, FileMode::Read)); }
+
+std::string readFile(FileHandle file) {
     std::array<char, chunkSize> buffer{};
     std::string content;
     while (true) {

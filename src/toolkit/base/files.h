@@ -6,11 +6,15 @@
 #include <filesystem>
 #include <string>
 
+#include "toolkit/base/file_handle.h"
+
 namespace toolkit {
 
 /// Whole content. Failures 53, 70, 75 for a folder in its place, 76 for a missing folder on the
 /// way, 57, and 7 above 256 MiB.
 [[nodiscard]] std::string readFile(const std::filesystem::path& path);
+/// The same of a file that is open already. Failures 57, and 7.
+[[nodiscard]] std::string readFile(FileHandle file);
 
 /// Whether there is anything of that name; a folder that can't be read has nothing.
 [[nodiscard]] bool isThere(const std::filesystem::path& path);

@@ -100,6 +100,7 @@ std::vector<std::string> printerNames() {
 }
 
 Printer printerNamed(std::string_view name) {
+    if (const auto& answer = overrides().answer) return answer(std::string(name));
     if (const Printer* printer = overridden(name)) return *printer;
     if (name == printToPdfName) return printToPdf();
     return overrides().printers.empty() ? systemPrinter(name) : Printer{};
