@@ -7,6 +7,7 @@
 #include "form/zevlin.h"
 #include "toolkit/base/ansi.h"
 #include "toolkit/base/key.h"
+#include "toolkit/base/number_text.h"
 
 namespace zev {
 namespace {
@@ -76,7 +77,7 @@ void TSaveAs_Change(Zevlin& form) {
 }
 
 void TSaveAs_GotFocus(Zevlin& form) {
-    trapped(form, "Error in TSaveAs_GotFocus: #", [&] { selectName(form); });
+    procedure(form, "TSaveAs_GotFocus", [&] { selectName(form); });
 }
 
 void TSaveAs_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
@@ -89,7 +90,7 @@ void TSaveAs_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
 }
 
 void TSaveAs_KeyPress(Zevlin& form, int& KeyAscii) {
-    trapped(form, "Error in TSaveAs_KeyPress: #", [&] {
+    procedure(form, "TSaveAs_KeyPress", [&] {
         if (KeyAscii == toolkit::key::enter) {
             KeyAscii = 0;
             // The key that opened the chooser may still be down.
@@ -102,23 +103,24 @@ void TSaveAs_KeyPress(Zevlin& form, int& KeyAscii) {
     });
 }
 
-void LSaveAs_MouseDown(Zevlin& form, toolkit::MouseArguments& /*mouse*/) {
-    trapped(form, "Error in LSaveAs_MouseDown: #", [&] { form.SetFocus(form.TSaveAs); });
+void LSaveAs_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
+    procedure(form, "LSaveAs_MouseDown", toolkit::numberText(mouse.Button),
+              [&] { form.SetFocus(form.TSaveAs); });
 }
 
 void FileList_Click(Zevlin& form) {
-    trapped(form, "Error in FileList_Click: #", [&] { takeSelectedName(form); });
+    procedure(form, "FileList_Click", [&] { takeSelectedName(form); });
 }
 
 void FileList_DblClick(Zevlin& form) {
-    trapped(form, "Error in FileList_DblClick: #", [&] {
+    procedure(form, "FileList_DblClick", [&] {
         takeSelectedName(form);
         BOK_Click(form);
     });
 }
 
 void FileList_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
-    trapped(form, "Error in FileList_KeyDown: #", [&] {
+    procedure(form, "FileList_KeyDown", [&] {
         if (key.KeyCode != toolkit::key::enter) return;
         key = {};
         if (toolkit::isKeyRepeat()) return;
@@ -128,7 +130,7 @@ void FileList_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
 }
 
 void FileList_KeyPress(Zevlin& form, int& KeyAscii) {
-    trapped(form, "Error in FileList_KeyPress: #", [&] {
+    procedure(form, "FileList_KeyPress", [&] {
         if (KeyAscii != toolkit::key::escape) return;
         KeyAscii = 0;
         BCancel_Click(form);

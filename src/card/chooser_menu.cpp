@@ -137,7 +137,7 @@ void mpopRename_Click(Zevlin& form) {
 }
 
 void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
-    trapped(form, "Error in FileList_MouseDown: #", [&] {
+    procedure(form, "FileList_MouseDown", toolkit::numberText(mouse.Button), [&] {
         if (mouse.Button != toolkit::button::right || form.FileList.PointedIndex < 0) return;
         form.FileList.ListIndex = form.FileList.PointedIndex;
         takeSelectedName(form);

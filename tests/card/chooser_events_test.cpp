@@ -33,12 +33,30 @@ TEST_F(ChooserEvents, AClickedCardIsNamedAndNotYetTaken) {
     EXPECT_EQ(chosen, "Brown");
 }
 
+TEST_F(ChooserEvents, AreTracedByTheirNames) {
+    form.Trace.clear();
+    inChooser([&] {
+        clickOn(form.LSaveAs);
+        typeText("x");
+        clickRow(1);
+        typeKey('Z');
+        clickRow(2, toolkit::button::right);
+        leave();
+    });
+    EXPECT_EQ(popups, 1);
+    for (const char* line : {"TSaveAs_GotFocus", "LSaveAs_MouseDown 1", "TSaveAs_KeyPress",
+                             "TsaveAs_Change", "FileList_MouseDown 1", "FileList_Click",
+                             "FileList_KeyDown", "FileList_MouseDown 2", "FileList_KeyPress"})
+        EXPECT_TRUE(traced(line)) << line;
+}
+
 TEST_F(ChooserEvents, ADoubleClickTakesTheCard) {
     inChooser([&] {
         const auto point = toolkit::test::pointOnRow(form.FileList, 2);
         toolkit::test::doubleClick(point.x, point.y);
     });
     EXPECT_EQ(chosen, "Clark");
+    EXPECT_TRUE(traced("FileList_DblClick"));
     EXPECT_TRUE(traced("BOK_Click"));
 }
 
