@@ -116,7 +116,7 @@ void setFonts(Zevlin& form) {
     form.SuitFontName = "Symbol";
     form.AText[0].Caption.clear();
     form.AMark[0].Caption.clear();
-    form.BackColor = form.FormBackColor;
+    form.BackColor = form.LSaveAs.BackColor = form.FormBackColor;
     form.SuitChars = "\xA7\xA8\xA9\xAA";
     form.PrintMethod = primaryPrintMethod;
 }

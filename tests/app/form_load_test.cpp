@@ -51,6 +51,7 @@ TEST_F(FormLoad, TheStateOfAFreshStart) {
     EXPECT_FALSE(form.Initializing);
     EXPECT_FALSE(form.TraceOn);
     EXPECT_EQ(form.BackColor, form.FormBackColor);
+    EXPECT_EQ(form.LSaveAs.BackColor, form.FormBackColor);
 }
 
 TEST_F(FormLoad, WithoutAZoomInTheOptionsTheCardStandsAtStepFour) {
