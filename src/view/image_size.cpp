@@ -109,12 +109,14 @@ void drawPicture(Zevlin& form, toolkit::PictureBox& target, const CardPicture& s
 void SetImageSize(Zevlin& form, toolkit::PictureBox& target, const CardPicture& source, float scale,
                   Rescale rescale) {
     Traceit(form, "SetImageSize " + flagsText(scale, rescale));
-    trapped(form, "Error in SetImageSize " + flagsText(scale, rescale) + " #", [&] {
+    try {
         if (rescale == Rescale::IfChanged && scale == form.LastImageScale) return;
         form.LastImageScale = shownScale(scale);
         drawPicture(form, target, source, scale);
         Traceit(form, "SetImageSize results: 1, 1, 1, 1");
-    });
+    } catch (const std::exception&) {
+        Traceit(form, "Error in SetImageSize " + flagsText(scale, rescale));
+    }
 }
 
 void StartPicture(Zevlin& form) {

@@ -113,6 +113,20 @@ TEST_F(ImageSize, APictureThatWasBegunIsTakenWhereItFits) {
     EXPECT_FALSE(form.PictureStarted);
 }
 
+TEST_F(ImageSize, AFailureIsTracedWithTheScaleAndTheFlagsAlone) {
+    start();
+    form.ZoomLevel = 6;
+    StartPicture(form);
+    std::promise<toolkit::Bitmap> failed;
+    failed.set_exception(
+        std::make_exception_ptr(toolkit::RunTimeError(toolkit::Failure::OutOfMemory)));
+    form.PictureStarted->picture = failed.get_future();
+    announceError("Error in SetImageSize ");
+    RestoreBackgroundPicture(form, Rescale::IfChanged);
+    EXPECT_TRUE(traced("Error in SetImageSize 0.6, False, False"));
+    EXPECT_EQ(form.LastImageScale, 0.6F);
+}
+
 TEST_F(ImageSize, NoPictureIsBegunThatNobodyWants) {
     start();
     RestoreBackgroundPicture(form, Rescale::IfChanged);
