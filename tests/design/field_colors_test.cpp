@@ -50,8 +50,14 @@ TEST_F(FieldColors, ThePresentColourIsChecked) {
 
 TEST_F(FieldColors, AColourNotAmongTheThreeLeavesAllUnchecked) {
     design();
-    form.AMark[2].ForeColor = toolkit::rgb(255, 0, 0);
-    EXPECT_EQ(menuOf(form.AMark[2]), "...");
+    // A new field's red is brighter than the layout's.
+    choose("Design>Red");
+    addField();
+    ASSERT_EQ(form.AMark.UBound(), 5);
+    EXPECT_EQ(menuOf(form.AMark[5]), "...");
+    EXPECT_EQ(form.PopupIndex, 5);
+    EXPECT_EQ(menuOf(form.AMark[2]), ".X.");
+    EXPECT_EQ(menuOf(form.AMark[5]), "...");
 }
 
 TEST_F(FieldColors, AChosenColourIsTheFieldsOwn) {

@@ -4,6 +4,7 @@
 #include "layout/save_layout.h"
 #include "layout/write_layout.h"
 #include "toolkit/window/screen.h"
+#include "view/rebuild.h"
 
 namespace zev::test {
 namespace {
@@ -33,6 +34,18 @@ TEST_F(BuildFields, ALayoutOfAnotherScreenIsCorrectedByWhatTheFontsDifferIn) {
     EXPECT_FLOAT_EQ(form.AText[2].Left,
                     100 * 12 + 17 * 12 * 12.0F / 15 - form.FontOffsets[3][3][1]);
     EXPECT_FLOAT_EQ(form.AText[2].Top, 400 * 12 + 18 * 12 * 12.0F / 15 - form.FontOffsets[3][3][2]);
+}
+
+TEST_F(BuildFields, ASmallCircleOnTheUsualScreenIsCorrectedAsTheMediumOneThatIsDrawn) {
+    writeLayout(replaced(writtenAt(fewFields(), "12,19200"), zeroOffsets, someOffsets));
+    answer(toolkit::Answer::No);
+    start();
+    ASSERT_EQ(form.MarkSizes[4], 1);
+    EXPECT_EQ(form.AMark[4].Font.Size, form.MarkFontSize[2]);
+    // Circle, size 2: values 9 and 10.
+    const auto& own = form.FontOffsets[2][2];
+    EXPECT_FLOAT_EQ(form.AMark[4].Left, 400 * 15 + 9 * 15 * 15.0F / 12 - own[1]);
+    EXPECT_FLOAT_EQ(form.AMark[4].Top, 100 * 15 + 10 * 15 * 15.0F / 12 - own[2]);
 }
 
 TEST_F(BuildFields, TheLayoutOfAnotherScreenIsWrittenAnewForThisOne) {
@@ -89,13 +102,16 @@ TEST_F(BuildFields, TheTabTableIsTaken) {
     EXPECT_EQ(form.TabTable[1001], 1);
 }
 
-TEST_F(BuildFields, TheSymbolTemplateIsAsWideAsAHeartInTheSuitFont) {
+TEST_F(BuildFields, TheSymbolTemplateIsAsWideAsAHeartInTheSuitFontAndAsHighAsTheTextTemplate) {
     writeLayout(fewFields());
     start();
     EXPECT_EQ(form.SText.UBound(), 0);
     EXPECT_EQ(form.SText[0].Font.Name, "Symbol");
     EXPECT_EQ(form.SText[0].Font.Size, 11);
     EXPECT_EQ(form.SText[0].Width, toolkit::textWidth(form.SText[0].Font, "\xA9"));
+    form.AText[0].Height = 345;
+    RebuildScreenImage(form);
+    EXPECT_EQ(form.SText[0].Height, 345);
 }
 
 TEST_F(BuildFields, TheMeasuringFontBeginsAsTheSuits) {

@@ -359,6 +359,26 @@ TEST_F(Zoom, UnsavedChangesNameAndFlagComeThroughAndNoFileIsLeft) {
     EXPECT_FALSE(fs::exists(dataFile("$$Tempcard.zev")));
 }
 
+TEST_F(Zoom, ATemporaryCardOfACrashGivesNothingToTheCard) {
+    start();
+    clickMark(1);
+    clickText(1);
+    toolkit::test::typeText("ours");
+    typeKey(key::escape);
+    writeCard("$$Tempcard", "'Program version: 2.0.0\r\n\"Stale\",\"1\"\r\n4\r\n1,0,0\r\n2,1,0\r\n"
+                            "3,1,0\r\n4,1,0\r\n2\r\n1,\"stale\",0\r\n2,\"stale\",0\r\n");
+    zoomIn();
+    expectStep(6);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_FALSE(form.AMark[2].Visible);
+    EXPECT_EQ(form.AText[1].Tag, "ours");
+    EXPECT_EQ(form.AText[2].Tag, "");
+    EXPECT_EQ(form.PartnerName, "");
+    EXPECT_EQ(form.CardName, "");
+    EXPECT_TRUE(form.CardModified);
+    EXPECT_FALSE(fs::exists(dataFile("$$Tempcard.zev")));
+}
+
 TEST_F(Zoom, TheStampKeepsItsText) {
     startAtStep(5);
     form.Timestamp.Caption = "as it was";
