@@ -1,6 +1,7 @@
 #include "layout/renew_layout.h"
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
 #include "form/options.h"
@@ -21,11 +22,15 @@
 namespace zev {
 namespace {
 
+std::optional<std::filesystem::path> findInstalled(const Zevlin& form) {
+    return toolkit::findFile(toolkit::programFolder(),
+                             std::string(layoutFileName) + "." +
+                                 toolkit::numberText(installedLayout(form.TwipsPerPixel)));
+}
+
 /// Copies, rather than lets the layout be missing for a moment: then it would be a first run's.
-void takeInstalled(Zevlin& form, const std::filesystem::path& layout) {
-    const auto installed = toolkit::findFile(
-        toolkit::programFolder(), std::string(layoutFileName) + "." +
-                                      toolkit::numberText(installedLayout(form.TwipsPerPixel)));
+void takeInstalled(Zevlin& form, const std::filesystem::path& layout,
+                   const std::optional<std::filesystem::path>& installed) {
     if (!installed) return;
     toolkit::copyFile(layout, toolkit::resolveFile(form.DataFolder, replacedLayoutName));
     toolkit::copyFile(*installed, layout);
@@ -42,12 +47,15 @@ bool renew(Zevlin& form) {
     const auto layout = toolkit::findFile(form.DataFolder, layoutFileName);
     if (!layout) return false;
     const std::string content = toolkit::readFile(*layout);
+    const auto installed = findInstalled(form);
+    // Most players have that one, and to digest its fields would take thirty times as long.
+    if (installed && toolkit::readFile(*installed) == content) return false;
     if (isUntouchedFormerLayout(content)) {
-        takeInstalled(form, *layout);
+        takeInstalled(form, *layout, installed);
         return false;
     }
     if (comparedVersion(content) != formerCardVersion || !isFirstStart(form)) return false;
-    if (isUpdateWanted()) takeInstalled(form, *layout);
+    if (isUpdateWanted()) takeInstalled(form, *layout, installed);
     return true;
 }
 

@@ -154,6 +154,14 @@ TEST_F(RenewLayout, AChangedOneIsNotOfferedWhereThisVersionHasRunBefore) {
     EXPECT_EQ(dataFileContent("Definitions.Ini"), changed());
 }
 
+TEST_F(RenewLayout, StaysWhereItIsTheInstalledOne) {
+    toolkit::writeFile(programFolder / "Definitions.Ini.15", former());
+    writeLayout(former());
+    start();
+    EXPECT_EQ(dataFileContent("Definitions.Ini"), former());
+    EXPECT_FALSE(fs::exists(dataFile("Definitions.old")));
+}
+
 TEST_F(RenewLayout, StaysWhereTheInstalledOneIsMissing) {
     fs::remove(programFolder / "Definitions.Ini.15");
     writeLayout(former());
