@@ -77,7 +77,7 @@ void CheckPointShapes(Zevlin& form) {
     // By its lock a start of another copy knows that the layout isn't one that a dead copy left.
     ignoringFailures([&] { openJournal(form); });
     const bool setAside = trappedAndNoted(form, "Error in CheckPointShapes ", layoutFailure, [&] {
-        if (old) toolkit::deleteFile(*old);
+        if (old) keepSetAside(form, *old);
         form.LayoutFileAside = true;
         // It must be on the disk before another file gets the layout's name.
         toolkit::replaceByRename(*present, form.DataFolder / setAsideName);

@@ -1,6 +1,8 @@
 // Writing the layout from the controls.
 #pragma once
 
+#include <filesystem>
+
 namespace zev {
 
 struct Zevlin;
@@ -15,7 +17,12 @@ bool saveShapesUnasked(Zevlin& form);
 constexpr const char* setAsideName = "$$TempDef.Ini";
 
 /// Deletes the layout that a failed RestoreShapes has left set aside: the player has saved another
-/// one since.
+/// one since. That of a copy of the program that has died is kept.
 void dropSetAside(Zevlin& form);
+
+/// Gives the layout that a dead copy has set aside a name that no file has, Definitions.kept or one
+/// with a number: a design that the player saved may be nowhere else. One that is there under
+/// another name anyway goes. Failures as those of files.
+void keepSetAside(Zevlin& form, const std::filesystem::path& setAside);
 
 } // namespace zev

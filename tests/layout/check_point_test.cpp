@@ -30,6 +30,16 @@ class CheckPoint : public FormTest {
         announceError("Error in RestoreShapes: #75, Path/File access error");
         RestoreShapes(form);
     }
+    /// A copy that died in a job has left the player's layout aside, and this start couldn't put it
+    /// back because of one that has ended since.
+    void startBesideALivingCopyAfterAnotherDied() {
+        toolkit::writeFile(dataFile(setAside), "saved design");
+        fs::create_directories(home / "state");
+        toolkit::FileLock lock;
+        ASSERT_TRUE(lock.take(home / "state" / "changes-1.lock"));
+        start();
+        ASSERT_EQ(dataFileContent(setAside), "saved design");
+    }
     void unblock() const {
         fs::remove(dataFile(layoutFileName));
         fs::rename(dataFile("checked"), dataFile(layoutFileName));
@@ -139,6 +149,61 @@ TEST_F(CheckPoint, OfADeadCopyIsRestoredAtTheNextStart) {
     start();
     EXPECT_FALSE(fs::exists(dataFile(setAside)));
     EXPECT_GT(form.AMark.UBound(), 200);
+}
+
+TEST_F(CheckPoint, OfADeadCopyIsKeptUnderANameOfItsOwn) {
+    startBesideALivingCopyAfterAnotherDied();
+    const std::string before = dataFileContent(layoutFileName);
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent(setAside), before);
+    EXPECT_EQ(dataFileContent("Definitions.kept"), "saved design");
+    EXPECT_TRUE(traced("$$TempDef.Ini of a copy that has ended is Definitions.kept now"));
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(layoutFileName), before);
+    EXPECT_EQ(dataFileContent("Definitions.kept"), "saved design");
+}
+
+TEST_F(CheckPoint, OfADeadCopyGoesOverNoneThatWasKeptBefore) {
+    startBesideALivingCopyAfterAnotherDied();
+    toolkit::writeFile(dataFile("Definitions.kept"), "older design");
+    fs::create_directory(dataFile("Definitions 2.kept"));
+    CheckPointShapes(form);
+    EXPECT_EQ(dataFileContent("Definitions.kept"), "older design");
+    EXPECT_EQ(dataFileContent("Definitions 3.kept"), "saved design");
+}
+
+TEST_F(CheckPoint, OfADeadCopyIsKeptOnceOnly) {
+    startBesideALivingCopyAfterAnotherDied();
+    toolkit::writeFile(dataFile("Definitions.kept"), "saved design");
+    CheckPointShapes(form);
+    EXPECT_FALSE(fs::exists(dataFile("Definitions 2.kept")));
+    RestoreShapes(form);
+    fs::remove(dataFile("Definitions.kept"));
+    fs::copy_file(dataFile(layoutFileName), dataFile(setAside));
+    CheckPointShapes(form);
+    EXPECT_FALSE(fs::exists(dataFile("Definitions.kept"))) << "one that is in force anyway";
+}
+
+TEST_F(CheckPoint, OfADeadCopyIsNotPutBackOverADesignThatWasSavedSince) {
+    startBesideALivingCopyAfterAnotherDied();
+    form.AMark[1].Left += 300;
+    MSaveShapes_Click(form);
+    const std::string saved = dataFileContent(layoutFileName);
+    EXPECT_EQ(dataFileContent("Definitions.kept"), "saved design");
+    // As the next start does.
+    RestoreShapes(form);
+    EXPECT_EQ(dataFileContent(layoutFileName), saved);
+}
+
+TEST_F(CheckPoint, OfACopyThatIsAtWorkIsLeftAloneByASavedDesign) {
+    start();
+    toolkit::writeFile(dataFile(setAside), "aside");
+    fs::create_directories(home / "state");
+    toolkit::FileLock lock;
+    ASSERT_TRUE(lock.take(home / "state" / "changes-1.lock"));
+    MSaveShapes_Click(form);
+    EXPECT_EQ(dataFileContent(setAside), "aside");
+    EXPECT_FALSE(fs::exists(dataFile("Definitions.kept")));
 }
 
 TEST_F(CheckPoint, IsKnownToOtherCopiesAsOneOfALivingCopy) {
