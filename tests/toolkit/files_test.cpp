@@ -51,6 +51,11 @@ TEST(Files, ANewFileNeverReplacesOneThatIsThere) {
     EXPECT_EQ(listFiles(folder.path(), "").size(), 2U);
 }
 
+TEST(Files, AFolderFailsWhereItIsOpened) {
+    const TemporaryFolder folder;
+    EXPECT_EQ(failureOf([&] { const FileHandle file(folder.path(), FileMode::Read); }), 75);
+}
+
 TEST(Files, AMissingFileIsFailure53) {
     const TemporaryFolder folder;
     EXPECT_EQ(failureOf([&] { (void)readFile(folder / "none"); }), 53);
