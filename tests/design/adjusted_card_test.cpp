@@ -14,8 +14,10 @@
 namespace zev::test {
 namespace {
 
-/// Pixels, each that the label's origin or its base line is painted on.
-struct PaintedPlace {
+/// Where a label lies, twips, and the pixels that its origin and its base line are painted on.
+struct LabelPlace {
+    float left = 0;
+    float top = 0;
     int column = 0;
     int row = 0;
 };
@@ -46,28 +48,36 @@ class AdjustedCard : public FormTest, public testing::WithParamInterface<int> {
         ASSERT_EQ(form.AText.UBound(), 97);
     }
 
-    [[nodiscard]] PaintedPlace paintedPlace(const toolkit::Label& label) const {
+    [[nodiscard]] LabelPlace placeOf(const toolkit::Label& label) const {
         const auto pixel = [&](float place) {
             return static_cast<int>(std::lround(place / static_cast<float>(twips)));
         };
-        return {pixel(label.Left), pixel(label.Top + toolkit::textAscent(label.Font))};
+        return {label.Left, label.Top, pixel(label.Left),
+                pixel(label.Top + toolkit::textAscent(label.Font))};
     }
-    [[nodiscard]] std::vector<PaintedPlace> paintedPlaces() const {
-        std::vector<PaintedPlace> places;
-        for (int i = 1; i <= form.AMark.UBound(); ++i)
-            places.push_back(paintedPlace(form.AMark[i]));
-        for (int i = 1; i <= form.AText.UBound(); ++i)
-            places.push_back(paintedPlace(form.AText[i]));
-        return places;
+    [[nodiscard]] std::vector<LabelPlace> places() const {
+        std::vector<LabelPlace> all;
+        for (int i = 1; i <= form.AMark.UBound(); ++i) all.push_back(placeOf(form.AMark[i]));
+        for (int i = 1; i <= form.AText.UBound(); ++i) all.push_back(placeOf(form.AText[i]));
+        return all;
     }
 
-    void expectNoMoveBeyond(int pixels) {
-        const std::vector<PaintedPlace> before = paintedPlaces();
+    /// As painted, and in whole twips, of which a text may move some more.
+    void expectNoMoveBeyond(int pixels, int moreTwips = 0) {
+        const auto wholeTwips = [](float from, float to) {
+            return std::lround(std::abs(to - from));
+        };
+        const long most = pixels * twips;
+        const std::vector<LabelPlace> before = places();
         MAutoAdjust_Click(form);
-        const std::vector<PaintedPlace> after = paintedPlaces();
+        const std::vector<LabelPlace> after = places();
+        const auto texts = static_cast<std::size_t>(form.AMark.UBound());
         for (std::size_t i = 0; i < before.size(); ++i) {
             EXPECT_LE(std::abs(after[i].column - before[i].column), pixels) << i;
             EXPECT_LE(std::abs(after[i].row - before[i].row), pixels) << i;
+            EXPECT_LE(wholeTwips(before[i].left, after[i].left), most) << i;
+            EXPECT_LE(wholeTwips(before[i].top, after[i].top), most + (i < texts ? 0 : moreTwips))
+                << i;
         }
     }
 
@@ -142,7 +152,10 @@ TEST_P(AdjustedCard, AtTwiceThatSizeNoFieldMovesByMoreThanTwoPixels) {
 TEST_P(AdjustedCard, AtTwoThirdsOfThatSizeNoFieldMovesByMoreThanTwoPixels) {
     showAt(twoThirds);
     ASSERT_EQ(form.P1.Picture->width(), 799);
-    expectNoMoveBeyond(2);
+    // A rule may begin at any third of a row there. A layout's places are whole pixels: with its
+    // texts one higher, that of 13 twips would keep to two pixels here and move them by three at
+    // twice the design size.
+    expectNoMoveBeyond(2, twips == 13 ? 4 : 0);
 }
 
 TEST_P(AdjustedCard, CirclesKeepTheirLettersAtDesignSize) {
