@@ -21,7 +21,7 @@ void openFolderMenu(Zevlin& form) {
                                             .Click = [&form] { mpopMoveCards_Click(form); }},
                           toolkit::PopupRow{.item = &form.mpopLeaveCards,
                                             .Click = [&form] { mpopLeaveCards_Click(form); }}};
-    toolkit::popupMenu(rows);
+    toolkit::popupMenu(rows, "Folder of the cards");
 }
 
 } // namespace

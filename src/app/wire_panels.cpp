@@ -60,9 +60,13 @@ toolkit::PanelContents colorPanel(Zevlin& form) {
     form.ColorPic.AccessibleName = "Color of marks and texts";
     for (std::size_t i = 0; const char* name : {"Red", "Green", "Blue"})
         form.ColorScroll.at(i++).AccessibleName = name;
+    for (std::size_t i = 0; const char* name : {"Pure red", "Pure green", "Pure blue"})
+        form.ColorID.at(i++).AccessibleName = name;
     toolkit::LabelGroup samples;
     samples.labels = &form.ColorSample;
     samples.Click = run(form, ColorSample_Click);
+    samples.AccessibleName = colorSampleName;
+    samples.IsChosen = [&form](int index) { return !form.ColorSample[index].Caption.empty(); };
     toolkit::PanelContents panel;
     panel.box = &form.ColorPic;
     panel.labels = {&form.Lpresetcolors, &form.ColorLabel, &form.ColorText};

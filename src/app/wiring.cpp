@@ -77,15 +77,17 @@ void wireBoxes(Zevlin& form) {
 }
 
 void wireHelp(Zevlin& form) {
-    form.THelp.AccessibleName = "Help";
+    form.THelp.AccessibleName = "Help page";
     form.THelp.KeyPress = run(form, THelp_KeyPress);
     form.THelp.MouseDown = run(form, THelp_MouseDown);
     form.THelp.Click = run(form, THelp_Click);
     // Arrows and the search by letters must not open the browser.
     form.THelp.ClicksByKey = false;
+    form.THelp.IsLink = [&form](int line) { return isHelpLink(form, line); };
     form.PopHelp.BackColor = toolkit::rgb(255, 255, 225);
     form.PopHelp.MultiLine = true;
     form.PopHelp.Margin = 5;
+    form.PleaseWait.IsNotice = true;
 }
 
 /// A slot that runs the mouse procedure of a label.

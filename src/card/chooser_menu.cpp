@@ -113,7 +113,7 @@ void openFileMenu(Zevlin& form) {
         toolkit::PopupRow{.item = &form.mpopOpen, .Click = [&form] { mpopOpen_Click(form); }},
         toolkit::PopupRow{.item = &form.mpopDelete, .Click = [&form] { mpopDelete_Click(form); }},
         toolkit::PopupRow{.item = &form.mpopRename, .Click = [&form] { mpopRename_Click(form); }}};
-    toolkit::popupMenu(rows);
+    toolkit::popupMenu(rows, "Card");
 }
 
 void mpopOpen_Click(Zevlin& form) {

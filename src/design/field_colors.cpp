@@ -45,7 +45,7 @@ void openColorMenu(Zevlin& form, DesignField field) {
                         .shortcut = {},
                         .Click = [&form, row] { mpopDesignColor_Click(form, row); }});
     }
-    toolkit::popupMenu(rows);
+    toolkit::popupMenu(rows, "Color of the field");
 }
 
 void mpopDesignColor_Click(Zevlin& form, int index) {

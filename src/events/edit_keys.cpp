@@ -237,7 +237,7 @@ void openTextMenu(Zevlin& form) {
         row(form.mpopCopy, "Ctrl+C", mpopCopy_Click),
         row(pasteItem, "Ctrl+V", mpopPaste_Click),
     };
-    toolkit::popupMenu(rows);
+    toolkit::popupMenu(rows, "Text");
 }
 
 } // namespace zev

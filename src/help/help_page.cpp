@@ -125,10 +125,13 @@ void THelp_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
     trapped(form, "Error in THelp_MouseDown: #", [&] { printPage(form); });
 }
 
+bool isHelpLink(const Zevlin& form, int line) {
+    return line >= 0 && (line == form.MoreInformationLine || line == form.WebsiteLine);
+}
+
 void THelp_Click(Zevlin& form) {
     procedure(form, "THelp_Click", [&] {
-        const int line = form.THelp.ListIndex;
-        if (line < 0 || (line != form.MoreInformationLine && line != form.WebsiteLine)) return;
+        if (!isHelpLink(form, form.THelp.ListIndex)) return;
         hideHelp(form);
         const auto address = std::string(webAddress) + std::string(faqPath);
         toolkit::openWebPage(address.c_str());

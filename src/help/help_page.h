@@ -21,6 +21,9 @@ void THelp_KeyPress(Zevlin& form, int& KeyAscii);
 /// A right click prints the page on the printer as it is set up. A failure is only traced.
 void THelp_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
 
+/// Whether the line names the web site.
+[[nodiscard]] bool isHelpLink(const Zevlin& form, int line);
+
 /// A click on one of the two lines that name the web site opens it.
 void THelp_Click(Zevlin& form);
 

@@ -15,9 +15,15 @@
 namespace zev {
 namespace {
 
-constexpr std::array presets{toolkit::rgb(0, 0, 0),   toolkit::rgb(0, 0, 128),
-                             toolkit::rgb(0, 128, 0), toolkit::rgb(128, 64, 255),
-                             toolkit::rgb(160, 0, 0), toolkit::rgb(128, 64, 0)};
+struct Preset {
+    toolkit::Color color = 0;
+    const char* name = nullptr;
+};
+
+constexpr std::array presets{
+    Preset{toolkit::rgb(0, 0, 0), "Black"},        Preset{toolkit::rgb(0, 0, 128), "Dark blue"},
+    Preset{toolkit::rgb(0, 128, 0), "Dark green"}, Preset{toolkit::rgb(128, 64, 255), "Purple"},
+    Preset{toolkit::rgb(160, 0, 0), "Dark red"},   Preset{toolkit::rgb(128, 64, 0), "Brown"}};
 
 /// How the options store black, since 0 stands for the ACBL's scheme.
 constexpr toolkit::Color storedBlack = 1;
@@ -27,8 +33,15 @@ void showNumbers(Zevlin& form) {
         form.ColorID[i].Caption = toolkit::numberText(form.ColorScroll[i].Value);
 }
 
+std::string spokenColor(toolkit::Color color) {
+    return "red " + toolkit::numberText(toolkit::redOf(color)) + ", green " +
+           toolkit::numberText(toolkit::greenOf(color)) + ", blue " +
+           toolkit::numberText(toolkit::blueOf(color));
+}
+
 void showSample(Zevlin& form, toolkit::Color color) {
     form.ColorLabel.BackColor = color;
+    form.ColorLabel.AccessibleName = "Chosen color: " + spokenColor(color);
     form.ColorText.ForeColor = color;
 }
 
@@ -43,13 +56,13 @@ void chooseColor(Zevlin& form, toolkit::Color color) {
 void loadSamples(Zevlin& form) {
     if (form.ColorSample.UBound() > 0) return;
     MakeObjRounded(form, form.ColorPic, panelCornerRadius);
-    form.ColorSample[0].BackColor = presets[0];
+    form.ColorSample[0].BackColor = presets[0].color;
     for (int i = 1; i < static_cast<int>(presets.size()); ++i) {
         toolkit::Label& sample = form.ColorSample.Load(i);
         const toolkit::Label& before = form.ColorSample[i - 1];
         sample.Left = before.Left + before.Width + sampleGap;
         sample.Visible = true;
-        sample.BackColor = presets[static_cast<std::size_t>(i)];
+        sample.BackColor = presets[static_cast<std::size_t>(i)].color;
     }
 }
 
@@ -116,6 +129,8 @@ void mColorScheme_Click(Zevlin& form, int index) {
     Traceit(form, toolkit::numberText(index) + " mColorScheme_Click ");
     trapped(form, "Error in mColorScheme_Click: #", [&] { chooseScheme(form, index); });
 }
+
+std::string colorSampleName(int index) { return presets.at(static_cast<std::size_t>(index)).name; }
 
 void ColorSample_Click(Zevlin& form, int index) {
     procedure(form, "ColorSample_Click", [&] {

@@ -1,6 +1,8 @@
 // The panel on which the player chooses one colour for all marks and texts.
 #pragma once
 
+#include <string>
+
 namespace zev {
 
 struct Zevlin;
@@ -9,6 +11,8 @@ struct Zevlin;
 /// panel for a colour. While the program initializes, the stored colour stands and no panel opens.
 void mColorScheme_Click(Zevlin& form, int index);
 
+/// What a person calls the colour of a preset.
+[[nodiscard]] std::string colorSampleName(int index);
 /// A preset was clicked.
 void ColorSample_Click(Zevlin& form, int index);
 /// The number of a primary colour was clicked: that primary is chosen.

@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "support/form_test.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_window.h"
 
 namespace zev::test {
@@ -46,6 +47,28 @@ TEST_F(WirePanels, EverySliderHasItsOwnNumber) {
     EXPECT_EQ(form.ColorID[0].Caption, "10");
     EXPECT_EQ(form.ColorID[1].Caption, "20");
     EXPECT_EQ(form.ColorID[2].Caption, "30");
+}
+
+TEST_F(WirePanels, AScreenReaderChoosesAColorByItsName) {
+    start();
+    EXPECT_TRUE(toolkit::test::chooseMenu("Options>Color Management>Custom..."));
+    const auto panel = toolkit::test::accessiblePart("Color of marks and texts");
+    EXPECT_EQ(panel.role, "dialog");
+    EXPECT_EQ(panel.description, toolkit::paintedText(form.Lpresetcolors.Caption));
+    for (const char* name : {"Black", "Dark blue", "Dark green", "Purple", "Dark red", "Brown"})
+        EXPECT_EQ(toolkit::test::accessiblePart(name).role, "radio button") << name;
+    EXPECT_TRUE(toolkit::test::accessiblePart("Black").isChecked);
+    EXPECT_TRUE(toolkit::test::press("Dark red"));
+    EXPECT_TRUE(toolkit::test::accessiblePart("Dark red").isChecked);
+    EXPECT_FALSE(toolkit::test::accessiblePart("Black").isChecked);
+    EXPECT_EQ(toolkit::test::accessiblePart("Chosen color: red 160, green 0, blue 0").role,
+              "label");
+    EXPECT_EQ(toolkit::test::accessiblePart("Sample Text").role, "label");
+    toolkit::test::slideTo("Green", 7);
+    EXPECT_EQ(form.ColorLabel.BackColor, toolkit::rgb(160, 7, 0));
+    EXPECT_TRUE(toolkit::test::press("Pure blue"));
+    EXPECT_EQ(form.ColorLabel.BackColor, toolkit::rgb(0, 0, 255));
+    EXPECT_TRUE(toolkit::test::accessiblePart("OK").isDefault);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "app/layouts.h"
 #include "layout/write_layout.h"
 #include "toolkit/base/key.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
 
@@ -74,6 +75,31 @@ TEST_F(Wiring, EscapeHidesTheHelpAndTheCardIsAliveAgain) {
     toolkit::test::typeKey(toolkit::key::escape, 0, "\x1B");
     EXPECT_FALSE(form.THelp.Visible);
     EXPECT_TRUE(form.P1.Enabled);
+}
+
+TEST_F(Wiring, AScreenReaderReadsTheHelpLineByLineAndFollowsItsLinks) {
+    start();
+    const toolkit::test::ScreenReader reader;
+    toolkit::test::typeKey(toolkit::key::f1);
+    toolkit::test::settle();
+    EXPECT_EQ(toolkit::test::accessiblePart("Help page").role, "list");
+    EXPECT_EQ(toolkit::test::accessiblePartsOf("Help page").size(), form.THelp.List.size());
+    EXPECT_EQ(reader.all().back(), "Focus " + form.THelp.List[1]);
+    EXPECT_EQ(toolkit::test::accessiblePart(form.THelp.List[2]).role, "row");
+    for (const int line : {form.MoreInformationLine, form.WebsiteLine}) {
+        const std::string& text = form.THelp.List[static_cast<std::size_t>(line)];
+        EXPECT_EQ(toolkit::test::accessiblePart(text).role, "link");
+    }
+    const auto link = static_cast<std::size_t>(form.WebsiteLine);
+    EXPECT_TRUE(toolkit::test::press(form.THelp.List[link]));
+    EXPECT_EQ(launched.size(), 1U);
+    EXPECT_FALSE(form.THelp.Visible);
+}
+
+TEST_F(Wiring, AScreenReaderIsToldToWaitButNotTwiceWhatARowDoes) {
+    start();
+    EXPECT_TRUE(form.PleaseWait.IsNotice);
+    EXPECT_FALSE(form.PopHelp.IsNotice);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "card/write_card.h"
 #include "chooser_form_test.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
@@ -205,6 +206,32 @@ TEST_F(ChooserEvents, ASelectedCardCountsAsTakenWhateverIsTyped) {
     answer(toolkit::Answer::No);
     choose("File>Save As...");
     EXPECT_EQ(boxes.at(0).title, "Overwrite existing file?");
+}
+
+TEST_F(ChooserEvents, AScreenReaderChoosesACardByItsRow) {
+    inChooser([&] {
+        const auto panel = toolkit::test::accessiblePart("Choose a card");
+        EXPECT_EQ(panel.role, "dialog");
+        EXPECT_EQ(panel.description, "Select from list or enter a name for a new card");
+        EXPECT_EQ(toolkit::test::accessiblePart("Name of the card").role, "text");
+        EXPECT_EQ(toolkit::test::accessiblePartsOf("Cards").size(), 3U);
+        EXPECT_TRUE(toolkit::test::accessiblePart("OK").isDefault);
+        EXPECT_TRUE(toolkit::test::press("Brown"));
+        EXPECT_EQ(toolkit::test::shownText(form.TSaveAs), "Brown");
+        clickOn(form.BOK);
+    });
+    EXPECT_EQ(chosen, "Brown");
+}
+
+TEST_F(ChooserEvents, AScreenReaderOpensTheFolder) {
+    inChooser([&] {
+        const std::string folder = form.LPath.Caption;
+        EXPECT_EQ(toolkit::test::accessiblePart(folder).role, "button");
+        EXPECT_EQ(toolkit::test::accessiblePart(folder).description, form.LPath.ToolTip);
+        EXPECT_TRUE(toolkit::test::press(folder));
+        leave();
+    });
+    EXPECT_EQ(launched.size(), 1U);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {
@@ -47,6 +48,37 @@ TEST_F(AccessibleCard, KnowsTheFieldsThatComeLater) {
     form.AMark[form.AMark.UBound()].Width = 300;
     EXPECT_EQ(toolkit::test::accessibleSections().back().name, "Other fields");
     EXPECT_EQ(toolkit::test::accessibleField("Check box 272").role, "check box");
+}
+
+TEST_F(AccessibleCard, TheOpenTextHasItsFieldsName) {
+    start();
+    const toolkit::test::ScreenReader reader;
+    clickText(2);
+    EXPECT_EQ(toolkit::test::accessibleFocus(), "General approach, description");
+    toolkit::test::typeKey(toolkit::key::escape);
+    clickText(4);
+    EXPECT_EQ(toolkit::test::accessibleFocus(), "Notrump opening bids, 1 notrump, lowest points");
+}
+
+TEST_F(AccessibleCard, NoFieldLabelOrRowIsMadeWhileNobodyListens) {
+    start();
+    const unsigned before = toolkit::test::partsMade();
+    clickMark(12);
+    toolkit::test::typeKey(toolkit::key::tab);
+    clickText(2);
+    toolkit::test::typeText("abc");
+    toolkit::test::typeKey(toolkit::key::escape);
+    toolkit::test::typeKey(toolkit::key::f1);
+    toolkit::test::typeKey(toolkit::key::escape);
+    EXPECT_TRUE(toolkit::test::chooseMenu("Options>Color Management>Custom..."));
+    toolkit::test::typeKey(toolkit::key::escape);
+    EXPECT_TRUE(toolkit::test::chooseMenu("View>Zoom In (Bigger)                   Ctrl +"));
+    answerChooser([] { toolkit::test::typeKey(toolkit::key::escape); });
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Save As..."));
+    constexpr unsigned widgets = 60;
+    EXPECT_LT(toolkit::test::partsMade() - before, widgets);
+    static_cast<void>(toolkit::test::accessibleFields());
+    EXPECT_GT(toolkit::test::partsMade() - before, 400U);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // What a screen reader gets of a row that is described.
 #include "fixture.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_menus.h"
 
 namespace window_test {
@@ -18,13 +19,17 @@ class AccessibleRow : public WindowTest {
         grey.Caption = "Grey";
         grey.Enabled = false;
         plain.Caption = "Plain";
+        wide.Caption = "Wide";
+        last.Caption = "Last";
         menu = {
             {.level = 0, .item = &file},
             {.level = 1, .item = &save, .shortcut = "Ctrl+S", .Click = [this] { note("save"); }},
             {.level = 1, .item = &more},
             {.level = 2, .item = &deep},
             {.level = 1, .item = &grey, .Click = [this] { note("grey"); }},
-            {.level = 1, .item = &plain, .Click = [this] { note("plain"); }}};
+            {.level = 1, .item = &plain, .Click = [this] { note("plain"); }},
+            {.level = 0, .item = &wide, .Click = [] {}},
+            {.level = 0, .item = &last, .Click = [] {}}};
         form.MenuDescription = [](std::string_view caption) {
             return caption == "Plain" ? std::string() : "about " + std::string(caption);
         };
@@ -36,6 +41,8 @@ class AccessibleRow : public WindowTest {
     MenuItem deep;
     MenuItem grey;
     MenuItem plain;
+    MenuItem wide;
+    MenuItem last;
 };
 
 TEST_F(AccessibleRow, HasTheDescriptionBesideItsNameAndShortcut) {
@@ -77,7 +84,7 @@ TEST_F(AccessibleRow, CanBeUsedByTheReaderUnlessItIsGreyed) {
     EXPECT_EQ(log, Log{"save"});
 }
 
-TEST_F(AccessibleRow, IsThePlatformsOwnWhereNothingIsSaidOfIt) {
+TEST_F(AccessibleRow, HasNoDescriptionWhereNothingIsSaidOfIt) {
     test::openMenu("File");
     EXPECT_EQ(test::readRow("Plain").name, "Plain");
     EXPECT_EQ(test::readRow("Plain").description, "");
@@ -85,6 +92,30 @@ TEST_F(AccessibleRow, IsThePlatformsOwnWhereNothingIsSaidOfIt) {
     test::clickBesideMenus();
     test::openMenu("File");
     EXPECT_EQ(test::readRow("Save & go").description, "");
+}
+
+TEST_F(AccessibleRow, HasNoRowsOfBlanksInItsName) {
+    plain.Caption = "Zoom In           Ctrl +";
+    test::openMenu("File");
+    EXPECT_EQ(test::readRow("Zoom In           Ctrl +").name, "Zoom In Ctrl +");
+}
+
+TEST_F(AccessibleRow, AHeaderIsNoneEvenWhereTheBarHadNoRoomForIt) {
+    wide.Caption = std::string(60, 'w');
+    form.Width = px(300);
+    window->update();
+    test::settle();
+    wide.Caption = "Wide";
+    form.Width = px(640);
+    window->update();
+    test::settle();
+    EXPECT_TRUE(test::accessiblePart("Last").isShown);
+}
+
+TEST_F(AccessibleRow, StandsInAMenuThatHasAName) {
+    test::openMenu("File");
+    EXPECT_EQ(test::accessiblePart("File").role, "menu");
+    EXPECT_EQ(test::accessiblePart("Save & go").role, "menu row");
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // The picture of the card, and a handler's changes on it.
 #include "painting.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
 
@@ -88,6 +89,20 @@ TEST_F(CardWidget, HandlersChangeIsOnTheScreenAfterTheEvent) {
     test::settle();
     EXPECT_GE(test::cardPaints().pixels - before.pixels, 20 * 10);
     EXPECT_EQ(test::grabCard().pixel(55, 65), blue);
+}
+
+TEST_F(CardWidget, NothingIsAskedOfItsFieldsWhileNobodyListens) {
+    accessible.fieldCount = [this] { return note("count"), 0; };
+    accessible.sections = [this] { return note("sections"), std::vector<AccessibleSection>(); };
+    accessible.focused = [this] { return note("focused"), std::optional<FieldId>(); };
+    open();
+    log.clear();
+    test::pressMouse(px(5), px(5));
+    test::releaseMouse(px(5), px(5));
+    openBox("text");
+    EXPECT_EQ(times("count") + times("sections") + times("focused"), 0);
+    static_cast<void>(test::accessibleSections());
+    EXPECT_EQ(times("sections"), 1);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // Message boxes, and input boxes, on the screen and answered by a test.
 #include "fixture.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_boxes.h"
 #include "toolkit/window/dialog_answers.h"
 #include "toolkit/window/popup_menu.h"
@@ -83,6 +84,33 @@ TEST_F(Dialog, ValuesAreTakenOverBeforeTheBox) {
     box.Visible = false;
     tell("Done", Icon::Information);
     EXPECT_EQ(active, &card);
+}
+
+TEST_F(Dialog, AScreenReaderGetsABoxsTitleTextAndButtons) {
+    test::readNextBox([] {
+        const auto shown = test::accessiblePart("Printing");
+        EXPECT_EQ(shown.role, "alert");
+        EXPECT_EQ(shown.description, "Save caf\u00e9 & bar?");
+        EXPECT_FALSE(test::accessiblePart("Yes").isDefault);
+        EXPECT_TRUE(test::accessiblePart("No").isDefault);
+        EXPECT_EQ(test::accessiblePart("Save As").role, "button");
+        EXPECT_TRUE(test::press("Save As"));
+    });
+    EXPECT_EQ(show({.text = "Save caf\xe9 & bar?",
+                    .buttons = Buttons::YesNoSaveAs,
+                    .title = "Printing",
+                    .preset = Answer::No}),
+              Answer::SaveAs);
+}
+
+TEST_F(Dialog, AScreenReaderFillsInABoxByItsPrompt) {
+    test::readNextBox([] {
+        EXPECT_EQ(test::accessiblePart("My Name").role, "dialog");
+        EXPECT_EQ(test::accessiblePartsNamed("Name & number?", "text").size(), 1U);
+        EXPECT_TRUE(test::accessiblePart("OK").isDefault);
+        EXPECT_TRUE(test::press("OK"));
+    });
+    EXPECT_EQ(ask({.prompt = "Name & number?", .title = "My Name", .preset = "Joe"}), "Joe");
 }
 
 } // namespace

@@ -153,6 +153,8 @@ class WindowTest : public testing::Test {
         parts.panels.push_back(contents);
         parts.overlays = {&overlay};
         parts.menu = menu;
+        parts.accessible = accessible;
+        window.reset();
         window = std::make_unique<toolkit::Window>(std::move(parts));
         window->update();
         toolkit::test::settle();
@@ -172,6 +174,7 @@ class WindowTest : public testing::Test {
     toolkit::TextBox overlay;
     toolkit::PanelContents contents{.box = &panel};
     std::vector<toolkit::MenuRow> menu;
+    toolkit::AccessibleCard accessible;
     std::unique_ptr<toolkit::Window> window;
 };
 

@@ -1,5 +1,6 @@
 // The window of the form: its menu bar above, its inside below.
 #include "fixture.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_window.h"
 
 namespace window_test {
@@ -41,6 +42,11 @@ TEST_F(FormWidget, IsShownAndHiddenByItsValue) {
     EXPECT_TRUE(test::isShown(card));
     form.Visible = false;
     EXPECT_FALSE(test::isShown(card));
+}
+
+TEST_F(FormWidget, IsAWindowToScreenReaders) {
+    form.Caption = "Zevlin  (unnamed)";
+    EXPECT_EQ(test::accessiblePart("Zevlin  (unnamed)").role, "window");
 }
 
 } // namespace

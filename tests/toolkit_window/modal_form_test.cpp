@@ -1,5 +1,6 @@
 // A small form that waits for the player.
 #include "fixture.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_dialogs.h"
 #include "toolkit/window/modal_form.h"
 
@@ -99,6 +100,19 @@ TEST_F(ModalFormOnScreen, SwallowedKeysDontReachTheList) {
     });
     showModal(shown);
     EXPECT_EQ(log, Log{"ok"});
+}
+
+TEST_F(ModalFormOnScreen, AScreenReaderGetsTheLabelsAsNames) {
+    test::readNextBox([] {
+        EXPECT_EQ(test::accessiblePart("Title").role, "dialog");
+        EXPECT_EQ(test::accessiblePartsNamed("Number", "number").size(), 1U);
+        EXPECT_EQ(test::accessiblePart("Option").role, "radio button");
+        EXPECT_TRUE(test::accessiblePart("OK").isDefault);
+        EXPECT_FALSE(test::accessiblePart("Cancel").isDefault);
+        EXPECT_TRUE(test::press("Cancel"));
+    });
+    showModal(shown);
+    EXPECT_EQ(log, Log{"cancel"});
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // A text that the player only reads.
 #include "fixture.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/text/font.h"
 
@@ -94,6 +95,22 @@ TEST_F(Overlay, BreaksTheTextIntoLinesWhereItSaysSo) {
     overlay.Text = "mmmmm";
     window->update();
     EXPECT_EQ(inkLines(overlay.BackColor), 1);
+}
+
+TEST_F(Overlay, IsANoticeToScreenReadersIfItSaysSo) {
+    overlay.Text = "Please wait";
+    overlay.IsNotice = true;
+    overlay.Visible = true;
+    window->update();
+    EXPECT_EQ(test::accessiblePart("Please wait").role, "notice");
+    EXPECT_TRUE(test::accessiblePart("Please wait").isShown);
+}
+
+TEST_F(Overlay, IsATipIfItIsNoNotice) {
+    overlay.Text = "what the row does";
+    overlay.Visible = true;
+    window->update();
+    EXPECT_EQ(test::accessiblePart("what the row does").role, "tip");
 }
 
 } // namespace

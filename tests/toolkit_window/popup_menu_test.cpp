@@ -1,5 +1,6 @@
 // Pop-up menus on the screen.
 #include "fixture.h"
+#include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_boxes.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
@@ -39,6 +40,23 @@ TEST_F(PopupMenu, OpensAtThePointerOnWhicheverScreenTheFormLies) {
         EXPECT_EQ(place.x, originX + cursorPosition().x);
         EXPECT_EQ(place.y, originY + cursorPosition().y);
     }
+}
+
+TEST_F(PopupMenu, AScreenReaderKnowsAndChoosesItsRows) {
+    MenuItem bold{.Caption = "&Boldface && more", .Checked = true};
+    MenuItem italic{.Caption = "Italicize", .Enabled = false};
+    const std::vector<PopupRow> rows{
+        {.item = &bold, .shortcut = "Ctrl+B", .Click = [this] { note("bold"); }},
+        {.item = &italic, .Click = [this] { note("italic"); }}};
+    test::readNextBox([] {
+        EXPECT_EQ(test::accessiblePart("Text").role, "menu");
+        EXPECT_EQ(test::accessiblePart("Boldface & more").role, "menu row");
+        EXPECT_TRUE(test::accessiblePart("Boldface & more").isChecked);
+        EXPECT_FALSE(test::press("Italicize"));
+        EXPECT_TRUE(test::press("Boldface & more"));
+    });
+    popupMenu(rows, "Text");
+    EXPECT_EQ(log, Log{"bold"});
 }
 
 } // namespace

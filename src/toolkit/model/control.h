@@ -126,6 +126,7 @@ struct TextBox : Control {
     toolkit::Alignment Alignment = toolkit::Alignment::Left;
     bool MultiLine = false;       ///< of an overlay: the text is broken into lines, from the left
     int Margin = 0;               ///< pixels between those lines and the edges
+    bool IsNotice = false;        ///< an overlay that screen readers tell when it comes up
     std::function<void()> Change; ///< the player has changed Text
 };
 
@@ -137,6 +138,8 @@ struct ListBox : Control {
     std::string ToolTip;
     int RowGap = 0;          ///< pixels by which a row is higher than its line
     bool ClicksByKey = true; ///< whether a key that changes the current row counts as a click
+    /// Of the rows on which a click leads elsewhere, for screen readers.
+    std::function<bool(int row)> IsLink{};
 };
 
 /// An item of the menu bar or of a pop-up menu; "&" marks its access key.

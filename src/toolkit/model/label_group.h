@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include "toolkit/model/control.h"
 #include "toolkit/model/control_array.h"
@@ -17,6 +18,9 @@ struct LabelGroup {
     std::function<void(int index, MouseArguments&)> MouseMove{};
     std::function<void(int index, MouseArguments&)> MouseUp{};
     std::function<void(int index)> Click{};
+    // Of a group on a panel of which one is chosen, for screen readers.
+    std::function<std::string(int index)> AccessibleName{};
+    std::function<bool(int index)> IsChosen{};
 };
 
 } // namespace toolkit

@@ -27,6 +27,7 @@ struct ScrollBar : Control {
 struct PanelLabel : Label {
     bool Wraps = false; ///< a caption that is too wide goes on in the next line, at a blank
     std::string ToolTip;
+    std::string AccessibleName; ///< for screen readers, where the caption doesn't say it
     std::function<void(MouseArguments&)> MouseDown; ///< any button
     std::function<void()> Click;                    ///< the left button
 };

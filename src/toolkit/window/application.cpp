@@ -4,6 +4,12 @@
 
 #include <QtWidgets/QApplication>
 
+#include "toolkit/window/card/qt_accessible_card.h"
+#include "toolkit/window/control/qt_accessible_list.h"
+#include "toolkit/window/control/qt_overlay.h"
+#include "toolkit/window/menu/qt_accessible_row.h"
+#include "toolkit/window/panel/qt_accessible_panel.h"
+#include "toolkit/window/qt_form_widget.h"
 #include "toolkit/window/qt_program.h"
 #include "toolkit/window/qt_program_icon.h"
 #include "toolkit/window/qt_session_end.h"
@@ -29,6 +35,16 @@ void choosePlatform() {
 #endif
 }
 
+/// Where somebody listens already, a widget is asked about while it is being made.
+void answerScreenReaders() {
+    answerAboutCards();
+    answerAboutForms();
+    answerAboutLists();
+    answerAboutOverlays();
+    answerAboutPanels();
+    answerAboutRows();
+}
+
 } // namespace
 
 Application::Application(int& argumentCount, char** arguments) {
@@ -42,6 +58,7 @@ Application::Application(int& argumentCount, char** arguments) {
     QGuiApplication::setWindowIcon(programIcon());
     // Boxes come and go before the main window is there.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    answerScreenReaders();
 }
 
 Application::~Application() = default;

@@ -73,6 +73,7 @@ Answer showOnScreen(const MessageBox& box) {
     shown.setWindowTitle(titleOf(box.title));
     shown.setTextFormat(Qt::PlainText);
     shown.setText(qString(box.text));
+    shown.setAccessibleDescription(qString(box.text));
     shown.setIcon(qIcon(box.icon));
     for (const Answer answer : answers) {
         QPushButton* button = shown.addButton(qButton(answer));
@@ -90,6 +91,8 @@ std::string askOnScreen(const InputBox& box) {
     shown.setLabelText(qString(box.prompt));
     shown.setTextValue(qString(box.preset));
     for (QLabel* label : shown.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+    for (QLineEdit* line : shown.findChildren<QLineEdit*>())
+        line->setAccessibleName(qString(box.prompt));
     return shown.exec() == QDialog::Accepted ? ansiFromTyped(shown.textValue().toStdString())
                                              : std::string();
 }

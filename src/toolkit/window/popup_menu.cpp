@@ -1,9 +1,8 @@
 #include "toolkit/window/popup_menu.h"
 
-#include <map>
-
 #include <QtWidgets/QMenu>
 
+#include "toolkit/base/qt_text.h"
 #include "toolkit/window/dialog_answers.h"
 #include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/menu/qt_menu_rows.h"
@@ -15,21 +14,27 @@ namespace toolkit {
 namespace {
 
 /// The row that the player chooses, nullptr for none.
-const PopupRow* chosenOnScreen(std::span<const PopupRow> rows) {
+const PopupRow* chosenOnScreen(std::span<const PopupRow> rows, std::string_view name) {
     QMenu menu(boxParent());
-    std::map<const QAction*, const PopupRow*> byAction;
-    for (const PopupRow& row : rows) byAction[&addMenuAction(menu, row.item, row.shortcut)] = &row;
-    const QAction* chosen = menu.exec(cursorAmongScreens());
-    const auto found = byAction.find(chosen);
-    return found == byAction.end() ? nullptr : found->second;
+    menu.setAccessibleName(qString(name));
+    const PopupRow* chosen = nullptr;
+    for (const PopupRow& row : rows)
+        QObject::connect(&addMenuAction(menu, row.item, row.shortcut), &QAction::triggered, &menu,
+                         [&menu, &row, &chosen] {
+                             chosen = &row;
+                             // A screen reader that presses a row leaves the menu open.
+                             menu.close();
+                         });
+    menu.exec(cursorAmongScreens());
+    return chosen;
 }
 
 } // namespace
 
-void popupMenu(std::span<const PopupRow> rows) {
+void popupMenu(std::span<const PopupRow> rows, std::string_view name) {
     updateWindow();
     if (dialogAnswers().popup) return dialogAnswers().popup(rows);
-    const PopupRow* chosen = chosenOnScreen(rows);
+    const PopupRow* chosen = chosenOnScreen(rows, name);
     rethrowKept();
     if (chosen != nullptr && chosen->Click) chosen->Click();
 }

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <span>
+#include <string_view>
 
 #include "toolkit/window/questions.h"
 
 namespace toolkit {
 
-/// Opens a pop-up menu at the pointer and waits; the chosen row's Click runs before it returns.
-void popupMenu(std::span<const PopupRow> rows);
+/// Opens a pop-up menu at the pointer and waits; the chosen row's Click runs before it returns. The
+/// name is for screen readers.
+void popupMenu(std::span<const PopupRow> rows, std::string_view name = {});
 
 } // namespace toolkit

@@ -1,12 +1,48 @@
 #include "toolkit/window/qt_form_widget.h"
 
+#include <memory>
+
 #include <QtCore/QTimer>
 #include <QtGui/QCloseEvent>
+#include <QtWidgets/QAccessibleWidget>
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/window/control/qt_pointer.h"
 
 namespace toolkit {
+namespace {
+
+/// To the platform a plain widget is no window, even if it is one.
+class AccessibleForm : public QAccessibleWidget {
+  public:
+    explicit AccessibleForm(FormWidget& form) : QAccessibleWidget(&form, QAccessible::Window) {}
+};
+
+/// What lies on it overlaps, and the platform would tell of the hindmost.
+class AccessibleArea : public QAccessibleWidget {
+  public:
+    explicit AccessibleArea(FormArea& area) : QAccessibleWidget(&area) {}
+
+    [[nodiscard]] QAccessibleInterface* childAt(int x, int y) const override {
+        for (int index = childCount() - 1; index >= 0; --index)
+            if (QAccessibleInterface* part = child(index);
+                !part->state().invisible && part->rect().contains(x, y))
+                return part;
+        return nullptr;
+    }
+};
+
+QAccessibleInterface* makeFormPart(const QString& /*className*/, QObject* object) {
+    if (auto* form = dynamic_cast<FormWidget*>(object))
+        return std::make_unique<AccessibleForm>(*form).release();
+    if (auto* area = dynamic_cast<FormArea*>(object))
+        return std::make_unique<AccessibleArea>(*area).release();
+    return nullptr;
+}
+
+} // namespace
+
+void answerAboutForms() { QAccessible::installFactory(makeFormPart); }
 
 FormWidget::FormWidget(const WindowParts& parts, EventDispatcher& dispatcher, Wheel& wheel)
     : form_(*parts.form), dispatcher_(dispatcher), menuBar_(*this, parts, dispatcher),

@@ -13,6 +13,9 @@
 
 namespace toolkit {
 
+/// Tells the platform how to ask about the form's window and its inside.
+void answerAboutForms();
+
 class FormWidget : public QWidget {
   public:
     FormWidget(const WindowParts& parts, EventDispatcher& dispatcher, Wheel& wheel);

@@ -4,10 +4,11 @@
 #include <utility>
 
 #include <QtCore/QCoreApplication>
-#include <QtGui/QAccessible>
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/window/card/qt_accessible_card.h"
+#include "toolkit/window/control/qt_painted_part.h"
+#include "toolkit/window/panel/qt_accessible_panel.h"
 #include "toolkit/window/qt_screen.h"
 
 namespace toolkit {
@@ -63,7 +64,6 @@ WindowImplementation::WindowImplementation(WindowParts shown)
         overlays_.push_back(std::make_unique<Overlay>(form_.area(), *overlay));
     watchKeys();
     nameControls();
-    answerScreenReaders();
     theWindow() = this;
     reckonByScreenOf(&form_);
     // The bar's height belongs to the frame, by which the program sizes the form before its first
@@ -109,7 +109,7 @@ void WindowImplementation::nameControls() {
 
 /// The box over a text bears the text's name.
 void WindowImplementation::nameOpenBox() {
-    if (!QAccessible::isActive() || !parts_.accessible.focused) return;
+    if (!isHeard() || !parts_.accessible.focused) return;
     const auto focused = parts_.accessible.focused();
     if (!focused || focused->kind != FieldId::Kind::Text) return;
     const QString name = qString(parts_.accessible.name(*focused));
@@ -138,6 +138,7 @@ void WindowImplementation::push() {
     pushFocus();
     form_.pushVisible();
     tellScreenReaders(card_);
+    for (const auto& panel : panels_) tellScreenReaders(*panel);
     pushing_ = false;
 }
 

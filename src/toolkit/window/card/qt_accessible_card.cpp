@@ -17,10 +17,10 @@ QAccessibleInterface* makeInterface(const QString& /*className*/, QObject* objec
 
 } // namespace
 
-void answerScreenReaders() { QAccessible::installFactory(makeInterface); }
+void answerAboutCards() { QAccessible::installFactory(makeInterface); }
 
 void tellScreenReaders(CardWidget& card) {
-    if (!QAccessible::isActive() || card.isFrozen()) return;
+    if (!isHeard() || card.isFrozen()) return;
     auto* known = dynamic_cast<AccessibleCardWidget*>(QAccessible::queryAccessibleInterface(&card));
     if (known != nullptr) known->tellChanges();
 }
@@ -57,7 +57,7 @@ void AccessibleCardWidget::build() const {
     focused_ = source.focused();
     if (!isFirst) {
         QAccessibleEvent event(&card_, QAccessible::ObjectReorder);
-        QAccessible::updateAccessibility(&event);
+        tell(event);
     }
 }
 
@@ -114,13 +114,13 @@ void AccessibleCardWidget::tellField(Told& told) {
         QAccessible::State changed;
         changed.checked = true;
         QAccessibleStateChangeEvent event(field, changed);
-        return QAccessible::updateAccessibility(&event);
+        return tell(event);
     }
     std::string text = card_.accessible().text(told.field);
     if (text == told.text) return;
     const QString before = qString(std::exchange(told.text, std::move(text)));
     QAccessibleTextUpdateEvent event(field, 0, before, qString(told.text));
-    QAccessible::updateAccessibility(&event);
+    tell(event);
 }
 
 /// A text that is open has a box of its own, which tells its focus itself, but not where it goes on
@@ -134,7 +134,7 @@ void AccessibleCardWidget::tellFocus() {
     QAccessibleInterface* part = isBox ? QAccessibleWidget::focusChild() : interfaceOf(*focused);
     if (part == nullptr) return;
     QAccessibleEvent event(part, QAccessible::Focus);
-    QAccessible::updateAccessibility(&event);
+    tell(event);
 }
 
 void AccessibleCardWidget::tellChanges() {

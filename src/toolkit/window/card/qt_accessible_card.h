@@ -15,8 +15,8 @@ namespace toolkit {
 
 class CardWidget;
 
-/// Tells the platform how to ask about the card.
-void answerScreenReaders();
+/// Tells the platform how to ask about cards.
+void answerAboutCards();
 
 /// Says what has changed on the card, if anybody listens.
 void tellScreenReaders(CardWidget& card);

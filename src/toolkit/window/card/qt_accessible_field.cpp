@@ -9,11 +9,6 @@
 #include "toolkit/window/card/qt_card_widget.h"
 
 namespace toolkit {
-namespace {
-
-QWindow* windowOf(const QWidget& widget) { return widget.window()->windowHandle(); }
-
-} // namespace
 
 AccessibleSectionPart::AccessibleSectionPart(CardWidget& card, const AccessibleSection& section)
     : card_(card), name_(section.name) {
@@ -26,7 +21,7 @@ AccessibleSectionPart::~AccessibleSectionPart() {
     for (const QAccessible::Id field : fields_) QAccessible::deleteAccessibleInterface(field);
 }
 
-QWindow* AccessibleSectionPart::window() const { return windowOf(card_); }
+QWindow* AccessibleSectionPart::window() const { return card_.window()->windowHandle(); }
 
 QAccessibleInterface* AccessibleSectionPart::parent() const {
     return QAccessible::queryAccessibleInterface(&card_);
@@ -62,11 +57,9 @@ QRect AccessibleSectionPart::rect() const {
 
 AccessibleFieldPart::AccessibleFieldPart(CardWidget& card, AccessibleSectionPart& section,
                                          AccessibleField field)
-    : card_(card), section_(section), field_(std::move(field)) {}
+    : PaintedPart(card), card_(card), section_(section), field_(std::move(field)) {}
 
 bool AccessibleFieldPart::isValid() const { return card_.accessible().label(field_.id) != nullptr; }
-
-QWindow* AccessibleFieldPart::window() const { return windowOf(card_); }
 
 QString AccessibleFieldPart::said() const {
     return isValid() && isText() ? qString(card_.accessible().text(field_.id)) : QString();

@@ -6,6 +6,7 @@
 #include <QtGui/QAccessible>
 
 #include "toolkit/model/accessible_card.h"
+#include "toolkit/window/control/qt_painted_part.h"
 
 namespace toolkit {
 
@@ -42,7 +43,7 @@ class AccessibleSectionPart : public QAccessibleInterface {
 };
 
 /// A check box, or a text that can be changed.
-class AccessibleFieldPart : public QAccessibleInterface,
+class AccessibleFieldPart : public PaintedPart,
                             public QAccessibleActionInterface,
                             public QAccessibleTextInterface,
                             public QAccessibleEditableTextInterface {
@@ -50,17 +51,7 @@ class AccessibleFieldPart : public QAccessibleInterface,
     AccessibleFieldPart(CardWidget& card, AccessibleSectionPart& section, AccessibleField field);
 
     [[nodiscard]] bool isValid() const override;
-    [[nodiscard]] QObject* object() const override { return nullptr; }
-    [[nodiscard]] QWindow* window() const override;
     [[nodiscard]] QAccessibleInterface* parent() const override { return &section_; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    [[nodiscard]] QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
-    [[nodiscard]] int indexOfChild(const QAccessibleInterface* /*child*/) const override {
-        return -1;
-    }
-    [[nodiscard]] QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override {
-        return nullptr;
-    }
     [[nodiscard]] QString text(QAccessible::Text kind) const override;
     void setText(QAccessible::Text kind, const QString& text) override;
     [[nodiscard]] QRect rect() const override;

@@ -39,13 +39,17 @@ MouseArguments ControlMouse::argumentsOf(const QWidget& widget, const QMouseEven
 
 ControlMouse::Own ControlMouse::press(const QWidget& widget, const QMouseEvent& event) {
     if (!isEnabled() || buttonOf(event.button()) == 0) return Own::Skip;
-    dispatcher_.run([&] { form_.SetFocus(control_); });
+    takeFocus();
     MouseArguments arguments = argumentsOf(widget, event);
     dispatcher_.run([&] {
         if (control_.MouseDown) control_.MouseDown(arguments);
     });
     return arguments.Button == button::left || arguments.Button == button::middle ? Own::Handle
                                                                                   : Own::Skip;
+}
+
+void ControlMouse::takeFocus() {
+    dispatcher_.run([&] { form_.SetFocus(control_); });
 }
 
 void ControlMouse::release(const QWidget& widget, const QMouseEvent& event) {

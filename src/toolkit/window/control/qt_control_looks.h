@@ -41,6 +41,7 @@ class ControlMouse {
     /// the right button, for a disabled control and where the handler has swallowed the press.
     [[nodiscard]] Own press(const QWidget& widget, const QMouseEvent& event);
     [[nodiscard]] bool isEnabled() const;
+    void takeFocus();
     void release(const QWidget& widget, const QMouseEvent& event);
     /// Runs the Click or DblClick slot.
     void send(std::function<void()> Control::*slot);

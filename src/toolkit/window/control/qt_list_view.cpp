@@ -1,11 +1,14 @@
 #include "toolkit/window/control/qt_list_view.h"
 
 #include <QtCore/QItemSelectionModel>
+#include <QtCore/QTimer>
 #include <QtGui/QKeyEvent>
 #include <QtGui/QMouseEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QScrollBar>
 
 #include "toolkit/base/qt_text.h"
+#include "toolkit/window/control/qt_painted_part.h"
 
 namespace toolkit {
 
@@ -41,7 +44,10 @@ void ListView::pull() {
 void ListView::push() {
     if (list_.Visible) {
         // Setting no current row keeps the view from choosing one when it gets the focus.
-        if (rows_.replace(list_.List)) setCurrentIndex({});
+        if (rows_.replace(list_.List)) {
+            setCurrentIndex({});
+            tell(QAccessible::ObjectReorder);
+        }
         pushIndex();
         pushTop();
         if (const QString tip = qString(list_.ToolTip); tip != toolTip()) setToolTip(tip);
@@ -65,6 +71,29 @@ void ListView::takeKey(QKeyEvent& event) {
     const int before = currentIndex().row();
     keyPressEvent(&event);
     if (list_.ClicksByKey && currentIndex().row() != before) mouse_.send(&Control::Click);
+}
+
+void ListView::choose(int row) {
+    if (!isVisible() || QApplication::activeModalWidget() != nullptr) return;
+    mouse_.takeFocus();
+    list_.PointedIndex = row;
+    setCurrentIndex(rows_.index(row));
+    mouse_.send(&Control::Click);
+}
+
+/// The platform tells of the list alone, and it does so last.
+void ListView::focusInEvent(QFocusEvent* event) {
+    QListView::focusInEvent(event);
+    QTimer::singleShot(0, this, [this] {
+        if (hasFocus() && currentIndex().isValid()) tell(QAccessible::Focus, currentIndex().row());
+    });
+}
+
+void ListView::tell(QAccessible::Event what, int row) {
+    if (!isHeard()) return;
+    QAccessibleEvent event(this, what);
+    event.setChild(row);
+    toolkit::tell(event);
 }
 
 void ListView::mousePressEvent(QMouseEvent* event) {

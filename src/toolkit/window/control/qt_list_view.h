@@ -1,6 +1,7 @@
 // A list box on the form or on a panel. Internal to the toolkit's sources.
 #pragma once
 
+#include <QtGui/QAccessible>
 #include <QtWidgets/QListView>
 
 #include "toolkit/model/window_parts.h"
@@ -19,7 +20,13 @@ class ListView : public QListView {
     /// What the list does with a key that no handler has taken.
     void takeKey(QKeyEvent& event);
 
+    // For screen readers.
+    [[nodiscard]] bool isLink(int row) const { return list_.IsLink && list_.IsLink(row); }
+    /// As a click on the row.
+    void choose(int row);
+
   protected:
+    void focusInEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -29,6 +36,7 @@ class ListView : public QListView {
   private:
     void pushIndex();
     void pushTop();
+    void tell(QAccessible::Event what, int row = -1);
 
     ListBox& list_;
     ControlMouse mouse_;

@@ -1,8 +1,10 @@
 #include "toolkit/window/control/qt_overlay.h"
 
 #include <cmath>
+#include <memory>
 
 #include <QtGui/QPainter>
+#include <QtWidgets/QAccessibleWidget>
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
@@ -10,6 +12,32 @@
 #include "toolkit/text/text_painter.h"
 
 namespace toolkit {
+namespace {
+
+/// A notice is told when it comes up. What explains something else is told with that.
+class AccessibleOverlay : public QAccessibleWidget {
+  public:
+    explicit AccessibleOverlay(Overlay& overlay)
+        : QAccessibleWidget(&overlay,
+                            overlay.isNotice() ? QAccessible::Notification : QAccessible::ToolTip),
+          overlay_(overlay) {}
+
+    [[nodiscard]] QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? overlay_.text() : QAccessibleWidget::text(kind);
+    }
+
+  private:
+    const Overlay& overlay_;
+};
+
+QAccessibleInterface* makeOverlayPart(const QString& /*className*/, QObject* object) {
+    auto* overlay = dynamic_cast<Overlay*>(object);
+    return overlay == nullptr ? nullptr : std::make_unique<AccessibleOverlay>(*overlay).release();
+}
+
+} // namespace
+
+void answerAboutOverlays() { QAccessible::installFactory(makeOverlayPart); }
 
 Overlay::Overlay(QWidget& container, const TextBox& box) : QLabel(&container), box_(box) {
     setTextFormat(Qt::PlainText);

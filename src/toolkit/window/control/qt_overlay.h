@@ -9,12 +9,16 @@
 
 namespace toolkit {
 
+/// Tells the platform how to ask about overlays.
+void answerAboutOverlays();
+
 class Overlay : public QLabel {
   public:
     Overlay(QWidget& container, const TextBox& box);
 
     /// Takes over what the program changed.
     void push();
+    [[nodiscard]] bool isNotice() const { return box_.IsNotice; }
 
   protected:
     void paintEvent(QPaintEvent* event) override;

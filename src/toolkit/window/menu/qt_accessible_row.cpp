@@ -6,6 +6,7 @@
 #include <QtGui/QAccessible>
 #include <QtGui/QAction>
 #include <QtWidgets/QMenu>
+#include <QtWidgets/QMenuBar>
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/model/label.h"
@@ -13,11 +14,15 @@
 namespace toolkit {
 namespace {
 
-/// The menu on which the row stands.
+/// The menu on which the row stands. What stands on the bar is no row, even while the bar has no
+/// room and keeps it in a menu.
 QMenu* menuOf(const QAction& row) {
-    for (QObject* object : row.associatedObjects())
-        if (auto* menu = qobject_cast<QMenu*>(object)) return menu;
-    return nullptr;
+    QMenu* found = nullptr;
+    for (QObject* object : row.associatedObjects()) {
+        if (qobject_cast<QMenuBar*>(object) != nullptr) return nullptr;
+        if (auto* menu = qobject_cast<QMenu*>(object)) found = menu;
+    }
+    return found;
 }
 
 class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInterface {
@@ -46,7 +51,8 @@ class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInter
     [[nodiscard]] QString text(QAccessible::Text kind) const override {
         switch (kind) {
         case QAccessible::Name:
-            return qString(paintedText(ansiText(row_->text().section(u'\t', 0, 0))));
+            // Blanks stand before what is a key's name in the caption.
+            return qString(paintedText(ansiText(row_->text().section(u'\t', 0, 0)))).simplified();
         case QAccessible::Accelerator:
             return row_->text().section(u'\t', 1);
         case QAccessible::Description:
@@ -97,16 +103,17 @@ class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInter
     QPointer<QMenu> menu_;
 };
 
-/// The platform keeps what this returns as long as the object lives.
-QAccessibleInterface* rowWithDescription(const QString& className, QObject* object) {
+/// The platform keeps what this returns as long as the object lives. Its own rows have no
+/// description, and the key within their name.
+QAccessibleInterface* makeRowPart(const QString& className, QObject* object) {
     if (className != u"QAction") return nullptr;
     auto* row = qobject_cast<QAction*>(object);
-    if (row == nullptr || row->whatsThis().isEmpty() || menuOf(*row) == nullptr) return nullptr;
+    if (row == nullptr || row->isSeparator() || menuOf(*row) == nullptr) return nullptr;
     return std::make_unique<AccessibleRow>(*row).release();
 }
 
 } // namespace
 
-void tellRowDescriptions() { QAccessible::installFactory(rowWithDescription); }
+void answerAboutRows() { QAccessible::installFactory(makeRowPart); }
 
 } // namespace toolkit

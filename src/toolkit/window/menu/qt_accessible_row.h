@@ -3,8 +3,8 @@
 
 namespace toolkit {
 
-/// From now on a screen reader also gets the "what's this" text of a row that has one, as its
-/// description. The platform's own interface for rows leaves that out.
-void tellRowDescriptions();
+/// Tells the platform how to ask about rows: name and key apart, and the "what's this" text as
+/// description.
+void answerAboutRows();
 
 } // namespace toolkit

@@ -8,7 +8,6 @@
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
-#include "toolkit/window/menu/qt_accessible_row.h"
 #include "toolkit/window/menu/qt_menu_rows.h"
 
 namespace toolkit {
@@ -31,7 +30,6 @@ MenuBar::MenuBar(QWidget& form, const WindowParts& parts, EventDispatcher& dispa
       watch_([this](const HighlightedRow& highlighted) { tellSelection(highlighted); }) {
     setNativeMenuBar(false);
     setFocusPolicy(Qt::NoFocus);
-    tellRowDescriptions();
     for (std::size_t row = 0; row < parts.menu.size(); ++row) {
         const std::string_view text = parts.menu[row].shortcut;
         shortcuts_.push_back(QKeySequence::fromString(qString(text), QKeySequence::PortableText));
@@ -68,6 +66,7 @@ void MenuBar::push() {
         if (entry->caption != item.Caption) {
             entry->caption = item.Caption;
             entry->action->setText(qString(item.Caption));
+            entry->menu.setAccessibleName(qString(paintedText(item.Caption)));
         }
         entry->action->setVisible(item.Visible);
         entry->action->setEnabled(item.Enabled);
@@ -123,6 +122,7 @@ std::size_t MenuBar::addRow(QMenu& menu, std::size_t row) {
         return row + 1;
     }
     QMenu& submenu = *menu.addMenu(qString(shown.item->Caption));
+    submenu.setAccessibleName(qString(paintedText(shown.item->Caption)));
     submenu.menuAction()->setVisible(shown.item->Visible);
     submenu.setEnabled(shown.item->Enabled);
     describe(*submenu.menuAction(), row);

@@ -8,6 +8,7 @@
 #include <QtGui/QMouseEvent>
 #include <QtGui/QPainter>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QToolTip>
 
 #include "toolkit/base/key.h"
@@ -174,30 +175,71 @@ void PanelWidget::clickWhere(bool CommandButton::*role) {
     if (found != parts_.end()) click(*found->button);
 }
 
-std::optional<PanelWidget::Target> PanelWidget::groupTargetAt(QPoint place) const {
+PanelWidget::Place PanelWidget::placeAmong(int index) const {
+    const auto single = static_cast<int>(panel_.labels.size());
+    if (index < single) return {.label = panel_.labels[static_cast<std::size_t>(index)]};
+    index -= single;
     for (const LabelGroup& group : panel_.groups) {
-        for (int index = group.labels->UBound(); index >= 0; --index) {
-            const Label& label = (*group.labels)[index];
-            if (!label.Visible || !placeOf(label).contains(place)) continue;
-            Target target{.label = &label};
-            if (group.MouseDown)
-                target.MouseDown = [&group, index](MouseArguments& mouse) {
-                    group.MouseDown(index, mouse);
-                };
-            if (group.Click) target.Click = [&group, index] { group.Click(index); };
-            return target;
-        }
+        const int count = group.labels->UBound() + 1;
+        if (index < count) return {.group = &group, .index = index};
+        index -= count;
     }
-    return std::nullopt;
+    return {};
+}
+
+PanelWidget::Target PanelWidget::targetOf(int index) const {
+    const Place place = placeAmong(index);
+    if (const PanelLabel* label = place.label)
+        return {label, label->MouseDown, label->Click, label->ToolTip};
+    const LabelGroup& group = *place.group;
+    Target target{.label = &(*group.labels)[place.index]};
+    if (group.MouseDown)
+        target.MouseDown = [&group, index = place.index](MouseArguments& mouse) {
+            group.MouseDown(index, mouse);
+        };
+    if (group.Click) target.Click = [&group, index = place.index] { group.Click(index); };
+    return target;
 }
 
 std::optional<PanelWidget::Target> PanelWidget::targetAt(QPoint place) const {
-    const auto found = std::ranges::find_if(panel_.labels, [place](const PanelLabel* label) {
+    const std::vector<const Label*> all = labels();
+    const auto found = std::ranges::find_if(all, [place](const Label* label) {
         return label->Visible && placeOf(*label).contains(place);
     });
-    if (found == panel_.labels.end()) return groupTargetAt(place);
-    const PanelLabel& label = **found;
-    return Target{&label, label.MouseDown, label.Click, label.ToolTip};
+    if (found == all.end()) return std::nullopt;
+    return targetOf(static_cast<int>(found - all.begin()));
+}
+
+/// One that does something is a button; so its pointer is a hand.
+PanelWidget::SpokenLabel PanelWidget::spokenLabel(int index) const {
+    const Place place = placeAmong(index);
+    if (const PanelLabel* label = place.label) {
+        const bool acts = label->Click || !label->ToolTip.empty();
+        return {.kind = acts ? SpokenLabel::Kind::Button : SpokenLabel::Kind::Text,
+                .label = label,
+                .name = label->AccessibleName.empty() ? paintedText(label->Caption)
+                                                      : label->AccessibleName,
+                .description = label->ToolTip};
+    }
+    const LabelGroup& group = *place.group;
+    const Label& label = (*group.labels)[place.index];
+    return {.kind = group.IsChosen ? SpokenLabel::Kind::Choice : SpokenLabel::Kind::Button,
+            .label = &label,
+            .name = group.AccessibleName ? group.AccessibleName(place.index)
+                                         : paintedText(label.Caption),
+            .isChosen = group.IsChosen && group.IsChosen(place.index)};
+}
+
+void PanelWidget::pressLabel(int index) {
+    const Target target = targetOf(index);
+    if (!isVisible() || !target.label->Visible || QApplication::activeModalWidget() != nullptr)
+        return;
+    if (target.MouseDown) press(target, {.Button = button::left});
+    if (target.Click) dispatcher_.run(target.Click);
+}
+
+void PanelWidget::press(const Target& target, MouseArguments arguments) {
+    dispatcher_.run([&] { target.MouseDown(arguments); });
 }
 
 void PanelWidget::mousePressEvent(QMouseEvent* event) {
@@ -207,9 +249,8 @@ void PanelWidget::mousePressEvent(QMouseEvent* event) {
     pressed_ = target && event->button() == Qt::LeftButton ? target->label : nullptr;
     if (!target || !target->MouseDown || buttonOf(event->button()) == 0) return;
     const QPoint inside = place - placeOf(*target->label).topLeft();
-    MouseArguments arguments{buttonOf(event->button()), shiftOf(event->modifiers()),
-                             twipsFromPixels(inside.x()), twipsFromPixels(inside.y())};
-    dispatcher_.run([&] { target->MouseDown(arguments); });
+    press(*target, {buttonOf(event->button()), shiftOf(event->modifiers()),
+                    twipsFromPixels(inside.x()), twipsFromPixels(inside.y())});
 }
 
 void PanelWidget::mouseReleaseEvent(QMouseEvent* event) {

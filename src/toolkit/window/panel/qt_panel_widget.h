@@ -29,6 +29,19 @@ class PanelWidget : public QWidget {
     /// The label's rectangle where it is shown.
     [[nodiscard]] static QRect placeOf(const Label& label);
 
+    /// A label as a screen reader knows it.
+    struct SpokenLabel {
+        enum class Kind { Text, Button, Choice } kind = Kind::Text;
+        const Label* label = nullptr;
+        std::string name{};
+        std::string description{};
+        bool isChosen = false;
+    };
+    [[nodiscard]] int labelCount() const { return static_cast<int>(labels().size()); }
+    [[nodiscard]] SpokenLabel spokenLabel(int index) const;
+    /// As a click on it.
+    void pressLabel(int index);
+
   protected:
     bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
@@ -61,8 +74,17 @@ class PanelWidget : public QWidget {
 
     [[nodiscard]] Ground wantedGround() const;
     [[nodiscard]] std::vector<const Label*> labels() const;
+    /// A label on the panel by its place among `labels()`.
+    struct Place {
+        const PanelLabel* label = nullptr; ///< none: one of a group
+        const LabelGroup* group = nullptr;
+        int index = 0; ///< in its group
+    };
+
+    [[nodiscard]] Place placeAmong(int index) const;
+    [[nodiscard]] Target targetOf(int index) const;
     [[nodiscard]] std::optional<Target> targetAt(QPoint place) const;
-    [[nodiscard]] std::optional<Target> groupTargetAt(QPoint place) const;
+    void press(const Target& target, MouseArguments arguments);
     void pushPixels();
     void paintGround(QPainter& painter) const;
     void takeKey(const PanelPart& part, QKeyEvent& event);
