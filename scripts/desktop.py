@@ -191,11 +191,23 @@ class Program:
 
     def come_up(self, is_first, answers):
         if is_first:
-            # Says that the player's files were moved to the data folder.
-            self.answer(self.wait_for_box("^Zevlin$"), "Return")
+            self.answer_first_box()
         for title, keys in answers:
             self.answer(self.wait_for_box(title), keys)
         self.window = wait_for("the program's window", lambda: self.windows(r"^Zevlin  ?[-(]"))[0]
+
+    def answer_first_box(self):
+        """It says that the player's files were moved to the data folder."""
+        self.answer(self.wait_for_box("^Zevlin$"), "Return")
+
+    def close_help(self):
+        self.press("Escape")
+
+    def place(self):
+        """Left, top and width of what is inside the window's frame, in pixels of the screen."""
+        shell = xdotool("getwindowgeometry", "--shell", self.window)
+        return tuple(int(re.search(rf"^{name}=(-?\d+)", shell, re.MULTILINE)[1])
+                     for name in ("X", "Y", "WIDTH"))
 
     def windows(self, title="."):
         if not self.is_running():
@@ -386,9 +398,7 @@ class Card:
 
     def form_area(self):
         """Where the form's inside begins on the screen: right below the menu bar."""
-        shell = xdotool("getwindowgeometry", "--shell", self.program.window)
-        x, y, width = (int(re.search(rf"^{name}=(-?\d+)", shell, re.MULTILINE)[1])
-                       for name in ("X", "Y", "WIDTH"))
+        x, y, width = self.program.place()
         picture = screenshot()
         columns = range(x + width // 4, x + width // 2)
         top = next(row for row in range(y, y + 100)

@@ -20,6 +20,7 @@ class WholeProgramTest(unittest.TestCase):
 
     announced_error = None  # a text that an error line of the trace may hold
     home_type = desktop.Home
+    program_type = desktop.Program
 
     def run(self, result=None):
         result = result or self.defaultTestResult()
@@ -42,7 +43,7 @@ class WholeProgramTest(unittest.TestCase):
         self.assertEqual(errors, [])
 
     def start(self, *arguments, **settings):
-        program = desktop.Program(self.home, *arguments, **settings)
+        program = self.program_type(self.home, *arguments, **settings)
         self.programs.append(program)
         return program
 
@@ -51,7 +52,7 @@ class WholeProgramTest(unittest.TestCase):
         program = self.start(**settings)
         desktop.wait_for("the options file", (self.home.data / "ZEV.Ini").exists)
         program.wait_for_title(r"\(unnamed\)$")
-        program.press("Escape")
+        program.close_help()
         return program
 
     def leave(self, program):
