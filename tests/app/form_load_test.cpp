@@ -1,5 +1,7 @@
 #include "app/form_load.h"
 
+#include <algorithm>
+
 #include "app/layouts.h"
 #include "card/lifecycle.h"
 #include "card/write_card.h"
