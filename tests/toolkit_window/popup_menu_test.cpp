@@ -53,7 +53,8 @@ TEST_F(PopupMenu, AScreenReaderKnowsAndChoosesItsRows) {
         EXPECT_EQ(test::accessiblePart("Boldface & more").role, "menu row");
         EXPECT_TRUE(test::accessiblePart("Boldface & more").isChecked);
         EXPECT_FALSE(test::press("Italicize"));
-        EXPECT_TRUE(test::press("Boldface & more"));
+        // It hangs below the form, where a reader looks for it.
+        EXPECT_TRUE(test::pressInWindow("Boldface & more"));
     });
     popupMenu(rows, "Text");
     EXPECT_EQ(log, Log{"bold"});

@@ -5,6 +5,7 @@
 #include <QtCore/QTimer>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QAccessibleWidget>
+#include <QtWidgets/QMenu>
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/window/control/qt_pointer.h"
@@ -12,10 +13,37 @@
 namespace toolkit {
 namespace {
 
-/// To the platform a plain widget is no window, even if it is one.
+/// To the platform a plain widget is no window, even if it is one, and a pop-up menu hangs nowhere.
 class AccessibleForm : public QAccessibleWidget {
   public:
-    explicit AccessibleForm(FormWidget& form) : QAccessibleWidget(&form, QAccessible::Window) {}
+    explicit AccessibleForm(FormWidget& form)
+        : QAccessibleWidget(&form, QAccessible::Window), form_(form) {}
+
+    [[nodiscard]] int childCount() const override {
+        return QAccessibleWidget::childCount() + static_cast<int>(popups().size());
+    }
+    [[nodiscard]] QAccessibleInterface* child(int index) const override {
+        const int own = QAccessibleWidget::childCount();
+        if (index < own) return QAccessibleWidget::child(index);
+        const QList<QMenu*> open = popups();
+        return index - own < open.size()
+                   ? QAccessible::queryAccessibleInterface(open.at(index - own))
+                   : nullptr;
+    }
+    [[nodiscard]] int indexOfChild(const QAccessibleInterface* child) const override {
+        const auto popup = popups().indexOf(qobject_cast<QMenu*>(child->object()));
+        return popup < 0 ? QAccessibleWidget::indexOfChild(child)
+                         : QAccessibleWidget::childCount() + static_cast<int>(popup);
+    }
+
+  private:
+    [[nodiscard]] QList<QMenu*> popups() const {
+        auto menus = form_.findChildren<QMenu*>(QString(), Qt::FindDirectChildrenOnly);
+        menus.removeIf([](const QMenu* menu) { return !menu->isVisible(); });
+        return menus;
+    }
+
+    FormWidget& form_;
 };
 
 /// What lies on it overlaps, and the platform would tell of the hindmost.
