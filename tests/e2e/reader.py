@@ -101,9 +101,14 @@ class Reader:
                   if part and part.getRole() == pyatspi.ROLE_FRAME]
         return frames[0] if frames else ""
 
+    def boxes(self):
+        """The boxes and dialogs that are windows of their own."""
+        return [part for part in self.application
+                if part and part.getRole() in (DIALOG, pyatspi.ROLE_ALERT)]
+
     def box(self, title):
-        """The box or dialog in front of the window; None if there is none."""
-        return self.found(title, DIALOG) or self.found(title, pyatspi.ROLE_ALERT)
+        """The one of this title; None if there is none."""
+        return next((box for box in self.boxes() if box.name == title), None)
 
     def fields(self):
         """All fields of the card, by name."""

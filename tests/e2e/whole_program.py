@@ -32,7 +32,7 @@ class WholeProgramTest(unittest.TestCase):
             if len(result.failures) + len(result.errors) > failures:
                 self.keep()
         finally:
-            for program in self.programs:
+            for program in reversed(self.programs):
                 program.kill()
             shutil.rmtree(self.home.folder.parent, ignore_errors=True)
         return result
@@ -64,7 +64,8 @@ class WholeProgramTest(unittest.TestCase):
         shutil.rmtree(folder, ignore_errors=True)
         folder.mkdir(parents=True)
         desktop.save_screenshot(folder / "screen.png")
-        shutil.copytree(self.home.folder, folder / "home")
+        shutil.copytree(self.home.folder, folder / "home",
+                        ignore=lambda folder, names: names if folder == str(self.home.runtime) else [])
         print(f"The screen and the home are kept in {folder}", file=sys.stderr)
 
 
