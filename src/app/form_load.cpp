@@ -17,6 +17,7 @@
 #include "card/lifecycle.h"
 #include "card/load.h"
 #include "card/rescue.h"
+#include "card/take_card.h"
 #include "design/pen.h"
 #include "form/background.h"
 #include "form/file_failures.h"
@@ -163,8 +164,16 @@ bool canBeOpened(const Zevlin& form) {
            findCard(form, form.CardName);
 }
 
+/// A copy of a card from elsewhere is opened in its place.
+std::string cardToOpen(Zevlin& form, std::string_view commandLine) {
+    const auto file = fileNamedBy(commandLine);
+    if (!file) return cardNameOf(commandLine);
+    const auto own = ownCardOf(form, *file);
+    return own ? *own : takeCopy(form, *file).value_or("");
+}
+
 void openNamedCard(Zevlin& form, std::string_view commandLine) {
-    form.CardName = cardNameOf(commandLine);
+    form.CardName = cardToOpen(form, commandLine);
     if (!canBeOpened(form)) {
         // The blank card stays, without a name.
         form.CardName.clear();
@@ -207,6 +216,7 @@ void finish(Zevlin& form, LoadRun& run) {
     // The version in the options says that the layout was offered.
     if (run.layoutAsked) IniWrite(form);
     tellFileFailures(form);
+    form.IsLoaded = true;
 }
 
 void load(Zevlin& form, std::string_view commandLine, LoadRun& run) {

@@ -7,6 +7,7 @@
 #include "app/unload.h"
 #include "app/wire_panels.h"
 #include "card/journal.h"
+#include "card/take_card.h"
 #include "card/undo_card.h"
 #include "design/design_mode.h"
 #include "design/drag_field.h"
@@ -33,6 +34,8 @@ void wireForm(Zevlin& form) {
     form.KeyDown = run(form, Form_KeyDown);
     form.QueryClose = [&form] { return Form_Unload(form, unloadByPlayer); };
     form.QueryEnd = [&form] { return Form_Unload(form, unloadBySession); };
+    form.TakesFile = [&form] { return takesDroppedCard(form); };
+    form.FileDropped = [&form](const std::filesystem::path& file) { openDroppedCard(form, file); };
     form.Settled = [&form] { noteCardStep(form); };
     form.Ending = [&form] { flushJournal(form); };
     form.Unhandled = [&form](const toolkit::RunTimeError& failure) {

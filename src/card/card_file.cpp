@@ -135,6 +135,25 @@ CardDocument readCard(std::string content) {
     return document;
 }
 
+bool isCard(std::string content) {
+    std::string version;
+    CardReader card(std::move(content), version,
+                    [&version](toolkit::TextInput& input) { return skipComments(input, version); });
+    try {
+        static_cast<void>(card.readPartnerName());
+        static_cast<void>(card.readPartnerNumber());
+        const int marks = card.readCount();
+        for (int i = 1; i <= marks; ++i)
+            if (card.readMark().number < 0) return false;
+        const int texts = card.readCount();
+        for (int i = 1; i <= texts; ++i)
+            if (card.readText().number < 0) return false;
+        return marks > 0 && texts > 0;
+    } catch (const toolkit::RunTimeError&) {
+        return false;
+    }
+}
+
 bool truthValue(std::string_view state) {
     if (toolkit::equalWithoutCase(state, "true")) return true;
     if (toolkit::equalWithoutCase(state, "false")) return false;

@@ -91,4 +91,8 @@ struct CardDocument {
 /// of CardReader, and 9 for a field number beyond the count in the file.
 [[nodiscard]] CardDocument readCard(std::string content);
 
+/// Whether the content is that of a card which a player can open, by this or an older version: it
+/// has marks and texts, and each of them can be read.
+[[nodiscard]] bool isCard(std::string content);
+
 } // namespace zev

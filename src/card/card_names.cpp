@@ -2,21 +2,57 @@
 
 #include "card/card_file.h"
 #include "toolkit/base/ansi.h"
+#include "toolkit/base/file_names.h"
 #include "toolkit/base/number_text.h"
 
 namespace zev {
+namespace {
+
+bool isFileName(const std::string& name) {
+    return toolkit::isPossibleFileName(name + std::string(cardExtension));
+}
+
+/// Whether a card's name can hold the character.
+bool canHold(char character) {
+    const std::string name{'x', character};
+    return !hasForbiddenCharacter(name) && isFileName(name);
+}
+
+/// As much of the name as a file can have with this behind it; no blank before its end.
+std::string cutToFit(std::string_view name, const std::string& ending) {
+    while (!name.empty() && !isFileName(std::string(name) + ending)) name.remove_suffix(1);
+    return std::string(toolkit::trim(name)) + ending;
+}
+
+} // namespace
 
 std::string cleanedCardName(std::string_view name) {
     if (name.starts_with('\\') || name.starts_with('/')) name.remove_prefix(1);
-    const bool hasExtension =
-        name.size() >= cardExtension.size() &&
-        toolkit::equalWithoutCase(name.substr(name.size() - cardExtension.size()), cardExtension);
-    if (hasExtension) name.remove_suffix(cardExtension.size());
+    if (hasCardExtension(name)) name.remove_suffix(cardExtension.size());
     return std::string(name);
+}
+
+bool hasCardExtension(std::string_view name) {
+    return name.size() >= cardExtension.size() &&
+           toolkit::equalWithoutCase(name.substr(name.size() - cardExtension.size()),
+                                     cardExtension);
 }
 
 bool hasForbiddenCharacter(std::string_view name) {
     return name.find_first_of("/\\:*?<>\"") != std::string_view::npos;
+}
+
+std::string cardNameFor(std::string_view fileName) {
+    while (hasCardExtension(fileName)) fileName.remove_suffix(cardExtension.size());
+    std::string name(fileName);
+    for (char& character : name)
+        if (!canHold(character)) character = '_';
+    name = cutToFit(toolkit::trim(name), {});
+    return name.empty() || isTemporaryCard(name) ? "Card" : name;
+}
+
+std::string numberedCardName(std::string_view name, int number) {
+    return cutToFit(name, " " + toolkit::numberText(number));
 }
 
 bool isTemporaryCard(std::string_view name) {

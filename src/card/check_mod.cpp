@@ -18,43 +18,45 @@ void noticeCommittedEdit(Zevlin& form) {
     if (form.OrigIndex > 0 && form.AText[form.OrigIndex].Tag != form.OrigText) SetMod(form);
 }
 
-bool refusesToLoseChanges(Zevlin& form) {
+Changes askAboutChanges(Zevlin& form) {
     const auto answer = toolkit::show({.text = "Do you want to save the current card first?",
                                        .buttons = toolkit::Buttons::YesNoCancel,
                                        .icon = toolkit::Icon::Question,
                                        .title = "Unsaved changes",
                                        .preset = {}});
-    if (answer == toolkit::Answer::Cancel) return true;
+    if (answer == toolkit::Answer::Cancel) return Changes::Kept;
     if (answer == toolkit::Answer::No) {
         ResetMod(form);
-        return false;
+        return Changes::Discarded;
     }
     MSave_Click(form);
     // Still changed if the player cancelled the question for a name.
-    return form.CardModified;
+    return form.CardModified ? Changes::Kept : Changes::Saved;
 }
 
-bool checkChanges(Zevlin& form) {
-    if (form.Printing) return false;
+Changes checkChanges(Zevlin& form) {
+    if (form.Printing) return Changes::None;
     if (form.MShowShapes.Checked) {
         ResetMod(form);
-        return false;
+        return Changes::None;
     }
     commitOpenField(form);
     noticeCommittedEdit(form);
-    return form.CardModified && refusesToLoseChanges(form);
+    return form.CardModified ? askAboutChanges(form) : Changes::None;
 }
 
 } // namespace
 
-bool CheckMod(Zevlin& form) {
-    bool refused = false;
+Changes settleChanges(Zevlin& form) {
+    Changes changes = Changes::None;
     procedure(form, "CheckMod",
               std::string(truthText(form.CardModified)) + ", " +
                   std::string(truthText(form.Printing)) + ", " +
                   std::string(truthText(form.MShowShapes.Checked)),
-              [&] { refused = checkChanges(form); });
-    return refused;
+              [&] { changes = checkChanges(form); });
+    return changes;
 }
+
+bool CheckMod(Zevlin& form) { return settleChanges(form) == Changes::Kept; }
 
 } // namespace zev

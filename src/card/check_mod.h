@@ -5,7 +5,13 @@ namespace zev {
 
 struct Zevlin;
 
-/// Commits an open field and asks about unsaved changes; true if the caller must not go on.
+/// What became of unsaved changes. The caller must not go on where they are kept.
+enum class Changes { None, Saved, Discarded, Kept };
+
+/// Commits an open field and asks about unsaved changes.
+[[nodiscard]] Changes settleChanges(Zevlin& form);
+
+/// The same; true if the caller must not go on.
 [[nodiscard]] bool CheckMod(Zevlin& form);
 
 } // namespace zev

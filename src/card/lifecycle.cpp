@@ -73,7 +73,9 @@ void openCard(Zevlin& form) {
     MNew_Click(form);
     form.CardName = name;
     announceOpening(form);
+    form.ChooserOpens = true;
     form.CardName = GetFileNames(form);
+    form.ChooserOpens = false;
     if (form.CardName.empty()) return SetCaption(form);
     if (findCard(form, form.CardName))
         GetCardFile(form);

@@ -37,6 +37,7 @@ struct AppState {
     bool Initializing = false;
     bool FontChangeAsked = false;
     bool LayoutCopied = false; ///< this run copied the installed layout
+    bool IsLoaded = false;     ///< the start is over
 
     std::filesystem::path DocumentsFolder; ///< empty where the system has none
     std::filesystem::path DataFolder;      ///< empty without a documents folder

@@ -58,6 +58,7 @@ struct CardState {
 
     bool ChooserCancelled = false;
     bool ChooserTaken = false;
+    bool ChooserOpens = false;   ///< the chooser is there to open a card
     toolkit::TextBox TSaveAs;    ///< the name, typed or selected; it outlives the chooser
     toolkit::ListBox FileList;   ///< the cards of the data folder, without extension
     toolkit::PanelLabel LSaveAs; ///< the prompt

@@ -39,6 +39,8 @@ DISK FILES
        to keep the card under its present name, and 'Save As' to keep it under another name.
   * 'Open' shows a list of your cards.  Double-click one, or select it and press Enter.
       * This is the ONLY correct way to open existing cards. Don't try to open them in Windows Explorer.
+       * A card that somebody sent you, or that lies elsewhere: drop its file on this window.  Zevlin offers to copy it
+         into your cards and to open the copy; the file itself stays as it is.
        * Before the list appears, the card you were working on is closed.  If you click 'Cancel', you have an empty card.
        * Right-click a card in the list to Delete or Rename it.  Delete does NOT ask you first.
   * A '*' behind the card's name at the top of the window means that the card has unsaved changes.

@@ -1,5 +1,9 @@
 #include "app/command_line.h"
 
+#include <filesystem>
+#include <fstream>
+#include <string>
+
 #include <gtest/gtest.h>
 
 namespace zev {
@@ -37,6 +41,64 @@ TEST(CommandLine, NamesNoCardBeyondTheCodePage) {
 TEST(CommandLine, OfAFolderNamesNoCard) {
     EXPECT_EQ(cardNameOf("C:\\cards\\"), "");
     EXPECT_EQ(cardNameOf(""), "");
+}
+
+namespace fs = std::filesystem;
+
+class FileOnTheCommandLine : public testing::Test {
+  protected:
+    FileOnTheCommandLine() {
+        fs::create_directories(folder);
+        for (const char* name : {"Jones.zev", "a b.zev", "plain", "100%41.ZEV"})
+            std::ofstream(folder / name) << "content";
+    }
+    ~FileOnTheCommandLine() override {
+        fs::current_path(before);
+        fs::remove_all(folder);
+    }
+
+    const fs::path before = fs::current_path();
+    const fs::path folder = fs::path(testing::TempDir()) / "zevlin command line";
+};
+
+TEST_F(FileOnTheCommandLine, IsNamedByItsPath) {
+    EXPECT_EQ(fileNamedBy((folder / "Jones.zev").string()), folder / "Jones.zev");
+    EXPECT_EQ(fileNamedBy((folder / "a b.zev").string()), folder / "a b.zev");
+    EXPECT_EQ(fileNamedBy((folder / "plain").string()), folder / "plain");
+    EXPECT_EQ(fileNamedBy((folder / "100%41.ZEV").string()), folder / "100%41.ZEV");
+}
+
+TEST_F(FileOnTheCommandLine, IsNamedByAPathFromTheFolderAtWork) {
+    fs::current_path(folder);
+    EXPECT_EQ(fileNamedBy("a b.zev"), fs::current_path() / "a b.zev");
+    EXPECT_EQ(fileNamedBy("./plain"), fs::current_path() / "./plain");
+    fs::current_path(folder.parent_path());
+    EXPECT_EQ(fileNamedBy("zevlin command line/Jones.zev"),
+              fs::current_path() / "zevlin command line/Jones.zev");
+}
+
+TEST_F(FileOnTheCommandLine, IsNamedByAnAddress) {
+    std::string address =
+        "file://" + std::string(folder.generic_string().front() == '/' ? "" : "/");
+    for (const char character : folder.generic_string())
+        address += character == ' ' ? "%20" : std::string(1, character);
+    EXPECT_EQ(fileNamedBy(address + "/a%20b.zev"), folder / "a b.zev");
+    EXPECT_EQ(fileNamedBy(address + "/100%2541.ZEV"), folder / "100%41.ZEV");
+    EXPECT_EQ(fileNamedBy(address + "/gone.zev"), std::nullopt);
+}
+
+TEST_F(FileOnTheCommandLine, ABareWordIsNoFile) {
+    fs::current_path(folder);
+    EXPECT_EQ(fileNamedBy("plain"), std::nullopt);
+    EXPECT_EQ(fileNamedBy("Jones"), std::nullopt);
+}
+
+TEST_F(FileOnTheCommandLine, IsThereAndNoFolder) {
+    EXPECT_EQ(fileNamedBy(""), std::nullopt);
+    EXPECT_EQ(fileNamedBy(folder.string()), std::nullopt);
+    EXPECT_EQ(fileNamedBy((folder / "gone.zev").string()), std::nullopt);
+    EXPECT_EQ(fileNamedBy("\xFF\xFF.zev"), std::nullopt);
+    EXPECT_EQ(fileNamedBy(std::string("/") + std::string(5000, 'x') + ".zev"), std::nullopt);
 }
 
 } // namespace

@@ -154,6 +154,40 @@ TEST_F(FormLoad, ACommandLineWithBackslashesIsCutAtTheLast) {
     EXPECT_EQ(form.CardName, "Jones");
 }
 
+TEST_F(FormLoad, ACardFromElsewhereOnTheCommandLineIsCopiedAfterAQuestion) {
+    writeCard("Jones", "another");
+    const fs::path file = home / "mail" / "Jones.zev";
+    fs::create_directory(file.parent_path());
+    toolkit::writeFile(file, cardWithMark);
+    answer(toolkit::Answer::Yes);
+    start(file.string());
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0].text, "Copy 'Jones' into your cards as 'Jones 2' and open it?");
+    EXPECT_EQ(form.Caption, "Zevlin  ( Jones 2 )");
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_EQ(dataFileContent("Jones 2.zev"), cardWithMark);
+    EXPECT_EQ(dataFileContent("Jones.zev"), "another");
+}
+
+TEST_F(FormLoad, ACardFromElsewhereThatIsRefusedLeavesTheBlankCard) {
+    writeCard("Jones", cardWithMark);
+    const fs::path file = home / "Jones.zev";
+    toolkit::writeFile(file, cardWithMark);
+    answer(toolkit::Answer::No);
+    start(file.string());
+    expectBlankCard();
+    EXPECT_FALSE(fs::exists(dataFile("Jones 2.zev")));
+}
+
+TEST_F(FormLoad, APathToACardOfTheDataFolderOpensItAtOnce) {
+    writeCard("Jones", cardWithMark);
+    writeCard("Jones 1.5", "\"\",\"\"\r\n1\r\n1,0,0\r\n1\r\n1,\"\",0\r\n");
+    start((dataFolder / ".." / "ZEV" / "Jones.zev").string());
+    EXPECT_EQ(form.CardName, "Jones");
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_TRUE(boxes.empty());
+}
+
 TEST_F(FormLoad, ANameOnTheCommandLineMayHoldBlanks) {
     writeCard("My Card", cardWithMark);
     start("My Card.zev");

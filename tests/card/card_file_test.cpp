@@ -244,6 +244,32 @@ TEST(CardReader, SurvivesAnyByteInAnyPlace) {
     }
 }
 
+TEST(IsCard, TakesWhatAPlayerCanOpen) {
+    EXPECT_TRUE(isCard(wholeCard()));
+    CardDocument card;
+    card.programVersion = "2.1.0";
+    card.marks = {true, false};
+    card.texts = {{"a, \"b\" && ^h", 15}, {"", 0}};
+    EXPECT_TRUE(isCard(writeCard(card)));
+    // Of an older program, and of one with other fields.
+    EXPECT_TRUE(isCard("\"Jane\",\"\"\n1\n1,1\n2\n1,\"2C\\\\B\\\\\"\n2,\"\"\n"));
+    EXPECT_TRUE(isCard("' Program version: 2.0.0\n\"\",\"\"\n1\n900,1,0\n1\n700,\"x\",0"));
+}
+
+TEST(IsCard, RefusesAllElse) {
+    for (const char* content :
+         {"", "Dear Joe,\r\n", "'Comment\r\n", "a,b", "a,b\r\n0\r\n1\r\n1,x\r\n",
+          "a,b\r\n1\r\n1,1\r\n0\r\n", "a,b\r\n1\r\n-1,1\r\n1\r\n1,x\r\n",
+          "a,b\r\n1\r\n1,1\r\n1\r\n-1,x\r\n", "a,b\r\n2\r\n1,1\r\n1\r\n1,x\r\n"})
+        EXPECT_FALSE(isCard(content)) << content;
+}
+
+TEST(IsCard, RefusesATruncatedCard) {
+    const std::string whole = wholeCard();
+    for (std::size_t length = 0; length <= whole.size() - 3; ++length)
+        ASSERT_FALSE(isCard(whole.substr(0, length))) << length;
+}
+
 TEST(CardReader, ReadsVeryLongLinesInOneGo) {
     std::string marks = "' Program version: 2.0.0\r\na,b,32767,";
     for (int i = 0; i < 32767; ++i) marks += "1,1,0,";

@@ -31,6 +31,40 @@ TEST(ForbiddenCharacter, IsNoOther) {
     EXPECT_FALSE(hasForbiddenCharacter(""));
 }
 
+TEST(CardNameForAFile, IsItsNameWithoutTheExtension) {
+    EXPECT_EQ(cardNameFor("Jones.zev"), "Jones");
+    EXPECT_EQ(cardNameFor("Jones.ZEV.zev"), "Jones");
+    EXPECT_EQ(cardNameFor("Jones & Smith 1.5.zev"), "Jones & Smith 1.5");
+    EXPECT_EQ(cardNameFor("card from mail"), "card from mail");
+}
+
+TEST(CardNameForAFile, IsOneThatACardCanHave) {
+    EXPECT_EQ(cardNameFor(" Jones .zev"), "Jones");
+    EXPECT_EQ(cardNameFor("2\\/1: ?*<x>\"y\".zev"), "2__1_ ___x__y_");
+    EXPECT_EQ(cardNameFor("a\nb\x7F.zev"), "a_b_");
+    for (const char* name : {"", ".zev", "  .zev", "$$Tempcard.zev", "$$TEMPCARD"})
+        EXPECT_EQ(cardNameFor(name), "Card") << name;
+}
+
+TEST(CardNameForAFile, IsNoLongerThanAFilesNameMayBe) {
+    EXPECT_EQ(cardNameFor(std::string(300, 'x')), std::string(251, 'x'));
+    // Two bytes each in a file's name.
+    EXPECT_EQ(cardNameFor(std::string(200, '\xE9')), std::string(125, '\xE9'));
+}
+
+TEST(NumberedCardName, EndsWithTheNumber) {
+    EXPECT_EQ(numberedCardName("Jones", 2), "Jones 2");
+    EXPECT_EQ(numberedCardName("Jones", 13), "Jones 13");
+    EXPECT_EQ(numberedCardName(std::string(251, 'x'), 2), std::string(249, 'x') + " 2");
+}
+
+TEST(CardExtension, IsToldInAnyCase) {
+    for (const char* name : {".zev", "a.zev", "a.ZEV", "a.b.Zev"})
+        EXPECT_TRUE(hasCardExtension(name)) << name;
+    for (const char* name : {"", "zev", "a.zev ", "a.zev.txt", "a.ze"})
+        EXPECT_FALSE(hasCardExtension(name)) << name;
+}
+
 TEST(TemporaryCard, IsToldByItsNameInAnyCase) {
     for (const char* name : {"$$Tempcard", "$$TEMPCARD", "$$tempcard.zev", "/$$Tempcard"})
         EXPECT_TRUE(isTemporaryCard(name)) << name;

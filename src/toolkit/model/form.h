@@ -1,6 +1,7 @@
 // The main form as a plain value: its place, its frame, its background and its focus.
 #pragma once
 
+#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -71,6 +72,10 @@ struct Form {
     /// What the row with this caption does, for those who have the screen read to them; may be
     /// empty. Asked when the row's menu opens.
     std::function<std::string(std::string_view caption)> MenuDescription;
+    /// Whether a file may be dropped now; asked again and again while one is dragged over the form.
+    std::function<bool()> TakesFile;
+    /// A file was dropped, of several the first.
+    std::function<void(const std::filesystem::path&)> FileDropped;
     /// An event's procedures are done; the window hasn't taken over the values yet.
     std::function<void()> Settled;
     /// The player closes the window; true refuses.

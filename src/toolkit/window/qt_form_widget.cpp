@@ -1,14 +1,18 @@
 #include "toolkit/window/qt_form_widget.h"
 
 #include <memory>
+#include <utility>
 
+#include <QtCore/QMimeData>
 #include <QtCore/QTimer>
 #include <QtGui/QCloseEvent>
 #include <QtWidgets/QAccessibleWidget>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMenu>
 
 #include "toolkit/base/qt_text.h"
 #include "toolkit/window/control/qt_pointer.h"
+#include "toolkit/window/input/qt_file_drop.h"
 
 namespace toolkit {
 namespace {
@@ -76,6 +80,7 @@ FormWidget::FormWidget(const WindowParts& parts, EventDispatcher& dispatcher, Wh
     : form_(*parts.form), dispatcher_(dispatcher), menuBar_(*this, parts, dispatcher),
       area_(*this, *parts.form, wheel), place_(*parts.form, *this) {
     setFocusPolicy(Qt::NoFocus);
+    setAcceptDrops(true);
 }
 
 /// A bar without entries takes no room.
@@ -112,6 +117,31 @@ void FormWidget::resizeEvent(QResizeEvent* /*event*/) { layOut(); }
 void FormWidget::closeEvent(QCloseEvent* event) {
     event->ignore();
     dispatcher_.askToClose();
+}
+
+/// A box, an open menu or a procedure at work keeps files away, too.
+bool FormWidget::takesFile() const {
+    return dragged_ && form_.TakesFile && dispatcher_.isIdle() &&
+           QApplication::activeModalWidget() == nullptr && form_.TakesFile();
+}
+
+void FormWidget::dragEnterEvent(QDragEnterEvent* event) {
+    dragged_ = draggedFile(*event->mimeData());
+    answerDrag(*event, takesFile());
+}
+
+void FormWidget::dragMoveEvent(QDragMoveEvent* event) { answerDrag(*event, takesFile()); }
+
+/// What it leads to comes later: the program that the file comes from waits for the end of this
+/// event, and the player may be asked.
+void FormWidget::dropEvent(QDropEvent* event) {
+    answerDrag(*event, takesFile());
+    if (!event->isAccepted()) return;
+    dispatcher_.runLater([this, file = *std::exchange(dragged_, std::nullopt)] {
+        if (!form_.TakesFile()) return;
+        activateWindow();
+        form_.FileDropped(file);
+    });
 }
 
 /// The frame shows its real size only with the first exposure, which no handler sees.

@@ -2,6 +2,9 @@
 // toolkit.
 #pragma once
 
+#include <filesystem>
+#include <optional>
+
 #include <QtWidgets/QWidget>
 
 #include "toolkit/model/window_parts.h"
@@ -30,11 +33,15 @@ class FormWidget : public QWidget {
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool event(QEvent* event) override;
 
   private:
     [[nodiscard]] int menuHeight() const;
+    [[nodiscard]] bool takesFile() const;
     void layOut();
 
     Form& form_;
@@ -43,6 +50,7 @@ class FormWidget : public QWidget {
     FormArea area_;
     FormPlace place_;
     MousePointer pointer_ = MousePointer::Default;
+    std::optional<std::filesystem::path> dragged_; ///< the file over the window
 };
 
 } // namespace toolkit

@@ -43,6 +43,18 @@ void EventDispatcher::run(const std::function<void()>& handler) {
     --depth_;
     hooks_.push();
     if (depth_ == 0 && closeAsked_) scheduleClose();
+    if (depth_ == 0 && later_) scheduleLater();
+}
+
+void EventDispatcher::runLater(std::function<void()> handler) {
+    later_ = std::move(handler);
+    scheduleLater();
+}
+
+void EventDispatcher::scheduleLater() {
+    QTimer::singleShot(0, &timers_, [this] {
+        if (depth_ == 0 && later_) run(std::exchange(later_, {}));
+    });
 }
 
 void EventDispatcher::askToClose() {

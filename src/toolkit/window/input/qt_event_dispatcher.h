@@ -31,6 +31,12 @@ class EventDispatcher {
     /// Runs one handler between a pull and a push. No exception leaves it.
     void run(const std::function<void()>& handler);
 
+    /// Runs the handler once no other is running, from the event loop.
+    void runLater(std::function<void()> handler);
+
+    /// Whether no handler is running: no procedure is at work, and no box is open.
+    [[nodiscard]] bool isIdle() const { return depth_ == 0; }
+
     /// Runs the close once no handler is running, from the event loop.
     void askToClose();
 
@@ -48,10 +54,12 @@ class EventDispatcher {
   private:
     void guarded(const std::function<void()>& handler);
     void scheduleClose();
+    void scheduleLater();
     void close();
 
     Hooks hooks_;
-    QObject timers_; ///< what is still queued dies with this
+    QObject timers_;              ///< what is still queued dies with this
+    std::function<void()> later_; ///< what runLater was asked for last
     int depth_ = 0;
     int waits_ = 0; ///< procedures that wait for the player
     bool closeAsked_ = false;
