@@ -13,12 +13,19 @@ install(FILES ${packaging}/zevlin.frm DESTINATION ${share}/zevlin)
 
 install(FILES ${packaging}/zevlin.desktop DESTINATION ${share}/applications)
 install(FILES ${packaging}/example.zevlin.zevlin.metainfo.xml DESTINATION ${share}/metainfo)
-install(FILES ${CMAKE_SOURCE_DIR}/assets/icons/zevlin.svg
-        DESTINATION ${share}/icons/hicolor/scalable/apps)
-foreach(size 16 24 32 48 64 128 256)
-  install(FILES ${CMAKE_SOURCE_DIR}/assets/icons/zevlin-${size}.png RENAME zevlin.png
-          DESTINATION ${share}/icons/hicolor/${size}x${size}/apps)
-endforeach()
+install(FILES ${packaging}/zevlin.mime.xml RENAME zevlin.xml DESTINATION ${share}/mime/packages)
+# The program and the cards have the same icon.
+function(install_icon kind name)
+  set(icons ${CMAKE_SOURCE_DIR}/assets/icons)
+  install(FILES ${icons}/zevlin.svg RENAME ${name}.svg
+          DESTINATION ${share}/icons/hicolor/scalable/${kind})
+  foreach(size 16 24 32 48 64 128 256)
+    install(FILES ${icons}/zevlin-${size}.png RENAME ${name}.png
+            DESTINATION ${share}/icons/hicolor/${size}x${size}/${kind})
+  endforeach()
+endfunction()
+install_icon(apps zevlin)
+install_icon(mimetypes application-x-zevlin-card)
 
 # install_compressed(<file> <folder> <name>): without a time stamp, so that a package comes out alike.
 function(install_compressed file folder name)
