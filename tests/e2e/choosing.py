@@ -52,7 +52,7 @@ class Choosing(whole_program.WholeProgramTest):
             program.wait_for_title(rf"\( {title} \)$")
             self.leave(program)
 
-    def test_the_command_line_opens_cards_of_the_data_folder_only(self):
+    def test_a_card_from_elsewhere_is_opened_as_a_copy_and_others_stay(self):
         self.leave(self.start_for_the_first_time())
         first, second = (self.home.card(name).read_bytes()
                          for name in ("Standard American", "Two Over One"))
@@ -62,13 +62,18 @@ class Choosing(whole_program.WholeProgramTest):
             (elsewhere / f"{name}.zev").write_bytes(second)
         for name in ("Jones", "a", "a.b"):
             self.home.card(name).write_bytes(first)
-        program = self.start(self.home.named(elsewhere / "Jones.zev"))
-        program.wait_for_title(r"\( Jones \)$")
-        self.save_with_another_mark(program, "Jones")
+        program = self.start(self.home.named(elsewhere / "Jones.zev"),
+                             answers=[("^Zevlin$", "Return")])
+        program.wait_for_title(r"\( Jones 2 \)$")
+        self.save_with_another_mark(program, "Jones 2")
         self.assertEqual((elsewhere / "Jones.zev").read_bytes(), second)
-        for argument, title in ((self.home.named(elsewhere / "Alone.zev"), r"\(unnamed\)"),
-                                ("a.b.zev", r"\( a \)"), ("jones.ZEV", r"\( jones \)")):
-            program = self.start(argument)
+        self.assertEqual(self.home.card("Jones").read_bytes(), first)
+        for argument, title, answers in (
+                (self.home.named(elsewhere / "Alone.zev"), r"\(unnamed\)", [("^Zevlin$", "Escape")]),
+                (self.home.named(elsewhere / "Nobody.zev"), r"\(unnamed\)", []),
+                (self.home.named(elsewhere / "a.b.zev"), r"\( a \)", []),
+                ("a.b.zev", r"\( a \)", []), ("jones.ZEV", r"\( jones \)", [])):
+            program = self.start(argument, answers=answers)
             program.wait_for_title(title + "$")
             self.leave(program)
         program = self.start("Two", "Over", "One")
