@@ -18,6 +18,8 @@
 #include "events/edit_keys.h"
 #include "events/keys.h"
 #include "events/mark_clicks.h"
+#include "form/file_note.h"
+#include "form/panel_look.h"
 #include "form/panels.h"
 #include "form/run_procedure.h"
 #include "form/trace.h"
@@ -121,10 +123,18 @@ std::vector<toolkit::LabelGroup> cardGroups(Zevlin& form) {
              .Click = run(form, SText_Click)}};
 }
 
+void wireFileNote(Zevlin& form) {
+    form.FileNote.Link = "Show in folder";
+    form.FileNote.ForeColor = linkBlue;
+    form.FileNote.BackColor = paleYellow;
+    form.FileNote.Click = run(form, FileNote_Click);
+}
+
 /// A slot that runs a command. The help would lie over what the command shows.
 auto runCommand(Zevlin& form, void (*procedure)(Zevlin&)) {
     return [&form, procedure] {
         if (form.THelp.Visible) hideHelp(form);
+        hideFileNote(form);
         procedure(form);
     };
 }
@@ -154,6 +164,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     wireCard(form);
     wireBoxes(form);
     wireHelp(form);
+    wireFileNote(form);
     toolkit::WindowParts parts;
     parts.form = &form;
     parts.card = &form.P1;
@@ -164,6 +175,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.lists = {&form.THelp};
     parts.panels = wirePanels(form);
     parts.overlays = {&form.PleaseWait, &form.PopHelp};
+    parts.note = &form.FileNote;
     parts.menu = menuRows(form);
     parts.accessible = accessibleCard(form);
     return parts;

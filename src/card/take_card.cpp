@@ -10,6 +10,7 @@
 #include "card/lifecycle.h"
 #include "card/load.h"
 #include "card/save.h"
+#include "form/file_note.h"
 #include "form/modified.h"
 #include "form/panels.h"
 #include "form/trace.h"
@@ -33,7 +34,9 @@ bool isSame(const fs::path& one, const fs::path& other) {
 /// The card that lies in the data folder under the name that the path ends with.
 std::optional<std::string> cardAt(const Zevlin& form, const fs::path& file) {
     const auto fileName = toolkit::textFromPath(file);
-    if (!fileName || !isSame(file.parent_path(), form.DataFolder)) return std::nullopt;
+    // Without a data folder the cards lie in the folder at work.
+    const fs::path folder = form.DataFolder.empty() ? "." : form.DataFolder;
+    if (!fileName || !isSame(file.parent_path(), folder)) return std::nullopt;
     if (!hasCardExtension(*fileName)) return std::nullopt;
     std::string name = cleanedCardName(*fileName);
     if (name.empty() || isTemporaryCard(name)) return std::nullopt;
@@ -168,6 +171,7 @@ bool takesDroppedCard(const Zevlin& form) {
 void openDroppedCard(Zevlin& form, const fs::path& file) {
     procedure(form, "OpenDroppedCard", [&] {
         if (form.THelp.Visible) hideHelp(form);
+        hideFileNote(form);
         const auto own = ownCardOf(form, file);
         const auto name = own ? own : takeCopy(form, file);
         if (name) openOwnCard(form, *name);

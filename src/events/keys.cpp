@@ -6,6 +6,7 @@
 #include "design/design_mode.h"
 #include "design/move_marks.h"
 #include "events/tab_walk.h"
+#include "form/file_note.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "help/help_page.h"
@@ -71,6 +72,7 @@ void handleFormKey(Zevlin& form, toolkit::KeyArguments& key) {
     if (form.BOK.Visible || form.THelp.Visible || form.ColorPic.Visible) return;
     if (key.KeyCode == toolkit::key::f1) {
         consume(key);
+        hideFileNote(form);
         MHelp_Click(form);
     } else if (selectAllByKey(form, key) || moveCardByKey(form, key.KeyCode, key.Shift)) {
         consume(key);
@@ -139,11 +141,11 @@ bool isDesignKey(const toolkit::KeyArguments& key) {
 
 void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
     if (moveCardByKey(form, key.KeyCode, key.Shift)) return;
-    if (zoomByKey(form, key)) return;
+    if (zoomByKey(form, key) || redoByKey(form, key)) return hideFileNote(form);
     if (moveMarksByKey(form, key)) return;
-    if (redoByKey(form, key)) return;
     if (toolkit::isKeyRepeat()) return;
     if (isDesignKey(key)) {
+        hideFileNote(form);
         MShowDesignMenu_Click(form);
     } else if (key.KeyCode == toolkit::key::tab) {
         walkFromMark(form, key.Shift);

@@ -2,14 +2,17 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "form/options_file.h"
 #include "toolkit/model/control.h"
 #include "toolkit/print/print_job.h"
 #include "toolkit/print/printer.h"
 #include "toolkit/print/printer_question.h"
+#include "toolkit/window/alarm.h"
 
 namespace zev {
 
@@ -35,6 +38,9 @@ struct OutputState {
     toolkit::PictureBox P2;    ///< stands for the card while a job runs
     toolkit::PictureBox PDisk; ///< the image of an export
     toolkit::TextBox PleaseWait;
+    std::vector<std::filesystem::path> WrittenFiles; ///< what the note tells, or will tell
+    toolkit::Note FileNote;
+    toolkit::Alarm FileNoteAlarm;
 
     toolkit::MenuItem MPrint;
     toolkit::MenuItem MPrintPartner;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "form/file_note.h"
 #include "form/panels.h"
 #include "form/printer_facts.h"
 #include "form/settings.h"
@@ -85,12 +86,14 @@ void printLines(toolkit::PrintJob& job, const Zevlin& form) {
 }
 
 void printPage(Zevlin& form) {
+    hideFileNote(form);
     takePendingPrinter(form);
     const std::string name(printedTitle);
     const auto preset = form.DataFolder / toolkit::pathFromText(name + ".pdf");
     if (!form.PrinterDC.start(form.CurrentPrinter, {.title = name, .filePreset = preset})) return;
     printLines(form.PrinterDC, form);
-    form.PrinterDC.finish();
+    if (const auto file = form.PrinterDC.finish()) rememberWrittenFile(form, *file);
+    showFileNote(form);
 }
 
 } // namespace

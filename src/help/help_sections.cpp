@@ -56,6 +56,7 @@ PRINTING
   * ZEV prints in color or black (not grayscale) based on the printer's capabilities and current settings.
        * (Printing always uses the largest size, regardless of the on-screen Zoom level.)
   * 'Export Image' saves a picture of the card as a file, so that you can email it to someone else.
+       * A note at the foot of the window tells the file that was written, here as with a PDF file, and can show it.
        * 'Export Partner Image' does the same with your partner's card, but for the two 'PNG' items:
        * 'PNG' under 'Export Image' saves your partner's card, and 'PNG' under 'Export Partner Image' saves your own.
   * 'Copy to Clipboard' lets you paste a picture of the card into any program that supports images.

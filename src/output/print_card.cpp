@@ -5,6 +5,7 @@
 
 #include "card/journal.h"
 #include "form/file_failures.h"
+#include "form/file_note.h"
 #include "form/options.h"
 #include "form/panels.h"
 #include "form/printer_facts.h"
@@ -209,6 +210,7 @@ void MPrint_Click(Zevlin& form) {
     const View view = viewOf(form);
     trapped(form, trapHead, [&] { runJob(form); });
     restore(form, view);
+    showFileNote(form);
 }
 
 } // namespace zev

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "form/file_note.h"
 #include "form/printer_facts.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
@@ -123,6 +124,10 @@ class PictureDelivery {
     /// False if the player was asked for a file and cancelled.
     bool openDocument() { return form_.PrinterDC.start(printerOfJob(form_), documentInfo()); }
 
+    void finishDocument() {
+        if (const auto file = form_.PrinterDC.finish()) rememberWrittenFile(form_, *file);
+    }
+
     bool printPrimary() {
         bool isOpen = false;
         try {
@@ -140,7 +145,7 @@ class PictureDelivery {
         TestBlankPage(form_, "PrintPictureBox before PrintImage", picture_);
         runStep(1700, [this] { stretchToDevice(); });
         TestBlankPage(form_, "PrintPictureBox after PrintImage", picture_);
-        runStep(1900, [this] { form_.PrinterDC.finish(); });
+        runStep(1900, [this] { finishDocument(); });
         return true;
     }
 
@@ -156,7 +161,7 @@ class PictureDelivery {
         if (!isOpen) return true;
         TestBlankPage(form_, "PrintPictureBox before Printer.PaintPicture", picture_);
         runStep(2400, [this] { paintThroughPrinter(); });
-        runStep(2500, [this] { form_.PrinterDC.finish(); });
+        runStep(2500, [this] { finishDocument(); });
         if (form_.Myprinter.PaperBin > 0) form_.CurrentPrinter.PaperBin = form_.Myprinter.PaperBin;
         return true;
     }

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <string>
 
+#include "form/file_note.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "output/gdi_plus.h"
@@ -31,15 +32,17 @@ std::string askForName(const Zevlin& form, std::string_view extension) {
                          .preset = offeredImageName(form.CardName, extension)});
 }
 
-void saveCompressed(Zevlin& form, const toolkit::Bitmap& picture,
+/// False after a failure, which is told.
+bool saveCompressed(Zevlin& form, const toolkit::Bitmap& picture,
                     const std::filesystem::path& file) {
     const cGdiPlus codecs([&form](std::string_view text, int status) {
         Traceit(form, "cGdiPlus: " + toolkit::numberText(status) + ", " + std::string(text));
     });
-    if (codecs.PictureBoxToFile(picture, file, jpegQuality)) return;
+    if (codecs.PictureBoxToFile(picture, file, jpegQuality)) return true;
     toolkit::tell("Could not save card image. Your computer may be missing the required "
                   "Microsoft component GDIPLUS.DLL",
                   toolkit::Icon::Exclamation);
+    return false;
 }
 
 void saveImage(Zevlin& form, const toolkit::PictureBox& picture) {
@@ -48,8 +51,12 @@ void saveImage(Zevlin& form, const toolkit::PictureBox& picture) {
     const auto name = imageFileName(answer, extension);
     if (answer.empty() || !name) return;
     const std::filesystem::path file = form.DataFolder / toolkit::pathFromText(*name);
-    if (extension == bmpExtension) return toolkit::savePicture(*picture.Picture, file);
-    saveCompressed(form, *picture.Picture, file);
+    bool isSaved = true;
+    if (extension == bmpExtension)
+        toolkit::savePicture(*picture.Picture, file);
+    else
+        isSaved = saveCompressed(form, *picture.Picture, file);
+    if (isSaved) rememberWrittenFile(form, file);
 }
 
 } // namespace

@@ -240,6 +240,17 @@ TEST_F(TakeCard, KnowsThePlayersOwnByEveryPath) {
     EXPECT_EQ(ownCardOf(form, dataFile("$$Tempcard.zev")), std::nullopt);
 }
 
+TEST_F(TakeCard, KnowsThePlayersOwnWithoutADataFolder) {
+    start();
+    writeCard("Smith", cardFile({}));
+    const fs::path before = fs::current_path();
+    fs::current_path(dataFolder);
+    form.DataFolder.clear();
+    EXPECT_EQ(ownCardOf(form, dataFile("Smith.zev")), "Smith");
+    fs::current_path(before);
+    form.DataFolder = dataFolder;
+}
+
 #ifndef _WIN32
 TEST_F(TakeCard, KnowsThePlayersOwnThroughLinks) {
     start();

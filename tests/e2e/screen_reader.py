@@ -42,6 +42,20 @@ class ScreenReaderTest(whole_program.WholeProgramTest):
         self.reader = program.reader
         return program
 
+    @staticmethod
+    def listen(*kinds):
+        """From now on. Returns what waits until an event of the kind was heard from that name."""
+        heard = []
+        pyatspi.Registry.registerEventListener(
+            lambda event: heard.append((str(event.type), event.source.name)), *kinds)
+
+        def hears(kind, name):
+            def heard_it():
+                GLib.MainContext.default().iteration(False)
+                return (kind, name) in heard
+            desktop.wait_for(f"{kind} of {name}", heard_it)
+        return hears
+
     def name_card(self, name):
         """In the panel that asks for a name."""
         box = self.reader.part("Name of the card", reader.TEXT)
@@ -109,18 +123,8 @@ class ScreenReaderTest(whole_program.WholeProgramTest):
     def test_what_changes_is_told(self):
         program = self.start_and_listen()
         fields, _ = self.reader.fields()
-        heard = []
-        kinds = ("object:state-changed:checked", "object:state-changed:focused",
-                 "object:state-changed:showing", "object:text-changed:insert")
-        pyatspi.Registry.registerEventListener(
-            lambda event: heard.append((str(event.type), event.source.name)), *kinds)
-
-        def hears(kind, name):
-            def heard_it():
-                GLib.MainContext.default().iteration(False)
-                return (kind, name) in heard
-            desktop.wait_for(f"{kind} of {name}", heard_it)
-
+        hears = self.listen("object:state-changed:checked", "object:state-changed:focused",
+                            "object:state-changed:showing", "object:text-changed:insert")
         stayman = "Notrump opening bids, 2 clubs Stayman"
         reader.act(fields[stayman])
         hears("object:state-changed:checked", stayman)
@@ -184,6 +188,20 @@ class ScreenReaderTest(whole_program.WholeProgramTest):
 
     def options(self):
         return re.sub(rb"\s", b"", (self.home.data / "ZEV.Ini").read_bytes()).decode("cp1252")
+
+    def test_a_note_says_which_files_were_written(self):
+        program = self.start_and_listen()
+        hears = self.listen("object:state-changed:showing")
+        self.reader.choose("File", "Print two cards")
+        names = "Card.pdf", "Card.pdf, Card - partner.pdf"
+        for name in names:
+            program.answer(program.wait_for_box("Print to PDF"), "Return")
+            hears("object:state-changed:showing", f"Written: {name}")
+        note = self.reader.part(f"Written: {names[1]}", pyatspi.ROLE_NOTIFICATION)
+        link = self.reader.part("Show in folder", reader.BUTTON, note)
+        reader.act_without_answer(link)
+        desktop.wait_for("the note to go",
+                         lambda: not reader.has_state(note, pyatspi.STATE_SHOWING))
 
     def test_a_field_lies_where_it_is_seen(self):
         program = self.start_and_listen()

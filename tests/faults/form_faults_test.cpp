@@ -8,6 +8,7 @@
 #include "output/export_card.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/write_file.h"
+#include "toolkit/testing/test_drop.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/shell_folders.h"
@@ -99,6 +100,15 @@ TEST_F(FormFaults, ANewCardAfterSavingThisOne) {
     countsLooks = false;
     agreedQuestion = "Do you want to save the current card first?";
     runWithEveryFault([&] { choose("File>New"); });
+}
+
+TEST_F(FormFaults, TakingACardFromElsewhere) {
+    contentsToKeep = {cardFile({.texts = {"1,\"foreign\",0"}})};
+    toolkit::writeFile(home / "Smith.zev", contentsToKeep.front());
+    start();
+    countsLooks = false;
+    agreedQuestion = "Copy 'Smith'";
+    runWithEveryFault([&] { toolkit::test::drop({.files = {home / "Smith.zev"}}); }, fewKinds);
 }
 
 TEST_F(FormFaults, Zooming) {

@@ -4,6 +4,7 @@
 #include "toolkit/base/key.h"
 #include "toolkit/testing/test_controls.h"
 #include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_note.h"
 
 namespace zev::test {
 namespace {
@@ -150,6 +151,15 @@ TEST_F(PrintHelp, ARightClickOnALinkPrintsAndOpensNothing) {
     print(form.WebsiteLine);
     EXPECT_TRUE(fs::exists(file));
     EXPECT_TRUE(launched.empty());
+    EXPECT_TRUE(form.THelp.Visible);
+}
+
+TEST_F(PrintHelp, ANoteTellsTheFileAndGoesWithTheNextOne) {
+    open();
+    print();
+    EXPECT_EQ(toolkit::test::shownNote().text, "Written: help.pdf");
+    print();
+    EXPECT_EQ(toolkit::test::shownNote().text, "Written: help.pdf");
     EXPECT_TRUE(form.THelp.Visible);
 }
 

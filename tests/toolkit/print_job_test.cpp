@@ -55,6 +55,13 @@ class PrintJobs : public testing::Test {
     PrintJob job;
 };
 
+TEST_F(PrintJobs, TellsTheFileThatWasWrittenOnce) {
+    EXPECT_EQ(job.finish(), std::nullopt);
+    ASSERT_TRUE(start());
+    EXPECT_EQ(job.finish(), target);
+    EXPECT_EQ(job.finish(), std::nullopt);
+}
+
 #ifndef _WIN32
 TEST_F(PrintJobs, LinesOfTextStandAtTheirPlacesOnTheirPages) {
     ASSERT_TRUE(start());

@@ -152,6 +152,7 @@ class WindowTest : public testing::Test {
         parts.lists = {&list};
         parts.panels.push_back(contents);
         parts.overlays = {&overlay};
+        parts.note = &footNote;
         parts.menu = menu;
         parts.accessible = accessible;
         window.reset();
@@ -172,6 +173,7 @@ class WindowTest : public testing::Test {
     toolkit::ListBox list;
     toolkit::Panel panel;
     toolkit::TextBox overlay;
+    toolkit::Note footNote;
     toolkit::PanelContents contents{.box = &panel};
     std::vector<toolkit::MenuRow> menu;
     toolkit::AccessibleCard accessible;

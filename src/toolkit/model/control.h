@@ -142,6 +142,14 @@ struct ListBox : Control {
     std::function<bool(int row)> IsLink{};
 };
 
+/// A short message that stands at the foot of the form for a while, with a link behind it. It takes
+/// neither keys nor focus, and the window places it; a click on the link comes as Click.
+struct Note : Control {
+    std::string Text; ///< cut in its middle where the window is too narrow
+    std::string Link;
+    std::string ToolTip;
+};
+
 /// An item of the menu bar or of a pop-up menu; "&" marks its access key.
 struct MenuItem {
     std::string Caption{};

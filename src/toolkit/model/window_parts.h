@@ -36,6 +36,7 @@ struct WindowParts {
     std::vector<ListBox*> lists{};         ///< on the form, over the card
     std::vector<PanelContents> panels{};   ///< the same
     std::vector<TextBox*> overlays{};      ///< on the form, over all else; only to be read
+    Note* note = nullptr;                  ///< the same; may be missing
     std::vector<MenuRow> menu{};
     AccessibleCard accessible{};
 };

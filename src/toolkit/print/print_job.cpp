@@ -1,6 +1,5 @@
 #include "toolkit/print/print_job.h"
 
-#include <optional>
 #include <utility>
 
 #include "toolkit/base/error.h"
@@ -127,8 +126,8 @@ void PrintJob::turnPage() {
     if (document_) document_->addPage();
 }
 
-void PrintJob::finish() {
-    if (!document_) return;
+std::optional<std::filesystem::path> PrintJob::finish() {
+    if (!document_) return std::nullopt;
     const auto document = std::exchange(document_, nullptr);
     if (document->service) {
         document->service->send(document->pages);
@@ -137,6 +136,8 @@ void PrintJob::finish() {
         writeFile(document->target, pdfDocument(document->pages, document->title));
     }
     document->isDone = true;
+    if (document->service) return std::nullopt;
+    return document->target;
 }
 
 void PrintJob::abandon() { document_.reset(); }

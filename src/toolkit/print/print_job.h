@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -47,9 +48,9 @@ class PrintJob {
     /// What is drawn from now on stands on one more page.
     void turnPage();
 
-    /// Closes the document; when it returns the pages are with the printer. Failures 482 and those
-    /// of writeFile. Nothing happens if no document is open.
-    void finish();
+    /// Closes the document; when it returns the pages are with the printer, or in the file that is
+    /// handed back. Failures 482 and those of writeFile. Nothing happens if no document is open.
+    std::optional<std::filesystem::path> finish();
     /// Gives the open document up.
     void abandon();
 

@@ -117,6 +117,13 @@ void WindowImplementation::nameOpenBox() {
         if (!box->isHidden() && box->accessibleName() != name) box->setAccessibleName(name);
 }
 
+void WindowImplementation::pushNote() {
+    if (parts_.note == nullptr) return;
+    if (note_ == nullptr && parts_.note->Visible)
+        note_ = std::make_unique<NoteView>(form_.area(), *parts_.note, dispatcher_);
+    if (note_ != nullptr) note_->push();
+}
+
 void WindowImplementation::pull() {
     if (pushing_) return;
     form_.pull();
@@ -134,6 +141,7 @@ void WindowImplementation::push() {
     for (const auto& panel : panels_) panel->push();
     pushStacking();
     for (const auto& overlay : overlays_) overlay->push();
+    pushNote();
     nameOpenBox();
     pushFocus();
     form_.pushVisible();

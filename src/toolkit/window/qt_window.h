@@ -8,6 +8,7 @@
 #include "toolkit/window/card/qt_card_widget.h"
 #include "toolkit/window/control/qt_edit_box.h"
 #include "toolkit/window/control/qt_list_view.h"
+#include "toolkit/window/control/qt_note.h"
 #include "toolkit/window/control/qt_overlay.h"
 #include "toolkit/window/input/qt_key_dispatcher.h"
 #include "toolkit/window/panel/qt_panel_widget.h"
@@ -29,6 +30,8 @@ class WindowImplementation {
     [[nodiscard]] FormWidget& form() { return form_; }
     [[nodiscard]] CardWidget& card() { return card_; }
     [[nodiscard]] EventDispatcher& dispatcher() { return dispatcher_; }
+    /// nullptr until it is shown for the first time.
+    [[nodiscard]] NoteView* note() { return note_.get(); }
     [[nodiscard]] const WindowParts& parts() const { return parts_; }
     /// The widget that shows the control, nullptr where none does.
     [[nodiscard]] QWidget* widgetOf(const Control* control);
@@ -40,6 +43,7 @@ class WindowImplementation {
     void watchKeys();
     void nameControls();
     void nameOpenBox();
+    void pushNote();
 
     WindowParts parts_;
     EventDispatcher dispatcher_;
@@ -50,6 +54,7 @@ class WindowImplementation {
     std::vector<std::unique_ptr<ListView>> lists_;
     std::vector<std::unique_ptr<Overlay>> overlays_;
     std::vector<std::unique_ptr<PanelWidget>> panels_;
+    std::unique_ptr<NoteView> note_;
     KeyDispatcher keys_;
     std::vector<const Control*> stacked_; ///< card, panels and lists, the hindmost first
     bool pushing_ = false;
