@@ -8,20 +8,9 @@
 #include <QtWidgets/QPushButton>
 
 #include "toolkit/testing/qt_test_window.h"
-#include "toolkit/window/input/qt_event_dispatcher.h"
 
 namespace toolkit::test {
 namespace {
-
-std::vector<std::string>& alerts() {
-    static std::vector<std::string> names;
-    return names;
-}
-
-void noteAlert(QAccessibleEvent* event) {
-    if (event->type() != QAccessible::Alert) return;
-    alerts().push_back(event->accessibleInterface()->text(QAccessible::Name).toStdString());
-}
 
 NoteView& note() {
     updateWindow();
@@ -75,23 +64,6 @@ ReadNote readNote() {
     for (const QString& action : link.actionInterface()->actionNames())
         read.actions.push_back(action.toStdString());
     return read;
-}
-
-void pressNoteLink() {
-    QAccessibleInterface& part = *QAccessible::queryAccessibleInterface(&note());
-    linkOf(part).actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-    rethrowKept();
-}
-
-std::vector<std::string> alertsDuring(const std::function<void()>& act) {
-    alerts().clear();
-    QAccessible::setActive(true);
-    const auto before = QAccessible::installUpdateHandler(noteAlert);
-    act();
-    updateWindow();
-    QAccessible::installUpdateHandler(before);
-    QAccessible::setActive(false);
-    return alerts();
 }
 
 } // namespace toolkit::test

@@ -1,7 +1,6 @@
 // The note at the foot of the window, for tests.
 #pragma once
 
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -29,9 +28,5 @@ struct ReadNote {
     std::vector<std::string> actions{};
 };
 [[nodiscard]] ReadNote readNote();
-/// The screen reader presses the link.
-void pressNoteLink();
-/// What screen readers are alerted to while the act runs, by name.
-[[nodiscard]] std::vector<std::string> alertsDuring(const std::function<void()>& act);
 
 } // namespace toolkit::test

@@ -62,10 +62,10 @@ void NoteView::push() {
     dress();
     place();
     if (!isNew) return;
+    // Screen readers read it out when it appears, and only then.
+    hide();
     show();
     raise();
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
 }
 
 void NoteView::dress() {

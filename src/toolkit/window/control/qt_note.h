@@ -18,7 +18,7 @@ class NoteView : public QFrame {
   public:
     NoteView(QWidget& container, const Note& note, EventDispatcher& dispatcher);
 
-    /// Takes over what the program changed. What newly appears is told to screen readers.
+    /// Takes over what the program changed. A new text appears anew, and so it is read out.
     void push();
 
     [[nodiscard]] QLabel& text() { return *text_; }
