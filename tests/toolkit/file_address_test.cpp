@@ -49,6 +49,10 @@ TEST(FileAddress, OfAnotherMachineIsWhatItShares) {
     EXPECT_EQ(fileOfAddress("file://server/cards/Jones.zev"),
               std::filesystem::path("//server/cards/Jones.zev"));
 }
+
+TEST(FileAddress, OfBytesThatAreNoTextIsNone) {
+    EXPECT_EQ(fileOfAddress("file:///C:/a%FFb.zev"), std::nullopt);
+}
 #else
 TEST(FileAddress, OfAnotherMachineIsNone) {
     EXPECT_EQ(fileOfAddress("file://server/cards/Jones.zev"), std::nullopt);

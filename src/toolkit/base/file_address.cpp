@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <exception>
 #include <string>
 #include <utility>
 
@@ -47,7 +48,12 @@ std::optional<std::filesystem::path> nativePath(std::string_view host, std::stri
         path = "//" + std::string(host) + path;
     else if (path.size() > 2 && path[2] == ':')
         path.erase(0, 1);
-    return std::filesystem::path(std::u8string(path.begin(), path.end()));
+    try {
+        return std::filesystem::path(std::u8string(path.begin(), path.end()));
+    } catch (const std::exception&) {
+        // Bytes that are no text name no file there.
+        return std::nullopt;
+    }
 }
 #else
 /// A name may be any bytes.
