@@ -11,6 +11,7 @@
 #include "design/design_mode.h"
 #include "design/pen.h"
 #include "events/record_tabs.h"
+#include "events/tab_walk.h"
 #include "help/help_page.h"
 #include "layout/save_layout.h"
 #include "output/export_card.h"
@@ -70,6 +71,8 @@ constexpr auto table = std::to_array<MenuEntry>({
     {1, &Zevlin::MFitScreenWidth,  "Fit to screen width                Ctrl  0", "",
      MFitScreenWidth_Click},
     {1, &Zevlin::MFitScreenHeight, "Fit to screen height", "", MFitScreenHeight_Click},
+    separator,
+    {1, &Zevlin::MFirstField, "Go to first field",  "F2",     MFirstField_Click},
     {0, &Zevlin::MOptions,    "&Options",           "",       nullptr},
     {1, &Zevlin::MMyID,       "My Name",            "",       MMyID_Click},
     {1, &Zevlin::MPartnerID,  "Partner's Name",     "",       MPartnerID_Click},

@@ -44,6 +44,7 @@ void makeNewCard(Zevlin& form) {
     form.OrigIndex = 0;
     form.TIndex = 0;
     form.TabActive = false;
+    if (!form.Carried) form.TabLast = 0;
     hideTextBox(form, form.LText);
     hideTextBox(form, form.CText);
     form.Slots.restorePicture();

@@ -25,9 +25,10 @@ namespace {
 using Item = toolkit::MenuItem Zevlin::*;
 
 /// Commands on a card. In design mode there is none.
-constexpr std::array<Item, 8> cardItems{&Zevlin::MNew,          &Zevlin::MOpen,      &Zevlin::MSave,
-                                        &Zevlin::MSaveAs,       &Zevlin::MPartnerID, &Zevlin::MMyID,
-                                        &Zevlin::MPrintPartner, &Zevlin::MPrintBoth};
+constexpr std::array<Item, 9> cardItems{
+    &Zevlin::MNew,          &Zevlin::MOpen,      &Zevlin::MSave,
+    &Zevlin::MSaveAs,       &Zevlin::MPartnerID, &Zevlin::MMyID,
+    &Zevlin::MPrintPartner, &Zevlin::MPrintBoth, &Zevlin::MFirstField};
 
 /// Commands on the layout.
 constexpr std::array<Item, 3> designItems{&Zevlin::MAutoAdjust, &Zevlin::MSetTabs,
@@ -107,6 +108,7 @@ void switchMode(Zevlin& form, bool designing) {
     form.TabRecordPrev = 0;
     // SPACE would hide a mark until the mode ends.
     form.TabActive = false;
+    form.TabLast = 0;
     form.FieldHeld = false;
     // Only what is done from now on can be undone.
     form.UndoIndex = 0;

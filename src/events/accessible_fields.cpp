@@ -8,6 +8,7 @@
 #include "events/edit_field.h"
 #include "events/edit_keys.h"
 #include "events/mark_clicks.h"
+#include "events/tab_walk.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/field.h"
@@ -52,7 +53,7 @@ std::vector<FieldId> fieldsInOrder(const Zevlin& form) {
         return isNew;
     };
     // The count of turns ends a circle of holes, too.
-    int item = 1;
+    int item = firstItem(form);
     for (int turns = form.TabTable.UBound(); turns > 0 && item > 0; --turns) {
         if (item > form.TabTable.UBound() || !add(fieldOf(item))) break;
         item = form.TabTable[item];

@@ -148,7 +148,7 @@ void handleCardKey(Zevlin& form, toolkit::KeyArguments& key) {
         hideFileNote(form);
         MShowDesignMenu_Click(form);
     } else if (key.KeyCode == toolkit::key::tab) {
-        walkFromMark(form, key.Shift);
+        walkFromCard(form, key.Shift);
     } else if (key.KeyCode == toolkit::key::space) {
         toggleTabbedMark(form);
     }

@@ -72,7 +72,7 @@ void rememberTabMark(Zevlin& form, int index) {
     form.TabActive = true;
     form.TabCursorX = form.CursorPos.x;
     form.TabCursorY = form.CursorPos.y;
-    form.TabCode = toolkit::toInteger16(index + firstMarkItem);
+    form.TabCode = form.TabLast = toolkit::toInteger16(index + firstMarkItem);
 }
 
 void turnMark(Zevlin& form, int index) {

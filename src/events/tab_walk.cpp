@@ -23,10 +23,14 @@ using toolkit::numberText;
 /// From so many pixels of travel on, the cursor counts as moved away from the mark of the walk.
 constexpr int cursorTravel = 5;
 
+bool isAtMark(const Zevlin& form, toolkit::CursorPosition cursor) {
+    return std::abs(cursor.x - form.TabCursorX) < cursorTravel &&
+           std::abs(cursor.y - form.TabCursorY) < cursorTravel;
+}
+
 bool cursorIsStill(Zevlin& form) {
     form.CursorPos = toolkit::cursorPosition();
-    return std::abs(form.CursorPos.x - form.TabCursorX) < cursorTravel &&
-           std::abs(form.CursorPos.y - form.TabCursorY) < cursorTravel;
+    return isAtMark(form, form.CursorPos);
 }
 
 std::string walkTrace(const Zevlin& form) {
@@ -36,10 +40,15 @@ std::string walkTrace(const Zevlin& form) {
            numberText(form.TabCursorY);
 }
 
+const auto& fieldsOf(const Zevlin& form, int item) {
+    return item >= firstMarkItem ? form.AMark : form.AText;
+}
+
+int indexOf(int item) { return item >= firstMarkItem ? item - firstMarkItem : item; }
+
 bool isHole(const Zevlin& form, int item) {
-    const auto& fields = item >= firstMarkItem ? form.AMark : form.AText;
-    const int index = item >= firstMarkItem ? item - firstMarkItem : item;
-    return fields.exists(index) && !isField(fields[index]);
+    const auto& fields = fieldsOf(form, item);
+    return fields.exists(indexOf(item)) && !isField(fields[indexOf(item)]);
 }
 
 /// The next item in one direction, past holes; 0 where the walk ends. The count of turns ends a
@@ -76,7 +85,7 @@ void goToText(Zevlin& form, int item) {
     if (form.AText.exists(item)) AText_Click(form, item);
 }
 
-void goFromMark(Zevlin& form, int item) {
+void goFromCard(Zevlin& form, int item) {
     if (item >= firstMarkItem) return TabToMark(form, item);
     form.TabActive = false;
     goToText(form, item);
@@ -102,12 +111,58 @@ void moveToMark(Zevlin& form, int item) {
     form.TabActive = true;
     form.TabCursorX = target.x;
     form.TabCursorY = target.y;
-    form.TabCode = toolkit::toInteger16(item);
+    form.TabCode = form.TabLast = toolkit::toInteger16(item);
     Traceit(form, "  TabToMark (" + numberText(item) + ") Cursor at " + numberText(target.x) +
                       ", " + numberText(target.y));
     toolkit::setCursorPosition(target);
     FlashFocus(form, item);
     form.SetFocus(form.P1);
+}
+
+/// Whether the walk leads on from the item. A mark without a successor has no way back, either.
+bool leadsOn(const Zevlin& form, int item) { return form.TabTable[item] > 0; }
+
+void walkFromMark(Zevlin& form, int shift) {
+    const bool still = cursorIsStill(form);
+    Traceit(form, walkTrace(form));
+    if (!still || !leadsOn(form, form.TabCode)) return;
+    const int next = shift == 0 ? itemAfter(form, form.TabCode) : itemBefore(form, form.TabCode);
+    if (next > 0) goFromCard(form, next);
+}
+
+void walkFromLast(Zevlin& form, int shift) {
+    const int from = form.TabLast;
+    if (from == 0 || (from >= firstMarkItem && !leadsOn(form, from))) return;
+    const int next = shift == 0 ? itemAfter(form, from) : itemBefore(form, from);
+    if (next <= 0) return;
+    Traceit(form, "  P1_KeyDown TabTo " + numberText(next) + ", from " + numberText(from));
+    goFromCard(form, next);
+}
+
+/// Where the walk is entered: at text 1, if TAB comes there or goes on from there.
+int entryOf(const TabTable& table) {
+    if (table.predecessor(1) || (table.UBound() >= 1 && table[1] > 0)) return 1;
+    for (int item = 1; item <= table.UBound(); ++item)
+        if (table[item] > 0) return item;
+    return 1;
+}
+
+/// Back to the item to which no TAB leads; in a circle there is none.
+int headOf(const TabTable& table, int entry) {
+    int item = entry;
+    for (auto before = table.predecessor(item); before; before = table.predecessor(item)) {
+        if (*before == entry) return entry;
+        item = *before;
+    }
+    return item;
+}
+
+int lowestField(const Zevlin& form) {
+    for (int i = 1; i <= form.AText.UBound(); ++i)
+        if (isField(form.AText[i])) return i;
+    for (int i = 1; i <= form.AMark.UBound(); ++i)
+        if (isField(form.AMark[i])) return firstMarkItem + i;
+    return 0;
 }
 
 } // namespace
@@ -120,20 +175,18 @@ void walkFromText(Zevlin& form, bool backward) {
     goFromText(form, next);
 }
 
-void walkFromMark(Zevlin& form, int shift) {
-    if (!form.TabActive) return;
-    const bool still = cursorIsStill(form);
-    Traceit(form, walkTrace(form));
-    if (!still) return;
-    if (form.TabTable[form.TabCode] <= 0) return;
-    const int next = shift == 0 ? itemAfter(form, form.TabCode) : itemBefore(form, form.TabCode);
-    if (next > 0) goFromMark(form, next);
+void walkFromCard(Zevlin& form, int shift) {
+    // A text that was opened by a click leaves the walk's rest on a mark as it is.
+    if (form.TabActive && form.TabLast == form.TabCode)
+        walkFromMark(form, shift);
+    else
+        walkFromLast(form, shift);
 }
 
 void toggleTabbedMark(Zevlin& form) {
     if (!form.TabActive) return;
     if (!cursorIsStill(form)) {
-        form.TabActive = false;
+        endRest(form);
         return;
     }
     toolkit::Label& mark = form.AMark[form.TabCode - firstMarkItem];
@@ -143,6 +196,22 @@ void toggleTabbedMark(Zevlin& form) {
 
 void TabToMark(Zevlin& form, int item) {
     trapped(form, "Error in TabToMark: #", [&] { moveToMark(form, item); });
+}
+
+int firstItem(const Zevlin& form) {
+    const int head = headOf(form.TabTable, entryOf(form.TabTable));
+    const auto& fields = fieldsOf(form, head);
+    if (fields.exists(indexOf(head)) && isField(fields[indexOf(head)])) return head;
+    const int next = head <= form.TabTable.UBound() ? itemAfter(form, head) : 0;
+    return next > 0 ? next : lowestField(form);
+}
+
+void MFirstField_Click(Zevlin& form) {
+    procedure(form, "MFirstField_Click", [&] {
+        commitOpenField(form);
+        form.SetFocus(form.P1);
+        if (const int item = firstItem(form); item > 0) goFromCard(form, item);
+    });
 }
 
 } // namespace zev

@@ -32,8 +32,12 @@ struct MarksState {
     int TabCursorX = 0;     ///< screen pixels
     int TabCursorY = 0;
     std::int16_t TabCode = 0; ///< item number: a mark is its index plus 1000
+    std::int16_t TabLast = 0; ///< the field that was last in focus, from which TAB goes on where
+                              ///< no text is open; 0 for none
     toolkit::CursorPosition CursorPos;
     std::int16_t TabRecordPrev = 0; ///< item pressed last while recording; 0 when none
+
+    toolkit::MenuItem MFirstField;
 };
 
 } // namespace zev

@@ -17,6 +17,7 @@ MOVING THE CARD WITH THE KEYBOARD
 CHECKING BOXES AND CIRCLING LEADS
   * Click a box to check it, or a card of a lead to circle it.  Click it again to remove the mark.
   * If you TAB to a checkmark, you can press SPACE to toggle it. (Shift-TAB moves backwards.)
+  * F2 ('Go to first field' on the View menu) goes to the first text area.  From there, TAB leads through the whole card.
 
 ENTERING TEXT
   * Click a text area, or TAB to it, and type.  Text is centered unless you left-justify it.

@@ -101,7 +101,7 @@ void followWithCursor(Zevlin& form, const Place& before) {
     const float x = static_cast<float>(cursor.x) * twips - wholeTwips(before.left - form.P1.Left);
     const float y = static_cast<float>(cursor.y) * twips - wholeTwips(before.top - form.P1.Top);
     if (!cursorCanFollow(form, x, y)) {
-        form.TabActive = false;
+        endRest(form);
         return;
     }
     form.TabCursorX = toolkit::roundToInteger(x / twips);
@@ -194,6 +194,11 @@ void zoomAt(Zevlin& form, int rotation, int x, int y) {
 }
 
 } // namespace
+
+void endRest(Zevlin& form) {
+    form.TabActive = false;
+    if (form.TabLast == form.TabCode) form.TabLast = 0;
+}
 
 void MouseWheel(Zevlin& form, int keys, int rotation, int x, int y) {
     if (!form.P1.Visible || !form.WheelHooked) return;

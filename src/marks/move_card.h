@@ -12,6 +12,9 @@ void MouseWheel(Zevlin& form, int keys, int rotation, int x, int y);
 /// Pulls the card so that the field with this item number lies in the work area.
 void CheckOnScreen(Zevlin& form, int item);
 
+/// Ends the walk's rest on a mark. If that was the last field, TAB waits for the next one.
+void endRest(Zevlin& form);
+
 /// Moves the card by a key that does so (HOME, END, PAGE UP, PAGE DOWN, arrows); true if it did.
 bool moveCardByKey(Zevlin& form, int keyCode, int shift);
 

@@ -44,6 +44,7 @@ void takeOverText(Zevlin& form, toolkit::TextBox& box) {
     form.P1Stack.sendToBack(box);
     if (!form.OpeningField) hideTextBox(form, box);
     form.P1Stack.bringToFront(form.AText[form.TIndex]);
+    form.TabLast = form.TIndex;
     form.ClickX = 0;
     form.ClickY = 0;
 }

@@ -57,6 +57,8 @@ const std::vector<Written> menuBar = {{0, "&File", ""},
                                       {1, "", ""},
                                       {1, "Fit to screen width                Ctrl  0", ""},
                                       {1, "Fit to screen height", ""},
+                                      {1, "", ""},
+                                      {1, "Go to first field", "F2"},
                                       {0, "&Options", ""},
                                       {1, "My Name", ""},
                                       {1, "Partner's Name", ""},
@@ -217,7 +219,8 @@ TEST_F(MenuTable, ViewItemsRunTheirOwnProcedures) {
         {"View>Zoom In (Bigger)                   Ctrl +", "MZoomIn_Click"},
         {"View>Zoom Out (Smaller)               Ctrl  -", "MZoomOut_Click"},
         {"View>Fit to screen width                Ctrl  0", "MFitScreenWidth"},
-        {"View>Fit to screen height", "MFitScreenHeight_Click"}};
+        {"View>Fit to screen height", "MFitScreenHeight_Click"},
+        {"View>Go to first field", "MFirstField_Click"}};
     for (const auto& [path, line] : traces) {
         form.Trace.clear();
         EXPECT_TRUE(toolkit::test::chooseMenu(path)) << path;

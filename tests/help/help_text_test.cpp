@@ -158,6 +158,11 @@ TEST(HelpText, ZoomAndFitAreSaidToStandInTheViewMenuWithTheirKeys) {
     EXPECT_TRUE(holds(options, "press F1"));
 }
 
+TEST(HelpText, SaysHowTheWalkBeginsWithoutAMouse) {
+    const auto marks = chapter("CHECKING BOXES AND CIRCLING LEADS", "ENTERING TEXT");
+    EXPECT_TRUE(holds(marks, "F2 ('Go to first field' on the View menu)"));
+}
+
 TEST(HelpText, SaysHowToCopyCutAndPaste) {
     const auto text = chapter("ENTERING TEXT", "DISK FILES");
     for (const std::string_view key : {"Ctrl+C", "Ctrl+X", "Ctrl+V"})

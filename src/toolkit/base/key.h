@@ -22,6 +22,7 @@ constexpr int digit0 = 48;
 constexpr int add = 107;
 constexpr int subtract = 109;
 constexpr int f1 = 112;
+constexpr int f2 = 113;
 constexpr int f3 = 114;
 constexpr int f4 = 115;
 constexpr int f5 = 116;
