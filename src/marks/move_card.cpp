@@ -17,6 +17,9 @@ namespace {
 
 using toolkit::numberText;
 
+/// Pixels between a field that was brought into sight and the edge.
+constexpr float roomAroundField = 4;
+
 struct Place {
     float left = 0;
     float top = 0;
@@ -116,15 +119,15 @@ struct ItemPlace {
     float marginY = 0;
 };
 
-ItemPlace placeOfItem(const Zevlin& form, int item) {
-    if (item >= firstMarkItem) {
-        const toolkit::Label& mark = form.AMark[item - firstMarkItem];
-        return {{mark.Left + mark.Width / 3, mark.Top + mark.Height / 3},
-                2 * mark.Width,
-                2 * mark.Height};
-    }
-    const toolkit::Label& text = form.AText[item];
-    return {{text.Left, text.Top}, text.Width / 4, 2 * text.Height};
+const toolkit::Label& labelOf(const Zevlin& form, int item) {
+    return item >= firstMarkItem ? form.AMark[item - firstMarkItem] : form.AText[item];
+}
+
+ItemPlace placeOfItem(const toolkit::Label& label, bool isMark) {
+    if (!isMark) return {{label.Left, label.Top}, label.Width / 4, 2 * label.Height};
+    return {{label.Left + label.Width / 3, label.Top + label.Height / 3},
+            2 * label.Width,
+            2 * label.Height};
 }
 
 /// How far a card must move so that `at` lies between the limits, with the margin to spare.
@@ -140,8 +143,7 @@ struct Area {
     float bottom = 0;
 };
 
-Area allowedArea(Zevlin& form) {
-    const auto bar = GetTaskBarSize(form);
+Area allowedArea(const Zevlin& form, const toolkit::TaskBar& bar) {
     const auto screen = toolkit::screen();
     const auto twips = static_cast<float>(form.TwipsPerPixel);
     Area area{std::max(0.0F, form.Left), std::max(0.0F, form.Top), form.Left + form.Width,
@@ -155,13 +157,57 @@ Area allowedArea(Zevlin& form) {
     return area;
 }
 
+/// The screen without its task bar.
+Area workArea(const Zevlin& form, const toolkit::TaskBar& bar) {
+    const auto screen = toolkit::screen();
+    const auto twips = static_cast<float>(form.TwipsPerPixel);
+    const float width = bar.Width * twips;
+    const float height = bar.Height * twips;
+    Area area{0, 0, screen.Width, screen.Height};
+    if (bar.Width < bar.Height && bar.Left > 0)
+        area.right -= width;
+    else if (bar.Width < bar.Height)
+        area.left += width;
+    else if (bar.Top > 0)
+        area.bottom -= height;
+    else
+        area.top += height;
+    return area;
+}
+
+/// What can be seen of the form's inside, relative to it.
+Area visibleArea(const Zevlin& form, const toolkit::TaskBar& bar) {
+    const Area work = workArea(form, bar);
+    const float left = form.FrameWidth + form.Left;
+    const float top = form.FrameHeight + form.Top;
+    return {std::max(0.0F, work.left - left), std::max(0.0F, work.top - top),
+            std::min(form.ScaleWidth(), work.right - left),
+            std::min(form.ScaleHeight(), work.bottom - top)};
+}
+
+/// How far a card must move so that a field on it is seen whole, with a little room around it. Of a
+/// field that is larger than what can be seen, the beginning is.
+float pullWhole(float from, float to, float low, float high, float margin) {
+    if (from >= low && to <= high) return 0;
+    if (to - from + 2 * margin > high - low) return low - from;
+    return from < low ? low + margin - from : high - margin - to;
+}
+
 void pullOnScreen(Zevlin& form, int item) {
-    const Area area = allowedArea(form);
-    const ItemPlace wanted = placeOfItem(form, item);
+    const auto bar = GetTaskBarSize(form);
+    const Area area = allowedArea(form, bar);
+    const Area visible = visibleArea(form, bar);
+    const toolkit::Label& label = labelOf(form, item);
+    const ItemPlace wanted = placeOfItem(label, item >= firstMarkItem);
     const float x = form.FrameWidth + form.Left + form.P1.Left + wanted.place.left;
     const float y = form.FrameHeight + form.Top + form.P1.Top + wanted.place.top;
-    const float left = form.P1.Left + pull(x, area.left, area.right, wanted.marginX);
-    const float top = form.P1.Top + pull(y, area.top, area.bottom, wanted.marginY);
+    float left = form.P1.Left + pull(x, area.left, area.right, wanted.marginX);
+    float top = form.P1.Top + pull(y, area.top, area.bottom, wanted.marginY);
+    const float margin = roomAroundField * static_cast<float>(form.TwipsPerPixel);
+    left += pullWhole(left + label.Left, left + label.Left + label.Width, visible.left,
+                      visible.right, margin);
+    top += pullWhole(top + label.Top, top + label.Top + label.Height, visible.top, visible.bottom,
+                     margin);
     if (left == form.P1.Left && top == form.P1.Top) return;
     Traceit(form, "  CheckOnScreen results: P1 was: " + numberText(form.P1.Left) + ", " +
                       numberText(form.P1.Top) + " ... is: " + numberText(left) + ", " +

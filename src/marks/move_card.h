@@ -9,7 +9,8 @@ struct Zevlin;
 /// Ctrl it zooms; x and y, pixels of the screen, are where the pointer is.
 void MouseWheel(Zevlin& form, int keys, int rotation, int x, int y);
 
-/// Pulls the card so that the field with this item number lies in the work area.
+/// Pulls the card so that the field with this item number lies in the work area, and whole in what
+/// can be seen of the form, if that is large enough.
 void CheckOnScreen(Zevlin& form, int item);
 
 /// Ends the walk's rest on a mark. If that was the last field, TAB waits for the next one.

@@ -47,10 +47,83 @@ TEST_F(OnScreen, MarkBeyondRightAndBottomIsPulledInByTwiceItsSize) {
     EXPECT_TRUE(traced("  CheckOnScreen results: P1 was: 0, 0 ... is: -1820, -2650"));
 }
 
-TEST_F(OnScreen, TextIsPulledInByAQuarterOfItsWidthAndTwiceItsHeight) {
+TEST_F(OnScreen, TextIsPulledInByTwiceItsHeightAndWhole) {
     startAt(0, 0, 5000, 8000);
     CheckOnScreen(form, 1);
-    expectAt(-1120 - 1000, -1600 - 600);
+    // A quarter of its width would show just that quarter: its 4000 end 4 pixels before 4880.
+    expectAt(4880 - 60 - 10000, -1600 - 600);
+    EXPECT_TRUE(traced("  CheckOnScreen results: P1 was: 0, 0 ... is: -5180, -2200"));
+}
+
+TEST_F(OnScreen, TextLeftOfTheFormIsPulledInByAQuarterOfItsWidth) {
+    startAt(0, 0, 15000, 15000);
+    form.P1.Move(-7000, 0);
+    CheckOnScreen(form, 1);
+    // At 120 - 7000 + 6000.
+    expectAt(-7000 + 880 + 1000, 0);
+}
+
+TEST_F(OnScreen, FieldThatIsCutByAnEdgeOfTheFormIsBroughtInWhole) {
+    startAt(0, 0, 15000, 15000);
+    // The inside is 14880 by 14400; the mark is 300 by 450, the text 4000 by 300.
+    form.P1.Move(14880 - 6299, 14400 - 9449);
+    CheckOnScreen(form, 1001);
+    expectAt(14880 - 6300 - 60, 14400 - 9450 - 60);
+    form.P1.Move(-6001, -9001);
+    CheckOnScreen(form, 1001);
+    expectAt(-6000 + 60, -9000 + 60);
+    form.P1.Move(14880 - 9000, 14400 - 9100);
+    CheckOnScreen(form, 1);
+    expectAt(14880 - 10000 - 60, 14400 - 9300 - 60);
+    form.P1.Move(14880 - 10000, 14400 - 9300);
+    CheckOnScreen(form, 1);
+    expectAt(14880 - 10000, 14400 - 9300);
+}
+
+TEST_F(OnScreen, FieldThatTheScreensEdgeOrTheTaskBarCutsIsBroughtInWhole) {
+    startAt(0, 0, 15000, 15000);
+    struct Case {
+        toolkit::TaskBar bar;
+        float left, top, wantedLeft, wantedTop;
+    };
+    // What can be seen ends at 12000 - 120 and 11000 - 600, or before the bar of 600 twips.
+    const std::vector<Case> cases{
+        {{}, 5700, 1100, 11880 - 6300 - 60, 10400 - 9450 - 60},
+        {{0, 693, 800, 40}, 0, 500, 0, 9800 - 9450 - 60},
+        {{760, 0, 40, 733}, 5100, 0, 11280 - 6300 - 60, 0},
+        {{0, 0, 40, 733}, -5700, 0, 480 - 6000 + 60, 0},
+    };
+    for (const auto& one : cases) {
+        setScreen(12000, 11000, one.bar);
+        form.P1.Move(one.left, one.top);
+        CheckOnScreen(form, 1001);
+        expectAt(one.wantedLeft, one.wantedTop);
+    }
+}
+
+TEST_F(OnScreen, FieldBehindATaskBarAtTheTopIsBroughtInWhole) {
+    startAt(0, 0, 9000, 9000);
+    setScreen(12000, 11000, {0, 0, 800, 60});
+    form.P1.Move(0, -8950);
+    CheckOnScreen(form, 1001);
+    expectAt(0, 900 - 600 - 9000 + 60);
+}
+
+TEST_F(OnScreen, FormBeyondTheUpperLeftOfTheScreenShowsTheFieldWholeOnIt) {
+    startAt(-3000, -4000, 15000, 15000);
+    // The screen begins at 2880 and 3400 of the form's inside; the mark's third lies on it.
+    form.P1.Move(2800 - 6000, 3300 - 9000);
+    CheckOnScreen(form, 1001);
+    expectAt(2880 - 6000 + 60, 3400 - 9000 + 60);
+}
+
+TEST_F(OnScreen, OfAFieldThatIsLargerThanTheFormTheBeginningIsShown) {
+    startAt(0, 0, 4000, 15000);
+    CheckOnScreen(form, 1);
+    expectAt(-6000, 0);
+    form.Height = 500;
+    CheckOnScreen(form, 1);
+    expectAt(-6000, -9000);
 }
 
 TEST_F(OnScreen, ItemLeftOfOrAboveTheFormIsPulledBack) {
