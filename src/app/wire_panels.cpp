@@ -2,6 +2,7 @@
 
 #include "app/folder_line.h"
 #include "card/chooser_events.h"
+#include "card/chooser_keys.h"
 #include "card/chooser_menu.h"
 #include "form/run_procedure.h"
 #include "form/zevlin.h"
@@ -35,6 +36,7 @@ toolkit::PanelContents chooser(Zevlin& form) {
     form.P3.AccessibleName = "Choose a card";
     form.TSaveAs.AccessibleName = "Name of the card";
     form.FileList.AccessibleName = "Cards";
+    form.FileList.Elides = true;
     toolkit::PanelContents panel;
     panel.box = &form.P3;
     panel.labels = {&form.LSaveAs, &form.LPath};

@@ -1,6 +1,5 @@
 #include "card/chooser_events.h"
 
-#include <algorithm>
 #include <string>
 
 #include "form/trace.h"
@@ -14,39 +13,6 @@ namespace {
 
 bool hasName(const Zevlin& form) { return !toolkit::trim(form.TSaveAs.Text).empty(); }
 
-void selectName(Zevlin& form) {
-    form.TSaveAs.SelStart = 0;
-    form.TSaveAs.SelLength = static_cast<int>(form.TSaveAs.Text.size());
-}
-
-/// How many rows the key moves the selection.
-int rowsOf(const Zevlin& form, int keyCode) {
-    const float lineHeight = toolkit::textHeight(form.FileList.Font);
-    const int page = std::max(1, static_cast<int>(form.FileList.Height / lineHeight) - 1);
-    switch (keyCode) {
-    case toolkit::key::up:
-        return -1;
-    case toolkit::key::down:
-        return 1;
-    case toolkit::key::pageUp:
-        return -page;
-    case toolkit::key::pageDown:
-        return page;
-    default:
-        return 0;
-    }
-}
-
-void walkList(Zevlin& form, int rows) {
-    const int last = static_cast<int>(form.FileList.List.size()) - 1;
-    const int from = form.FileList.ListIndex;
-    // The first key selects the first card, or the last.
-    const int start = from >= 0 ? from + rows : (rows > 0 ? 0 : last);
-    form.FileList.ListIndex = std::clamp(start, 0, last);
-    FileList_Click(form);
-    selectName(form);
-}
-
 } // namespace
 
 void takeSelectedName(Zevlin& form) {
@@ -55,6 +21,11 @@ void takeSelectedName(Zevlin& form) {
     if (form.TSaveAs.Text == name) return;
     form.TSaveAs.Text = name;
     TSaveAs_Change(form);
+}
+
+void selectName(Zevlin& form) {
+    form.TSaveAs.SelStart = 0;
+    form.TSaveAs.SelLength = static_cast<int>(form.TSaveAs.Text.size());
 }
 
 void enableOk(Zevlin& form) { form.BOK.Enabled = hasName(form); }
@@ -78,15 +49,6 @@ void TSaveAs_Change(Zevlin& form) {
 
 void TSaveAs_GotFocus(Zevlin& form) {
     procedure(form, "TSaveAs_GotFocus", [&] { selectName(form); });
-}
-
-void TSaveAs_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
-    trapped(form, "Error in TSaveAs_KeyDown: #", [&] {
-        const int rows = key.Shift == 0 ? rowsOf(form, key.KeyCode) : 0;
-        if (rows == 0) return;
-        key = {};
-        if (!form.FileList.List.empty()) walkList(form, rows);
-    });
 }
 
 void TSaveAs_KeyPress(Zevlin& form, int& KeyAscii) {
@@ -114,16 +76,6 @@ void FileList_Click(Zevlin& form) {
 
 void FileList_DblClick(Zevlin& form) {
     procedure(form, "FileList_DblClick", [&] {
-        takeSelectedName(form);
-        BOK_Click(form);
-    });
-}
-
-void FileList_KeyDown(Zevlin& form, toolkit::KeyArguments& key) {
-    procedure(form, "FileList_KeyDown", [&] {
-        if (key.KeyCode != toolkit::key::enter) return;
-        key = {};
-        if (toolkit::isKeyRepeat()) return;
         takeSelectedName(form);
         BOK_Click(form);
     });

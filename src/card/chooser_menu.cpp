@@ -104,7 +104,7 @@ void renameSelected(Zevlin& form) {
 
 } // namespace
 
-void openFileMenu(Zevlin& form) {
+void openFileMenu(Zevlin& form, MenuPlace place) {
     const std::string name = toolkit::captionFor(selectedName(form));
     form.mpopOpen.Caption = "&Open " + name;
     form.mpopDelete.Caption = "&Delete " + name;
@@ -113,7 +113,10 @@ void openFileMenu(Zevlin& form) {
         toolkit::PopupRow{.item = &form.mpopOpen, .Click = [&form] { mpopOpen_Click(form); }},
         toolkit::PopupRow{.item = &form.mpopDelete, .Click = [&form] { mpopDelete_Click(form); }},
         toolkit::PopupRow{.item = &form.mpopRename, .Click = [&form] { mpopRename_Click(form); }}};
-    toolkit::popupMenu(rows, "Card");
+    if (place == MenuPlace::Row)
+        toolkit::popupMenu(rows, "Card", form.FileList);
+    else
+        toolkit::popupMenu(rows, "Card");
 }
 
 void mpopOpen_Click(Zevlin& form) {
@@ -141,7 +144,7 @@ void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
         if (mouse.Button != toolkit::button::right || form.FileList.PointedIndex < 0) return;
         form.FileList.ListIndex = form.FileList.PointedIndex;
         takeSelectedName(form);
-        openFileMenu(form);
+        openFileMenu(form, MenuPlace::Pointer);
     });
 }
 

@@ -10,8 +10,9 @@ struct Zevlin;
 /// The right button opens the pop-up of the card below the pointer.
 void FileList_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse);
 
-/// Opens the pop-up of the selected card.
-void openFileMenu(Zevlin& form);
+/// Opens the pop-up of the selected card: at the pointer, or below the card's row.
+enum class MenuPlace { Pointer, Row };
+void openFileMenu(Zevlin& form, MenuPlace place);
 
 void mpopOpen_Click(Zevlin& form);
 /// Deletes the selected card's file, with no question asked.

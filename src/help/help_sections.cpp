@@ -44,6 +44,7 @@ DISK FILES
          into your cards and to open the copy; the file itself stays as it is.
        * Before the list appears, the card you were working on is closed.  If you click 'Cancel', you have an empty card.
        * Right-click a card in the list to Delete or Rename it.  Delete does NOT ask you first.
+       * With a card selected in the list, the Delete key deletes it, F2 renames it, and Shift+F10 opens that popup menu.
   * A '*' behind the card's name at the top of the window means that the card has unsaved changes.
        * You will be warned, and can save them, before another card is opened and before the program ends.
   * The path to your ZEV files is shown at the bottom of the list. Left-clicking it will open that folder.

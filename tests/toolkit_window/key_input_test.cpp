@@ -34,6 +34,11 @@ TEST_F(KeyInput, AtThePlaceOfZeroAnAccentedLetterIsTheZero) {
     EXPECT_EQ(log.at(1), "card.KeyDown 57/2");
 }
 
+TEST_F(KeyInput, MenuKeyHasACodeAndNoCharacter) {
+    EXPECT_EQ(onCard(key::menu), (Log{"KeyDown 93/0", "KeyUp 93/0"}));
+    EXPECT_EQ(onCard(key::f10, shift::shift), (Log{"KeyDown 121/1", "KeyUp 121/1"}));
+}
+
 TEST_F(KeyInput, ControlLettersAreCharactersOneToTwentySix) {
     EXPECT_EQ(onCard('B', shift::ctrl)[1], "KeyPress 2");
     EXPECT_EQ(onCard('I', shift::ctrl)[1], "KeyPress 9");

@@ -60,5 +60,36 @@ TEST_F(PopupMenu, AScreenReaderKnowsAndChoosesItsRows) {
     EXPECT_EQ(log, Log{"bold"});
 }
 
+TEST_F(PopupMenu, OfAListOpensBelowItsCurrentRowWhereverThePointerIs) {
+    MenuItem bold{.Caption = "Boldface"};
+    const std::vector<PopupRow> rows{{.item = &bold, .Click = [this] { note("bold"); }}};
+    list.Move(px(100), px(100), px(200), px(100));
+    list.List = std::vector<std::string>(20, "row");
+    list.Visible = true;
+    std::vector<test::PopupPlace> places;
+    for (const int row : {0, 1, 15}) {
+        test::moveMouse(px(500), px(30));
+        list.ListIndex = row;
+        test::PopupPlace place;
+        test::chooseInNextPopup(0, place);
+        popupMenu(rows, "Row", list);
+        places.push_back(place);
+    }
+    EXPECT_EQ(times("bold"), 3);
+    // In pixels of the form's inside.
+    const int left = toolkit::pixelsFromTwips(form.Left + form.FrameWidth) + 100;
+    const int top = toolkit::pixelsFromTwips(form.Top + form.FrameHeight) + 100;
+    const int height = places[1].y - places[0].y;
+    EXPECT_GT(height, 8);
+    EXPECT_NEAR(places[0].y, top + height, 3);
+    // Rows out of sight are scrolled in.
+    EXPECT_GT(places[2].y, top + height);
+    EXPECT_LE(places[2].y, top + 102);
+    for (const auto& place : places) {
+        EXPECT_GT(place.x, left);
+        EXPECT_LT(place.x, left + 50);
+    }
+}
+
 } // namespace
 } // namespace window_test

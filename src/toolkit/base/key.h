@@ -19,6 +19,7 @@ constexpr int down = 40;
 constexpr int insert = 45;
 constexpr int deleteKey = 46;
 constexpr int digit0 = 48;
+constexpr int menu = 93; ///< opens the pop-up menu of what has the focus
 constexpr int add = 107;
 constexpr int subtract = 109;
 constexpr int f1 = 112;
@@ -27,6 +28,7 @@ constexpr int f3 = 114;
 constexpr int f4 = 115;
 constexpr int f5 = 116;
 constexpr int f8 = 119;
+constexpr int f10 = 121;
 constexpr int plus = 187;
 constexpr int minus = 189;
 

@@ -22,6 +22,13 @@ QWidget& shownWidget(const Control& control) {
     return *widget;
 }
 
+/// Where the pointer goes in the control: a list has its rows on a widget of their own.
+QWidget& widgetUnderPointer(const Control& control) {
+    QWidget& shown = shownWidget(control);
+    const auto* list = dynamic_cast<ListView*>(&shown);
+    return list == nullptr ? shown : *list->viewport();
+}
+
 /// The middle of the row in the list's own widget.
 QPoint middleOfRow(const ListBox& list, int row) {
     const auto& view = dynamic_cast<const ListView&>(shownWidget(list));
@@ -52,7 +59,7 @@ PointOnCard pointOnRow(const ListBox& list, int row) {
 }
 
 std::string toolTipAt(const Control& control, PointOnCard point) {
-    QWidget& widget = shownWidget(control);
+    QWidget& widget = widgetUnderPointer(control);
     const QPoint onCard(pixelsFromTwips(point.x), pixelsFromTwips(point.y));
     const QPoint global = window().card().mapToGlobal(onCard);
     QHelpEvent event(QEvent::ToolTip, widget.mapFromGlobal(global), global);
@@ -64,10 +71,7 @@ std::string toolTipAt(const Control& control, PointOnCard point) {
 }
 
 void turnWheelOver(const Control& control, int rotation) {
-    // A list takes it where its rows are.
-    QWidget& shown = shownWidget(control);
-    const auto* list = dynamic_cast<ListView*>(&shown);
-    QWidget& widget = list == nullptr ? shown : *list->viewport();
+    QWidget& widget = widgetUnderPointer(control);
     const QPointF place = QRectF(widget.rect()).center();
     QWheelEvent event(place, widget.mapToGlobal(place), QPoint(), QPoint(0, rotation), Qt::NoButton,
                       Qt::NoModifier, Qt::NoScrollPhase, false);

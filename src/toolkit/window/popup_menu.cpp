@@ -1,8 +1,11 @@
 #include "toolkit/window/popup_menu.h"
 
+#include <functional>
+
 #include <QtWidgets/QMenu>
 
 #include "toolkit/base/qt_text.h"
+#include "toolkit/window/control/qt_list_view.h"
 #include "toolkit/window/dialog_answers.h"
 #include "toolkit/window/input/qt_event_dispatcher.h"
 #include "toolkit/window/menu/qt_menu_rows.h"
@@ -14,7 +17,8 @@ namespace toolkit {
 namespace {
 
 /// The row that the player chooses, nullptr for none.
-const PopupRow* chosenOnScreen(std::span<const PopupRow> rows, std::string_view name) {
+const PopupRow* chosenOnScreen(std::span<const PopupRow> rows, std::string_view name,
+                               QPoint place) {
     QMenu menu(boxParent());
     menu.setAccessibleName(qString(name));
     const PopupRow* chosen = nullptr;
@@ -25,18 +29,30 @@ const PopupRow* chosenOnScreen(std::span<const PopupRow> rows, std::string_view 
                              // A screen reader that presses a row leaves the menu open.
                              menu.close();
                          });
-    menu.exec(cursorAmongScreens());
+    menu.exec(place);
     return chosen;
+}
+
+void popupMenuAt(std::span<const PopupRow> rows, std::string_view name,
+                 const std::function<QPoint()>& place) {
+    updateWindow();
+    if (dialogAnswers().popup) return dialogAnswers().popup(rows);
+    const PopupRow* chosen = chosenOnScreen(rows, name, place());
+    rethrowKept();
+    if (chosen != nullptr && chosen->Click) chosen->Click();
 }
 
 } // namespace
 
 void popupMenu(std::span<const PopupRow> rows, std::string_view name) {
-    updateWindow();
-    if (dialogAnswers().popup) return dialogAnswers().popup(rows);
-    const PopupRow* chosen = chosenOnScreen(rows, name);
-    rethrowKept();
-    if (chosen != nullptr && chosen->Click) chosen->Click();
+    popupMenuAt(rows, name, cursorAmongScreens);
+}
+
+void popupMenu(std::span<const PopupRow> rows, std::string_view name, const ListBox& list) {
+    popupMenuAt(rows, name, [&list] {
+        const auto* view = dynamic_cast<ListView*>(currentWindow()->widgetOf(&list));
+        return view == nullptr ? cursorAmongScreens() : view->placeBelowRow();
+    });
 }
 
 } // namespace toolkit

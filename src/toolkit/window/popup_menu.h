@@ -12,4 +12,7 @@ namespace toolkit {
 /// name is for screen readers.
 void popupMenu(std::span<const PopupRow> rows, std::string_view name = {});
 
+/// The same below the current row of a list that is shown, for who has asked for it by key.
+void popupMenu(std::span<const PopupRow> rows, std::string_view name, const ListBox& list);
+
 } // namespace toolkit

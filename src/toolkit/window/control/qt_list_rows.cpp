@@ -1,9 +1,15 @@
 #include "toolkit/window/control/qt_list_rows.h"
 
 #include <cmath>
+#include <string>
+#include <string_view>
 
+#include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
+#include <QtGui/QTextDocument>
+#include <QtWidgets/QAbstractItemView>
 #include <QtWidgets/QStyleOptionViewItem>
+#include <QtWidgets/QToolTip>
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
@@ -13,6 +19,16 @@ namespace toolkit {
 namespace {
 
 constexpr int leftMargin = 2;
+constexpr std::string_view dots = "...";
+
+/// The text, or as much of it as fits before three dots into a line of this width, twips.
+std::string elided(const FontSpec& font, const std::string& text, float width) {
+    if (textWidth(font, text) <= width) return text;
+    std::string shown = text;
+    do shown.pop_back();
+    while (!shown.empty() && textWidth(font, shown + std::string(dots)) > width);
+    return shown + std::string(dots);
+}
 
 } // namespace
 
@@ -42,10 +58,30 @@ void ListRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option
     const QColor highlighted = option.palette.color(QPalette::HighlightedText);
     const Color color = selected ? rgb(highlighted.red(), highlighted.green(), highlighted.blue())
                                  : list_.ForeColor;
-    const int gap = list_.RowGap / 2;
-    const QPointF origin(option.rect.left() + leftMargin + gap,
-                         option.rect.top() + gap + pixelsFromTwips(textAscent(list_.Font)));
-    drawRun(*painter, origin, list_.Font, 1.0 / twipsPerPixel(), color, rows_.row(index.row()));
+    const QPointF origin(option.rect.left() + indent(),
+                         option.rect.top() + list_.RowGap / 2 +
+                             pixelsFromTwips(textAscent(list_.Font)));
+    drawRun(*painter, origin, list_.Font, 1.0 / twipsPerPixel(), color,
+            shownRow(index.row(), option.rect.width()));
+}
+
+int ListRowPainter::indent() const { return leftMargin + list_.RowGap / 2; }
+
+std::string ListRowPainter::shownRow(int row, int width) const {
+    const std::string& text = rows_.row(row);
+    if (!list_.Elides) return text;
+    return elided(list_.Font, text, twipsFromPixels(width - 2 * indent()));
+}
+
+bool ListRowPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                               const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const bool isCut = index.isValid() && event->type() == QEvent::ToolTip &&
+                       shownRow(index.row(), option.rect.width()) != rows_.row(index.row());
+    if (!isCut) return QAbstractItemDelegate::helpEvent(event, view, option, index);
+    const QString row = qString(rows_.row(index.row()));
+    const QString tip = Qt::mightBeRichText(row) ? "<span>" + row.toHtmlEscaped() + "</span>" : row;
+    QToolTip::showText(event->globalPos(), tip, view, option.rect);
+    return true;
 }
 
 QSize ListRowPainter::sizeHint(const QStyleOptionViewItem& /*option*/,

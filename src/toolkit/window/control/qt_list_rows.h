@@ -34,8 +34,14 @@ class ListRowPainter : public QAbstractItemDelegate {
                const QModelIndex& index) const override;
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const override;
+    bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                   const QModelIndex& index) override;
 
   private:
+    [[nodiscard]] int indent() const;
+    /// The row as it is painted in a rectangle of this width, pixels.
+    [[nodiscard]] std::string shownRow(int row, int width) const;
+
     const ListRows& rows_;
     const ListBox& list_;
 };

@@ -96,6 +96,11 @@ void ListView::tell(QAccessible::Event what, int row) {
     toolkit::tell(event);
 }
 
+QPoint ListView::placeBelowRow() const {
+    const QRect row = visualRect(currentIndex());
+    return viewport()->mapToGlobal(row.bottomLeft() + QPoint(row.height(), 1));
+}
+
 void ListView::mousePressEvent(QMouseEvent* event) {
     list_.PointedIndex = indexAt(event->position().toPoint()).row();
     if (mouse_.press(*this, *event) == ControlMouse::Own::Handle) QListView::mousePressEvent(event);

@@ -19,6 +19,8 @@ class ListView : public QListView {
     void push();
     /// What the list does with a key that no handler has taken.
     void takeKey(QKeyEvent& event);
+    /// Where a pop-up menu of the current row goes, among all screens.
+    [[nodiscard]] QPoint placeBelowRow() const;
 
     // For screen readers.
     [[nodiscard]] bool isLink(int row) const { return list_.IsLink && list_.IsLink(row); }

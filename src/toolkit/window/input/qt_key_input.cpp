@@ -43,6 +43,7 @@ constexpr std::array namedKeys{
     KeyPair{Qt::Key_Down, key::down},
     KeyPair{Qt::Key_Insert, key::insert},
     KeyPair{Qt::Key_Delete, key::deleteKey},
+    KeyPair{Qt::Key_Menu, key::menu},
     KeyPair{Qt::Key_Plus, key::plus},
     KeyPair{Qt::Key_Equal, key::plus},
     KeyPair{Qt::Key_Minus, key::minus},
