@@ -18,6 +18,7 @@
 #include "events/edit_keys.h"
 #include "events/keys.h"
 #include "events/mark_clicks.h"
+#include "events/tab_walk.h"
 #include "form/file_note.h"
 #include "form/panel_look.h"
 #include "form/panels.h"
@@ -171,6 +172,7 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.frozenCard = &form.P2;
     parts.cardGroups = cardGroups(form);
     parts.cardLabels = {&form.Timestamp, &form.CreditLabel};
+    parts.framedLabel = [&form] { return unseenMark(form); };
     parts.cardTextBoxes = {&form.CText, &form.LText};
     parts.lists = {&form.THelp};
     parts.panels = wirePanels(form);

@@ -198,6 +198,14 @@ void TabToMark(Zevlin& form, int item) {
     trapped(form, "Error in TabToMark: #", [&] { moveToMark(form, item); });
 }
 
+const toolkit::Label* unseenMark(const Zevlin& form) {
+    if (!form.TabActive || form.ActiveControl != &form.P1 || !toolkit::isCursorUnseen())
+        return nullptr;
+    const int index = indexOf(form.TabCode);
+    const bool rests = form.AMark.exists(index) && isAtMark(form, toolkit::cursorPosition());
+    return rests ? &form.AMark[index] : nullptr;
+}
+
 int firstItem(const Zevlin& form) {
     const int head = headOf(form.TabTable, entryOf(form.TabTable));
     const auto& fields = fieldsOf(form, head);

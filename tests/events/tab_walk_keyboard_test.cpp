@@ -1,9 +1,11 @@
 // The walk without a mouse: where it begins, and how it goes on after what has interrupted it.
 #include "events/tab_walk.h"
 #include "text/edit_test.h"
+#include "toolkit/base/twips.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
+#include "toolkit/window/cursor.h"
 #include "toolkit/window/screen.h"
 
 namespace zev::test {
@@ -13,8 +15,36 @@ using namespace toolkit::test;
 namespace key = toolkit::key;
 namespace shift = toolkit::shift;
 
+constexpr toolkit::Color frameBlue = toolkit::rgb(0, 90, 200);
+
 class KeyboardWalk : public EditTest {
   protected:
+    /// Far from all marks.
+    static void pinPointer() {
+        toolkit::setCursorPosition({700, 700});
+        toolkit::overrideScreen({.width = 24000, .height = 24000, .pointerStays = true});
+    }
+    /// Whether there is a frame around the mark, beside it on all four sides.
+    [[nodiscard]] bool isFramed(int mark) const {
+        const auto shown = grabCard();
+        const auto px = [](float twips) { return toolkit::pixelsFromTwips(twips); };
+        const toolkit::Label& label = form.AMark[mark];
+        const int left = px(label.Left) - 2;
+        const int top = px(label.Top) - 2;
+        const int right = px(label.Left + label.Width) + 1;
+        const int bottom = px(label.Top + label.Height) + 1;
+        const auto isBlue = [&](int x, int y) { return shown.pixel(x, y) == frameBlue; };
+        const int x = (left + right) / 2;
+        const int y = (top + bottom) / 2;
+        return isBlue(left, y) && isBlue(right, y) && isBlue(x, top) && isBlue(x, bottom);
+    }
+    [[nodiscard]] static bool hasFrame() {
+        const auto shown = grabCard();
+        for (int y = 0; y < shown.height(); ++y)
+            for (int x = 0; x < shown.width(); ++x)
+                if (shown.pixel(x, y) == frameBlue) return true;
+        return false;
+    }
     /// The walk rests on a mark to which TAB has come.
     void walkToMark(int mark) {
         clickText(2);
@@ -272,6 +302,69 @@ TEST_F(KeyboardWalk, AnArrowThatTheCursorCannotFollowEndsItForGood) {
     typeKey(key::tab);
     EXPECT_FALSE(isEditing());
     EXPECT_FALSE(form.TabActive);
+}
+
+TEST_F(KeyboardWalk, AFrameShowsTheMarkWhereNoProgramMayMoveThePointer) {
+    startSmall();
+    pinPointer();
+    clickText(2);
+    EXPECT_FALSE(hasFrame());
+    typeKey(key::tab);
+    EXPECT_TRUE(isFramed(1));
+    typeKey(key::space);
+    EXPECT_TRUE(form.AMark[1].Visible);
+    EXPECT_TRUE(isFramed(1));
+    typeKey(key::tab);
+    EXPECT_FALSE(isFramed(1));
+    EXPECT_TRUE(isFramed(2));
+    typeKey(key::tab);
+    expectOpen(3);
+    EXPECT_FALSE(hasFrame());
+}
+
+TEST_F(KeyboardWalk, TheFrameMovesAlongWithTheCardAndGoesWithTheWalk) {
+    startSmall();
+    pinPointer();
+    walkToMark(1);
+    form.P1.Move(-1500, -1500);
+    typeKey(key::up);
+    ASSERT_TRUE(form.TabActive);
+    EXPECT_TRUE(isFramed(1));
+    typeKey(key::add, shift::ctrl);
+    EXPECT_FALSE(form.TabActive);
+    EXPECT_FALSE(hasFrame());
+}
+
+TEST_F(KeyboardWalk, TheFrameGoesWhenThePlayerTakesTheMouse) {
+    startSmall();
+    pinPointer();
+    walkToMark(1);
+    ASSERT_TRUE(isFramed(1));
+    moveMouse(800 * pixel, 800 * pixel);
+    EXPECT_FALSE(hasFrame());
+    clickMark(2);
+    EXPECT_TRUE(form.TabActive);
+    EXPECT_FALSE(hasFrame());
+}
+
+TEST_F(KeyboardWalk, WhereThePointerGoesAlongThereIsNoFrame) {
+    startSmall();
+    walkToMark(1);
+    EXPECT_FALSE(hasFrame());
+    typeKey(key::tab);
+    EXPECT_FALSE(hasFrame());
+}
+
+TEST_F(KeyboardWalk, UnderAPanelThereIsNoFrame) {
+    startSmall();
+    pinPointer();
+    walkToMark(1);
+    answerChooser([&] {
+        EXPECT_EQ(unseenMark(form), nullptr);
+        typeKey(key::escape);
+    });
+    EXPECT_TRUE(chooseMenu("File>Save As..."));
+    EXPECT_TRUE(isFramed(1));
 }
 
 TEST_F(KeyboardWalk, ANewCardHasNoLastField) {

@@ -3,6 +3,7 @@
 #include <tuple>
 #include <utility>
 
+#include "events/tab_walk.h"
 #include "form/write_options.h"
 #include "output/export_card.h"
 #include "output/print_test.h"
@@ -192,6 +193,47 @@ TEST_F(ExportCard, ACopyAsksNothingAndFillsTheClipboard) {
     for (int y = 0; y < exact.height(); ++y)
         for (int x = 0; x < exact.width(); ++x) ASSERT_EQ(copy.pixel(x, y), exact.pixel(x, y));
     EXPECT_FALSE(form.mPrintToClipboard.Checked);
+}
+
+TEST_F(ExportCard, TheFrameAroundTheMarkOfTheWalkIsOnTheScreenOnly) {
+    startWithContent();
+    toolkit::setCursorPosition({700, 700});
+    toolkit::overrideScreen({.width = 24000, .height = 24000, .pointerStays = true});
+    const auto isFramed = [] {
+        const auto screen = toolkit::test::grabCard();
+        for (int y = 0; y < screen.height(); ++y)
+            for (int x = 0; x < screen.width(); ++x)
+                if (screen.pixel(x, y) == toolkit::rgb(0, 90, 200)) return true;
+        return false;
+    };
+    struct Results {
+        std::string page;
+        std::string image;
+        std::string copy;
+    };
+    const auto runJobs = [&](bool framed) {
+        const auto rest = [&] {
+            if (framed) TabToMark(form, 1002);
+            window->update();
+            EXPECT_EQ(isFramed(), framed);
+        };
+        rest();
+        print();
+        rest();
+        exported(bmp, "a.bmp");
+        rest();
+        EXPECT_TRUE(toolkit::test::chooseMenu("File>Copy to Clipboard"));
+        toolkit::savePicture(toolkit::test::clipboardPicture(), home / "copy.bmp");
+        // The page tells when it was made.
+        return Results{std::regex_replace(toolkit::readFile(home / "page.pdf"),
+                                          std::regex("\\(D:[^)]*\\)"), "()"),
+                       dataFileContent("a.bmp"), toolkit::readFile(home / "copy.bmp")};
+    };
+    const Results plain = runJobs(false);
+    const Results framed = runJobs(true);
+    EXPECT_EQ(framed.page, plain.page);
+    EXPECT_EQ(framed.image, plain.image);
+    EXPECT_EQ(framed.copy, plain.copy);
 }
 
 TEST_F(ExportCard, AnExportLeavesThePrinterAlone) {

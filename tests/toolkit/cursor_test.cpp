@@ -37,5 +37,34 @@ TEST_F(PinnedPointer, PointerThatThePlayerMovesCountsFromThenOn) {
     expectAt(10, 20);
 }
 
+TEST_F(PinnedPointer, NobodySeesThePlaceUntilThePlayerMovesThePointer) {
+    EXPECT_FALSE(isCursorUnseen());
+    setCursorPosition({123, 145});
+    EXPECT_TRUE(isCursorUnseen());
+    setCursorPosition({200, 210});
+    EXPECT_TRUE(isCursorUnseen());
+    QCursor::setPos(11, 20);
+    EXPECT_FALSE(isCursorUnseen());
+    QCursor::setPos(10, 20);
+    EXPECT_FALSE(isCursorUnseen());
+}
+
+TEST_F(PinnedPointer, ThePlaceIsSeenWhereThePointerHappensToBe) {
+    setCursorPosition({11, 21});
+    EXPECT_FALSE(isCursorUnseen());
+}
+
+TEST(MovedPointer, ShowsThePlace) {
+    QCursor::setPos(10, 20);
+    setCursorPosition({123, 145});
+    EXPECT_EQ(QCursor::pos(), QPoint(123, 145));
+    EXPECT_FALSE(isCursorUnseen());
+}
+
+TEST_F(PinnedPointer, APlaceBeyondTheScreensTellsNothingOfThePlatform) {
+    setCursorPosition({-5000, 7});
+    EXPECT_FALSE(isCursorUnseen());
+}
+
 } // namespace
 } // namespace toolkit

@@ -3,6 +3,7 @@
 #include "toolkit/testing/test_accessible.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
+#include "toolkit/window/flattened_card.h"
 
 namespace window_test {
 namespace {
@@ -103,6 +104,56 @@ TEST_F(CardWidget, NothingIsAskedOfItsFieldsWhileNobodyListens) {
     EXPECT_EQ(times("count") + times("sections") + times("focused"), 0);
     static_cast<void>(test::accessibleSections());
     EXPECT_EQ(times("sections"), 1);
+}
+
+TEST_F(CardWidget, FrameRunsAroundItsLabelOverAllOtherLabels) {
+    // A hidden label has one, too.
+    marks[1].Move(px(100), px(50), px(20), px(30));
+    block(texts[1], 0, 0, 110, 300, grey);
+    framed = &marks[1];
+    const Bitmap shown = test::grabCard();
+    const Color frame = rgb(0, 90, 200);
+    for (const int x : {97, 98, 121, 122}) EXPECT_EQ(shown.pixel(x, 60), frame) << x;
+    for (const int y : {47, 48, 81, 82}) EXPECT_EQ(shown.pixel(115, y), frame) << y;
+    for (const int x : {96, 99}) EXPECT_EQ(shown.pixel(x, 60), grey) << x;
+    for (const int x : {120, 123}) EXPECT_EQ(shown.pixel(x, 60), white) << x;
+    for (const int y : {46, 49, 80, 83}) EXPECT_EQ(shown.pixel(115, y), white) << y;
+    const Bitmap twice = test::grabCardAt(2);
+    for (const int x : {194, 197, 242, 245}) EXPECT_EQ(twice.pixel(x, 120), frame) << x;
+}
+
+TEST_F(CardWidget, FrameThatMovesRepaintsBothItsPlacesAndNoMore) {
+    marks[1].Move(px(100), px(50), px(20), px(20));
+    marks[2].Move(px(200), px(50), px(20), px(20));
+    const auto pixelsOf = [](const auto& act) {
+        const auto before = test::cardPaints().pixels;
+        act();
+        test::settle();
+        return test::cardPaints().pixels - before;
+    };
+    const auto put = [&](const Label* label) {
+        return pixelsOf([&] {
+            framed = label;
+            window->update();
+        });
+    };
+    put(nullptr);
+    EXPECT_EQ(put(&marks[1]), 26 * 26);
+    EXPECT_EQ(put(&marks[2]), 2 * 26 * 26);
+    EXPECT_EQ(put(&marks[2]), 0);
+    EXPECT_EQ(put(nullptr), 26 * 26);
+    EXPECT_EQ(inkOf(test::grabCard()).right, -1);
+}
+
+TEST_F(CardWidget, FlattenedCardHasNoFrame) {
+    card.Picture = std::make_shared<Bitmap>(400, 300, grey);
+    marks[1].Move(px(100), px(50), px(20), px(20));
+    framed = &marks[1];
+    window->update();
+    ASSERT_EQ(test::grabCard().pixel(98, 60), rgb(0, 90, 200));
+    flatten(card);
+    for (int y = 0; y < 300; ++y)
+        for (int x = 0; x < 400; ++x) ASSERT_EQ(card.Picture->pixel(x, y), grey);
 }
 
 } // namespace

@@ -148,6 +148,7 @@ class WindowTest : public testing::Test {
         markGroup.TakesFocus = true;
         parts.cardGroups = {markGroup, group(texts, "text")};
         parts.cardLabels = {&stamp};
+        parts.framedLabel = [this] { return framed; };
         parts.cardTextBoxes = {&box, &otherBox};
         parts.lists = {&list};
         parts.panels.push_back(contents);
@@ -168,6 +169,7 @@ class WindowTest : public testing::Test {
     toolkit::ControlArray<toolkit::Label> marks;
     toolkit::ControlArray<toolkit::Label> texts;
     toolkit::Label stamp;
+    const toolkit::Label* framed = nullptr; ///< the label with a frame around it
     toolkit::TextBox box;
     toolkit::TextBox otherBox;
     toolkit::ListBox list;

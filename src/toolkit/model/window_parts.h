@@ -31,7 +31,9 @@ struct WindowParts {
     /// whatever becomes of the card's values. May be missing.
     PictureBox* frozenCard = nullptr;
     std::vector<LabelGroup> cardGroups{};
-    std::vector<Label*> cardLabels{};      ///< single labels on the card; they swallow presses
+    std::vector<Label*> cardLabels{}; ///< single labels on the card; they swallow presses
+    /// The label of the card that has a frame around it, if any: on the screen and nowhere else.
+    std::function<const Label*()> framedLabel{};
     std::vector<TextBox*> cardTextBoxes{}; ///< over the labels of the card
     std::vector<ListBox*> lists{};         ///< on the form, over the card
     std::vector<PanelContents> panels{};   ///< the same

@@ -17,6 +17,7 @@ namespace {
 struct AssumedCursor {
     QPoint asked;
     QPoint pointerThen;
+    bool refused = false;
 };
 
 std::optional<AssumedCursor>& assumed() {
@@ -26,11 +27,35 @@ std::optional<AssumedCursor>& assumed() {
 
 QPoint pointer() { return qGuiApp == nullptr ? QPoint() : QCursor::pos(); }
 
+/// The player's hand decides: what was assumed ends as soon as the pointer moves.
+void forgetWhenMoved(QPoint now) {
+    if (assumed() && assumed()->pointerThen != now) assumed().reset();
+}
+
+/// Wayland has no request for it, and its plugin would only complain.
+bool mayMovePointer() {
+    return qGuiApp != nullptr && !pointerStays() &&
+           !QGuiApplication::platformName().startsWith("wayland");
+}
+
+/// A pixel or two are lost where the screen's pixels aren't the logical ones.
+bool isNear(QPoint place, QPoint other) {
+    constexpr int nearness = 3;
+    return (place - other).manhattanLength() <= nearness;
+}
+
+/// The others ignore such a request without a word. Where it only couldn't go as far as it was
+/// asked to, it has moved, or stands at the edge of the screens.
+bool hasStayed(QPoint before, QPoint asked) {
+    return pointer() == before && !isNear(before, asked) &&
+           QGuiApplication::screenAt(asked) != nullptr;
+}
+
 } // namespace
 
 QPoint cursorAmongScreens() {
     const QPoint now = pointer();
-    if (assumed() && assumed()->pointerThen != now) assumed().reset();
+    forgetWhenMoved(now);
     return assumed() ? assumed()->asked : now;
 }
 
@@ -41,8 +66,17 @@ CursorPosition cursorPosition() {
 
 void setCursorPosition(CursorPosition position) {
     const QPoint place = screenOrigin() + QPoint(position.x, position.y);
-    if (qGuiApp != nullptr && !pointerStays()) QCursor::setPos(place);
+    const QPoint before = pointer();
+    if (mayMovePointer()) QCursor::setPos(place);
     assumeCursorAt(place);
+    assumed()->refused = hasStayed(before, place);
+}
+
+bool isCursorUnseen() {
+    // Only where it was refused is the pointer worth a question.
+    if (!assumed() || !assumed()->refused) return false;
+    forgetWhenMoved(pointer());
+    return assumed().has_value();
 }
 
 void assumeCursorAt(QPoint place) { assumed() = AssumedCursor{place, pointer()}; }

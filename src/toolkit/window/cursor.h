@@ -11,4 +11,8 @@ struct CursorPosition {
 [[nodiscard]] CursorPosition cursorPosition();
 void setCursorPosition(CursorPosition position);
 
+/// Whether the platform has refused to move the pointer where the cursor was put last. Then nobody
+/// sees the cursor's place, until the player moves the pointer.
+[[nodiscard]] bool isCursorUnseen();
+
 } // namespace toolkit

@@ -9,6 +9,15 @@
 #include "toolkit/window/input/qt_mouse_input.h"
 
 namespace toolkit {
+namespace {
+
+// Of the frame around a label, in pixels.
+constexpr int frameGap = 1;
+constexpr int frameWidth = 2;
+constexpr QColor frameBlue(0, 90, 200);
+
+} // namespace
+
 CardWidget::CardWidget(QWidget& container, const WindowParts& parts, EventDispatcher& dispatcher,
                        Wheel& wheel)
     : QWidget(&container), parts_(parts), dispatcher_(dispatcher), mouse_(parts, dispatcher),
@@ -27,6 +36,7 @@ void CardWidget::push() {
     if (picture_ != parts_.card->Picture) pushPicture();
     const QRegion changes = scene_.takeOver(parts_);
     if (!changes.isEmpty()) update(changes);
+    pushFrame();
     if (isHidden() == parts_.card->Visible) setVisible(parts_.card->Visible);
 }
 
@@ -62,6 +72,26 @@ void CardWidget::pushPointer() {
     pointer_ = parts_.card->MousePointer;
     grip_ = grip;
     setPointer(*this, pointer_, grip_);
+}
+
+void CardWidget::pushFrame() {
+    const Label* label = parts_.framedLabel ? parts_.framedLabel() : nullptr;
+    const int outset = frameGap + frameWidth;
+    const QRect frame = label == nullptr
+                            ? QRect()
+                            : pixelRectangle(*label).adjusted(-outset, -outset, outset, outset);
+    if (frame == frame_) return;
+    update(frame_);
+    update(frame_ = frame);
+}
+
+/// As four bars, whole on a screen of any pixel ratio.
+void CardWidget::paintFrame(QPainter& painter, const QRegion& area) const {
+    if (!area.intersects(frame_)) return;
+    const int width = frameWidth;
+    const QRegion bars = QRegion(frame_) - frame_.adjusted(width, width, -width, -width);
+    painter.setClipRegion(area);
+    for (const QRect& bar : bars) painter.fillRect(bar, frameBlue);
 }
 
 /// Whether this screen gets a picture of its own, made when it is first painted there.
@@ -115,6 +145,7 @@ void CardWidget::paintEvent(QPaintEvent* event) {
             paintPicture(painter, area);
     }
     scene_.paint(painter, event->region());
+    paintFrame(painter, event->region());
 }
 
 CardPointer CardWidget::pointerOf(const QMouseEvent& event) const {

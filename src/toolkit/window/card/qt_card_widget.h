@@ -40,6 +40,8 @@ class CardWidget : public QWidget {
     void pushPicture();
     void pushWaitPointer();
     void pushPointer();
+    void pushFrame();
+    void paintFrame(QPainter& painter, const QRegion& area) const;
     void paintPicture(QPainter& painter, const QRect& area) const;
     void paintSharpPicture(QPainter& painter, const QRect& area) const;
     [[nodiscard]] bool findSharpPicture(double ratio);
@@ -53,6 +55,7 @@ class CardWidget : public QWidget {
     /// The picture in the pixels of the screen that it was last painted on, and their ratio.
     std::shared_ptr<const Bitmap> sharp_;
     double sharpRatio_ = 0;
+    QRect frame_; ///< around a label; empty for none
     MousePointer pointer_ = MousePointer::Default;
     Grip grip_ = Grip::Open;
     bool dragged_ = false; ///< the mouse has moved since a button went down
