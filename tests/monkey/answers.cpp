@@ -187,7 +187,7 @@ void Monkey::noteDeleted(const std::string& name) {
     if (account_.card.cardName == name) account_.card.cardName.clear();
 }
 
-/// By the pop-up menu: open, delete, rename.
+/// By the pop-up menu or a key: open, delete, rename.
 void Monkey::workOnRow() {
     const auto& list = zevlin().FileList;
     if (!list.Visible || list.List.empty()) return toolkit::test::typeKey(toolkit::key::escape);
@@ -197,7 +197,14 @@ void Monkey::workOnRow() {
     popupRow_ = static_cast<int>(pick(3));
     inputAnswer_ = chance(80) ? std::string(oneOf(cardNames)) : std::string();
     const bool keptKill = std::exchange(mayKill_, false);
-    toolkit::test::click(point.x, point.y, toolkit::button::right);
+    if (chance(50)) {
+        toolkit::test::click(point.x, point.y, toolkit::button::right);
+    } else {
+        constexpr auto keys =
+            std::to_array<int>({toolkit::key::menu, toolkit::key::deleteKey, toolkit::key::f2});
+        toolkit::test::click(point.x, point.y);
+        toolkit::test::typeKey(keys.at(static_cast<std::size_t>(popupRow_)));
+    }
     mayKill_ = keptKill;
     if (popupRow_ == 1) noteDeleted(name);
     if (popupRow_ == 2) renameRow(name, inputAnswer_);

@@ -32,10 +32,11 @@ constexpr auto ofFolder = std::to_array<std::string_view>(
      "Error in CheckPointShapes ", "Error in RestoreShapes: #", "Error in Traceit: #",
      "Error in SaveImageToDisk: #", "Error in mpopRename_Click: #", "Error in mpopDelete_Click: #",
      "Error in GetCardFile ", "Error in PrintPictureBox at step ", "Error in MPrintSetup_Click: #",
-     "Error in CheckIniUpdate", "Error in mDocsFolder_Click", "Error in THelp_MouseDown: #"});
+     "Error in CheckIniUpdate", "Error in mDocsFolder_Click", "Error in THelp_MouseDown: #",
+     "Error in renewLayout "});
 constexpr auto ofLayout = std::to_array<std::string_view>(
     {"Error in Initialize ", "Error in CheckPointShapes ", "Error in RestoreShapes: #",
-     "Error in MSaveShapes ", "Error in CheckIniUpdate "});
+     "Error in MSaveShapes ", "Error in CheckIniUpdate ", "Error in renewLayout "});
 constexpr auto ofOptions =
     std::to_array<std::string_view>({"Error in IniWrite ", "Error in Initialize "});
 constexpr std::string_view ofJournal = "Error in the journal: #";

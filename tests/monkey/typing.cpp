@@ -156,9 +156,9 @@ void Monkey::typeSuit() {
 }
 
 void Monkey::leaveField() {
-    constexpr auto keys = std::to_array<int>({key::escape, key::enter, key::tab});
+    constexpr auto keys = std::to_array<int>({key::escape, key::enter, key::tab, key::f2});
     const int keyCode = oneOf(keys);
-    const int held = chance(30) ? shift::shift : 0;
+    const int held = keyCode != key::f2 && chance(30) ? shift::shift : 0;
     doing_ = "leave by " + std::to_string(keyCode);
     toolkit::test::typeKey(keyCode, held);
     account_.commit();
@@ -266,8 +266,9 @@ void Monkey::copyElsewhere() {
 
 void Monkey::walkByKey() {
     if (box() != nullptr) return;
-    doing_ = "TAB";
-    toolkit::test::typeKey(key::tab, chance(30) ? shift::shift : 0);
+    const bool begins = chance(20);
+    doing_ = begins ? "go to the first field" : "TAB";
+    toolkit::test::typeKey(begins ? key::f2 : key::tab, !begins && chance(30) ? shift::shift : 0);
     if (box() != nullptr) noteEdited();
 }
 
