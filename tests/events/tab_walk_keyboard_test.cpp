@@ -29,10 +29,10 @@ class KeyboardWalk : public EditTest {
         const auto shown = grabCard();
         const auto px = [](float twips) { return toolkit::pixelsFromTwips(twips); };
         const toolkit::Label& label = form.AMark[mark];
-        const int left = px(label.Left) - 2;
-        const int top = px(label.Top) - 2;
-        const int right = px(label.Left + label.Width) + 1;
-        const int bottom = px(label.Top + label.Height) + 1;
+        const int left = px(label.Left) - 1;
+        const int top = px(label.Top) - 1;
+        const int right = px(label.Left + label.Width);
+        const int bottom = px(label.Top + label.Height);
         const auto isBlue = [&](int x, int y) { return shown.pixel(x, y) == frameBlue; };
         const int x = (left + right) / 2;
         const int y = (top + bottom) / 2;

@@ -113,13 +113,13 @@ TEST_F(CardWidget, FrameRunsAroundItsLabelOverAllOtherLabels) {
     framed = &marks[1];
     const Bitmap shown = test::grabCard();
     const Color frame = rgb(0, 90, 200);
-    for (const int x : {97, 98, 121, 122}) EXPECT_EQ(shown.pixel(x, 60), frame) << x;
-    for (const int y : {47, 48, 81, 82}) EXPECT_EQ(shown.pixel(115, y), frame) << y;
-    for (const int x : {96, 99}) EXPECT_EQ(shown.pixel(x, 60), grey) << x;
-    for (const int x : {120, 123}) EXPECT_EQ(shown.pixel(x, 60), white) << x;
-    for (const int y : {46, 49, 80, 83}) EXPECT_EQ(shown.pixel(115, y), white) << y;
+    for (const int x : {99, 100, 119, 120}) EXPECT_EQ(shown.pixel(x, 60), frame) << x;
+    for (const int y : {49, 50, 79, 80}) EXPECT_EQ(shown.pixel(115, y), frame) << y;
+    for (const int x : {98, 101}) EXPECT_EQ(shown.pixel(x, 60), grey) << x;
+    for (const int x : {118, 121}) EXPECT_EQ(shown.pixel(x, 60), white) << x;
+    for (const int y : {48, 51, 78, 81}) EXPECT_EQ(shown.pixel(115, y), white) << y;
     const Bitmap twice = test::grabCardAt(2);
-    for (const int x : {194, 197, 242, 245}) EXPECT_EQ(twice.pixel(x, 120), frame) << x;
+    for (const int x : {198, 201, 238, 241}) EXPECT_EQ(twice.pixel(x, 120), frame) << x;
 }
 
 TEST_F(CardWidget, FrameThatMovesRepaintsBothItsPlacesAndNoMore) {
@@ -138,10 +138,10 @@ TEST_F(CardWidget, FrameThatMovesRepaintsBothItsPlacesAndNoMore) {
         });
     };
     put(nullptr);
-    EXPECT_EQ(put(&marks[1]), 26 * 26);
-    EXPECT_EQ(put(&marks[2]), 2 * 26 * 26);
+    EXPECT_EQ(put(&marks[1]), 22 * 22);
+    EXPECT_EQ(put(&marks[2]), 2 * 22 * 22);
     EXPECT_EQ(put(&marks[2]), 0);
-    EXPECT_EQ(put(nullptr), 26 * 26);
+    EXPECT_EQ(put(nullptr), 22 * 22);
     EXPECT_EQ(inkOf(test::grabCard()).right, -1);
 }
 
@@ -150,7 +150,7 @@ TEST_F(CardWidget, FlattenedCardHasNoFrame) {
     marks[1].Move(px(100), px(50), px(20), px(20));
     framed = &marks[1];
     window->update();
-    ASSERT_EQ(test::grabCard().pixel(98, 60), rgb(0, 90, 200));
+    ASSERT_EQ(test::grabCard().pixel(99, 60), rgb(0, 90, 200));
     flatten(card);
     for (int y = 0; y < 300; ++y)
         for (int x = 0; x < 400; ++x) ASSERT_EQ(card.Picture->pixel(x, y), grey);

@@ -11,8 +11,8 @@
 namespace toolkit {
 namespace {
 
-// Of the frame around a label, in pixels.
-constexpr int frameGap = 1;
+// Of the frame around a label, in pixels. The printed words may begin right beside the label.
+constexpr int frameOutset = 1;
 constexpr int frameWidth = 2;
 constexpr QColor frameBlue(0, 90, 200);
 
@@ -76,10 +76,8 @@ void CardWidget::pushPointer() {
 
 void CardWidget::pushFrame() {
     const Label* label = parts_.framedLabel ? parts_.framedLabel() : nullptr;
-    const int outset = frameGap + frameWidth;
-    const QRect frame = label == nullptr
-                            ? QRect()
-                            : pixelRectangle(*label).adjusted(-outset, -outset, outset, outset);
+    const QMargins outset(frameOutset, frameOutset, frameOutset, frameOutset);
+    const QRect frame = label == nullptr ? QRect() : pixelRectangle(*label) + outset;
     if (frame == frame_) return;
     update(frame_);
     update(frame_ = frame);
