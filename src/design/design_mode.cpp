@@ -108,7 +108,6 @@ void switchMode(Zevlin& form, bool designing) {
     form.TabRecordPrev = 0;
     // SPACE would hide a mark until the mode ends.
     form.TabActive = false;
-    form.TabLast = 0;
     form.FieldHeld = false;
     // Only what is done from now on can be undone.
     form.UndoIndex = 0;

@@ -23,14 +23,10 @@ using toolkit::numberText;
 /// From so many pixels of travel on, the cursor counts as moved away from the mark of the walk.
 constexpr int cursorTravel = 5;
 
-bool isAtMark(const Zevlin& form, toolkit::CursorPosition cursor) {
-    return std::abs(cursor.x - form.TabCursorX) < cursorTravel &&
-           std::abs(cursor.y - form.TabCursorY) < cursorTravel;
-}
-
 bool cursorIsStill(Zevlin& form) {
     form.CursorPos = toolkit::cursorPosition();
-    return isAtMark(form, form.CursorPos);
+    return std::abs(form.CursorPos.x - form.TabCursorX) < cursorTravel &&
+           std::abs(form.CursorPos.y - form.TabCursorY) < cursorTravel;
 }
 
 std::string walkTrace(const Zevlin& form) {
@@ -202,8 +198,7 @@ const toolkit::Label* unseenMark(const Zevlin& form) {
     if (!form.TabActive || form.ActiveControl != &form.P1 || !toolkit::isCursorUnseen())
         return nullptr;
     const int index = indexOf(form.TabCode);
-    const bool rests = form.AMark.exists(index) && isAtMark(form, toolkit::cursorPosition());
-    return rests ? &form.AMark[index] : nullptr;
+    return form.AMark.exists(index) ? &form.AMark[index] : nullptr;
 }
 
 int firstItem(const Zevlin& form) {

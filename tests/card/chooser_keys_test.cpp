@@ -62,7 +62,10 @@ TEST_F(ChooserKeys, ThePopupByKeyNamesTheCardWhateverWasTyped) {
         typeKey(key::tab, shift::shift);
         typeText("Zorn");
         typeKey(key::tab);
-        answerPopup([](std::span<const toolkit::PopupRow> rows) { rows[0].Click(); });
+        answerPopup([this](std::span<const toolkit::PopupRow> rows) {
+            EXPECT_EQ(form.TSaveAs.Text, "Brown");
+            rows[0].Click();
+        });
         typeKey(key::menu);
     });
     EXPECT_EQ(chosen, "Brown");
