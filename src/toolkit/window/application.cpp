@@ -6,6 +6,7 @@
 
 #include "toolkit/window/card/qt_accessible_card.h"
 #include "toolkit/window/control/qt_accessible_list.h"
+#include "toolkit/window/control/qt_note.h"
 #include "toolkit/window/control/qt_overlay.h"
 #include "toolkit/window/menu/qt_accessible_row.h"
 #include "toolkit/window/panel/qt_accessible_panel.h"
@@ -40,6 +41,7 @@ void answerScreenReaders() {
     answerAboutCards();
     answerAboutForms();
     answerAboutLists();
+    answerAboutNotes();
     answerAboutOverlays();
     answerAboutPanels();
     answerAboutRows();

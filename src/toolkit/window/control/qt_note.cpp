@@ -25,17 +25,18 @@ class AccessibleNote : public QAccessibleWidget {
     explicit AccessibleNote(QWidget& note) : QAccessibleWidget(&note, QAccessible::Notification) {}
 };
 
-QAccessibleInterface* accessibleNote(const QString& /*className*/, QObject* object) {
+QAccessibleInterface* makeNotePart(const QString& /*className*/, QObject* object) {
     auto* note = dynamic_cast<NoteView*>(object);
     return note == nullptr ? nullptr : std::make_unique<AccessibleNote>(*note).release();
 }
 
 } // namespace
 
+void answerAboutNotes() { QAccessible::installFactory(makeNotePart); }
+
 NoteView::NoteView(QWidget& container, const Note& note, EventDispatcher& dispatcher)
     : QFrame(&container), note_(note), layout_(new QBoxLayout(QBoxLayout::LeftToRight, this)),
       text_(new QLabel(this)), link_(new QPushButton(this)) {
-    QAccessible::installFactory(accessibleNote);
     setVisible(false);
     setFrameShape(QFrame::Box);
     setAutoFillBackground(true);

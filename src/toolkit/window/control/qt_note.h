@@ -14,6 +14,9 @@ class QPushButton;
 
 namespace toolkit {
 
+/// Tells the platform how to ask about notes.
+void answerAboutNotes();
+
 class NoteView : public QFrame {
   public:
     NoteView(QWidget& container, const Note& note, EventDispatcher& dispatcher);
