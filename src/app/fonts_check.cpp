@@ -6,6 +6,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "layout/initialize_run.h"
+#include "layout/text_fields.h"
 #include "toolkit/window/dialog.h"
 #include "toolkit/window/program.h"
 
@@ -19,7 +20,7 @@ float smallTextPoints(const Zevlin& form) {
     if (form.mSmallerTextFont.Checked) return 9.5F;
     if (form.mLargerTextFont.Checked) return 12.5F;
     if (form.mBigTextFont.Checked) return 14;
-    return 11;
+    return usualTextPoints;
 }
 
 void setSizes(Zevlin& form) {

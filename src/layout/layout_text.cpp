@@ -3,8 +3,10 @@
 #include <algorithm>
 
 #include "form/zevlin.h"
+#include "layout/field.h"
 #include "layout/layout_file.h"
 #include "layout/pixels.h"
+#include "layout/text_fields.h"
 #include "layout/write_layout.h"
 #include "toolkit/base/ansi.h"
 #include "toolkit/window/screen.h"
@@ -60,9 +62,12 @@ std::vector<FieldRecord> markRecords(const Zevlin& form) {
 std::vector<FieldRecord> textRecords(const Zevlin& form) {
     std::vector<FieldRecord> records;
     for (int i = 1; i <= form.AText.UBound(); ++i) {
-        FieldRecord record = recordOf(form, form.AText[i], i, form.TextScale);
+        const int size = sizeOf(form.TextSizes, i);
+        toolkit::Label text = form.AText[i];
+        if (isField(text)) text.Top += riseOf(form, size);
+        FieldRecord record = recordOf(form, text, i, form.TextScale);
         record.color = colorCode(form, ownColor(form.AText, form.TextColors, i));
-        record.size = sizeOf(form.TextSizes, i);
+        record.size = size;
         records.push_back(record);
     }
     return records;
@@ -78,7 +83,9 @@ FileOffsets pixelOffsets(const Zevlin& form) {
     for (std::size_t kind = 1; kind <= 3; ++kind) {
         for (std::size_t size = 1; size <= 3; ++size) {
             for (std::size_t side = 1; side <= 2; ++side) {
-                offsets[cell++] = px(form.FontOffsets[kind][size][side], form.TwipsPerPixel);
+                const bool rises = kind == ink_kind::text && side == inkBottom;
+                const float rise = rises ? riseOf(form, static_cast<int>(size)) : 0;
+                offsets[cell++] = px(form.FontOffsets[kind][size][side] - rise, form.TwipsPerPixel);
             }
         }
     }

@@ -87,6 +87,11 @@ void traceSpecs(Zevlin& form, const toolkit::Label& text) {
             joinedValues({form.TextFontSize[1], form.TextFontSize[2], form.TextFontSize[3]}, ", "));
 }
 
+/// Corrections, where there are any, are made for the present letters.
+float riseAtReading(const Zevlin& form, int size) {
+    return form.TwipsPerPixel == form.OriginalTwips ? riseOf(form, size) : 0;
+}
+
 void fillText(Zevlin& form, const FieldRecord& record, const TextDress& dress) {
     const int index = record.number;
     toolkit::Label& text = form.AText[index];
@@ -101,7 +106,7 @@ void fillText(Zevlin& form, const FieldRecord& record, const TextDress& dress) {
     if (takeSpecsTurn(form)) traceSpecs(form, text);
     const float scale = form.TextScale * static_cast<float>(form.TwipsPerPixel);
     const float left = record.left * scale + dress.correctionLeft;
-    const float top = record.top * scale + dress.correctionTop;
+    const float top = record.top * scale + dress.correctionTop - riseAtReading(form, record.size);
     text.Move(left, top, record.width * scale, text.Height);
     placeHighlight(form, index);
     text.Visible = true;
@@ -147,6 +152,14 @@ void buildTexts(Zevlin& form, InitializeRun& run, LayoutReader& layout) {
     // The names line needs a field: after a record out of sequence the number may be a hole's.
     const bool live = form.FirstBigText > 0 && isField(form.AText[form.FirstBigText]);
     form.NamesField = live ? form.FirstBigText : std::int16_t{0};
+}
+
+float riseOf(const Zevlin& form, int size) {
+    if (size == 2 || size == 3) return 0;
+    const toolkit::FontSpec present{.Name = form.TextFontName, .Size = form.TextFontSize[1]};
+    toolkit::FontSpec usual = present;
+    usual.Size = toolkit::fontSizeGiven(form.CardScale * usualTextPoints);
+    return std::max(0.0F, toolkit::textAscent(present) - toolkit::textAscent(usual));
 }
 
 void placeHighlight(Zevlin& form, int index) {

@@ -54,11 +54,24 @@ bool mayLeave(const Label& label, float width) {
            textHeight(label.Font) + label.Lowered > label.Height;
 }
 
+/// A line that the label's height holds isn't cut where its baseline is painted on the row below
+/// the exact place.
+QRect holdingItsLine(const Label& label, QRect place) {
+    const float height = textHeight(label.Font);
+    if (height > label.Height) return place;
+    const auto scale = static_cast<double>(twipsPerPixel());
+    const double below = static_cast<double>(height - textAscent(label.Font)) / scale;
+    const double foot = std::nearbyint(baselineOf(label) / scale) + below;
+    place.setBottom(std::max(place.bottom(), static_cast<int>(std::ceil(foot)) - 1));
+    return place;
+}
+
 } // namespace
 
 QRect paintedRectangle(const Label& label) {
     const QRect place = pixelRectangle(label);
-    if (label.Clips || label.Caption.empty()) return place;
+    if (label.Caption.empty()) return place;
+    if (label.Clips) return holdingItsLine(label, place);
     const auto scale = static_cast<float>(twipsPerPixel());
     const float width = textWidth(label.Font, paintedText(label.Caption)) / scale;
     const float left = textOffset(label, width * scale) / scale;
