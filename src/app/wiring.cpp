@@ -180,6 +180,9 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.note = &form.FileNote;
     parts.menu = menuRows(form);
     parts.accessible = accessibleCard(form);
+    parts.pointerOver = [&form](const auto* group, float X, float Y) {
+        return pointerOver(form, group, X, Y);
+    };
     return parts;
 }
 

@@ -79,6 +79,16 @@ void clickCard(Zevlin& form) {
 
 } // namespace
 
+toolkit::MousePointer pointerOver(const Zevlin& form,
+                                  const toolkit::ControlArray<toolkit::Label>* group, float X,
+                                  float Y) {
+    using enum toolkit::MousePointer;
+    if (form.MShowShapes.Checked || form.THelp.Visible) return Default;
+    if (group == &form.AText || group == &form.SText) return IBeam;
+    if (group != nullptr || markAt(form.AMark, X, Y, form.TwipsPerPixel)) return Default;
+    return Hand;
+}
+
 void P1_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {
     procedure(form, "P1_MouseDown", pressDetails(mouse), [&] { pressCard(form, mouse); });
 }

@@ -7,6 +7,7 @@ constexpr std::string_view usingCards = R"(
 MOVING THE CARD WITH THE MOUSE
   * Turn the center wheel of a wheel-mouse to move the card up or down.
   * Put the mouse on any pre-printed words or thick lines, hold the left button down, and drag the card anywhere.
+       * The mouse pointer is a hand wherever you can drag the card, and an I-beam wherever you can type.
 
 MOVING THE CARD WITH THE KEYBOARD
   * The arrow keys move the card a little at a time.

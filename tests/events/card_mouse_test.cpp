@@ -5,6 +5,7 @@
 #include "text/edit_test.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 #include "toolkit/window/cursor.h"
 
 namespace zev::test {
@@ -253,6 +254,52 @@ TEST_F(CardMouse, DesignModeSetsNoMark) {
     form.MShowShapes.Checked = true;
     clickMark(1);
     EXPECT_FALSE(form.AMark[1].Visible);
+}
+
+/// What the pointer looks like over the card.
+class PointerOverCard : public CardMouse {
+  protected:
+    enum class Shape { Arrow, IBeam, Hand };
+    [[nodiscard]] static Shape shapeAt(float x, float y) {
+        moveMouse(x, y);
+        if (showsIBeam()) return Shape::IBeam;
+        return shownPointer().empty() ? Shape::Arrow : Shape::Hand;
+    }
+    [[nodiscard]] static Shape shapeAt(CardPoint point) { return shapeAt(point.x, point.y); }
+};
+
+TEST_F(PointerOverCard, TellsWhatAPressWouldDo) {
+    startSmall();
+    enter(2, "1^h");
+    EXPECT_EQ(shapeAt(middleOf(form.AText[1])), Shape::IBeam);
+    ASSERT_TRUE(form.SText[1].Visible);
+    EXPECT_EQ(shapeAt(middleOf(form.SText[1])), Shape::IBeam);
+    EXPECT_EQ(shapeAt(800 * pixel, 800 * pixel), Shape::Hand);
+    EXPECT_EQ(shapeAt(targetOf(1)), Shape::Arrow);
+    clickMark(1);
+    EXPECT_EQ(shapeAt(targetOf(1)), Shape::Arrow);
+    EXPECT_EQ(shapeAt(form.AMark[2].Left, form.AMark[2].Top + 10 * pixel), Shape::Hand);
+}
+
+TEST_F(PointerOverCard, TellsItWhereverTheCardIsMovedTo) {
+    startSmall();
+    EXPECT_EQ(shapeAt(middleOf(form.AText[1])), Shape::IBeam);
+    turnWheel(-120);
+    EXPECT_FALSE(showsIBeam());
+    turnWheel(120);
+    EXPECT_TRUE(showsIBeam());
+}
+
+TEST_F(PointerOverCard, IsTheArrowInDesignModeAndBehindTheHelp) {
+    startSmall();
+    typeKey(toolkit::key::f1);
+    EXPECT_EQ(shapeAt(0, 0), Shape::Arrow);
+    typeKey(toolkit::key::escape, 0, "\x1b");
+    EXPECT_EQ(shapeAt(0, 0), Shape::Hand);
+    ASSERT_TRUE(chooseMenu("Options>Show the Design Menu         Shift Ctrl  D"));
+    ASSERT_TRUE(form.MShowShapes.Checked);
+    EXPECT_EQ(shapeAt(middleOf(form.AText[1])), Shape::Arrow);
+    EXPECT_EQ(shapeAt(800 * pixel, 800 * pixel), Shape::Arrow);
 }
 
 } // namespace

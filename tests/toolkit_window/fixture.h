@@ -149,6 +149,7 @@ class WindowTest : public testing::Test {
         parts.cardGroups = {markGroup, group(texts, "text")};
         parts.cardLabels = {&stamp};
         parts.framedLabel = [this] { return framed; };
+        parts.pointerOver = pointerOver;
         parts.cardTextBoxes = {&box, &otherBox};
         parts.lists = {&list};
         parts.panels.push_back(contents);
@@ -179,6 +180,8 @@ class WindowTest : public testing::Test {
     toolkit::PanelContents contents{.box = &panel};
     std::vector<toolkit::MenuRow> menu;
     toolkit::AccessibleCard accessible;
+    /// What the pointer looks like over the card; set before the window is made.
+    decltype(toolkit::WindowParts::pointerOver) pointerOver;
     std::unique_ptr<toolkit::Window> window;
 };
 

@@ -59,5 +59,85 @@ TEST_F(Pointer, ReleaseGivesTheArrowBack) {
     EXPECT_EQ(test::shownPointer().width(), 24);
 }
 
+/// The I-beam over texts, and the hand over bare card from 200 pixels on.
+class PointerOver : public Pointer {
+  protected:
+    PointerOver() {
+        pointerOver = [this](const ControlArray<Label>* group, float X, float Y) {
+            asked = {X, Y};
+            if (group == &texts) return MousePointer::IBeam;
+            return group == nullptr && X >= px(200) ? MousePointer::Hand : MousePointer::Default;
+        };
+        place(texts[1], 50, 50, 100, 20);
+        place(marks[1], 250, 50, 20, 20);
+        place(stamp, 300, 250, 50, 20);
+    }
+    [[nodiscard]] static bool showsHand() { return test::shownPointer().width() == 24; }
+    [[nodiscard]] static bool showsArrow() { return !showsHand() && !test::showsIBeam(); }
+
+    test::PointOnCard asked;
+};
+
+TEST_F(PointerOver, IsAnIBeamOverATextAndAHandOverWhatDrags) {
+    test::moveMouse(px(60), px(60));
+    EXPECT_TRUE(test::showsIBeam());
+    test::moveMouse(px(300), px(200));
+    EXPECT_TRUE(showsHand());
+    EXPECT_EQ(asked.x, px(300));
+    EXPECT_EQ(asked.y, px(200));
+    test::moveMouse(px(100), px(200));
+    EXPECT_TRUE(showsArrow());
+}
+
+TEST_F(PointerOver, LabelsThatSwallowPressesAndOtherLabelsHaveTheArrow) {
+    test::moveMouse(px(310), px(260));
+    EXPECT_TRUE(showsArrow());
+    test::moveMouse(px(260), px(60));
+    EXPECT_TRUE(showsArrow());
+}
+
+TEST_F(PointerOver, IsReckonedAnewWhenTheCardMovesBelowIt) {
+    test::moveMouse(px(60), px(60));
+    card.Move(card.Left, card.Top - px(20));
+    window->update();
+    EXPECT_TRUE(showsArrow());
+    card.Move(card.Left, card.Top + px(20));
+    EXPECT_TRUE(test::showsIBeam());
+}
+
+TEST_F(PointerOver, OneThatCardOrFormHasSetIsLeftAlone) {
+    card.MousePointer = MousePointer::Hand;
+    test::moveMouse(px(60), px(60));
+    EXPECT_TRUE(showsHand());
+    card.MousePointer = MousePointer::Default;
+    form.MousePointer = MousePointer::Hourglass;
+    window->update();
+    EXPECT_TRUE(showsArrow());
+}
+
+TEST_F(PointerOver, ACardThatCannotBeUsedHasTheArrow) {
+    card.Enabled = false;
+    test::moveMouse(px(60), px(60));
+    EXPECT_TRUE(showsArrow());
+}
+
+TEST_F(PointerOver, APressedTextKeepsItsOwn) {
+    test::pressMouse(px(60), px(60));
+    test::moveMouse(px(300), px(200), button::left);
+    EXPECT_TRUE(test::showsIBeam());
+    test::releaseMouse(px(300), px(200));
+    EXPECT_TRUE(showsHand());
+}
+
+TEST_F(PointerOver, APressThatDragsNothingShowsNoHand) {
+    card.MouseDown = {};
+    test::pressMouse(px(300), px(200));
+    EXPECT_TRUE(showsArrow());
+    test::moveMouse(px(310), px(200), button::left);
+    EXPECT_TRUE(showsArrow());
+    test::releaseMouse(px(310), px(200));
+    EXPECT_TRUE(showsHand());
+}
+
 } // namespace
 } // namespace window_test

@@ -30,7 +30,7 @@ constexpr int ctrl = 2;
 constexpr int alt = 4;
 } // namespace shift
 
-enum class MousePointer : int { Default = 0, Arrow = 1, Hourglass = 11, Hand = 99 };
+enum class MousePointer : int { Default = 0, Arrow = 1, IBeam = 3, Hourglass = 11, Hand = 99 };
 
 /// X and Y in twips relative to the control. Handlers may set Button to 0 to swallow the press.
 struct MouseArguments {

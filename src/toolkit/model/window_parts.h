@@ -34,6 +34,9 @@ struct WindowParts {
     std::vector<Label*> cardLabels{}; ///< single labels on the card; they swallow presses
     /// The label of the card that has a frame around it, if any: on the screen and nowhere else.
     std::function<const Label*()> framedLabel{};
+    /// What the pointer looks like over a label of the group, or over bare card (nullptr) at a
+    /// place on it in twips, while neither card nor form has a pointer set. May be missing.
+    std::function<MousePointer(const ControlArray<Label>* group, float X, float Y)> pointerOver{};
     std::vector<TextBox*> cardTextBoxes{}; ///< over the labels of the card
     std::vector<ListBox*> lists{};         ///< on the form, over the card
     std::vector<PanelContents> panels{};   ///< the same

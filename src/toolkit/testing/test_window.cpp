@@ -187,6 +187,11 @@ Bitmap shownPointer() {
     return onGrey(window().card().cursor().pixmap());
 }
 
+bool showsIBeam() {
+    updateWindow();
+    return window().card().cursor().shape() == Qt::IBeamCursor;
+}
+
 Bitmap shownIcon(int size) { return onGrey(window().form().windowIcon().pixmap(size)); }
 
 bool isShown(const Control& control) {

@@ -66,6 +66,8 @@ void elapseAlarms();
 // For tests of the window itself: what the platform shows.
 /// The picture of the mouse pointer over the card; empty where it is one of the platform's own.
 [[nodiscard]] Bitmap shownPointer();
+/// Whether it is the platform's I-beam.
+[[nodiscard]] bool showsIBeam();
 /// The window's icon in that size.
 [[nodiscard]] Bitmap shownIcon(int size);
 [[nodiscard]] bool isShown(const Control& control);

@@ -56,6 +56,16 @@ void CardMouse::takeFocus(Target target) {
     dispatcher_.run([&] { parts_.form->SetFocus(*parts_.card); });
 }
 
+/// A press that began on bare card says by the card's own pointer whether it drags.
+MousePointer CardMouse::pointerOver(QPoint point) const {
+    if (!parts_.pointerOver || (pressed_ && !*pressed_)) return MousePointer::Default;
+    const Target target = pressed_ ? *pressed_ : frontLabelAt(parts_, point);
+    const LabelGroup* group = target ? groupOf(parts_, *target) : nullptr;
+    if (target && group == nullptr) return MousePointer::Default;
+    return parts_.pointerOver(group == nullptr ? nullptr : group->labels,
+                              twipsFromPixels(point.x()), twipsFromPixels(point.y()));
+}
+
 void CardMouse::press(CardPointer pointer, int button, Held before) {
     if (!parts_.card->Enabled) return;
     if (before == Held::None || !pressed_) pressed_.emplace(frontLabelAt(parts_, pointer.point));

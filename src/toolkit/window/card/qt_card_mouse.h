@@ -30,6 +30,9 @@ class CardMouse {
     void move(CardPointer pointer, int buttons);
     void release(CardPointer pointer, int button, Held after);
 
+    /// The pointer for a place on the card, as long as nothing has set one.
+    [[nodiscard]] MousePointer pointerOver(QPoint point) const;
+
   private:
     /// A label, or the card where there is none.
     using Target = std::optional<LabelPlace>;

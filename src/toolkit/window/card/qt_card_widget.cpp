@@ -65,11 +65,21 @@ void CardWidget::pushPlace() {
     if (place != geometry()) setGeometry(place);
 }
 
+/// Reckoned anew after each event: the card may have moved below a pointer that rests.
+MousePointer CardWidget::wantedPointer() const {
+    const PictureBox& card = *parts_.card;
+    const bool isSet = card.MousePointer != MousePointer::Default ||
+                       parts_.form->MousePointer != MousePointer::Default;
+    if (isSet || !pointedAt_ || !card.Enabled) return card.MousePointer;
+    return mouse_.pointerOver(mapFromGlobal(*pointedAt_));
+}
+
 /// The hand closes when it takes the card along.
 void CardWidget::pushPointer() {
     const Grip grip = dragged_ ? Grip::Closed : Grip::Open;
-    if (pointer_ == parts_.card->MousePointer && grip_ == grip) return;
-    pointer_ = parts_.card->MousePointer;
+    const MousePointer wanted = wantedPointer();
+    if (pointer_ == wanted && grip_ == grip) return;
+    pointer_ = wanted;
     grip_ = grip;
     setPointer(*this, pointer_, grip_);
 }
@@ -165,8 +175,12 @@ void CardWidget::mouseDoubleClickEvent(QMouseEvent* event) { mousePressEvent(eve
 void CardWidget::mouseMoveEvent(QMouseEvent* event) {
     event->accept();
     dragged_ = event->buttons() != Qt::NoButton;
+    pointedAt_ = event->globalPosition().toPoint();
     mouse_.move(pointerOf(*event), buttonsOf(event->buttons()));
+    if (!isFrozen()) pushPointer();
 }
+
+void CardWidget::leaveEvent(QEvent* /*event*/) { pointedAt_.reset(); }
 
 void CardWidget::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();

@@ -31,6 +31,7 @@ class CardWidget : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
   private:
@@ -42,6 +43,7 @@ class CardWidget : public QWidget {
     void pushPointer();
     void pushFrame();
     void paintFrame(QPainter& painter, const QRegion& area) const;
+    [[nodiscard]] MousePointer wantedPointer() const;
     void paintPicture(QPainter& painter, const QRect& area) const;
     void paintSharpPicture(QPainter& painter, const QRect& area) const;
     [[nodiscard]] bool findSharpPicture(double ratio);
@@ -58,7 +60,8 @@ class CardWidget : public QWidget {
     QRect frame_; ///< around a label; empty for none
     MousePointer pointer_ = MousePointer::Default;
     Grip grip_ = Grip::Open;
-    bool dragged_ = false; ///< the mouse has moved since a button went down
+    std::optional<QPoint> pointedAt_; ///< where the mouse was seen last, among all screens
+    bool dragged_ = false;            ///< the mouse has moved since a button went down
 };
 
 } // namespace toolkit

@@ -36,6 +36,8 @@ void setPointer(QWidget& widget, MousePointer pointer, Grip grip) {
         return widget.unsetCursor();
     case MousePointer::Arrow:
         return widget.setCursor(Qt::ArrowCursor);
+    case MousePointer::IBeam:
+        return widget.setCursor(Qt::IBeamCursor);
     case MousePointer::Hourglass:
         return widget.setCursor(Qt::WaitCursor);
     case MousePointer::Hand:
