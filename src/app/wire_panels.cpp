@@ -3,10 +3,14 @@
 #include "app/folder_line.h"
 #include "card/chooser_events.h"
 #include "card/chooser_keys.h"
+#include "card/chooser_layout.h"
 #include "card/chooser_menu.h"
 #include "form/run_procedure.h"
+#include "form/trace.h"
 #include "form/zevlin.h"
+#include "help/help_page.h"
 #include "view/color_panel.h"
+#include "view/color_panel_layout.h"
 
 namespace zev {
 namespace {
@@ -79,10 +83,32 @@ toolkit::PanelContents colorPanel(Zevlin& form) {
     return panel;
 }
 
+toolkit::PanelContents helpButton(Zevlin& form) {
+    form.PHelp.AccessibleName = "Help";
+    form.BHelp.Caption = "\xD7";
+    form.BHelp.AccessibleName = "Close help";
+    form.BHelp.Default = form.BHelp.Cancel = true;
+    form.BHelp.Click = run(form, BHelp_Click);
+    // The keys stay with the page, whatever becomes of a press.
+    form.BHelp.GotFocus = [&form] { form.SetFocus(form.THelp); };
+    toolkit::PanelContents panel;
+    panel.box = &form.PHelp;
+    panel.controls = {&form.BHelp};
+    return panel;
+}
+
 } // namespace
 
 std::vector<toolkit::PanelContents> wirePanels(Zevlin& form) {
-    return {chooser(form), colorPanel(form)};
+    return {chooser(form), colorPanel(form), helpButton(form)};
+}
+
+void Form_Resize(Zevlin& form) {
+    trapped(form, "Error in Form_Resize: #", [&] {
+        if (form.P3.Visible) layOutChooser(form);
+        if (form.ColorPic.Visible) layOutColorPanel(form);
+        if (form.THelp.Visible) layOutHelp(form);
+    });
 }
 
 } // namespace zev

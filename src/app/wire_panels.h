@@ -11,4 +11,7 @@ struct Zevlin;
 
 [[nodiscard]] std::vector<toolkit::PanelContents> wirePanels(Zevlin& form);
 
+/// Lays out anew, for the form's present size, what lies over it.
+void Form_Resize(Zevlin& form);
+
 } // namespace zev

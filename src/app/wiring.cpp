@@ -39,6 +39,7 @@ void wireForm(Zevlin& form) {
     form.QueryEnd = [&form] { return Form_Unload(form, unloadBySession); };
     form.TakesFile = [&form] { return takesDroppedCard(form); };
     form.FileDropped = [&form](const std::filesystem::path& file) { openDroppedCard(form, file); };
+    form.Resize = run(form, Form_Resize);
     form.Settled = [&form] { noteCardStep(form); };
     form.Ending = [&form] { flushJournal(form); };
     form.Unhandled = [&form](const toolkit::RunTimeError& failure) {
@@ -90,6 +91,7 @@ void wireHelp(Zevlin& form) {
     // Arrows and the search by letters must not open the browser.
     form.THelp.ClicksByKey = false;
     form.THelp.IsLink = [&form](int line) { return isHelpLink(form, line); };
+    form.THelp.ScrollsAcross = true;
     form.PopHelp.BackColor = toolkit::rgb(255, 255, 225);
     form.PopHelp.MultiLine = true;
     form.PopHelp.Margin = 5;
@@ -173,6 +175,9 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.cardGroups = cardGroups(form);
     parts.cardLabels = {&form.Timestamp, &form.CreditLabel};
     parts.framedLabel = [&form] { return unseenMark(form); };
+    parts.pointerOver = [&form](const auto* group, float X, float Y) {
+        return pointerOver(form, group, X, Y);
+    };
     parts.cardTextBoxes = {&form.CText, &form.LText};
     parts.lists = {&form.THelp};
     parts.panels = wirePanels(form);
@@ -180,9 +185,6 @@ toolkit::WindowParts wire(Zevlin& form) {
     parts.note = &form.FileNote;
     parts.menu = menuRows(form);
     parts.accessible = accessibleCard(form);
-    parts.pointerOver = [&form](const auto* group, float X, float Y) {
-        return pointerOver(form, group, X, Y);
-    };
     return parts;
 }
 

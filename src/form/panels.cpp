@@ -27,7 +27,7 @@ void MakeObjRounded(Zevlin& form, toolkit::Panel& panel, int radius) {
 }
 
 void hideHelp(Zevlin& form) {
-    form.THelp.Visible = false;
+    form.THelp.Visible = form.PHelp.Visible = form.BHelp.Visible = false;
     form.P1.Enabled = true;
     form.SetFocus(form.P1);
 }

@@ -25,10 +25,17 @@ constexpr float freeWidth = 4;
 constexpr float freeHeight = 10;
 /// Points; in a form too narrow for it the lines are cut.
 constexpr float smallestFont = 8.25F;
+/// Pixels of the button, and from its left edge to the page's right one: so much of the width
+/// margin that it covers no text, and no scroll bar.
+constexpr float buttonSize = 24;
+constexpr float buttonFromRight = 46;
+constexpr float buttonFromTop = 1;
+constexpr float buttonPoints = 14;
 constexpr std::string_view printedTitle = "How To Use the Zevlin";
 
 void bringToFront(Zevlin& form, toolkit::Control& control) {
-    control.Stack = std::max({form.P1.Stack, form.THelp.Stack, form.PopHelp.Stack}) + 1;
+    control.Stack =
+        std::max({form.P1.Stack, form.THelp.Stack, form.PHelp.Stack, form.PopHelp.Stack}) + 1;
 }
 
 float widestLine(const Zevlin& form) {
@@ -52,15 +59,28 @@ void sizeToText(Zevlin& form) {
     page.Height = std::min(height, form.ScaleHeight() - freeHeight * pixel);
 }
 
+void placeButton(Zevlin& form) {
+    const auto pixel = static_cast<float>(form.TwipsPerPixel);
+    form.PHelp.BackColor = form.THelp.BackColor;
+    form.PHelp.Move(form.THelp.Left + form.THelp.Width - buttonFromRight * pixel,
+                    form.THelp.Top + buttonFromTop * pixel, buttonSize * pixel, buttonSize * pixel);
+    form.BHelp.Font = {.Name = form.THelp.Font.Name, .Size = buttonPoints};
+    form.BHelp.Move(0, 0, form.PHelp.Width, form.PHelp.Height);
+}
+
 void showPage(Zevlin& form) {
-    sizeToText(form);
-    form.THelp.Move((form.ScaleWidth() - form.THelp.Width) / 2,
-                    (form.ScaleHeight() - form.THelp.Height) / 2);
-    form.THelp.Visible = true;
+    layOutHelp(form);
+    form.THelp.Visible = form.PHelp.Visible = form.BHelp.Visible = true;
     bringToFront(form, form.THelp);
+    bringToFront(form, form.PHelp);
     form.SetFocus(form.THelp);
     form.THelp.ListIndex = 1;
     form.THelp.TopIndex = 0;
+}
+
+void closePage(Zevlin& form) {
+    hideHelp(form);
+    bringToFront(form, form.P1);
 }
 
 /// Twips by which the text stays away from the ends of the printable part: from those of the paper
@@ -109,6 +129,13 @@ void HelpCreate(Zevlin& form) {
     });
 }
 
+void layOutHelp(Zevlin& form) {
+    sizeToText(form);
+    form.THelp.Move((form.ScaleWidth() - form.THelp.Width) / 2,
+                    (form.ScaleHeight() - form.THelp.Height) / 2);
+    placeButton(form);
+}
+
 void MHelp_Click(Zevlin& form) {
     if (form.THelp.List.empty()) return;
     procedure(form, "MHelp_Click", [&] { showPage(form); });
@@ -116,10 +143,12 @@ void MHelp_Click(Zevlin& form) {
 
 void THelp_KeyPress(Zevlin& form, int& KeyAscii) {
     procedure(form, "THelp_KeyPress", [&] {
-        if (KeyAscii != toolkit::key::enter && KeyAscii != toolkit::key::escape) return;
-        hideHelp(form);
-        bringToFront(form, form.P1);
+        if (KeyAscii == toolkit::key::enter || KeyAscii == toolkit::key::escape) closePage(form);
     });
+}
+
+void BHelp_Click(Zevlin& form) {
+    procedure(form, "BHelp_Click", [&] { closePage(form); });
 }
 
 void THelp_MouseDown(Zevlin& form, toolkit::MouseArguments& mouse) {

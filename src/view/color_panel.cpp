@@ -70,7 +70,6 @@ void openPanel(Zevlin& form) {
     if (form.THelp.Visible) hideHelp(form);
     layOutColorPanel(form);
     chooseColor(form, form.AText[1].ForeColor);
-    form.ColorText.Font.Size = form.TextFontSize[1];
     loadSamples(form);
     ColorSampleMark(form);
     form.P1.Visible = false;

@@ -43,6 +43,7 @@ void dressLabels(Zevlin& form, const toolkit::FontSpec& font) {
     form.Lpresetcolors.Caption = explanation;
     form.Lpresetcolors.Wraps = true;
     form.ColorText.Caption = "Sample Text";
+    form.ColorText.Font.Size = form.TextFontSize[1];
     for (std::size_t i = 0; i < primaries.size(); ++i) {
         show(form.ColorID[i], font, Opaque, toolkit::Alignment::Center);
         form.ColorID[i].BackColor = primaries[i];
@@ -78,17 +79,17 @@ float sampleWidth(const PanelMeasures& measures, float width) {
 /// Places all six side by side; those that aren't loaded yet take their place from the one before.
 float placeSamples(Zevlin& form, const PanelMeasures& measures, float top, float width) {
     const float each = sampleWidth(measures, width);
-    float left = measures.lines(panelMargin);
+    float left = measures.margin();
     for (toolkit::Label& sample : form.ColorSample) {
         sample.Move(left, top, each, measures.lines(sampleHeight));
         left += each + sampleGap;
     }
-    return top + measures.lines(sampleHeight + panelGap);
+    return top + measures.lines(sampleHeight) + measures.gap();
 }
 
 float placeSliders(Zevlin& form, const PanelMeasures& measures, float top, float width) {
-    const float left = measures.lines(panelMargin);
-    const float gap = measures.lines(panelGap);
+    const float left = measures.margin();
+    const float gap = measures.gap();
     const float number = measures.whole(measures.letter * numberInLetters);
     const float height = measures.lines(numberHeight);
     for (std::size_t i = 0; i < form.ColorScroll.size(); ++i) {
@@ -101,37 +102,40 @@ float placeSliders(Zevlin& form, const PanelMeasures& measures, float top, float
 
 /// The colour beside its sample text.
 float placeChosen(Zevlin& form, const PanelMeasures& measures, float top, float width) {
-    const float left = measures.lines(panelMargin);
+    const float left = measures.margin();
     const float half = measures.whole((width - sampleGap) / 2);
     form.ColorLabel.Move(left, top, half, measures.lines(colorHeight));
     form.ColorText.Move(left + width - half, top, half, form.ColorLabel.Height);
-    return top + measures.lines(colorHeight + panelGap);
+    return top + measures.lines(colorHeight) + measures.gap();
 }
 
 float placeAll(Zevlin& form, const PanelMeasures& measures, float width) {
-    const float left = measures.lines(panelMargin);
-    float top = measures.lines(panelMargin);
+    const float left = measures.margin();
+    float top = measures.margin();
     form.Lpresetcolors.Move(left, top, width, measures.lines(explanationLines));
-    top = placeSamples(form, measures, top + measures.lines(explanationLines + panelGap), width);
+    top = placeSamples(form, measures, top + measures.lines(explanationLines) + measures.gap(),
+                       width);
     top = placeSliders(form, measures, top, width);
     top = placeChosen(form, measures, top, width);
     return placeButtons(measures, form.ColorBut[0], form.ColorBut[1], left + width, top, width) +
-           measures.lines(panelMargin);
+           measures.margin();
 }
 
 } // namespace
 
 void layOutColorPanel(Zevlin& form) {
-    const PanelMeasures measures = measurePanel(form);
-    dressLabels(form, panelFont(form));
-    dressControls(form, panelFont(form));
-    const float room =
-        std::min(measures.letter * widthInLetters, form.ScaleWidth() - measures.lines(4));
-    const float width = (sampleWidth(measures, room) + sampleGap) * presetCount - sampleGap;
-    const float height = placeAll(form, measures, width);
     form.ColorPic.BackColor = paleYellow;
     form.ColorPic.Framed = true;
-    centrePanel(form, form.ColorPic, width + measures.lines(2 * panelMargin), height);
+    layOutWhole(form, [&form](const PanelMeasures& measures) {
+        dressLabels(form, measures.font);
+        dressControls(form, measures.font);
+        const float room =
+            std::min(measures.letter * widthInLetters, form.ScaleWidth() - 4 * measures.margin());
+        const float width = (sampleWidth(measures, room) + sampleGap) * presetCount - sampleGap;
+        const float height = placeAll(form, measures, width);
+        centrePanel(form, form.ColorPic, width + 2 * measures.margin(), height);
+        return height;
+    });
 }
 
 } // namespace zev

@@ -12,7 +12,7 @@ namespace {
 
 class WirePanels : public FormTest {};
 
-TEST_F(WirePanels, BothPanelsHaveOneDefaultAndOneCancelButton) {
+TEST_F(WirePanels, EachPanelHasOneDefaultAndOneCancelButton) {
     for (const auto& panel : wirePanels(form)) {
         int defaults = 0;
         int cancels = 0;
@@ -30,9 +30,11 @@ TEST_F(WirePanels, BothPanelsHaveOneDefaultAndOneCancelButton) {
 
 TEST_F(WirePanels, ThePanelsBelongToTheForm) {
     const auto panels = wirePanels(form);
-    ASSERT_EQ(panels.size(), 2U);
+    ASSERT_EQ(panels.size(), 3U);
     EXPECT_EQ(panels[0].box, &form.P3);
     EXPECT_EQ(panels[1].box, &form.ColorPic);
+    EXPECT_EQ(panels[2].box, &form.PHelp);
+    EXPECT_EQ(form.BHelp.AccessibleName, "Close help");
     EXPECT_EQ(form.ColorBut[0].Caption, "&OK");
     EXPECT_EQ(form.ColorBut[1].Caption, "&Cancel");
 }

@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "chooser_form_test.h"
+#include "toolkit/base/key.h"
+#include "toolkit/testing/test_keys.h"
+#include "toolkit/testing/test_window.h"
 
 namespace zev::test {
 namespace {
@@ -55,14 +58,47 @@ TEST_F(ChooserLayout, AListOfManyCardsStaysInTheForm) {
     EXPECT_LE(form.P3.Top + form.P3.Height, form.ScaleHeight());
 }
 
-TEST_F(ChooserLayout, ALongFolderIsSetSmallerBeforeItIsCut) {
+TEST_F(ChooserLayout, ALongFolderLosesItsMiddleAndKeepsItsSize) {
     start();
     layOut(5);
     const float usual = form.LPath.Font.Size;
     form.LPath.Caption = "Folder:  /" + std::string(120, 'n');
     layOutChooser(form);
-    EXPECT_LT(form.LPath.Font.Size, usual);
+    EXPECT_EQ(form.LPath.Font.Size, usual);
+    EXPECT_TRUE(form.LPath.Shortens);
+    EXPECT_LE(form.LPath.Left + form.LPath.Width, form.P3.Width);
     EXPECT_LE(form.P3.Width, form.ScaleWidth());
+}
+
+TEST_F(ChooserLayout, IsWholeInASmallWindow) {
+    start();
+    toolkit::test::resizeWindow(300 - static_cast<int>(form.Width / pixel),
+                                200 - static_cast<int>(form.Height / pixel));
+    for (const int cards : {0, 2, 50}) {
+        layOut(cards);
+        EXPECT_GE(form.P3.Left, 0) << cards;
+        EXPECT_GE(form.P3.Top, 0) << cards;
+        EXPECT_LE(bottomOf(form.P3), form.ScaleHeight()) << cards;
+        EXPECT_LE(bottomOf(form.BOK), form.P3.Height) << cards;
+        EXPECT_GE(form.BOK.Left, form.TSaveAs.Left) << cards;
+        EXPECT_LE(form.BCancel.Left + form.BCancel.Width, form.P3.Width) << cards;
+        EXPECT_GE(form.FileList.Height, toolkit::textHeight(form.FileList.Font)) << cards;
+        EXPECT_GE(form.TSaveAs.Font.Size, 9) << cards;
+    }
+}
+
+TEST_F(ChooserLayout, StaysWholeInTheMiddleOfAWindowThatChanges) {
+    start();
+    answerChooser([this] {
+        for (const int wider : {-300, 400}) {
+            toolkit::test::resizeWindow(wider, wider / 2);
+            EXPECT_EQ(form.P3.Left, (form.ScaleWidth() - form.P3.Width) / 2) << wider;
+            EXPECT_EQ(form.P3.Top, (form.ScaleHeight() - form.P3.Height) / 2) << wider;
+            EXPECT_GE(form.P3.Top, 0) << wider;
+        }
+        toolkit::test::typeKey(toolkit::key::escape, 0, "\x1b");
+    });
+    EXPECT_TRUE(toolkit::test::chooseMenu("File>Open..."));
 }
 
 } // namespace

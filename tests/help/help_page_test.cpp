@@ -207,6 +207,35 @@ TEST_F(HelpPage, ClicksOnOtherLinesDoNothing) {
     EXPECT_TRUE(form.THelp.Visible);
 }
 
+TEST_F(HelpPage, TheButtonLiesInItsUpperRightCornerBesideAllText) {
+    for (const float width : {12000.0F, 19200.0F, 30000.0F}) {
+        form.Width = width;
+        show();
+        EXPECT_TRUE(form.PHelp.Visible && form.BHelp.Visible);
+        EXPECT_GT(form.PHelp.Stack, form.THelp.Stack);
+        EXPECT_GE(form.BHelp.Width, 24 * 15);
+        EXPECT_GE(form.BHelp.Height, 24 * 15);
+        EXPECT_GE(form.PHelp.Top, form.THelp.Top);
+        // The scroll bar is to the right of it.
+        EXPECT_LE(form.PHelp.Left + form.PHelp.Width, form.THelp.Left + form.THelp.Width - 20 * 15);
+        for (const auto& line : form.THelp.List)
+            EXPECT_LE(form.THelp.Left + 3 * 15 + toolkit::textWidth(form.THelp.Font, line),
+                      form.PHelp.Left)
+                << line;
+    }
+}
+
+TEST_F(HelpPage, TheButtonGivesTheCardBackAndGoesWithThePage) {
+    show();
+    zev::BHelp_Click(form);
+    EXPECT_TRUE(isClosed());
+    EXPECT_FALSE(form.PHelp.Visible || form.BHelp.Visible);
+    EXPECT_GT(form.P1.Stack, form.THelp.Stack);
+    show();
+    press(toolkit::key::escape);
+    EXPECT_FALSE(form.PHelp.Visible || form.BHelp.Visible);
+}
+
 TEST_F(HelpPage, CanBeShownAgain) {
     show();
     press(toolkit::key::escape);
@@ -243,6 +272,65 @@ TEST_F(HelpWindow, EnterAndEscapeGiveTheCardTheKeysAgain) {
     toolkit::test::typeKey(toolkit::key::escape, 0, "\x1b");
     EXPECT_FALSE(form.THelp.Visible);
     EXPECT_EQ(form.ActiveControl, &form.P1);
+}
+
+TEST_F(HelpWindow, ItsButtonClosesIt) {
+    open();
+    EXPECT_TRUE(toolkit::test::isShown(form.BHelp));
+    const auto point = toolkit::test::pointOn(form.BHelp);
+    toolkit::test::click(point.x, point.y);
+    EXPECT_FALSE(form.THelp.Visible);
+    EXPECT_FALSE(toolkit::test::isShown(form.BHelp));
+    EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.P1));
+}
+
+TEST_F(HelpWindow, ItsButtonClosesItAtTheFirstStart) {
+    makeFirstRun();
+    answer(toolkit::Answer::Ok);
+    start();
+    ASSERT_TRUE(form.THelp.Visible);
+    ASSERT_FALSE(form.P1.Enabled);
+    const auto point = toolkit::test::pointOn(form.BHelp);
+    toolkit::test::click(point.x, point.y);
+    EXPECT_FALSE(form.THelp.Visible);
+    EXPECT_TRUE(form.P1.Enabled);
+    EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.P1));
+}
+
+TEST_F(HelpWindow, ThePageKeepsTheKeysWhenAPressOnItsButtonIsTakenBack) {
+    open();
+    const auto point = toolkit::test::pointOn(form.BHelp);
+    toolkit::test::pressMouse(point.x, point.y);
+    toolkit::test::releaseMouse(point.x - 3000, point.y + 3000);
+    ASSERT_TRUE(form.THelp.Visible);
+    EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.THelp));
+    toolkit::test::typeKey(toolkit::key::escape, 0, "\x1b");
+    EXPECT_FALSE(form.THelp.Visible);
+}
+
+TEST_F(HelpWindow, StaysInTheMiddleAsLargeAsTheWindowAllows) {
+    open();
+    goTo(40);
+    toolkit::test::resizeWindow(-200, -300);
+    EXPECT_FLOAT_EQ(form.THelp.Left, (form.ScaleWidth() - form.THelp.Width) / 2);
+    EXPECT_FLOAT_EQ(form.THelp.Top, (form.ScaleHeight() - form.THelp.Height) / 2);
+    EXPECT_LE(form.THelp.Top + form.THelp.Height, form.ScaleHeight());
+    EXPECT_GE(form.THelp.Top, 0);
+    EXPECT_EQ(form.THelp.ListIndex, 40);
+    EXPECT_TRUE(toolkit::test::hasPlatformFocus(form.THelp));
+}
+
+TEST_F(HelpWindow, LinesThatAreTooLongForTheWindowCanBeMovedIntoSight) {
+    open();
+    toolkit::test::resizeWindow(-static_cast<int>(form.Width / 15) + 300, 0);
+    const toolkit::Bitmap before = toolkit::test::grabWindow();
+    for (int i = 0; i < 5; ++i) toolkit::test::typeKey(toolkit::key::right);
+    const toolkit::Bitmap after = toolkit::test::grabWindow();
+    int changed = 0;
+    for (int y = 0; y < before.height(); ++y)
+        changed += std::equal(before.row(y), before.row(y) + before.width(), after.row(y)) ? 0 : 1;
+    EXPECT_GT(changed, 50);
+    EXPECT_EQ(form.THelp.ListIndex, 1);
 }
 
 TEST_F(HelpWindow, NamesTheFolderOfThisRun) {

@@ -137,6 +137,20 @@ TEST(Font, MarksAndSuitsHaveTheirCharacters) {
         EXPECT_GT(textWidth(suits, character), 15 * 20 / 3) << character;
 }
 
+TEST(Font, ATextThatIsTooLongKeepsItsBeginningAndItsEnd) {
+    const FontSpec font = arial(10);
+    const std::string text = "/home/joe/Documents/ZEV";
+    EXPECT_EQ(shortenedInMiddle(font, text, textWidth(font, text)), text);
+    EXPECT_EQ(shortenedInMiddle(font, text, textWidth(font, "/home/jo...nts/ZEV") + 1),
+              "/home/jo...nts/ZEV");
+    const std::string less = shortenedInMiddle(font, text, textWidth(font, text) - 1);
+    EXPECT_LT(textWidth(font, less), textWidth(font, text));
+    EXPECT_EQ(less.substr(0, 6), text.substr(0, 6));
+    EXPECT_EQ(less.substr(less.size() - 6), text.substr(text.size() - 6));
+    EXPECT_EQ(shortenedInMiddle(font, text, 0), "...");
+    EXPECT_EQ(shortenedInMiddle(font, "", 0), "");
+}
+
 TEST(Font, SizesAreGivenAsAskedForWithinTheirBounds) {
     EXPECT_EQ(fontSizeGiven(4.675F), 4.675F);
     EXPECT_EQ(fontSizeGiven(0), 1);

@@ -58,6 +58,13 @@ TEST_F(Dialog, InputBoxGivesWhatWasTypedAsATextAreaDoes) {
     EXPECT_TRUE(seen.plain);
 }
 
+TEST_F(Dialog, InputBoxHasRoomForAName) {
+    test::fillNextInputBox("x", seen);
+    EXPECT_EQ(ask({.prompt = "?", .title = "T"}), "x");
+    EXPECT_GE(seen.width, 400);
+    EXPECT_LE(seen.width, 460);
+}
+
 TEST_F(Dialog, TestAnswersInThePlayersPlace) {
     answerDialogsWith({.message =
                            [this](const MessageBox& shown) {

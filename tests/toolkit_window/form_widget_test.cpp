@@ -38,6 +38,23 @@ TEST_F(FormWidget, InsideGrowsWithTheWindow) {
     EXPECT_EQ(test::grabWindow().pixel(5, test::grabWindow().height() - 1), form.BackColor);
 }
 
+TEST_F(FormWidget, TellsTheFormOfItsNewSize) {
+    form.Resize = [this] {
+        note("Resize " + pixelsText(form.ScaleWidth()) + " x " + pixelsText(form.ScaleHeight()));
+    };
+    const int width = pixelsFromTwips(form.ScaleWidth());
+    const int height = pixelsFromTwips(form.ScaleHeight());
+    test::resizeWindow(20, 30);
+    EXPECT_EQ(log,
+              Log{"Resize " + std::to_string(width + 20) + " x " + std::to_string(height + 30)});
+    form.Width -= px(50);
+    test::settle();
+    EXPECT_EQ(log.back(),
+              "Resize " + std::to_string(width - 30) + " x " + std::to_string(height + 30));
+    test::shiftWindow(10, 10);
+    EXPECT_EQ(log.size(), 2U);
+}
+
 TEST_F(FormWidget, IsShownAndHiddenByItsValue) {
     EXPECT_TRUE(test::isShown(card));
     form.Visible = false;

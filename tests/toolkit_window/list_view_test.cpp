@@ -142,5 +142,44 @@ TEST_F(ListView, DisabledCardLeavesTheListAlone) {
     EXPECT_EQ(list.ListIndex, 1);
 }
 
+/// A list whose rows may be wider than it is.
+class WideList : public ListTest {
+  protected:
+    WideList() { list.ScrollsAcross = true; }
+
+    /// The list's rows as they are shown, dark pixels counted.
+    [[nodiscard]] static Log shownRows() {
+        const Bitmap shown = test::grabWindow();
+        Log rows;
+        for (int y = 102; y < 150; ++y) {
+            std::string row;
+            for (int x = 102; x < 290; ++x)
+                row += redOf(shown.pixel(x, y).value_or(white)) < 100 ? '#' : '.';
+            rows.push_back(row);
+        }
+        return rows;
+    }
+};
+
+TEST_F(WideList, LeftAndRightMoveWhatIsTooWideIntoSight) {
+    openList({std::string(60, 'i') + std::string(20, 'M'), "second"});
+    form.SetFocus(list);
+    const Log before = shownRows();
+    test::typeKey(key::right);
+    const Log moved = shownRows();
+    EXPECT_NE(moved, before);
+    test::typeKey(key::left);
+    EXPECT_EQ(shownRows(), before);
+    EXPECT_EQ(list.ListIndex, -1);
+}
+
+TEST_F(WideList, OneWithShortRowsHasNoNeedOfIt) {
+    openList({"first", "second"});
+    form.SetFocus(list);
+    const Log before = shownRows();
+    test::typeKey(key::right);
+    EXPECT_EQ(shownRows(), before);
+}
+
 } // namespace
 } // namespace window_test

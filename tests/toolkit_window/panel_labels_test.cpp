@@ -51,5 +51,21 @@ TEST_F(PanelLabels, AnOpaqueLabelHasAFrame) {
     EXPECT_EQ(shownAt(152, 10), white);
 }
 
+TEST_F(PanelLabels, ACaptionThatIsTooWideLosesItsMiddleWhereItMay) {
+    const auto shownEnd = [this](const std::string& caption) {
+        place(plain, 150, 5, 100, 15);
+        plain.Caption = caption;
+        Log columns;
+        for (int x = 230; x < 250; ++x) columns.push_back(hasInk(x, 5, 1, 15) ? "#" : ".");
+        return columns;
+    };
+    const std::string begin(40, 'n');
+    EXPECT_EQ(shownEnd(begin + "iii"), shownEnd(begin + "nnn")) << "cut, both look alike";
+    plain.Shortens = true;
+    EXPECT_NE(shownEnd(begin + "iii"), shownEnd(begin + "nnn"));
+    // No ink at the label's edge: the last letter is whole.
+    EXPECT_FALSE(hasInk(250, 5, 5, 15));
+}
+
 } // namespace
 } // namespace window_test

@@ -71,6 +71,18 @@ TEST_F(PanelMouse, ALabelHasItsToolTip) {
     EXPECT_EQ(test::toolTipAt(panel, test::pointOn(panel, plain)), "");
 }
 
+TEST_F(PanelMouse, TheToolTipOfAShortenedLabelBeginsWithAllOfIt) {
+    line.Shortens = true;
+    line.Caption = "short && sweet";
+    EXPECT_EQ(test::toolTipAt(panel, test::pointOn(panel, line)), "tip of the line");
+    line.Caption = "much too long to be read && understood on a label like this";
+    EXPECT_EQ(test::toolTipAt(panel, test::pointOn(panel, line)),
+              "much too long to be read & understood on a label like this\ntip of the line");
+    line.ToolTip.clear();
+    EXPECT_EQ(test::toolTipAt(panel, test::pointOn(panel, line)),
+              "much too long to be read & understood on a label like this");
+}
+
 TEST_F(PanelMouse, ShowsItsColourWithRoundedCorners) {
     panel.BackColor = rgb(200, 210, 220);
     panel.CornerRadius = 8;

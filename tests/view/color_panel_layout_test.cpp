@@ -51,5 +51,35 @@ TEST_F(ColorPanelLayout, ASmallFormHasRoomForIt) {
     EXPECT_LE(form.ColorPic.Left + form.ColorPic.Width, form.ScaleWidth());
 }
 
+TEST_F(ColorPanelLayout, StaysInTheMiddleOfAWindowThatChanges) {
+    open();
+    const float width = form.ColorPic.Width;
+    for (const int wider : {-60, 200}) {
+        toolkit::test::resizeWindow(wider, wider);
+        EXPECT_EQ(form.ColorPic.Left, (form.ScaleWidth() - form.ColorPic.Width) / 2) << wider;
+        EXPECT_EQ(form.ColorPic.Top, (form.ScaleHeight() - form.ColorPic.Height) / 2) << wider;
+        EXPECT_EQ(form.ColorText.Font.Size, form.TextFontSize[1]) << wider;
+    }
+    EXPECT_EQ(form.ColorPic.Width, width);
+    EXPECT_EQ(form.ActiveControl, &form.ColorScroll[0]);
+}
+
+TEST_F(ColorPanelLayout, IsWholeInASmallWindow) {
+    open();
+    toolkit::test::resizeWindow(300 - static_cast<int>(form.Width / pixel),
+                                200 - static_cast<int>(form.Height / pixel));
+    EXPECT_GE(form.ColorPic.Left, 0);
+    EXPECT_GE(form.ColorPic.Top, 0);
+    EXPECT_LE(form.ColorPic.Left + form.ColorPic.Width, form.ScaleWidth());
+    EXPECT_LE(form.ColorPic.Top + form.ColorPic.Height, form.ScaleHeight());
+    EXPECT_LE(form.ColorBut[1].Top + form.ColorBut[1].Height, form.ColorPic.Height);
+    EXPECT_LE(form.ColorBut[1].Left + form.ColorBut[1].Width, form.ColorPic.Width);
+    EXPECT_GE(form.ColorBut[0].Font.Size, 7);
+    // All of the explanation has room in its two lines.
+    const auto lines = toolkit::wrappedLines(form.Lpresetcolors.Font, form.Lpresetcolors.Caption,
+                                             form.Lpresetcolors.Width);
+    EXPECT_LE(lines.size(), 2U);
+}
+
 } // namespace
 } // namespace zev::test

@@ -136,8 +136,10 @@ struct ListBox : Control {
     int TopIndex = 0;      ///< the uppermost row in sight
     int PointedIndex = -1; ///< the row under the last press; -1 below the last row
     std::string ToolTip;
-    int RowGap = 0;          ///< pixels by which a row is higher than its line
-    bool Elides = false;     ///< a row that is too wide ends in "...", and a tool tip has all of it
+    bool Elides = false; ///< a row that is too wide ends in "...", and a tool tip has all of it
+    int RowGap = 0;      ///< pixels by which a row is higher than its line
+    /// Whether what is too wide can be moved into sight; set before the window is made.
+    bool ScrollsAcross = false;
     bool ClicksByKey = true; ///< whether a key that changes the current row counts as a click
     /// Of the rows on which a click leads elsewhere, for screen readers.
     std::function<bool(int row)> IsLink{};

@@ -77,6 +77,8 @@ struct Form {
     /// A file was dropped, of several the first.
     std::function<void(const std::filesystem::path&)> FileDropped;
     /// An event's procedures are done; the window hasn't taken over the values yet.
+    /// The form has another size. Comes after the fact, and in the middle of a procedure, too.
+    std::function<void()> Resize;
     std::function<void()> Settled;
     /// The player closes the window; true refuses.
     std::function<bool()> QueryClose;

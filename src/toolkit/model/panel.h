@@ -26,6 +26,9 @@ struct ScrollBar : Control {
 /// height.
 struct PanelLabel : Label {
     bool Wraps = false; ///< a caption that is too wide goes on in the next line, at a blank
+    /// Whether a caption that is too wide loses its middle; the tool tip begins with all of it
+    /// then.
+    bool Shortens = false;
     std::string ToolTip;
     std::string AccessibleName; ///< for screen readers, where the caption doesn't say it
     std::function<void(MouseArguments&)> MouseDown; ///< any button

@@ -46,7 +46,7 @@ void endNextBox(std::optional<Answer> answer, ShownBox& seen) {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr) return false;
         seen = {ansiText(box->windowTitle()), ansiText(box->text()),
-                box->textFormat() == Qt::PlainText};
+                box->textFormat() == Qt::PlainText, box->width()};
         if (answer)
             box->button(qButton(*answer))->click();
         else
@@ -61,7 +61,7 @@ void fillNextInputBox(std::string_view utf8, ShownBox& seen) {
         auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
         if (box == nullptr) return false;
         seen = {ansiText(box->windowTitle()), ansiText(box->labelText()),
-                box->findChild<QLabel*>()->textFormat() == Qt::PlainText};
+                box->findChild<QLabel*>()->textFormat() == Qt::PlainText, box->width()};
         box->setTextValue(text);
         box->accept();
         return true;

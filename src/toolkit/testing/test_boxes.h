@@ -14,6 +14,7 @@ struct ShownBox {
     std::string title;
     std::string text;
     bool plain = false; ///< whether marks like <b> show as they are
+    int width = 0;      ///< pixels
 };
 /// The next box that comes to the screen is noted and ended by its button; none closes its window.
 void endNextBox(std::optional<Answer> answer, ShownBox& seen);

@@ -4,13 +4,16 @@
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QWheelEvent>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QToolTip>
 
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/base/qt_text.h"
 #include "toolkit/testing/qt_test_window.h"
 #include "toolkit/testing/test_mouse.h"
+#include "toolkit/testing/test_window.h"
 #include "toolkit/window/control/qt_list_view.h"
+#include "toolkit/window/panel/qt_panel_widget.h"
 
 namespace toolkit::test {
 namespace {
@@ -34,6 +37,14 @@ QPoint middleOfRow(const ListBox& list, int row) {
     const auto& view = dynamic_cast<const ListView&>(shownWidget(list));
     const QPoint inViewport = view.visualRect(view.model()->index(row, 0)).center();
     return view.viewport()->mapTo(&view, inViewport);
+}
+
+Bitmap partOf(const Bitmap& whole, const QRect& part) {
+    Bitmap copy(part.width(), part.height());
+    for (int y = 0; y < part.height(); ++y)
+        for (int x = 0; x < part.width(); ++x)
+            copy.setPixel(x, y, whole.pixel(part.x() + x, part.y() + y).value_or(white));
+    return copy;
 }
 
 } // namespace
@@ -68,6 +79,23 @@ std::string toolTipAt(const Control& control, PointOnCard point) {
     QToolTip::showText(global, former, &widget);
     send(widget, event);
     return QToolTip::text() == former ? std::string() : ansiText(QToolTip::text());
+}
+
+Bitmap grabControl(const Control& control) {
+    const QWidget& widget = shownWidget(control);
+    const QPoint corner = widget.mapTo(&window().form(), QPoint());
+    return partOf(grabWindow(), QRect(corner, widget.size()));
+}
+
+Bitmap grabLabel(const Panel& panel, const Label& label) {
+    const QRect place = PanelWidget::placeOf(label);
+    return partOf(grabControl(panel), place);
+}
+
+void useDesktop(Desktop desktop) {
+    static const QPalette light = QApplication::palette();
+    const QColor dark(49, 54, 59);
+    QApplication::setPalette(desktop == Desktop::Dark ? QPalette(dark, dark) : light);
 }
 
 void turnWheelOver(const Control& control, int rotation) {

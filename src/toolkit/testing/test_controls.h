@@ -5,6 +5,7 @@
 
 #include "toolkit/model/control.h"
 #include "toolkit/model/panel.h"
+#include "toolkit/picture/bitmap.h"
 #include "toolkit/testing/test_mouse.h"
 
 namespace toolkit::test {
@@ -14,6 +15,15 @@ namespace toolkit::test {
 [[nodiscard]] PointOnCard pointOn(const Control& control);
 [[nodiscard]] PointOnCard pointOn(const Panel& panel, const Label& label);
 [[nodiscard]] PointOnCard pointOnRow(const ListBox& list, int row);
+
+/// What the window shows within the control, or of a label of a panel; one pixel for each logical
+/// one.
+[[nodiscard]] Bitmap grabControl(const Control& control);
+[[nodiscard]] Bitmap grabLabel(const Panel& panel, const Label& label);
+
+/// The desktop's colours, until the next call.
+enum class Desktop { Light, Dark };
+void useDesktop(Desktop desktop);
 
 /// Turns the wheel over a control that is shown.
 void turnWheelOver(const Control& control, int rotation);

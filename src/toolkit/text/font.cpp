@@ -60,6 +60,17 @@ std::vector<std::string_view> wrappedLines(const FontSpec& font, std::string_vie
     return lines;
 }
 
+std::string shortenedInMiddle(const FontSpec& font, std::string_view text, float width) {
+    std::string shortened(text);
+    for (std::size_t kept = text.size(); kept > 0 && textWidth(font, shortened) > width;) {
+        --kept;
+        shortened = text.substr(0, (kept + 1) / 2);
+        shortened += "...";
+        shortened += text.substr(text.size() - kept / 2);
+    }
+    return shortened;
+}
+
 std::string fontNameGiven(std::string_view name) { return fontFamily(name).nameGiven; }
 
 float fontSizeGiven(float points) {

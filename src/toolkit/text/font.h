@@ -28,6 +28,11 @@ namespace toolkit {
 [[nodiscard]] std::vector<std::string_view> wrappedLines(const FontSpec& font,
                                                          std::string_view text, float width);
 
+/// The text, or what of its beginning and its end fits into the width, twips, with "..." between
+/// them.
+[[nodiscard]] std::string shortenedInMiddle(const FontSpec& font, std::string_view text,
+                                            float width);
+
 /// The name that the font system reports after this one was asked for: the same text where the font
 /// is installed or has a substitute, else the name of the font that is used in its place.
 [[nodiscard]] std::string fontNameGiven(std::string_view name);

@@ -5,6 +5,7 @@
 #include <utility>
 #include <vector>
 
+#include <QtGui/QScreen>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLabel>
@@ -85,14 +86,25 @@ Answer showOnScreen(const MessageBox& box) {
     return found == qtButtons.end() ? answers.back() : found->first;
 }
 
+/// Room for a name, or for what an old name shall become, without scrolling.
+int lineWidth(const QDialog& box) {
+    constexpr int usual = 400;
+    constexpr int besideIt = 40; // frame and margins, on a screen that is narrower
+    const QScreen* screen = box.screen();
+    return screen == nullptr ? usual
+                             : std::min(usual, screen->availableGeometry().width() - besideIt);
+}
+
 std::string askOnScreen(const InputBox& box) {
     QInputDialog shown(boxParent());
     shown.setWindowTitle(titleOf(box.title));
     shown.setLabelText(qString(box.prompt));
     shown.setTextValue(qString(box.preset));
     for (QLabel* label : shown.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
-    for (QLineEdit* line : shown.findChildren<QLineEdit*>())
+    for (QLineEdit* line : shown.findChildren<QLineEdit*>()) {
         line->setAccessibleName(qString(box.prompt));
+        line->setMinimumWidth(lineWidth(shown));
+    }
     return shown.exec() == QDialog::Accepted ? ansiFromTyped(shown.textValue().toStdString())
                                              : std::string();
 }

@@ -111,7 +111,15 @@ void FormWidget::layOut() {
     area_.setGeometry(0, height, width(), std::max(0, this->height() - height));
 }
 
-void FormWidget::resizeEvent(QResizeEvent* /*event*/) { layOut(); }
+/// The form hears of it when whoever sets the size is done.
+void FormWidget::resizeEvent(QResizeEvent* /*event*/) {
+    layOut();
+    if (!form_.Resize || std::exchange(resizeQueued_, true)) return;
+    QTimer::singleShot(0, this, [this] {
+        resizeQueued_ = false;
+        dispatcher_.run([this] { form_.Resize(); });
+    });
+}
 
 /// Whether the window goes away is for the program to decide.
 void FormWidget::closeEvent(QCloseEvent* event) {

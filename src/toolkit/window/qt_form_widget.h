@@ -51,6 +51,7 @@ class FormWidget : public QWidget {
     FormPlace place_;
     MousePointer pointer_ = MousePointer::Default;
     std::optional<std::filesystem::path> dragged_; ///< the file over the window
+    bool resizeQueued_ = false;                    ///< the form is about to hear of its new size
 };
 
 } // namespace toolkit

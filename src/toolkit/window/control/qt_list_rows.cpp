@@ -84,10 +84,19 @@ bool ListRowPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view,
     return true;
 }
 
+/// Of the widest row, since all are laid out alike.
+int ListRowPainter::rowWidth() const {
+    float widest = 0;
+    if (list_.ScrollsAcross)
+        for (int index = 0; index < rows_.rowCount(); ++index)
+            widest = std::max(widest, textWidth(list_.Font, rows_.row(index)));
+    return 2 * indent() + pixelsFromTwips(widest);
+}
+
 QSize ListRowPainter::sizeHint(const QStyleOptionViewItem& /*option*/,
                                const QModelIndex& /*index*/) const {
     const float height = textHeight(list_.Font) / static_cast<float>(twipsPerPixel());
-    return {1, std::max(1, static_cast<int>(std::floor(height))) + list_.RowGap};
+    return {rowWidth(), std::max(1, static_cast<int>(std::floor(height))) + list_.RowGap};
 }
 
 } // namespace toolkit

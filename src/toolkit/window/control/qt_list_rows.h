@@ -41,6 +41,7 @@ class ListRowPainter : public QAbstractItemDelegate {
     [[nodiscard]] int indent() const;
     /// The row as it is painted in a rectangle of this width, pixels.
     [[nodiscard]] std::string shownRow(int row, int width) const;
+    [[nodiscard]] int rowWidth() const;
 
     const ListRows& rows_;
     const ListBox& list_;

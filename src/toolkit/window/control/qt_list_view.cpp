@@ -22,7 +22,8 @@ ListView::ListView(QWidget& parent, Form& form, ListBox& list, EventDispatcher& 
     setPalette(colors);
     setUniformItemSizes(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
-    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setHorizontalScrollBarPolicy(list.ScrollsAcross ? Qt::ScrollBarAsNeeded
+                                                    : Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     setFocusPolicy(Qt::NoFocus);
     setContextMenuPolicy(Qt::PreventContextMenu);
@@ -68,6 +69,10 @@ void ListView::pushTop() {
 }
 
 void ListView::takeKey(QKeyEvent& event) {
+    if (list_.ScrollsAcross && (event.key() == Qt::Key_Left || event.key() == Qt::Key_Right))
+        return horizontalScrollBar()->triggerAction(event.key() == Qt::Key_Left
+                                                        ? QAbstractSlider::SliderSingleStepSub
+                                                        : QAbstractSlider::SliderSingleStepAdd);
     const int before = currentIndex().row();
     keyPressEvent(&event);
     if (list_.ClicksByKey && currentIndex().row() != before) mouse_.send(&Control::Click);

@@ -41,6 +41,13 @@ void paintFramedLabel(QPainter& painter, const Label& label) {
         painter.fillRect(edge, frameColor(qColor(label.BackColor)));
 }
 
+void paintShortenedLabel(QPainter& painter, const Label& label) {
+    Label shortened = label;
+    shortened.Caption =
+        captionFor(shortenedInMiddle(label.Font, paintedText(label.Caption), label.Width));
+    paintLabel(painter, shortened);
+}
+
 void paintWrappedLabel(QPainter& painter, const Label& label) {
     Label line = label;
     line.Height = textHeight(label.Font);

@@ -14,6 +14,9 @@ namespace toolkit {
 /// An opaque label: its text in the middle of its height, a frame round it.
 void paintFramedLabel(QPainter& painter, const Label& label);
 
+/// Leaves out the middle of a caption that is too wide.
+void paintShortenedLabel(QPainter& painter, const Label& label);
+
 /// Goes on in the next line, at a blank, where the caption is too wide.
 void paintWrappedLabel(QPainter& painter, const Label& label);
 

@@ -24,6 +24,12 @@ namespace {
 
 bool canHaveFocus(const PanelPart& part) { return part.control->Visible && part.control->Enabled; }
 
+std::string toolTipOf(const PanelLabel& label) {
+    const std::string text = paintedText(label.Caption);
+    if (!label.Shortens || textWidth(label.Font, text) <= label.Width) return label.ToolTip;
+    return label.ToolTip.empty() ? text : text + '\n' + label.ToolTip;
+}
+
 } // namespace
 
 PanelWidget::PanelWidget(QWidget& area, Form& form, const PanelContents& panel,
@@ -120,6 +126,8 @@ void PanelWidget::paintEvent(QPaintEvent* /*event*/) {
             paintFramedLabel(painter, *label);
         else if (label->Wraps)
             paintWrappedLabel(painter, *label);
+        else if (label->Shortens)
+            paintShortenedLabel(painter, *label);
         else
             paintLabel(painter, *label);
     }
@@ -190,7 +198,7 @@ PanelWidget::Place PanelWidget::placeAmong(int index) const {
 PanelWidget::Target PanelWidget::targetOf(int index) const {
     const Place place = placeAmong(index);
     if (const PanelLabel* label = place.label)
-        return {label, label->MouseDown, label->Click, label->ToolTip};
+        return {label, label->MouseDown, label->Click, toolTipOf(*label)};
     const LabelGroup& group = *place.group;
     Target target{.label = &(*group.labels)[place.index]};
     if (group.MouseDown)
