@@ -27,6 +27,7 @@
 #include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "help/help_page.h"
+#include "marks/move_card.h"
 #include "text/edit_box.h"
 #include "view/image_size.h"
 
@@ -40,7 +41,10 @@ void wireForm(Zevlin& form) {
     form.TakesFile = [&form] { return takesDroppedCard(form); };
     form.FileDropped = [&form](const std::filesystem::path& file) { openDroppedCard(form, file); };
     form.Resize = run(form, Form_Resize);
-    form.Settled = [&form] { noteCardStep(form); };
+    form.Settled = [&form] {
+        noteCardStep(form);
+        showWayHome(form);
+    };
     form.Ending = [&form] { flushJournal(form); };
     form.Unhandled = [&form](const toolkit::RunTimeError& failure) {
         traceFailure(form, "Error in an event: #", failure);

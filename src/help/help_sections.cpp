@@ -13,6 +13,7 @@ MOVING THE CARD WITH THE KEYBOARD
   * The arrow keys move the card a little at a time.
   * The Home, End, PageUp, and PageDown keys move to the four corners of the card
        * Home = top left, End = bottom left, PageUp = top right, PageDown = bottom right.
+       * If the card is out of sight, Home brings it back.
        * If the blinking cursor is in a text area, press Esc first.
 
 CHECKING BOXES AND CIRCLING LEADS

@@ -239,6 +239,17 @@ void zoomAt(Zevlin& form, int rotation, int x, int y) {
         withoutGap(down() - shareDown * card.Height, card.Top, form.ScaleHeight(), card.Height));
 }
 
+/// Whether less of the card can be seen than a pointer could catch.
+bool isOutOfSight(const Zevlin& form) {
+    constexpr float pixels = 20;
+    const float least = pixels * static_cast<float>(form.TwipsPerPixel);
+    const auto seen = [](float place, float size, float room) {
+        return std::min(place + size, room) - std::max(place, 0.0F);
+    };
+    return seen(form.P1.Left, form.P1.Width, form.ScaleWidth()) < least ||
+           seen(form.P1.Top, form.P1.Height, form.ScaleHeight()) < least;
+}
+
 } // namespace
 
 void endRest(Zevlin& form) {
@@ -252,6 +263,13 @@ void MouseWheel(Zevlin& form, int keys, int rotation, int x, int y) {
     const float step = stepOf(form);
     form.P1.Top = rotation > 0 ? std::min(wholeTwips(form.P1.Top + step), form.ScaleHeight())
                                : std::max(wholeTwips(form.P1.Top - step), -form.P1.Height);
+}
+
+void showWayHome(Zevlin& form) {
+    const bool isNeeded = form.P1.Visible && !form.THelp.Visible && isOutOfSight(form);
+    form.Hint = !isNeeded         ? ""
+                : isEditing(form) ? "Esc, then Home brings the card back"
+                                  : "Home brings the card back";
 }
 
 void CheckOnScreen(Zevlin& form, int item) {

@@ -19,4 +19,7 @@ void endRest(Zevlin& form);
 /// Moves the card by a key that does so (HOME, END, PAGE UP, PAGE DOWN, arrows); true if it did.
 bool moveCardByKey(Zevlin& form, int keyCode, int shift);
 
+/// Says behind the card how to get it back once hardly any of it is in sight.
+void showWayHome(Zevlin& form);
+
 } // namespace zev

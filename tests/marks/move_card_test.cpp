@@ -1,5 +1,7 @@
 #include "marks/move_card.h"
 
+#include <algorithm>
+
 #include "text/edit_test.h"
 #include "toolkit/base/twips.h"
 #include "toolkit/testing/test_keys.h"
@@ -272,6 +274,98 @@ TEST_F(MoveCard, CursorThatWouldLeaveTheScreenEndsTheRest) {
     clickMark(1);
     for (int i = 0; i < 3; ++i) typeKey(key::down);
     EXPECT_FALSE(form.TabActive);
+}
+
+constexpr const char* wayHome = "Home brings the card back";
+
+class LostCard : public MoveCard {
+  protected:
+    void wheelAway() {
+        for (int i = 0; i < 20; ++i) turnFormWheel(-120);
+        ASSERT_EQ(form.P1.Top, -form.P1.Height);
+    }
+    /// The wheel over the form, wherever the card is.
+    void turnFormWheel(int rotation) {
+        MouseWheel(form, 0, rotation, 0, 0);
+        typeKey(key::insert);
+    }
+};
+
+TEST_F(LostCard, TheWayHomeIsToldAndHomeIsTheWay) {
+    startLarge();
+    EXPECT_EQ(form.Hint, "");
+    wheelAway();
+    EXPECT_EQ(form.Hint, wayHome);
+    typeKey(key::home);
+    expectAt(0, 0);
+    EXPECT_EQ(form.Hint, "");
+}
+
+TEST_F(LostCard, IsLostOnEachSideOnceHardlyAnyOfItIsInSight) {
+    startLarge();
+    const float least = 20 * pixel;
+    struct Edge {
+        float left = 0;
+        float top = 0;
+        float outward = 0;
+        float downward = 0;
+    };
+    for (const Edge edge :
+         {Edge{form.ScaleWidth() - least, 0, pixel, 0},
+          Edge{0, form.ScaleHeight() - least, 0, pixel}, Edge{least - form.P1.Width, 0, -pixel, 0},
+          Edge{0, least - form.P1.Height, 0, -pixel}}) {
+        form.P1.Move(edge.left, edge.top);
+        typeKey(key::insert);
+        EXPECT_EQ(form.Hint, "") << edge.left << ' ' << edge.top;
+        form.P1.Move(edge.left + edge.outward, edge.top + edge.downward);
+        typeKey(key::insert);
+        EXPECT_EQ(form.Hint, wayHome) << edge.left << ' ' << edge.top;
+    }
+}
+
+TEST_F(LostCard, WithATextOpenEscComesFirst) {
+    startLarge();
+    clickText(1);
+    wheelAway();
+    EXPECT_EQ(form.Hint, "Esc, then Home brings the card back");
+    typeKey(key::escape, 0, "\x1b");
+    EXPECT_EQ(form.Hint, wayHome);
+}
+
+TEST_F(LostCard, NothingIsToldWhereHomeDoesNothing) {
+    startLarge();
+    wheelAway();
+    typeKey(key::f1);
+    ASSERT_TRUE(form.THelp.Visible);
+    EXPECT_EQ(form.Hint, "");
+    typeKey(key::escape, 0, "\x1b");
+    EXPECT_EQ(form.Hint, wayHome);
+    answerChooser([this] {
+        typeKey(key::insert);
+        EXPECT_EQ(form.Hint, "");
+        typeKey(key::escape, 0, "\x1b");
+    });
+    EXPECT_TRUE(chooseMenu("File>Open..."));
+}
+
+TEST_F(LostCard, ASmallerWindowMayLoseItToo) {
+    startLarge();
+    form.P1.Left = 500 * pixel;
+    typeKey(key::insert);
+    EXPECT_EQ(form.Hint, "");
+    resizeWindow(-100, 0);
+    EXPECT_EQ(form.Hint, wayHome);
+}
+
+TEST_F(LostCard, TheHintIsNoPartOfTheCard) {
+    startLarge();
+    const toolkit::Bitmap before = grabCard();
+    wheelAway();
+    ASSERT_EQ(form.Hint, wayHome);
+    const toolkit::Bitmap after = grabCard();
+    ASSERT_EQ(after.height(), before.height());
+    for (int y = 0; y < after.height(); ++y)
+        ASSERT_TRUE(std::equal(after.row(y), after.row(y) + after.width(), before.row(y))) << y;
 }
 
 } // namespace

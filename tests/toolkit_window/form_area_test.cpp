@@ -69,5 +69,32 @@ TEST_F(FormArea, TextStandsInTheBottomLeftCorner) {
     EXPECT_GT(ink, 50);
 }
 
+TEST_F(FormArea, HintStandsInTheMiddleBehindTheCard) {
+    card.Picture = std::make_shared<Bitmap>(400, 300, rgb(1, 2, 3));
+    form.Hint = "HHHH";
+    EXPECT_EQ(inside(test::grabWindow(), 320, 220), rgb(1, 2, 3));
+    card.Top = -px(300);
+    const Bitmap shown = test::grabWindow();
+    const int top = shown.height() - static_cast<int>(form.ScaleHeight() / px(1));
+    int left = shown.width();
+    int right = 0;
+    int highest = shown.height();
+    int lowest = 0;
+    for (int y = 0; y < shown.height() - top; ++y)
+        for (int x = 0; x < shown.width(); ++x)
+            if (inside(shown, x, y) == black) {
+                left = std::min(left, x);
+                right = std::max(right, x);
+                highest = std::min(highest, y);
+                lowest = std::max(lowest, y);
+            }
+    EXPECT_GT(right - left, 30);
+    EXPECT_NEAR((left + right) / 2, shown.width() / 2, 2);
+    EXPECT_NEAR((highest + lowest) / 2, (shown.height() - top) / 2, 4);
+    EXPECT_EQ(inside(shown, left - 3, highest), rgb(255, 255, 225));
+    form.Hint.clear();
+    EXPECT_EQ(inside(test::grabWindow(), left - 3, highest), form.BackColor);
+}
+
 } // namespace
 } // namespace window_test

@@ -59,6 +59,7 @@ struct Form {
     Color BackColor = rgb(192, 200, 192);
     toolkit::MousePointer MousePointer = toolkit::MousePointer::Default;
     FormBackground Background;
+    std::string Hint; ///< shown in the middle of the form, behind all that lies on it
     /// The control that gets the keys; nullptr before the first SetFocus.
     Control* ActiveControl = nullptr;
 
@@ -76,9 +77,9 @@ struct Form {
     std::function<bool()> TakesFile;
     /// A file was dropped, of several the first.
     std::function<void(const std::filesystem::path&)> FileDropped;
-    /// An event's procedures are done; the window hasn't taken over the values yet.
     /// The form has another size. Comes after the fact, and in the middle of a procedure, too.
     std::function<void()> Resize;
+    /// An event's procedures are done; the window hasn't taken over the values yet.
     std::function<void()> Settled;
     /// The player closes the window; true refuses.
     std::function<bool()> QueryClose;

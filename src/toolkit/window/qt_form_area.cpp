@@ -9,6 +9,7 @@
 #include "toolkit/base/qt_geometry.h"
 #include "toolkit/text/text_painter.h"
 #include "toolkit/window/panel/qt_gradient.h"
+#include "toolkit/window/panel/qt_panel_labels.h"
 
 namespace toolkit {
 namespace {
@@ -16,6 +17,10 @@ namespace {
 constexpr int textMargin = 2;
 
 const FontSpec textFont{.Name = "Arial", .Size = 8, .Bold = true};
+
+const FontSpec hintFont{.Name = "Arial", .Size = 14};
+constexpr int hintMargin = 10;
+constexpr auto hintGround = rgb(255, 255, 225);
 
 void paintTiles(QPainter& painter, const FormBackground& background, QSize size) {
     if (!background.tile || background.tile->empty()) return;
@@ -43,6 +48,24 @@ void paintText(QPainter& painter, const std::string& text, int height) {
     drawRun(painter, origin, textFont, 1.0 / twipsPerPixel(), black, text);
 }
 
+/// On a plate of its own, so that it can be read on any background.
+void paintHint(QPainter& painter, const std::string& hint, QSize size) {
+    if (hint.empty()) return;
+    const QSize text(pixelsFromTwips(textWidth(hintFont, hint)),
+                     pixelsFromTwips(textHeight(hintFont)));
+    QRect plate(QPoint(), text.grownBy({hintMargin, hintMargin, hintMargin, hintMargin}));
+    plate.moveCenter(QRect(QPoint(), size).center());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(frameColor(qColor(hintGround)));
+    painter.setBrush(qColor(hintGround));
+    painter.drawRoundedRect(QRectF(plate).adjusted(0.5, 0.5, -0.5, -0.5), hintMargin, hintMargin);
+    painter.restore();
+    const QPointF origin(plate.left() + hintMargin,
+                         plate.top() + hintMargin + pixelsFromTwips(textAscent(hintFont)));
+    drawRun(painter, origin, hintFont, 1.0 / twipsPerPixel(), black, hint);
+}
+
 } // namespace
 
 FormArea::FormArea(QWidget& form, const Form& values, Wheel& wheel)
@@ -53,8 +76,11 @@ FormArea::FormArea(QWidget& form, const Form& values, Wheel& wheel)
 }
 
 void FormArea::push() {
-    if (shown_ == form_.Background && shownColor_ == form_.BackColor) return;
+    const bool isShown =
+        shown_ == form_.Background && shownColor_ == form_.BackColor && shownHint_ == form_.Hint;
+    if (isShown) return;
     shown_ = form_.Background;
+    shownHint_ = form_.Hint;
     shownColor_ = form_.BackColor;
     update();
 }
@@ -67,6 +93,7 @@ void FormArea::paintEvent(QPaintEvent* event) {
     if (shown_.backdrop == Backdrop::Gradient)
         paintGradient(painter, shown_, event->rect(), size());
     paintText(painter, shown_.text, height());
+    paintHint(painter, shownHint_, size());
 }
 
 void FormArea::wheelEvent(QWheelEvent* event) { wheel_.turn(*event); }

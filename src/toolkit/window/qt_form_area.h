@@ -23,6 +23,7 @@ class FormArea : public QWidget {
     Wheel& wheel_;
     FormBackground shown_;
     Color shownColor_ = 0;
+    std::string shownHint_;
 };
 
 } // namespace toolkit
