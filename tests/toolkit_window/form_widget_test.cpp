@@ -45,11 +45,11 @@ TEST_F(FormWidget, TellsTheFormOfItsNewSize) {
     const int width = pixelsFromTwips(form.ScaleWidth());
     const int height = pixelsFromTwips(form.ScaleHeight());
     test::resizeWindow(20, 30);
-    EXPECT_EQ(log,
+    ASSERT_EQ(log,
               Log{"Resize " + std::to_string(width + 20) + " x " + std::to_string(height + 30)});
     form.Width -= px(50);
     test::settle();
-    EXPECT_EQ(log.back(),
+    ASSERT_EQ(log.back(),
               "Resize " + std::to_string(width - 30) + " x " + std::to_string(height + 30));
     test::shiftWindow(10, 10);
     EXPECT_EQ(log.size(), 2U);

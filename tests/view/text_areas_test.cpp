@@ -1,10 +1,14 @@
 // The text areas in each size of their letters: what is written lies between the printed lines.
 #include <algorithm>
+#include <cctype>
 #include <cmath>
+#include <sstream>
 #include <string>
 #include <tuple>
 
+#include "layout/layout_text.h"
 #include "support/form_test.h"
+#include "toolkit/base/ansi.h"
 #include "toolkit/base/files.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/screen.h"
@@ -80,6 +84,21 @@ class TextAreas : public FormTest,
         return card;
     }
 
+    /// Left, top and width of each text area as a layout that is written now has them.
+    [[nodiscard]] std::vector<std::string> writtenPlaces() const {
+        const std::string layout = layoutText(form);
+        std::istringstream lines(layout.substr(layout.find("' For each one, 8 values")));
+        std::vector<std::string> places;
+        const auto count = static_cast<std::size_t>(form.AText.UBound());
+        for (std::string line; places.size() < count && std::getline(lines, line);) {
+            if (line.empty() || std::isdigit(toolkit::code(line.front())) == 0) continue;
+            std::size_t end = 0;
+            for (int comma = 0; comma < 4; ++comma) end = line.find(',', end) + 1;
+            places.push_back(line.substr(0, end));
+        }
+        return places;
+    }
+
     const int twips = std::get<0>(GetParam());
     const std::string size = std::get<1>(GetParam());
     toolkit::Bitmap print; ///< the printed card as shown
@@ -104,6 +123,16 @@ TEST_P(TextAreas, WritingLiesWithinItsAreaAtEveryZoomAndIsNotCutThere) {
         const toolkit::Bitmap paper(uncut.width(), uncut.height());
         EXPECT_EQ(differences(besideAreas(uncut), paper), 0) << form.LastImageScale;
         EXPECT_GT(differences(uncut, paper), 0) << form.LastImageScale;
+    }
+}
+
+TEST_P(TextAreas, ALayoutIsWrittenAsItWasRead) {
+    start();
+    const std::vector<std::string> usual = writtenPlaces();
+    EXPECT_TRUE(toolkit::test::chooseMenu("Options>Font size>" + size));
+    for (const int level : {2, 5, 8, 11}) {
+        zoomTo(level);
+        EXPECT_EQ(writtenPlaces(), usual) << form.LastImageScale;
     }
 }
 
