@@ -61,19 +61,45 @@ TypedAround SpokenText::around(int start, int end) const {
     return {typed_.substr(0, from), typed_.substr(to)};
 }
 
+bool SpokenText::isWord(std::size_t place) const {
+    return place < origins_.size() && origins_[place].end - origins_[place].begin > 1;
+}
+
+bool SpokenText::isSeam(std::size_t place) const {
+    if (place == 0 || place >= origins_.size()) return true;
+    const Origin& before = origins_[place - 1];
+    const Origin& behind = origins_[place];
+    const bool cutsWord = isWord(place) && before.begin == behind.begin && isWord(place - 1);
+    const bool cutsBlank = (before.begin == before.end && isWord(place)) ||
+                           (behind.begin == behind.end && isWord(place - 1));
+    return !cutsWord && !cutsBlank;
+}
+
 std::string SpokenText::replaced(int start, int end, std::string_view typed) const {
     const auto size = static_cast<int>(text_.size());
-    start = std::clamp(start, 0, size);
-    end = std::clamp(end, start, size);
-    const auto before = text_.begin() + start;
-    const auto behind = text_.begin() + end;
-    const auto [head, newHead] = std::mismatch(before, behind, typed.begin(), typed.end());
-    const auto [tail, newTail] =
-        std::mismatch(std::reverse_iterator(behind), std::reverse_iterator(head), typed.rbegin(),
-                      std::reverse_iterator(newHead));
-    const TypedAround left = around(static_cast<int>(head - text_.begin()),
-                                    static_cast<int>(tail.base() - text_.begin()));
-    return left.before + std::string(newHead, newTail.base()) + left.after;
+    auto from = static_cast<std::size_t>(std::clamp(start, 0, size));
+    auto to = static_cast<std::size_t>(std::clamp(end, static_cast<int>(from), size));
+    std::string inserted(typed);
+    // Another word in the place of a suit's is set off as that was.
+    if (!isSeam(from) && isWord(from) && !isWord(from - 1) && !typed.empty() && typed[0] != '^') {
+        --from;
+        inserted.insert(0, " ");
+    }
+    typed = inserted;
+    const std::string_view said = std::string_view(text_).substr(from, to - from);
+    const auto head = std::ranges::mismatch(said, typed).in1 - said.begin();
+    auto same = static_cast<std::size_t>(head);
+    while (same > 0 && !isSeam(from + same)) --same;
+    from += same;
+    typed.remove_prefix(same);
+    const auto last =
+        std::mismatch(said.rbegin(), said.rend() - head, typed.rbegin(), typed.rend()).first;
+    same = static_cast<std::size_t>(last - said.rbegin());
+    while (same > 0 && !isSeam(to - same)) --same;
+    to -= same;
+    typed.remove_suffix(same);
+    const TypedAround left = around(static_cast<int>(from), static_cast<int>(to));
+    return left.before + std::string(typed) + left.after;
 }
 
 } // namespace zev

@@ -28,6 +28,12 @@ class SpokenText {
     [[nodiscard]] std::string replaced(int start, int end, std::string_view typed) const;
 
   private:
+    /// Whether the character at the place is of the word of a suit.
+    [[nodiscard]] bool isWord(std::size_t place) const;
+    /// Whether what stands behind the place can go and what stands before it stay, or the other way
+    /// round: a suit's word goes whole, and with it the blank that sets it off.
+    [[nodiscard]] bool isSeam(std::size_t place) const;
+
     std::string typed_;
     std::string text_;
     /// For each character that is said: where what it stands for begins and ends in the typed text.

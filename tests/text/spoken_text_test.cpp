@@ -53,6 +53,9 @@ TEST(SpokenText, WhatStaysTheSameStaysAsItWasTyped) {
     const SpokenText text("4^h up, 5^s"); // 4 hearts up, 5 spades
     EXPECT_EQ(replaced(text, 0, 22, "4 hearts up, 6 spades"), "4^h up, 6^s");
     EXPECT_EQ(replaced(text, 0, 22, "4 hearts up, 5 spades"), "4^h up, 5^s");
+    // A word of which another one keeps a part is another word.
+    EXPECT_EQ(replaced(SpokenText("4^h"), 2, 8, "hands"), "4 hands");
+    EXPECT_EQ(replaced(SpokenText("4^h"), 0, 8, "4 helps"), "4 helps");
     EXPECT_EQ(replaced(SpokenText("aa"), 0, 2, "aaa"), "aaa");
     EXPECT_EQ(replaced(SpokenText("aaa"), 0, 3, "aa"), "aa");
 }
