@@ -57,9 +57,9 @@ std::optional<std::filesystem::path> nativePath(std::string_view host, std::stri
 }
 #else
 /// A name may be any bytes.
-std::optional<std::filesystem::path> nativePath(std::string_view host, const std::string& path) {
+std::optional<std::filesystem::path> nativePath(std::string_view host, std::string path) {
     if (!isThisMachine(host)) return std::nullopt;
-    return path;
+    return std::filesystem::path(std::move(path));
 }
 #endif
 
