@@ -189,6 +189,19 @@ class WaylandTest(whole_program.WholeProgramTest):
         self.assertEqual(self.home.records("By mouse")[0], set(visible))
         self.leave(program)
 
+    def test_each_stroke_of_a_moment_is_a_step_of_the_walk(self):
+        program = self.start_in_the_corner()
+        walk = by_keyboard.ByKeyboard.walk(self)
+        steps = next(step for step, item in enumerate(walk)
+                     if step > 15 and item > by_keyboard.FIRST_MARK)
+        WaylandCard(program).click_text(walk[0])
+        desktop.xdotool("key", "--delay", 0, *["Tab"] * steps, "space")
+        program.press("Escape", "ctrl+s")
+        program.answer_name("Quick")
+        program.wait_for_title(r"\( Quick \)$")
+        self.assertEqual(self.home.records("Quick")[0], {walk[steps] - by_keyboard.FIRST_MARK})
+        self.leave(program)
+
     def test_a_pop_up_opens_at_the_pointer_and_texts_are_copied(self):
         program = self.start_in_the_corner()
         card = WaylandCard(program)

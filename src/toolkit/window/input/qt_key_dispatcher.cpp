@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QKeyEvent>
 #include <QtWidgets/QWidget>
 
@@ -25,6 +26,10 @@ bool belongsToMenuBar(const QKeyEvent& event) {
     return altOnly && event.key() < Qt::Key_Escape;
 }
 
+/// Under Wayland the program repeats a held key itself, and a busy desktop gives strokes that are
+/// apart the same time.
+bool marksRepetitions() { return QGuiApplication::platformName().startsWith(u"wayland"); }
+
 /// The place on the keyboard, as far as it is known: with Shift the same key has another name.
 quint32 placeOf(const QKeyEvent& event) {
     return event.nativeScanCode() != 0 ? event.nativeScanCode() : static_cast<quint32>(event.key());
@@ -35,8 +40,8 @@ quint32 placeOf(const QKeyEvent& event) {
 bool HeldKeys::press(const QKeyEvent& event) {
     const quint32 key = placeOf(event);
     const Release before = std::exchange(last_, {});
-    const bool atItsRelease =
-        before.time != 0 && before.key == key && before.time == event.timestamp();
+    const bool atItsRelease = !marksRepetitions() && before.time != 0 && before.key == key &&
+                              before.time == event.timestamp();
     if (event.isAutoRepeat() || atItsRelease) return true;
     down_.insert(key);
     return false;

@@ -15,8 +15,8 @@ class QWidget;
 
 namespace toolkit {
 
-/// Tells the repetitions of a key that is held down. The platform's own flag misses some of them on
-/// a busy machine: there a release comes, and the next press with the same time.
+/// Tells the repetitions of a key that is held down. On X11 the platform's own flag misses some of
+/// them on a busy machine: there a release comes, and the next press with the same time.
 class HeldKeys {
   public:
     /// Whether the press is a repetition.
