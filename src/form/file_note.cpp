@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "form/panel_look.h"
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "toolkit/base/path_text.h"
@@ -35,8 +34,7 @@ void showFileNote(Zevlin& form) {
     if (form.WrittenFiles.empty()) return;
     form.FileNote.Text = textOfNote(form);
     form.FileNote.ToolTip = toolkit::displayText(form.WrittenFiles.back());
-    form.FileNote.Font = panelFont(form);
-    form.FileNote.Font.Size = points;
+    form.FileNote.Font = {.Name = form.TextFontName, .Size = points};
     form.FileNote.Visible = true;
     form.FileNoteAlarm.cancel();
     form.FileNoteAlarm.set(secondsShown * milliseconds, [&form] { hideFileNote(form); });
