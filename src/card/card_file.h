@@ -59,6 +59,8 @@ class CardReader {
     [[nodiscard]] int readCount();
     [[nodiscard]] MarkRecord readMark();
     [[nodiscard]] TextRecord readText();
+    /// Whether nothing but comments follows.
+    [[nodiscard]] bool isAtEnd() { return skip_(input_); }
 
   private:
     [[nodiscard]] bool hasSwitches() const;

@@ -34,13 +34,6 @@ void open(const QUrl& address) {
     QDesktopServices::openUrl(address);
 }
 
-std::filesystem::path documentsFolder() {
-    const ProgramOverrides& overrides = programOverrides();
-    if (overrides.noDocuments) return {};
-    if (!overrides.documentsFolder.empty()) return overrides.documentsFolder;
-    return nativePath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
-}
-
 } // namespace
 
 std::filesystem::path programFolder() {
@@ -50,6 +43,13 @@ std::filesystem::path programFolder() {
     std::error_code failure;
     if (std::filesystem::is_directory(beside, failure)) return beside;
     return program.parent_path() / "share" / "zevlin";
+}
+
+std::filesystem::path documentsFolder() {
+    const ProgramOverrides& overrides = programOverrides();
+    if (overrides.noDocuments) return {};
+    if (!overrides.documentsFolder.empty()) return overrides.documentsFolder;
+    return nativePath(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
 }
 
 std::filesystem::path specialFolder(int identifier) {

@@ -13,6 +13,9 @@ namespace toolkit {
 /// where the system has none.
 [[nodiscard]] std::filesystem::path specialFolder(int identifier);
 
+/// The Documents folder, made or not; empty where the system has none.
+[[nodiscard]] std::filesystem::path documentsFolder();
+
 /// The folder for what the program keeps from one run to the next beside the player's files:
 /// $XDG_STATE_HOME/zevlin, or .local/state/zevlin in the home folder; Zevlin in the local
 /// application data on Windows. It need not exist.

@@ -1,0 +1,20 @@
+#include "toolkit/base/console.h"
+
+#ifndef _WIN32
+
+#include <algorithm>
+
+namespace toolkit {
+
+std::vector<std::string> commandArguments(int argumentCount, const char* const* arguments) {
+    // A process may be started without even its name.
+    return {arguments + std::min(1, argumentCount), arguments + argumentCount};
+}
+
+void showUtf8OnConsole() {
+    // Terminals are in UTF-8.
+}
+
+} // namespace toolkit
+
+#endif
