@@ -156,6 +156,6 @@ class Reading {
 
 } // namespace
 
-CardReading readForgivingly(std::string content) { return Reading(content).run(); }
+CardReading readForgivingly(const std::string& content) { return Reading(content).run(); }
 
 } // namespace zev

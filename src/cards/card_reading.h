@@ -21,6 +21,6 @@ struct CardReading {
 };
 
 /// Fields as the program takes them: a field told twice is what was told last, and field 0 is none.
-[[nodiscard]] CardReading readForgivingly(std::string content);
+[[nodiscard]] CardReading readForgivingly(const std::string& content);
 
 } // namespace zev

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <iterator>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 #include "layout/field_names.h"
@@ -61,8 +62,9 @@ std::vector<std::string> sectionsOf(const std::vector<CardField>& fields) {
 
 void sortBySection(std::vector<CardField>& fields) {
     const std::vector<std::string> sections = sectionsOf(fields);
-    std::ranges::stable_sort(fields, {}, [&](const CardField& field) {
-        return std::ranges::find(sections, sectionOf(field)) - sections.begin();
+    std::ranges::sort(fields, {}, [&](const CardField& field) {
+        const auto section = std::ranges::find(sections, sectionOf(field)) - sections.begin();
+        return std::tuple(section, field.kind, field.number);
     });
 }
 
@@ -74,6 +76,7 @@ bool readsTheSame(const CardField& left, const CardField& right) {
 
 std::vector<CardField> fieldsOf(const CardDocument& card) {
     std::vector<CardField> fields;
+    fields.reserve(card.marks.size() + card.texts.size());
     int number = 0;
     for (const bool isSet : card.marks) fields.push_back(fieldOf(++number, isSet));
     number = 0;
