@@ -1,16 +1,18 @@
-# What is installed, and where: the program in bin, its data in share/zevlin, and what a Linux desktop
+# What is installed, and where: the programs in bin, its data in share/zevlin, and what a Linux desktop
 # wants to know about it.
 include(GNUInstallDirs)
 
 set(packaging ${CMAKE_SOURCE_DIR}/packaging/debian)
 set(share ${CMAKE_INSTALL_DATADIR})
 
-install(TARGETS zevlin RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS zevlin zevlin_cards RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY ${CMAKE_BINARY_DIR}/stage/zevlin-files/ DESTINATION ${share}/zevlin)
 # An installed data folder serves all players of the machine: with this file in it a first run takes
 # copies, even where it could move the files.
 install(FILES ${packaging}/zevlin.frm DESTINATION ${share}/zevlin)
 
+install(FILES ${packaging}/zevlin-cards.bash RENAME zevlin-cards
+        DESTINATION ${share}/bash-completion/completions)
 install(FILES ${packaging}/zevlin.desktop DESTINATION ${share}/applications)
 install(FILES ${packaging}/example.zevlin.zevlin.metainfo.xml DESTINATION ${share}/metainfo)
 install(FILES ${packaging}/zevlin.mime.xml RENAME zevlin.xml DESTINATION ${share}/mime/packages)
@@ -38,6 +40,7 @@ function(install_compressed file folder name)
   install(FILES ${compressed} DESTINATION ${folder})
 endfunction()
 install_compressed(${packaging}/zevlin.1 ${CMAKE_INSTALL_MANDIR}/man1 zevlin.1)
+install_compressed(${packaging}/zevlin-cards.1 ${CMAKE_INSTALL_MANDIR}/man1 zevlin-cards.1)
 install_compressed(${packaging}/changelog ${CMAKE_INSTALL_DOCDIR} changelog)
 install_compressed(${CMAKE_SOURCE_DIR}/CHANGELOG.md ${CMAKE_INSTALL_DOCDIR} NEWS)
 install(FILES ${packaging}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})

@@ -4,13 +4,24 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
 import unittest
 
 STAGE = pathlib.Path(os.environ["ZEVLIN_BUILD"]) / "stage"
+PACKAGING = pathlib.Path(__file__).resolve().parents[2] / "packaging" / "debian"
 SAMPLES = STAGE / "zevlin-files"
+
+
+def completions(*words, folder=None):
+    """What bash offers for the last word."""
+    script = ('. "$1"; shift; COMP_WORDS=(zevlin-cards "$@"); COMP_CWORD=$#; _zevlin_cards; '
+              'printf "%s\\n" "${COMPREPLY[@]}"')
+    told = subprocess.run(["bash", "-c", script, "bash", PACKAGING / "zevlin-cards.bash", *words],
+                          cwd=folder, capture_output=True, text=True, check=True, timeout=20)
+    return set(told.stdout.split())
 
 
 def contents(folder):
@@ -103,6 +114,26 @@ class CardsCommand(unittest.TestCase):
             self.assertIn("Usage: zevlin-cards", told.stdout)
         self.assertRegex(self.run_cards("--version").stdout, r"^zevlin-cards \d+\.\d+\.\d+\n$")
         self.assertEqual(self.run_cards("unheard-of").returncode, 2)
+
+    def test_man_page_and_completion_know_each_command_and_option(self):
+        page = (PACKAGING / "zevlin-cards.1").read_text(encoding="utf-8").replace("\\-", "-")
+        commands = re.findall(r"^  ([a-z]+) ", self.run_cards("--help").stdout, re.MULTILINE)
+        self.assertIn("check", commands)
+        self.assertLessEqual(set(commands), completions(""))
+        for command in commands:
+            told = self.run_cards(command, "--help").stdout
+            options = set(re.findall(r"(--[a-z-]+)", told))
+            self.assertEqual(completions(command, "--"), options)
+            self.assertIn(f".B {command}\n", page)
+            for option in options:
+                self.assertIn(option, page)
+
+    def test_completion_offers_cards_and_folders(self):
+        (self.home / "notes.txt").touch()
+        (self.home / "a.ZEV").touch()
+        self.assertEqual(completions("check", "", folder=self.home), {"a.ZEV", "Documents"})
+        self.assertEqual(completions("check", "--files-from", "", folder=self.home), set())
+        self.assertEqual(completions("te"), {"text"})
 
 
 if __name__ == "__main__":
