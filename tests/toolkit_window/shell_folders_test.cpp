@@ -29,6 +29,17 @@ TEST_F(ShellFolders, DocumentsFolderIsMadeWhenAbsent) {
     EXPECT_TRUE(specialFolder(5).empty());
 }
 
+TEST_F(ShellFolders, AskingForTheDocumentsFolderMakesNone) {
+    const std::filesystem::path folder =
+        std::filesystem::temp_directory_path() / "zevlin-window-test" / "Documents";
+    std::filesystem::remove_all(folder.parent_path());
+    overrideProgram({.documentsFolder = folder});
+    EXPECT_EQ(documentsFolder(), folder);
+    EXPECT_FALSE(std::filesystem::exists(folder));
+    overrideProgram({.noDocuments = true});
+    EXPECT_TRUE(documentsFolder().empty());
+}
+
 #ifndef _WIN32
 TEST_F(ShellFolders, TheStateFolderIsThatOfTheDesktop) {
     const auto folderWith = [](const char* state) {
