@@ -1,6 +1,7 @@
 // The walk without a mouse: where it begins, and how it goes on after what has interrupted it.
 #include "events/tab_walk.h"
 #include "text/edit_test.h"
+#include "toolkit/base/ansi.h"
 #include "toolkit/base/twips.h"
 #include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_mouse.h"
@@ -195,7 +196,8 @@ TEST_F(KeyboardWalk, AfterEscapeATextThatWasClickedBesideAMarkIsTheLastField) {
 
 TEST_F(KeyboardWalk, AfterEachStyleKeyTabGoesOnFromTheText) {
     startSmall();
-    for (const int style : {'B', 'I', 'L', 'G'}) {
+    for (const char letter : {'B', 'I', 'L', 'G'}) {
+        const int style = toolkit::code(letter);
         clickText(1);
         typeKey(style, shift::ctrl);
         EXPECT_FALSE(isEditing()) << style;

@@ -56,7 +56,7 @@ TEST_F(PanelLabels, ACaptionThatIsTooWideLosesItsMiddleWhereItMay) {
         place(plain, 150, 5, 100, 15);
         plain.Caption = caption;
         Log columns;
-        for (int x = 230; x < 250; ++x) columns.push_back(hasInk(x, 5, 1, 15) ? "#" : ".");
+        for (int x = 230; x < 250; ++x) columns.emplace_back(hasInk(x, 5, 1, 15) ? "#" : ".");
         return columns;
     };
     const std::string begin(40, 'n');

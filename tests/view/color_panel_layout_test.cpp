@@ -61,7 +61,7 @@ TEST_F(ColorPanelLayout, StaysInTheMiddleOfAWindowThatChanges) {
         EXPECT_EQ(form.ColorText.Font.Size, form.TextFontSize[1]) << wider;
     }
     EXPECT_EQ(form.ColorPic.Width, width);
-    EXPECT_EQ(form.ActiveControl, &form.ColorScroll[0]);
+    EXPECT_EQ(form.ActiveControl, &form.ColorScroll.front());
 }
 
 TEST_F(ColorPanelLayout, IsWholeInASmallWindow) {

@@ -58,9 +58,9 @@ void ListRowPainter::paint(QPainter* painter, const QStyleOptionViewItem& option
     const QColor highlighted = option.palette.color(QPalette::HighlightedText);
     const Color color = selected ? rgb(highlighted.red(), highlighted.green(), highlighted.blue())
                                  : list_.ForeColor;
+    const int gapAbove = list_.RowGap / 2;
     const QPointF origin(option.rect.left() + indent(),
-                         option.rect.top() + list_.RowGap / 2 +
-                             pixelsFromTwips(textAscent(list_.Font)));
+                         option.rect.top() + gapAbove + pixelsFromTwips(textAscent(list_.Font)));
     drawRun(*painter, origin, list_.Font, 1.0 / twipsPerPixel(), color,
             shownRow(index.row(), option.rect.width()));
 }
