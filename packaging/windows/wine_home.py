@@ -31,8 +31,10 @@ class WineHome(desktop.Home):
         shutil.copytree(self.stage, self.program)
 
     def forget(self):
-        """Makes the next start the first one again."""
-        shutil.rmtree(self.data, ignore_errors=True)
+        """Makes the next start the first one again, with no changes left to offer."""
+        local = self.prefix / "drive_c" / "users" / self.user / "AppData" / "Local"
+        for folder in (self.data, local / "Zevlin"):
+            shutil.rmtree(folder, ignore_errors=True)
         self.install()
 
     def run(self, *command):
