@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
+
 namespace zev {
 namespace {
 
@@ -48,17 +50,14 @@ namespace fs = std::filesystem;
 class FileOnTheCommandLine : public testing::Test {
   protected:
     FileOnTheCommandLine() {
-        fs::create_directories(folder);
         for (const char* name : {"Jones.zev", "a b.zev", "plain", "100%41.ZEV"})
             std::ofstream(folder / name) << "content";
     }
-    ~FileOnTheCommandLine() override {
-        fs::current_path(before);
-        fs::remove_all(folder);
-    }
+    ~FileOnTheCommandLine() override { fs::current_path(before); }
 
     const fs::path before = fs::current_path();
-    const fs::path folder = fs::path(testing::TempDir()) / "zevlin command line";
+    const toolkit::test::TemporaryFolder made;
+    const fs::path folder = made.path();
 };
 
 TEST_F(FileOnTheCommandLine, IsNamedByItsPath) {
@@ -73,8 +72,8 @@ TEST_F(FileOnTheCommandLine, IsNamedByAPathFromTheFolderAtWork) {
     EXPECT_EQ(fileNamedBy("a b.zev"), fs::current_path() / "a b.zev");
     EXPECT_EQ(fileNamedBy("./plain"), fs::current_path() / "./plain");
     fs::current_path(folder.parent_path());
-    EXPECT_EQ(fileNamedBy("zevlin command line/Jones.zev"),
-              fs::current_path() / "zevlin command line/Jones.zev");
+    const fs::path relative = folder.filename() / "Jones.zev";
+    EXPECT_EQ(fileNamedBy(relative.string()), fs::current_path() / relative);
 }
 
 TEST_F(FileOnTheCommandLine, IsNamedByAnAddress) {

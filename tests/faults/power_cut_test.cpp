@@ -9,10 +9,10 @@
 
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
 #include "toolkit/base/copy_file.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/write_file.h"
-#include "toolkit/temporary_folder.h"
 
 namespace test_faults {
 namespace {

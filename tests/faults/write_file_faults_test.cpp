@@ -6,10 +6,10 @@
 
 #include "faults/faults.h"
 #include "faults/power_cut.h"
+#include "support/temporary_folder.h"
 #include "toolkit/base/copy_file.h"
 #include "toolkit/base/error.h"
 #include "toolkit/base/write_file.h"
-#include "toolkit/temporary_folder.h"
 
 namespace test_faults {
 namespace {

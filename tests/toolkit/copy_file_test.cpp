@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
-#include "toolkit/temporary_folder.h"
 
 namespace toolkit {
 namespace {

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "toolkit/temporary_folder.h"
+#include "support/temporary_folder.h"
 
 #ifndef _WIN32
 #include <csignal>

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
 #include "toolkit/base/folder.h"
 #include "toolkit/base/write_file.h"
-#include "toolkit/temporary_folder.h"
 
 namespace toolkit {
 namespace {

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
 #include "toolkit/picture/bitmap.h"
 #include "toolkit/picture/bitmap_file.h"
 #include "toolkit/picture/color_table.h"
-#include "toolkit/temporary_folder.h"
 
 namespace toolkit::test {
 namespace {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
+#include "support/temporary_folder.h"
 #include "toolkit/base/files.h"
 #include "toolkit/failure_of.h"
 #include "toolkit/picture/bitmap_file.h"
 #include "toolkit/picture/image_codecs.h"
-#include "toolkit/temporary_folder.h"
 
 namespace toolkit::test {
 namespace {

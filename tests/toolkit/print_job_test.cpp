@@ -7,11 +7,11 @@
 #include <gtest/gtest.h>
 
 #include "support/pdf_content.h"
+#include "support/temporary_folder.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/failure_of.h"
 #include "toolkit/print/printers.h"
-#include "toolkit/temporary_folder.h"
 #include "toolkit/window/dialog.h"
 #include "toolkit/window/dialog_answers.h"
 

@@ -4,6 +4,7 @@
 #include <fstream>
 
 #include "fixture.h"
+#include "support/temporary_folder.h"
 #include "toolkit/testing/test_mouse.h"
 #include "toolkit/testing/test_window.h"
 #include "toolkit/window/program.h"
@@ -18,19 +19,16 @@ namespace fs = std::filesystem;
 class FileDrop : public WindowTest {
   protected:
     FileDrop() {
-        folder = fs::path(testing::TempDir()) / "zevlin file drop";
-        fs::create_directories(folder);
         form.TakesFile = [this] { return takes; };
         form.FileDropped = [this](const fs::path& file) { note(file.filename().string()); };
     }
-    ~FileDrop() override { fs::remove_all(folder); }
 
     [[nodiscard]] fs::path makeFile(const std::string& name) const {
         std::ofstream(folder / name) << "content";
         return folder / name;
     }
 
-    fs::path folder;
+    const test::TemporaryFolder folder;
     bool takes = true;
 };
 
@@ -44,7 +42,7 @@ TEST_F(FileDrop, IsTakenAsACopyAndHandedOver) {
 }
 
 TEST_F(FileDrop, OfSeveralFilesHandsOverTheFirst) {
-    EXPECT_TRUE(test::drop({.files = {folder, makeFile("a.zev"), makeFile("b.zev")},
+    EXPECT_TRUE(test::drop({.files = {folder.path(), makeFile("a.zev"), makeFile("b.zev")},
                             .addresses = {"http://a.example/c.zev"}}));
     EXPECT_EQ(log, (Log{"a.zev"}));
 }
@@ -52,7 +50,7 @@ TEST_F(FileDrop, OfSeveralFilesHandsOverTheFirst) {
 TEST_F(FileDrop, RefusesWhatIsNoFileOfThisMachine) {
     EXPECT_EQ(test::dragOver({.text = "two clubs"}), DragAnswer::Refused);
     EXPECT_EQ(test::dragOver({.text = (makeFile("a.zev")).string()}), DragAnswer::Refused);
-    EXPECT_EQ(test::dragOver({.files = {folder}}), DragAnswer::Refused);
+    EXPECT_EQ(test::dragOver({.files = {folder.path()}}), DragAnswer::Refused);
     EXPECT_EQ(test::dragOver({.files = {folder / "gone.zev"}}), DragAnswer::Refused);
     EXPECT_EQ(test::dragOver({.addresses = {"http://a.example/Jones.zev"}}), DragAnswer::Refused);
     EXPECT_FALSE(test::drop({.text = "two clubs"}));

@@ -5,6 +5,7 @@
 
 #include "fixture.h"
 #include "support/system.h"
+#include "support/temporary_folder.h"
 #include "toolkit/base/program_overrides.h"
 #include "toolkit/window/program.h"
 #include "toolkit/window/shell_folders.h"
@@ -17,22 +18,19 @@ using namespace toolkit;
 class ShellFolders : public WindowTest {};
 
 TEST_F(ShellFolders, DocumentsFolderIsMadeWhenAbsent) {
-    const std::filesystem::path folder =
-        std::filesystem::temp_directory_path() / "zevlin-window-test" / "Documents";
-    std::filesystem::remove_all(folder.parent_path());
+    const test::TemporaryFolder home;
+    const auto folder = home / "Documents";
     overrideProgram({.documentsFolder = folder});
     EXPECT_EQ(specialFolder(5), folder);
     EXPECT_TRUE(std::filesystem::is_directory(folder));
     EXPECT_TRUE(specialFolder(6).empty());
-    std::filesystem::remove_all(folder.parent_path());
     overrideProgram({.noDocuments = true});
     EXPECT_TRUE(specialFolder(5).empty());
 }
 
 TEST_F(ShellFolders, AskingForTheDocumentsFolderMakesNone) {
-    const std::filesystem::path folder =
-        std::filesystem::temp_directory_path() / "zevlin-window-test" / "Documents";
-    std::filesystem::remove_all(folder.parent_path());
+    const test::TemporaryFolder home;
+    const auto folder = home / "Documents";
     overrideProgram({.documentsFolder = folder});
     EXPECT_EQ(documentsFolder(), folder);
     EXPECT_FALSE(std::filesystem::exists(folder));

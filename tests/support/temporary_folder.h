@@ -7,17 +7,18 @@
 
 #include <gtest/gtest.h>
 
+#include "support/system.h"
+
 namespace toolkit::test {
 
-/// Made empty, and removed with everything in it. Each test has its own.
+/// Made empty, and removed with everything in it. No two share one, even where the same tests run
+/// side by side.
 class TemporaryFolder {
   public:
     TemporaryFolder() {
         const auto* test = testing::UnitTest::GetInstance()->current_test_info();
-        path_ = std::filesystem::path(testing::TempDir()) /
-                (std::string("zevlin.") + test->test_suite_name() + "." + test->name());
-        std::filesystem::remove_all(path_);
-        std::filesystem::create_directories(path_);
+        path_ = test_system::newFolder(std::string("zevlin.") + test->test_suite_name() + "." +
+                                       test->name() + ".");
     }
     ~TemporaryFolder() { std::filesystem::remove_all(path_); }
     TemporaryFolder(const TemporaryFolder&) = delete;
