@@ -33,7 +33,7 @@ void halveRows(const Pixel* upper, const Pixel* lower, int width, Pixel* output)
 } // namespace
 
 toolkit::Bitmap halved(const toolkit::Bitmap& picture) {
-    toolkit::Bitmap half((picture.width() + 1) / 2, (picture.height() + 1) / 2);
+    auto half = toolkit::Bitmap::unwritten((picture.width() + 1) / 2, (picture.height() + 1) / 2);
     for (int y = 0; y < half.height(); ++y) {
         const int lower = std::min(2 * y + 1, picture.height() - 1);
         halveRows(picture.row(2 * y), picture.row(lower), picture.width(), half.row(y));

@@ -18,6 +18,8 @@ namespace {
 
 using Pixel = std::uint32_t;
 
+constexpr Pixel whitePixel = toolkit::pixelOf(toolkit::white);
+
 // A pixel's channels or their weighted sum, side by side so that one instruction takes all four.
 // Single precision holds them to a ten-thousandth of a shade.
 using Channels [[gnu::vector_size(16)]] = float;
@@ -179,19 +181,23 @@ toolkit::Bitmap scaledBy(Split split, const Source<Element>& source, const Scale
 template <typename Element, typename PixelOf>
 toolkit::Bitmap copied(PixelOf pixelOf, const Source<Element>& source,
                        const ScaleRequest& request) {
-    toolkit::Bitmap result(request.width, request.height);
+    auto result = toolkit::Bitmap::unwritten(request.width, request.height);
     const int columns = std::min(source.width, request.width);
-    const auto copyRows = [&](int from, int past) {
+    const int rows = std::min({source.height, request.height, request.contentHeight});
+    const auto fillRows = [&](int from, int past) {
         for (int y = from; y < past; ++y) {
-            const Element* row = source.elements + std::ptrdiff_t{y} * source.width;
-            std::transform(row, row + columns, result.row(y), pixelOf);
+            Pixel* output = result.row(y);
+            Pixel* const end = output + request.width;
+            if (y < rows) {
+                const Element* row = source.elements + std::ptrdiff_t{y} * source.width;
+                output = std::transform(row, row + columns, output, pixelOf);
+            }
+            std::fill(output, end, whitePixel);
         }
     };
-    inHalves(std::min({source.height, request.height, request.contentHeight}), copyRows);
+    inHalves(request.height, fillRows);
     return result;
 }
-
-constexpr Pixel whitePixel = toolkit::pixelOf(toolkit::white);
 
 } // namespace
 

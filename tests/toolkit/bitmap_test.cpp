@@ -25,6 +25,17 @@ TEST(Bitmap, BeginsFilled) {
 TEST(Bitmap, ANegativeSizeIsAnEmptyPicture) {
     EXPECT_TRUE(Bitmap(-1, 5).empty());
     EXPECT_TRUE(Bitmap(5, -1).empty());
+    EXPECT_TRUE(Bitmap::unwritten(5, -1).empty());
+    EXPECT_TRUE(Bitmap::unwritten(-1, 5).empty());
+}
+
+TEST(Bitmap, AnUnwrittenOneHoldsWhatIsWritten) {
+    auto bitmap = Bitmap::unwritten(3, 2);
+    EXPECT_EQ(bitmap.width(), 3);
+    EXPECT_EQ(bitmap.height(), 2);
+    bitmap.fill(0, 0, 3, 2, red);
+    EXPECT_EQ(count(bitmap, red), 6);
+    EXPECT_EQ(count(Bitmap(bitmap), red), 6);
 }
 
 TEST(Bitmap, PixelsAreStoredOpaqueWithRedOnTop) {

@@ -120,6 +120,17 @@ TEST(Scaled, IsWhiteBeyondTheContent) {
             ASSERT_EQ(result.pixel(x, y), x < 20 && y < 20 ? toolkit::black : toolkit::white);
 }
 
+/// At full size nothing is averaged: each pixel is copied, and beside them lies what memory held.
+TEST(Scaled, IsWhiteBesideAndBelowWhatIsCopied) {
+    const Bitmap black(31, 17, toolkit::black);
+    const Bitmap result =
+        scaled(black, {.factor = 1, .width = 40, .height = 30, .contentHeight = 12});
+    for (int y = 0; y < 30; ++y)
+        for (int x = 0; x < 40; ++x)
+            EXPECT_EQ(result.pixel(x, y), x < 31 && y < 12 ? toolkit::black : toolkit::white)
+                << x << ", " << y;
+}
+
 TEST(Scaled, IsWhiteFromTheContentsEndOn) {
     const Bitmap source(40, 40, toolkit::black);
     for (const float factor : {0.5F, 1.0F}) {

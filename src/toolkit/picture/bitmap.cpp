@@ -9,6 +9,15 @@ Bitmap::Bitmap(int width, int height, Color fill)
       pixels_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), pixelOf(fill)) {
 }
 
+Bitmap Bitmap::unwritten(int width, int height) {
+    Bitmap bitmap;
+    bitmap.width_ = std::max(width, 0);
+    bitmap.height_ = std::max(height, 0);
+    bitmap.pixels_.resize(static_cast<std::size_t>(bitmap.width_) *
+                          static_cast<std::size_t>(bitmap.height_));
+    return bitmap;
+}
+
 std::optional<Color> Bitmap::pixel(int x, int y) const {
     if (x < 0 || y < 0 || x >= width_ || y >= height_) return std::nullopt;
     return colorOf(row(y)[x]);

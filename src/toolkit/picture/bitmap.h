@@ -1,7 +1,10 @@
 // A picture of opaque 32-bit pixels in memory.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <new>
 #include <optional>
 #include <vector>
 
@@ -9,11 +12,27 @@
 
 namespace toolkit {
 
+/// Memory for pixels that needn't hold anything until they are written.
+template <typename Pixel>
+struct UnwrittenPixels : std::allocator<Pixel> {
+    using std::allocator<Pixel>::allocator;
+    template <typename Other>
+    struct rebind {
+        using other = UnwrittenPixels<Other>;
+    };
+    void construct(Pixel* pixel) { ::new (static_cast<void*>(pixel)) Pixel; }
+    void construct(Pixel* pixel, Pixel value) { ::new (static_cast<void*>(pixel)) Pixel(value); }
+};
+
 /// Pixels are stored as 0xFFRRGGBB, row by row without padding.
 class Bitmap {
   public:
     Bitmap() = default;
     Bitmap(int width, int height, Color fill = white);
+
+    /// Its pixels may be anything until each is written. To fill the card's largest picture first
+    /// made an export longer by a tenth.
+    [[nodiscard]] static Bitmap unwritten(int width, int height);
 
     [[nodiscard]] int width() const { return width_; }
     [[nodiscard]] int height() const { return height_; }
@@ -36,7 +55,7 @@ class Bitmap {
 
     int width_ = 0;
     int height_ = 0;
-    std::vector<std::uint32_t> pixels_;
+    std::vector<std::uint32_t, UnwrittenPixels<std::uint32_t>> pixels_;
 };
 
 constexpr std::uint32_t pixelOf(Color color) {
