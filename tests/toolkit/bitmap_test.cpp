@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include <gtest/gtest.h>
 
@@ -35,7 +36,27 @@ TEST(Bitmap, AnUnwrittenOneHoldsWhatIsWritten) {
     EXPECT_EQ(bitmap.height(), 2);
     bitmap.fill(0, 0, 3, 2, red);
     EXPECT_EQ(count(bitmap, red), 6);
-    EXPECT_EQ(count(Bitmap(bitmap), red), 6);
+}
+
+TEST(Bitmap, ACopyIsItsOwn) {
+    const Bitmap first(3, 2, red);
+    Bitmap copy = first;
+    copy.setPixel(0, 0, white);
+    EXPECT_EQ(count(first, red), 6);
+    EXPECT_EQ(count(copy, red), 5);
+    copy = first;
+    EXPECT_EQ(count(copy, red), 6);
+    copy = Bitmap();
+    EXPECT_TRUE(copy.empty());
+    EXPECT_TRUE(Bitmap(copy).empty());
+}
+
+TEST(Bitmap, IsMovedWithItsPixels) {
+    Bitmap first(3, 2, red);
+    const std::uint32_t* pixels = first.row(0);
+    const Bitmap second = std::move(first);
+    EXPECT_EQ(second.row(0), pixels);
+    EXPECT_EQ(count(second, red), 6);
 }
 
 TEST(Bitmap, PixelsAreStoredOpaqueWithRedOnTop) {

@@ -1,20 +1,35 @@
 #include "toolkit/picture/bitmap.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace toolkit {
 
-Bitmap::Bitmap(int width, int height, Color fill)
-    : width_(std::max(width, 0)), height_(std::max(height, 0)),
-      pixels_(static_cast<std::size_t>(width_) * static_cast<std::size_t>(height_), pixelOf(fill)) {
+Bitmap::Bitmap(int width, int height, Color fill) : Bitmap(unwritten(width, height)) {
+    std::fill_n(pixels_.get(), size(), pixelOf(fill));
+}
+
+Bitmap::Bitmap(const Bitmap& other) : Bitmap(unwritten(other.width_, other.height_)) {
+    std::copy_n(other.pixels_.get(), size(), pixels_.get());
+}
+
+Bitmap::Bitmap(Bitmap&& other) noexcept
+    : width_(std::exchange(other.width_, 0)), height_(std::exchange(other.height_, 0)),
+      pixels_(std::move(other.pixels_)) {}
+
+Bitmap& Bitmap::operator=(Bitmap other) noexcept {
+    width_ = std::exchange(other.width_, 0);
+    height_ = std::exchange(other.height_, 0);
+    pixels_ = std::move(other.pixels_);
+    return *this;
 }
 
 Bitmap Bitmap::unwritten(int width, int height) {
     Bitmap bitmap;
     bitmap.width_ = std::max(width, 0);
     bitmap.height_ = std::max(height, 0);
-    bitmap.pixels_.resize(static_cast<std::size_t>(bitmap.width_) *
-                          static_cast<std::size_t>(bitmap.height_));
+    if (bitmap.size() != 0)
+        bitmap.pixels_ = std::make_unique_for_overwrite<std::uint32_t[]>(bitmap.size());
     return bitmap;
 }
 

@@ -4,31 +4,21 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
-#include <new>
 #include <optional>
-#include <vector>
 
 #include "toolkit/base/color.h"
 
 namespace toolkit {
-
-/// Memory for pixels that needn't hold anything until they are written.
-template <typename Pixel>
-struct UnwrittenPixels : std::allocator<Pixel> {
-    using std::allocator<Pixel>::allocator;
-    template <typename Other>
-    struct rebind {
-        using other = UnwrittenPixels<Other>;
-    };
-    void construct(Pixel* pixel) { ::new (static_cast<void*>(pixel)) Pixel; }
-    void construct(Pixel* pixel, Pixel value) { ::new (static_cast<void*>(pixel)) Pixel(value); }
-};
 
 /// Pixels are stored as 0xFFRRGGBB, row by row without padding.
 class Bitmap {
   public:
     Bitmap() = default;
     Bitmap(int width, int height, Color fill = white);
+    Bitmap(const Bitmap& other);
+    Bitmap(Bitmap&& other) noexcept;
+    Bitmap& operator=(Bitmap other) noexcept;
+    ~Bitmap() = default;
 
     /// Its pixels may be anything until each is written. To fill the card's largest picture first
     /// made an export longer by a tenth.
@@ -36,7 +26,7 @@ class Bitmap {
 
     [[nodiscard]] int width() const { return width_; }
     [[nodiscard]] int height() const { return height_; }
-    [[nodiscard]] bool empty() const { return pixels_.empty(); }
+    [[nodiscard]] bool empty() const { return pixels_ == nullptr; }
 
     /// The colour at a pixel, none outside the picture.
     [[nodiscard]] std::optional<Color> pixel(int x, int y) const;
@@ -45,17 +35,19 @@ class Bitmap {
     /// Fills the part of the rectangle that lies in the picture.
     void fill(int left, int top, int width, int height, Color color);
 
-    [[nodiscard]] std::uint32_t* row(int y) { return pixels_.data() + offset(y); }
-    [[nodiscard]] const std::uint32_t* row(int y) const { return pixels_.data() + offset(y); }
+    [[nodiscard]] std::uint32_t* row(int y) { return pixels_.get() + offset(y); }
+    [[nodiscard]] const std::uint32_t* row(int y) const { return pixels_.get() + offset(y); }
 
   private:
     [[nodiscard]] std::size_t offset(int y) const {
         return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_);
     }
 
+    [[nodiscard]] std::size_t size() const { return offset(height_); }
+
     int width_ = 0;
     int height_ = 0;
-    std::vector<std::uint32_t, UnwrittenPixels<std::uint32_t>> pixels_;
+    std::unique_ptr<std::uint32_t[]> pixels_;
 };
 
 constexpr std::uint32_t pixelOf(Color color) {
