@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <fstream>
-#include <iterator>
 #include <memory>
+#include <sstream>
+#include <utility>
 #include <vector>
 
 namespace test_faults {
@@ -149,7 +150,9 @@ Files filesIn(const fs::path& folder) {
     for (const auto& entry : fs::recursive_directory_iterator(folder)) {
         if (!entry.is_regular_file()) continue;
         std::ifstream stream(entry.path(), std::ios::binary);
-        files[entry.path().string()] = {std::istreambuf_iterator<char>(stream), {}};
+        std::ostringstream content;
+        content << stream.rdbuf();
+        files[entry.path().string()] = std::move(content).str();
     }
     return files;
 }

@@ -13,6 +13,7 @@
 #include <QtWidgets/QApplication>
 
 #include "toolkit/base/qt_text.h"
+#include "toolkit/picture/qt_picture.h"
 #include "toolkit/testing/qt_test_window.h"
 #include "toolkit/window/input/qt_event_dispatcher.h"
 
@@ -37,11 +38,12 @@ Bitmap onGrey(const QPixmap& picture) {
 
 Bitmap grab(QWidget& widget, double pixelRatio = 1) {
     updateWindow();
-    QImage image((QSizeF(widget.size()) * pixelRatio).toSize(), QImage::Format_RGB32);
+    const QSize size = (QSizeF(widget.size()) * pixelRatio).toSize();
+    Bitmap bitmap(size.width(), size.height());
+    QImage image = imageOver(bitmap);
     image.setDevicePixelRatio(pixelRatio);
-    image.fill(Qt::white);
     widget.render(&image);
-    return bitmapOf(image);
+    return bitmap;
 }
 
 /// Sees each paint before the widget does.
