@@ -61,8 +61,8 @@ TEST_F(Dialog, InputBoxGivesWhatWasTypedAsATextAreaDoes) {
 TEST_F(Dialog, InputBoxHasRoomForAName) {
     test::fillNextInputBox("x", seen);
     EXPECT_EQ(ask({.prompt = "?", .title = "T"}), "x");
-    EXPECT_GE(seen.width, 400);
-    EXPECT_LE(seen.width, 460);
+    EXPECT_GE(seen.area.width, 400);
+    EXPECT_LE(seen.area.width, 460);
 }
 
 TEST_F(Dialog, TestAnswersInThePlayersPlace) {

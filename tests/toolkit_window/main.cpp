@@ -11,12 +11,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Two screens, the second to the right of the first and lower.
+/// Two screens, the second to the right of the first and lower, and below them two finer ones.
 constexpr const char* screens = R"({"screens": [
   {"name": "first", "x": 0, "y": 0, "width": 800, "height": 800,
    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
   {"name": "second", "x": 800, "y": 100, "width": 1000, "height": 700,
-   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+   "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1},
+  {"name": "twice as fine", "x": 0, "y": 1000, "width": 2000, "height": 1400,
+   "logicalDpi": 192, "logicalBaseDpi": 96, "dpr": 1},
+  {"name": "finer", "x": 2000, "y": 1000, "width": 1250, "height": 875,
+   "logicalDpi": 120, "logicalBaseDpi": 96, "dpr": 1}]})";
 
 /// The platform reads the description of its screens from this file.
 fs::path describedScreens() {

@@ -32,13 +32,13 @@ TEST_F(PopupMenu, OpensAtThePointerOnWhicheverScreenTheFormLies) {
     for (const bool isOnSecondScreen : {false, true}) {
         if (isOnSecondScreen) test::shiftWindow(850, 90);
         test::moveMouse(px(30), px(40));
-        test::PopupPlace place;
+        test::ScreenArea place;
         test::chooseInNextPopup(0, place);
         popupMenu(rows);
         const int originX = isOnSecondScreen ? 800 : 0;
         const int originY = isOnSecondScreen ? 100 : 0;
-        EXPECT_EQ(place.x, originX + cursorPosition().x);
-        EXPECT_EQ(place.y, originY + cursorPosition().y);
+        EXPECT_EQ(place.left, originX + cursorPosition().x);
+        EXPECT_EQ(place.top, originY + cursorPosition().y);
     }
 }
 
@@ -66,11 +66,11 @@ TEST_F(PopupMenu, OfAListOpensBelowItsCurrentRowWhereverThePointerIs) {
     list.Move(px(100), px(100), px(200), px(100));
     list.List = std::vector<std::string>(20, "row");
     list.Visible = true;
-    std::vector<test::PopupPlace> places;
+    std::vector<test::ScreenArea> places;
     for (const int row : {0, 1, 15}) {
         test::moveMouse(px(500), px(30));
         list.ListIndex = row;
-        test::PopupPlace place;
+        test::ScreenArea place;
         test::chooseInNextPopup(0, place);
         popupMenu(rows, "Row", list);
         places.push_back(place);
@@ -79,15 +79,15 @@ TEST_F(PopupMenu, OfAListOpensBelowItsCurrentRowWhereverThePointerIs) {
     // In pixels of the form's inside.
     const int left = toolkit::pixelsFromTwips(form.Left + form.FrameWidth) + 100;
     const int top = toolkit::pixelsFromTwips(form.Top + form.FrameHeight) + 100;
-    const int height = places[1].y - places[0].y;
+    const int height = places[1].top - places[0].top;
     EXPECT_GT(height, 8);
-    EXPECT_NEAR(places[0].y, top + height, 3);
+    EXPECT_NEAR(places[0].top, top + height, 3);
     // Rows out of sight are scrolled in.
-    EXPECT_GT(places[2].y, top + height);
-    EXPECT_LE(places[2].y, top + 102);
+    EXPECT_GT(places[2].top, top + height);
+    EXPECT_LE(places[2].top, top + 102);
     for (const auto& place : places) {
-        EXPECT_GT(place.x, left);
-        EXPECT_LT(place.x, left + 50);
+        EXPECT_GT(place.left, left);
+        EXPECT_LT(place.left, left + 50);
     }
 }
 

@@ -64,10 +64,12 @@ AccessiblePart described(QAccessibleInterface& part) {
     description.isDefault = state.defaultButton;
     description.isSelected = state.selected;
     description.isShown = !state.invisible;
-    const QPoint corner = window().card().mapFromGlobal(part.rect().topLeft());
+    const QRect place = part.rect();
+    const QPoint corner = window().card().mapFromGlobal(place.topLeft());
     description.corner = {twipsFromPixels(corner.x()), twipsFromPixels(corner.y())};
-    description.width = twipsFromPixels(part.rect().width());
-    description.height = twipsFromPixels(part.rect().height());
+    description.width = twipsFromPixels(place.width());
+    description.height = twipsFromPixels(place.height());
+    description.area = {place.x(), place.y(), place.width(), place.height()};
     if (auto* actions = part.actionInterface())
         for (const QString& name : actions->actionNames())
             description.actions.push_back(name.toStdString());

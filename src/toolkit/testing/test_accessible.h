@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "toolkit/testing/screen_area.h"
 #include "toolkit/testing/test_mouse.h"
 
 namespace toolkit::test {
@@ -24,6 +25,7 @@ struct AccessiblePart {
     PointOnCard corner{}; ///< top left
     float width = 0;      ///< twips
     float height = 0;
+    ScreenArea area{};
     std::vector<std::string> actions{};
 };
 

@@ -23,6 +23,11 @@ void onceThere(std::function<bool()> act) {
     });
 }
 
+ScreenArea areaOf(const QWidget& shown) {
+    const QRect area = shown.geometry();
+    return {area.x(), area.y(), area.width(), area.height()};
+}
+
 QMessageBox::StandardButton qButton(Answer answer) {
     switch (answer) {
     case Answer::Ok:
@@ -46,7 +51,7 @@ void endNextBox(std::optional<Answer> answer, ShownBox& seen) {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         if (box == nullptr) return false;
         seen = {ansiText(box->windowTitle()), ansiText(box->text()),
-                box->textFormat() == Qt::PlainText, box->width()};
+                box->textFormat() == Qt::PlainText, areaOf(*box)};
         if (answer)
             box->button(qButton(*answer))->click();
         else
@@ -61,7 +66,7 @@ void fillNextInputBox(std::string_view utf8, ShownBox& seen) {
         auto* box = qobject_cast<QInputDialog*>(QApplication::activeModalWidget());
         if (box == nullptr) return false;
         seen = {ansiText(box->windowTitle()), ansiText(box->labelText()),
-                box->findChild<QLabel*>()->textFormat() == Qt::PlainText, box->width()};
+                box->findChild<QLabel*>()->textFormat() == Qt::PlainText, areaOf(*box)};
         box->setTextValue(text);
         box->accept();
         return true;
@@ -69,15 +74,15 @@ void fillNextInputBox(std::string_view utf8, ShownBox& seen) {
 }
 
 void chooseInNextPopup(int row) {
-    static PopupPlace unread;
+    static ScreenArea unread;
     chooseInNextPopup(row, unread);
 }
 
-void chooseInNextPopup(int row, PopupPlace& seen) {
+void chooseInNextPopup(int row, ScreenArea& seen) {
     onceThere([row, &seen] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
         if (menu == nullptr) return false;
-        seen = {menu->x(), menu->y()};
+        seen = areaOf(*menu);
         menu->setActiveAction(menu->actions().at(row));
         QKeyEvent event(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
         QCoreApplication::sendEvent(menu, &event);

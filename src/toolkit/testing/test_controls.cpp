@@ -81,6 +81,15 @@ std::string toolTipAt(const Control& control, PointOnCard point) {
     return QToolTip::text() == former ? std::string() : ansiText(QToolTip::text());
 }
 
+ScreenArea toolTipArea() {
+    for (const QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && widget->windowType() == Qt::ToolTip) {
+            const QRect area = widget->geometry();
+            return {area.x(), area.y(), area.width(), area.height()};
+        }
+    return {};
+}
+
 Bitmap grabControl(const Control& control) {
     const QWidget& widget = shownWidget(control);
     const QPoint corner = widget.mapTo(&window().form(), QPoint());

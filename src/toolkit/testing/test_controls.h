@@ -6,6 +6,7 @@
 #include "toolkit/model/control.h"
 #include "toolkit/model/panel.h"
 #include "toolkit/picture/bitmap.h"
+#include "toolkit/testing/screen_area.h"
 #include "toolkit/testing/test_mouse.h"
 
 namespace toolkit::test {
@@ -30,6 +31,8 @@ void turnWheelOver(const Control& control, int rotation);
 
 /// The tool tip that comes up when the pointer rests there, over the control; empty for none.
 [[nodiscard]] std::string toolTipAt(const Control& control, PointOnCard point);
+/// Where the tool tip lies that came up last.
+[[nodiscard]] ScreenArea toolTipArea();
 /// Whether the control looks as if it can't be used.
 [[nodiscard]] bool isGreyed(const Control& control);
 

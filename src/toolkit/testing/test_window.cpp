@@ -119,8 +119,11 @@ void resizeWindow(int wider, int higher) {
 void shiftWindow(int toTheRight, int down) {
     updateWindow();
     QWidget& form = window().form();
+    const QScreen* before = form.screen();
     form.move(form.pos() + QPoint(toTheRight, down));
     settle();
+    // The platform of the tests has nothing painted on a screen to which a window has come.
+    if (form.screen() != before) form.repaint();
 }
 
 void changeExtent(Extent extent) {
@@ -194,7 +197,9 @@ bool showsIBeam() {
     return window().card().cursor().shape() == Qt::IBeamCursor;
 }
 
-Bitmap shownIcon(int size) { return onGrey(window().form().windowIcon().pixmap(size)); }
+Bitmap shownIcon(int size) {
+    return onGrey(window().form().windowIcon().pixmap(QSize(size, size), 1));
+}
 
 bool isShown(const Control& control) {
     updateWindow();

@@ -1,6 +1,7 @@
 #include "toolkit/window/qt_form_place.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QtGui/QGuiApplication>
 #include <QtGui/QWindow>
@@ -53,10 +54,13 @@ void FormPlace::pull(int menuHeight) {
 
 void FormPlace::pullFrame(int menuHeight) {
     const QMargins frame = presentFrame();
+    const QScreen* screen = widget_.screen();
+    const bool isElsewhere = std::exchange(screen_, screen) != screen && !knownPixels_.isNull();
     if (frame == frame_ && menuHeight == menuHeight_) return;
-    frameChanged_ = frameChanged_ || frame != frame_;
+    // The player may just be taking the form to a screen of other pixels.
+    frameChanged_ = frameChanged_ || (frame != frame_ && !isElsewhere);
     // With that state the frame changes, too; then place and size are the window manager's.
-    const bool isManagers = form_.FillsScreen || (hasFilled_ && frame != frame_);
+    const bool isManagers = form_.FillsScreen || ((hasFilled_ || isElsewhere) && frame != frame_);
     frame_ = frame;
     menuHeight_ = menuHeight;
     const float width = twipsFromPixels(frame.left() + frame.right());

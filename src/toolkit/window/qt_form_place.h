@@ -6,6 +6,7 @@
 
 #include "toolkit/model/form.h"
 
+class QScreen;
 class QWidget;
 
 namespace toolkit {
@@ -42,6 +43,7 @@ class FormPlace {
     Outer known_;       ///< the form's values when both agreed last
     QRect knownPixels_; ///< the window's rectangle then
     QMargins frame_;
+    const QScreen* screen_ = nullptr; ///< only to be compared: it may be unplugged
     int menuHeight_ = 0;
     bool frameChanged_ = true;
     bool hasFilled_ = false; ///< the screen, and be it some time ago
