@@ -27,6 +27,7 @@
 #include "form/unsaved.h"
 #include "form/zevlin.h"
 #include "help/help_page.h"
+#include "marks/follow_caret.h"
 #include "marks/move_card.h"
 #include "text/edit_box.h"
 #include "view/image_size.h"
@@ -43,6 +44,7 @@ void wireForm(Zevlin& form) {
     form.Resize = run(form, Form_Resize);
     form.Settled = [&form] {
         noteCardStep(form);
+        followCaret(form);
         showWayHome(form);
     };
     form.Ending = [&form] { flushJournal(form); };

@@ -12,6 +12,15 @@
 
 namespace zev {
 
+/// Where the caret of an open field stands.
+struct TextCaret {
+    int field = 0; ///< 0: none is open
+    int place = 0; ///< in the text
+    std::string text;
+
+    friend bool operator==(const TextCaret&, const TextCaret&) = default;
+};
+
 struct TextState {
     toolkit::ControlArray<toolkit::Label> AText;     ///< text areas by field number
     toolkit::ControlArray<toolkit::Label> Highlight; ///< behind each of them
@@ -42,6 +51,7 @@ struct TextState {
     std::int16_t ClickButton = 0;
     float ClickX = 0; ///< twips in the label
     float ClickY = 0;
+    TextCaret FollowedCaret;       ///< where the card has been moved for it, if need be
     std::string ClipText;          ///< the private clipboard
     std::int16_t FirstBigText = 0; ///< lowest text field of size 3; 0 if none
 

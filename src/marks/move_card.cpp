@@ -6,6 +6,7 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
+#include "marks/visible_area.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/number_text.h"
 #include "toolkit/window/cursor.h"
@@ -16,9 +17,6 @@ namespace zev {
 namespace {
 
 using toolkit::numberText;
-
-/// Pixels between a field that was brought into sight and the edge.
-constexpr float roomAroundField = 4;
 
 struct Place {
     float left = 0;
@@ -130,19 +128,6 @@ ItemPlace placeOfItem(const toolkit::Label& label, bool isMark) {
             2 * label.Height};
 }
 
-/// How far a card must move so that `at` lies between the limits, with the margin to spare.
-float pull(float at, float low, float high, float margin) {
-    if (at < low) return low - at + margin;
-    return at > high ? high - at - margin : 0;
-}
-
-struct Area {
-    float left = 0;
-    float top = 0;
-    float right = 0;
-    float bottom = 0;
-};
-
 Area allowedArea(const Zevlin& form, const toolkit::TaskBar& bar) {
     const auto screen = toolkit::screen();
     const auto twips = static_cast<float>(form.TwipsPerPixel);
@@ -157,42 +142,6 @@ Area allowedArea(const Zevlin& form, const toolkit::TaskBar& bar) {
     return area;
 }
 
-/// The screen without its task bar.
-Area workArea(const Zevlin& form, const toolkit::TaskBar& bar) {
-    const auto screen = toolkit::screen();
-    const auto twips = static_cast<float>(form.TwipsPerPixel);
-    const float width = bar.Width * twips;
-    const float height = bar.Height * twips;
-    Area area{0, 0, screen.Width, screen.Height};
-    if (bar.Width < bar.Height && bar.Left > 0)
-        area.right -= width;
-    else if (bar.Width < bar.Height)
-        area.left += width;
-    else if (bar.Top > 0)
-        area.bottom -= height;
-    else
-        area.top += height;
-    return area;
-}
-
-/// What can be seen of the form's inside, relative to it.
-Area visibleArea(const Zevlin& form, const toolkit::TaskBar& bar) {
-    const Area work = workArea(form, bar);
-    const float left = form.FrameWidth + form.Left;
-    const float top = form.FrameHeight + form.Top;
-    return {std::max(0.0F, work.left - left), std::max(0.0F, work.top - top),
-            std::min(form.ScaleWidth(), work.right - left),
-            std::min(form.ScaleHeight(), work.bottom - top)};
-}
-
-/// How far a card must move so that a field on it is seen whole, with a little room around it. Of a
-/// field that is larger than what can be seen, the beginning is.
-float pullWhole(float from, float to, float low, float high, float margin) {
-    if (from >= low && to <= high) return 0;
-    if (to - from + 2 * margin > high - low) return low - from;
-    return from < low ? low + margin - from : high - margin - to;
-}
-
 void pullOnScreen(Zevlin& form, int item) {
     const auto bar = GetTaskBarSize(form);
     const Area area = allowedArea(form, bar);
@@ -203,11 +152,11 @@ void pullOnScreen(Zevlin& form, int item) {
     const float y = form.FrameHeight + form.Top + form.P1.Top + wanted.place.top;
     float left = form.P1.Left + pull(x, area.left, area.right, wanted.marginX);
     float top = form.P1.Top + pull(y, area.top, area.bottom, wanted.marginY);
-    const float margin = roomAroundField * static_cast<float>(form.TwipsPerPixel);
+    const float room = roomAroundField(form);
     left += pullWhole(left + label.Left, left + label.Left + label.Width, visible.left,
-                      visible.right, margin);
+                      visible.right, room);
     top += pullWhole(top + label.Top, top + label.Top + label.Height, visible.top, visible.bottom,
-                     margin);
+                     room);
     if (left == form.P1.Left && top == form.P1.Top) return;
     Traceit(form, "  CheckOnScreen results: P1 was: " + numberText(form.P1.Left) + ", " +
                       numberText(form.P1.Top) + " ... is: " + numberText(left) + ", " +

@@ -223,12 +223,17 @@ TEST_F(SharpImage, TheLogicKeepsItsWholeLogicalPixels) {
     EXPECT_EQ(toolkit::test::grabCard().pixel(500, 100), picture->pixel(500, 100));
 }
 
-TEST_F(SharpImage, OneAndAHalfTimesThePixelsShowThePictureOfThatSize) {
+TEST_F(SharpImage, ASomewhatFinerScreenShowsThePictureOfItsSize) {
     startAt("5");
-    const auto sharp = toolkit::test::grabCardAt(1.5);
-    ASSERT_EQ(sharp.width(), 1500);
-    const auto expected = form.PBase.scaled({.factor = 0.75F, .width = 1500, .height = 750});
-    for (int x = 300; x < 320; ++x) EXPECT_EQ(sharp.pixel(x, 500), expected.pixel(x, 500)) << x;
+    for (const float ratio : {1.25F, 1.5F, 1.75F}) {
+        const int width = static_cast<int>(1000 * ratio);
+        const auto sharp = toolkit::test::grabCardAt(ratio);
+        ASSERT_EQ(sharp.width(), width);
+        const auto expected =
+            form.PBase.scaled({.factor = ratio / 2, .width = width, .height = width / 2});
+        for (int x = 300; x < 320; ++x)
+            EXPECT_EQ(sharp.pixel(x, 500), expected.pixel(x, 500)) << x << " of " << ratio;
+    }
 }
 
 TEST_F(SharpImage, TheStripStaysWhiteAtItsPlace) {

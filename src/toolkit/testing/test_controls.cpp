@@ -47,6 +47,11 @@ Bitmap partOf(const Bitmap& whole, const QRect& part) {
     return copy;
 }
 
+ScreenArea areaOn(const QWidget& widget, const QRect& place) {
+    const QPoint corner = widget.mapToGlobal(place.topLeft());
+    return {corner.x(), corner.y(), place.width(), place.height()};
+}
+
 } // namespace
 
 PointOnCard pointIn(const Control& control, float x, float y) {
@@ -81,12 +86,24 @@ std::string toolTipAt(const Control& control, PointOnCard point) {
     return QToolTip::text() == former ? std::string() : ansiText(QToolTip::text());
 }
 
+ScreenArea caretArea(const TextBox& box) {
+    QWidget& widget = shownWidget(box);
+    // It scrolls its text when it is painted.
+    widget.repaint();
+    // The platform tells of some room beside it, too.
+    const QRect caret = widget.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+    return areaOn(widget, {caret.center().x(), caret.y(), 1, caret.height()});
+}
+
+ScreenArea insideArea() {
+    const FormArea& area = window().form().area();
+    return areaOn(area, area.rect());
+}
+
 ScreenArea toolTipArea() {
     for (const QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->isVisible() && widget->windowType() == Qt::ToolTip) {
-            const QRect area = widget->geometry();
-            return {area.x(), area.y(), area.width(), area.height()};
-        }
+        if (widget->isVisible() && widget->windowType() == Qt::ToolTip)
+            return areaOn(*widget, widget->rect());
     return {};
 }
 

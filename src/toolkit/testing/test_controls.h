@@ -31,6 +31,9 @@ void turnWheelOver(const Control& control, int rotation);
 
 /// The tool tip that comes up when the pointer rests there, over the control; empty for none.
 [[nodiscard]] std::string toolTipAt(const Control& control, PointOnCard point);
+/// Where the caret of a box that is shown stands, and what is inside the window.
+[[nodiscard]] ScreenArea caretArea(const TextBox& box);
+[[nodiscard]] ScreenArea insideArea();
 /// Where the tool tip lies that came up last.
 [[nodiscard]] ScreenArea toolTipArea();
 /// Whether the control looks as if it can't be used.
