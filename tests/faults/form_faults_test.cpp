@@ -79,6 +79,24 @@ TEST_F(FormFaults, SavingUnderAnotherName) {
         fewKinds);
 }
 
+/// A card without a name is written twice, and the second time may fail alone.
+TEST_F(FormFaults, SavingACardThatHasNoNameYet) {
+    start();
+    clickMark(1);
+    typeInto(1, "typed");
+    typeInto(2, "kept");
+    ASSERT_EQ(form.CardName, "");
+    hasCard = true;
+    countsLooks = false;
+    savedName = "Smith";
+    runWithEveryFault(
+        [&] {
+            nameAnswer = "Smith";
+            choose("File>Save");
+        },
+        fewKinds);
+}
+
 TEST_F(FormFaults, SavingOverAnotherCard) {
     writeCard("Smith.zev", cardFile({.texts = {"1,\"other\",0"}}));
     answerName("");

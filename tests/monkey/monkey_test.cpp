@@ -33,6 +33,12 @@ TEST_F(MonkeyOnTheInstalledCard, FindsNoFailureAndNothingLost) {
          .onInstalledLayout = true});
 }
 
+class MonkeyOnAFormerCourse : public Monkey {};
+
+TEST_F(MonkeyOnAFormerCourse, KnowsACardThatWasWrittenBeforeTheProgramEnded) {
+    run({.seed = 23, .events = 1600});
+}
+
 std::uint64_t digests[2];
 
 class MonkeyTwice : public Monkey, public testing::WithParamInterface<int> {};
