@@ -82,20 +82,6 @@ Loaded readRecords(Zevlin& form, CardReader& card, const std::filesystem::path& 
     return Loaded::Whole;
 }
 
-void loadFile(Zevlin& form, const std::filesystem::path& path) {
-    // The card's own file counts as seen only once it is read, and not at all where the card has
-    // another name than the file.
-    rememberNoFile(form);
-    std::string content = toolkit::readFile(path);
-    if (path == cardPath(form)) rememberFile(form, path, content);
-    CardReader card(std::move(content), form.VersionSeen,
-                    [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
-    if (readRecords(form, card, path) == Loaded::Bad) return;
-    ShowNames(form, NamesUpdate::FillEmpty);
-    ResetMod(form);
-    form.CardVersion = form.VersionSeen;
-}
-
 /// The card that a rebuild carries is whole in memory, whatever became of its temporary file.
 void loadCarried(Zevlin& form) {
     showDocument(form, form.Carried->document);
@@ -117,10 +103,24 @@ void loadCard(Zevlin& form) {
         form.CardName.clear();
         return;
     }
-    loadFile(form, path);
+    loadCardFrom(form, path);
 }
 
 } // namespace
+
+void loadCardFrom(Zevlin& form, const std::filesystem::path& file) {
+    // The card's own file counts as seen only once it is read, and not at all where the card has
+    // another name than the file.
+    rememberNoFile(form);
+    std::string content = toolkit::readFile(file);
+    if (file == cardPath(form)) rememberFile(form, file, content);
+    CardReader card(std::move(content), form.VersionSeen,
+                    [&form](toolkit::TextInput& input) { return SkipComment(form, input); });
+    if (readRecords(form, card, file) == Loaded::Bad) return;
+    ShowNames(form, NamesUpdate::FillEmpty);
+    ResetMod(form);
+    form.CardVersion = form.VersionSeen;
+}
 
 void GetCardFile(Zevlin& form) {
     Traceit(form, "GetCardFile");

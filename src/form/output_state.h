@@ -31,6 +31,7 @@ struct OutputState {
     bool Printing = false;
     bool PrintsPartner = false;   ///< the job at hand is the partner's card
     bool PrintAlertShown = false; ///< the box about a narrow page was shown in this run
+    bool StampTellsTime = true;   ///< the time stamp has date and time behind the card's name
     bool HasJobView = false;      ///< zoom and fit are a job's, not the player's
     /// The options file doesn't hold the present state: writing it failed or was put off.
     bool OptionsUnwritten = false;

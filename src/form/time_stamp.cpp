@@ -21,7 +21,9 @@ float scaledPoints(const Zevlin& form, float points) {
 
 std::string stampText(const Zevlin& form) {
     const std::string name = form.CardName.empty() ? "" : "[ " + form.CardName + " ]  ";
-    return name + toolkit::dateText() + "  " + toolkit::timeText() + "    ";
+    const std::string time =
+        form.StampTellsTime ? toolkit::dateText() + "  " + toolkit::timeText() : "";
+    return name + time + "    ";
 }
 
 /// Every ampersand twice, so that the label shows each.

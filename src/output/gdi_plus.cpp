@@ -121,14 +121,19 @@ cGdiPlus::FilenameToIPicture(const std::filesystem::path& file) const {
     }
 }
 
+std::optional<toolkit::CodecId> cGdiPlus::encoderOf(const std::filesystem::path& file) const {
+    const int index = encoderFor(extensionOf(file));
+    if (index < 0) return std::nullopt;
+    return encoderIds_[static_cast<std::size_t>(index)];
+}
+
 bool cGdiPlus::PictureBoxToFile(const toolkit::Bitmap& picture, const std::filesystem::path& file,
                                 int quality) const {
-    const std::string extension = extensionOf(file);
-    const int index = encoderFor(extension);
-    if (index < 0) return false;
+    const auto encoder = encoderOf(file);
+    if (!encoder) return false;
     try {
-        toolkit::saveImage(picture, file, encoderIds_[static_cast<std::size_t>(index)],
-                           isJpeg(extension) ? std::optional(quality) : std::nullopt);
+        toolkit::saveImage(picture, file, *encoder,
+                           isJpeg(extensionOf(file)) ? std::optional(quality) : std::nullopt);
         return true;
     } catch (const std::exception&) {
         raise(statusOf(toolkit::currentFailure()));

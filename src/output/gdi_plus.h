@@ -31,6 +31,10 @@ class cGdiPlus {
     bool PictureBoxToFile(const toolkit::Bitmap& picture, const std::filesystem::path& file,
                           int quality) const;
 
+    /// The encoder for a file's extension; none where no encoder has it.
+    [[nodiscard]] std::optional<toolkit::CodecId>
+    encoderOf(const std::filesystem::path& file) const;
+
     [[nodiscard]] static std::string_view GdiErrorString(int status);
 
   private:

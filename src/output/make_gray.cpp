@@ -2,6 +2,7 @@
 
 #include "form/trace.h"
 #include "form/zevlin.h"
+#include "layout/field.h"
 #include "output/gray.h"
 
 namespace zev {
@@ -22,6 +23,12 @@ void MakeGray(Zevlin& form, toolkit::PictureBox& picture) {
             picture.Picture = std::make_shared<toolkit::Bitmap>(grayed(*picture.Picture));
         if (picture.Artwork) picture.Artwork = grayedArtwork(picture.Artwork());
     });
+}
+
+void blackenLabels(Zevlin& form) {
+    form.Timestamp.ForeColor = toolkit::black;
+    for (auto* labels : {&form.AMark, &form.AText, &form.SText})
+        forEachField(*labels, [&](int i) { (*labels)[i].ForeColor = toolkit::black; });
 }
 
 } // namespace zev

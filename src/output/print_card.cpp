@@ -138,9 +138,7 @@ bool makesBlack(const Zevlin& form) {
 
 void blacken(Zevlin& form) {
     MakeGray(form, form.P1);
-    form.Timestamp.ForeColor = toolkit::black;
-    for (auto* labels : {&form.AMark, &form.AText, &form.SText})
-        forEachField(*labels, [&](int i) { (*labels)[i].ForeColor = toolkit::black; });
+    blackenLabels(form);
     TestBlankPage(form, "mPrint_Click after MakeGray for P1", form.P1);
 }
 

@@ -20,16 +20,19 @@ std::string_view resultText(bool success) { return success ? "1" : "0"; }
 
 } // namespace
 
+toolkit::PrintJob::Place wholePixels(const DevicePlace& place) {
+    return {.left = toolkit::toInteger32(place.x),
+            .top = toolkit::toInteger32(place.y),
+            .width = toolkit::toInteger32(place.width),
+            .height = toolkit::toInteger32(place.height)};
+}
+
 void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::CardRecording>& card,
                 const DevicePlace& place) {
     const std::string figures = figuresOf(place);
     Traceit(form, figures + " PrintImage ");
     trapped(form, "Error in PrintImage: " + figures + " -- ", [&] {
-        const bool isDrawn =
-            form.PrinterDC.draw(card, {.left = toolkit::toInteger32(place.x),
-                                       .top = toolkit::toInteger32(place.y),
-                                       .width = toolkit::toInteger32(place.width),
-                                       .height = toolkit::toInteger32(place.height)});
+        const bool isDrawn = form.PrinterDC.draw(card, wholePixels(place));
         Traceit(form, "  PrintImage results: Set=1, Stretch=" + std::string(resultText(isDrawn)) +
                           ", SelObj=1");
     });

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "toolkit/model/drawing.h"
+#include "toolkit/print/print_job.h"
 
 namespace zev {
 
@@ -17,7 +18,10 @@ struct DevicePlace {
     float height = 0;
 };
 
-/// Stretches the card into the document; each figure is rounded to whole pixels.
+/// Each figure rounded to whole pixels.
+[[nodiscard]] toolkit::PrintJob::Place wholePixels(const DevicePlace& place);
+
+/// Stretches the card into the document, at whole pixels.
 void PrintImage(Zevlin& form, const std::shared_ptr<const toolkit::CardRecording>& card,
                 const DevicePlace& place);
 

@@ -32,6 +32,16 @@ std::string lineForPartner(const Zevlin& form, const std::string& ownLine) {
     return text;
 }
 
+} // namespace
+
+void showPartnerLine(Zevlin& form) {
+    if (form.NamesField == 0) return;
+    const std::string own = form.AText[form.NamesField].Tag;
+    setNamesLine(form, lineForPartner(form, own));
+}
+
+namespace {
+
 void printAsPartner(Zevlin& form) {
     form.PrintsPartner = true;
     trapped(form, "Error in MPrintPartner_Click: #", [&] { MPrint_Click(form); });
@@ -46,7 +56,7 @@ void printPartner(Zevlin& form) {
     flushJournal(form);
     form.Journal.isHeld = true;
     const toolkit::Label kept = form.AText[form.NamesField];
-    setNamesLine(form, lineForPartner(form, kept.Tag));
+    showPartnerLine(form);
     printAsPartner(form);
     setNamesLine(form, kept.Tag);
     form.AText[form.NamesField].Caption = kept.Caption;

@@ -5,6 +5,9 @@ namespace zev {
 
 struct Zevlin;
 
+/// Gives the card the names line of the partner's card.
+void showPartnerLine(Zevlin& form);
+
 /// Prints the card with the partner's name first in its names line, and puts the line back.
 void MPrintPartner_Click(Zevlin& form);
 

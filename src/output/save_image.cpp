@@ -61,6 +61,12 @@ void saveImage(Zevlin& form, const toolkit::PictureBox& picture) {
 
 } // namespace
 
+void writePicture(const toolkit::Bitmap& picture, const std::filesystem::path& file) {
+    const auto encoder = cGdiPlus().encoderOf(file);
+    if (!encoder) throw toolkit::RunTimeError(toolkit::Failure::InvalidProcedureCall);
+    toolkit::saveImage(picture, file, *encoder, jpegQuality);
+}
+
 void SaveImageToDisk(Zevlin& form, const toolkit::PictureBox& picture) {
     procedure(form, "SaveImageToDisk", [&] { saveImage(form, picture); });
 }

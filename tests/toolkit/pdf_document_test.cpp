@@ -107,6 +107,27 @@ TEST(PdfDocument, HasItsTitleInUnicode) {
     EXPECT_TRUE(holds(file, "/CreationDate (D:2"));
 }
 
+TEST(PdfDocument, TellsTheDateThatItIsGiven) {
+    const auto file = [](std::optional<std::string> date) {
+        PdfDocument document({.title = "Jones", .date = std::move(date)});
+        document.addPage({.width = 612, .height = 792});
+        return document.finish();
+    };
+    EXPECT_TRUE(holds(file("20260921141320Z"), "/CreationDate (D:20260921141320Z)"));
+    EXPECT_FALSE(holds(file(""), "/CreationDate"));
+    EXPECT_TRUE(holds(file(std::nullopt), "/CreationDate (D:2"));
+    // The table at the end of a file says where its objects begin.
+    EXPECT_EQ(file("").size(), file(std::nullopt).size());
+    EXPECT_EQ(file("20260921141320Z"), file("20260921141320Z"));
+}
+
+TEST(PdfDocument, TakesPagesOneByOne) {
+    PdfDocument document({.title = "Jones"});
+    for (int i = 0; i < 3; ++i)
+        document.addPage({.width = 612, .height = 792, .cards = {{drawnCard(), 0, 0, 9, 9}}});
+    EXPECT_EQ(count(unpackedPdf(document.finish()), "/Type /Page\n"), 3);
+}
+
 TEST(PdfDocument, SaysItsLanguageInACatalogOfItsOwn) {
     const Page page{.width = 612, .height = 792};
     const std::string file = pdfDocument({&page, 1}, "Jones");

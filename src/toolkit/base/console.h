@@ -11,6 +11,9 @@ namespace toolkit {
 [[nodiscard]] std::vector<std::string> commandArguments(int argumentCount,
                                                         const char* const* arguments);
 
+/// Whether what is written to the standard error is shown on a terminal.
+[[nodiscard]] bool isErrorOnTerminal();
+
 /// Lets a console show what is written to it in UTF-8.
 void showUtf8OnConsole();
 

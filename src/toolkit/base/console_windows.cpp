@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include <io.h>
 #include <windows.h>
 
 #include <shellapi.h>
@@ -30,6 +31,11 @@ std::vector<std::string> commandArguments(int /*argumentCount*/, const char* con
     for (int i = 1; texts && i < count; ++i)
         arguments.push_back(utf8From(texts[static_cast<std::size_t>(i)]));
     return arguments;
+}
+
+bool isErrorOnTerminal() {
+    constexpr int standardError = 2;
+    return _isatty(standardError) != 0;
 }
 
 void showUtf8OnConsole() { SetConsoleOutputCP(CP_UTF8); }

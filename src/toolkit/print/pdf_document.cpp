@@ -1,6 +1,7 @@
 #include "toolkit/print/pdf_document.h"
 
 #include <optional>
+#include <utility>
 
 #include <QtCore/QBuffer>
 #include <QtGui/QPageLayout>
@@ -62,27 +63,68 @@ std::string withLanguage(std::string file) {
     return file + added;
 }
 
+/// The library tells the present moment. The text keeps its length, since places in the file
+/// follow.
+std::string withDate(std::string file, const std::string& date) {
+    constexpr std::string_view beginning = "/CreationDate (";
+    const std::size_t start = file.find(beginning);
+    const std::size_t end = file.find(')', start);
+    if (start == std::string::npos || end == std::string::npos) return file;
+    std::string told;
+    if (!date.empty()) told.append(beginning).append("D:").append(date).append(")");
+    const std::size_t length = end + 1 - start;
+    if (told.size() > length) return file;
+    told.resize(length, ' ');
+    return file.replace(start, length, told);
+}
+
 } // namespace
 
-std::string pdfDocument(std::span<const Page> pages, std::string_view title) {
-    QBuffer buffer;
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setResolution(dotsPerInch);
-    writer.setTitle(qString(title));
-    writer.setCreator(QStringLiteral("Zevlin"));
-    if (!pages.empty()) writer.setPageLayout(layoutOf(pages.front()));
-    QPainter painter;
-    if (!painter.begin(&writer)) throw RunTimeError(Failure::PrinterError);
-    for (const Page& page : pages) {
-        if (&page != &pages.front()) {
-            writer.setPageLayout(layoutOf(page));
-            writer.newPage();
-        }
-        paintPage(painter, page, dotsPerInch);
+struct PdfDocument::Implementation {
+    explicit Implementation(PdfFacts given) : facts(std::move(given)) {
+        buffer.open(QIODevice::WriteOnly);
+        writer.setResolution(dotsPerInch);
+        writer.setTitle(qString(facts.title));
+        writer.setCreator(QStringLiteral("Zevlin"));
     }
-    if (!painter.end()) throw RunTimeError(Failure::PrinterError);
-    return withLanguage(buffer.data().toStdString());
+
+    void begin() {
+        if (!painter.isActive() && !painter.begin(&writer))
+            throw RunTimeError(Failure::PrinterError);
+    }
+
+    PdfFacts facts;
+    QBuffer buffer;
+    QPdfWriter writer{&buffer};
+    QPainter painter;
+};
+
+PdfDocument::PdfDocument(PdfFacts facts)
+    : implementation_(std::make_unique<Implementation>(std::move(facts))) {}
+
+PdfDocument::~PdfDocument() = default;
+
+void PdfDocument::addPage(const Page& page) {
+    implementation_->writer.setPageLayout(layoutOf(page));
+    if (implementation_->painter.isActive())
+        implementation_->writer.newPage();
+    else
+        implementation_->begin();
+    paintPage(implementation_->painter, page, dotsPerInch);
+}
+
+std::string PdfDocument::finish() {
+    implementation_->begin();
+    if (!implementation_->painter.end()) throw RunTimeError(Failure::PrinterError);
+    std::string file = withLanguage(implementation_->buffer.data().toStdString());
+    const auto& date = implementation_->facts.date;
+    return date ? withDate(std::move(file), *date) : file;
+}
+
+std::string pdfDocument(std::span<const Page> pages, std::string_view title) {
+    PdfDocument document({.title = std::string(title)});
+    for (const Page& page : pages) document.addPage(page);
+    return document.finish();
 }
 
 } // namespace toolkit

@@ -16,6 +16,14 @@ namespace {
 
 constexpr double pointsPerInch = 72;
 
+double across(const Printer& printer, int pixels) {
+    return pixels * pointsPerInch / printer.PixelsPerInchX;
+}
+
+double down(const Printer& printer, int pixels) {
+    return pixels * pointsPerInch / printer.PixelsPerInchY;
+}
+
 std::filesystem::path askForTarget(const DocumentInfo& info) {
     return askForFile({.title = std::string(printToPdfName) + ": " + info.title,
                        .preset = info.filePreset,
@@ -51,16 +59,7 @@ struct PrintJob::Document {
         }
         madeTarget = isNew;
     }
-    [[nodiscard]] double across(int pixels) const {
-        return pixels * pointsPerInch / printer.PixelsPerInchX;
-    }
-    [[nodiscard]] double down(int pixels) const {
-        return pixels * pointsPerInch / printer.PixelsPerInchY;
-    }
-    void addPage() {
-        pages.push_back(
-            {.width = across(printer.PhysicalWidth), .height = down(printer.PhysicalHeight)});
-    }
+    void addPage() { pages.push_back(emptyPage(printer)); }
 };
 
 PrintJob::PrintJob() = default;
@@ -87,15 +86,23 @@ bool PrintJob::start(const Printer& printer, const DocumentInfo& info) {
     return true;
 }
 
+Page PrintJob::emptyPage(const Printer& printer) {
+    return {.width = across(printer, printer.PhysicalWidth),
+            .height = down(printer, printer.PhysicalHeight)};
+}
+
+PlacedCard PrintJob::placed(const Printer& printer, std::shared_ptr<const CardRecording> card,
+                            const Place& place) {
+    return {.card = std::move(card),
+            .left = across(printer, printer.PhysicalOffsetX + place.left),
+            .top = down(printer, printer.PhysicalOffsetY + place.top),
+            .width = across(printer, place.width),
+            .height = down(printer, place.height)};
+}
+
 bool PrintJob::draw(std::shared_ptr<const CardRecording> card, const Place& place) {
     if (!document_ || !card) return false;
-    const Printer& printer = document_->printer;
-    document_->pages.back().cards.push_back(
-        {.card = std::move(card),
-         .left = document_->across(printer.PhysicalOffsetX + place.left),
-         .top = document_->down(printer.PhysicalOffsetY + place.top),
-         .width = document_->across(place.width),
-         .height = document_->down(place.height)});
+    document_->pages.back().cards.push_back(placed(document_->printer, std::move(card), place));
     return true;
 }
 
@@ -116,9 +123,9 @@ void PrintJob::write(std::string_view text, const FontSpec& font, float left, fl
               .fontName = font.Name,
               .bold = font.Bold,
               .em = font.Size,
-              .left = document_->across(printer.PhysicalOffsetX) + left / twipsPerPoint,
-              .baseline = document_->down(printer.PhysicalOffsetY) +
-                          (top + textAscent(font)) / twipsPerPoint,
+              .left = across(printer, printer.PhysicalOffsetX) + left / twipsPerPoint,
+              .baseline =
+                  down(printer, printer.PhysicalOffsetY) + (top + textAscent(font)) / twipsPerPoint,
               .text = std::string(text)});
 }
 

@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "toolkit/model/drawing.h"
+#include "toolkit/print/page.h"
 #include "toolkit/print/printer.h"
 
 namespace toolkit {
@@ -38,6 +39,10 @@ class PrintJob {
         int width = 0;
         int height = 0;
     };
+    /// A page of the printer's paper, and where a place of it lies.
+    [[nodiscard]] static Page emptyPage(const Printer& printer);
+    [[nodiscard]] static PlacedCard
+    placed(const Printer& printer, std::shared_ptr<const CardRecording> card, const Place& place);
     /// Draws the card, or a picture pixel by pixel, stretched to the place. False if there is none
     /// or no document is open.
     bool draw(std::shared_ptr<const CardRecording> card, const Place& place);
