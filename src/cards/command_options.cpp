@@ -17,6 +17,11 @@ constexpr const char* programName = "zevlin-cards";
 /// The library takes "[a,b]" for two values. Behind this it is one.
 constexpr char shield = '\x01';
 
+constexpr int mostWorkers = 256;
+// Scales of the card that the program can show.
+constexpr int narrowestImage = 480;
+constexpr int widestImage = 2396;
+
 void shieldBracket(std::string& argument) {
     if (argument.starts_with('[') || argument.starts_with(shield)) argument.insert(0, 1, shield);
 }
@@ -45,6 +50,8 @@ class CommandLine {
         addText();
         addDiff();
         addCheck();
+        addPdf();
+        addImage();
     }
 
     /// Throws CLI::ParseError, help and version among them.
@@ -53,7 +60,9 @@ class CommandLine {
         std::ranges::reverse(arguments); // as the library takes them
         app_.parse(std::move(arguments));
         std::ranges::for_each(options_.cards, unshield);
-        unshield(options_.filesFrom);
+        for (std::string* path :
+             {&options_.filesFrom, &options_.outputFolder, &options_.layout, &options_.together})
+            unshield(*path);
         const CLI::App& command = *app_.get_subcommands().front();
         if (options_.command != Command::Diff && options_.cards.empty() &&
             options_.filesFrom.empty())
@@ -110,6 +119,61 @@ class CommandLine {
         CLI::App& command =
             addCommand(Command::Check, "check", "Tell what is wrong with cards, by file and line");
         addList(command, "Cards and folders of cards");
+    }
+
+    /// What the commands that make files have in common.
+    void addMaking(CLI::App& command) {
+        command
+            .add_option("-o,--output", options_.outputFolder,
+                        "The folder for the files, made where it isn't there; else the current one")
+            ->type_name("FOLDER");
+        command
+            .add_option("--layout", options_.layout,
+                        "Another layout than the Definitions.Ini of Zevlin's folder")
+            ->type_name("FILE");
+        command.add_flag(
+            "--stamp", options_.stamp,
+            "Date and time in the time stamp; those of SOURCE_DATE_EPOCH if it is set");
+        command.add_flag("--newer", options_.newer,
+                         "Skip a card whose file is newer than the card");
+        command.add_option("-j,--jobs", options_.workers, "So many at once; else one a processor")
+            ->type_name("NUMBER")
+            ->check(CLI::Range(1, mostWorkers));
+        command.add_flag("-q,--quiet", options_.quiet, "No progress on the terminal");
+        addList(command, "Cards and folders of cards");
+    }
+
+    void addPdf() {
+        CLI::App& command = addCommand(Command::Pdf, "pdf", "Make pages as Print card makes them");
+        CLI::Option* partner = command.add_flag_callback(
+            "--partner", [this] { options_.owner = CardOwner::Partner; },
+            "The partner's card, with the partner's name first");
+        command
+            .add_flag_callback(
+                "--both", [this] { options_.owner = CardOwner::Both; },
+                "Both cards, one behind the other in one file")
+            ->excludes(partner);
+        command.add_option("--paper", options_.paper, "letter or a4; else what is usual here")
+            ->type_name("PAPER")
+            ->check(CLI::IsMember({"letter", "a4"}));
+        command.add_flag("--black", options_.black, "In black and grey");
+        CLI::Option* together =
+            command.add_option("--together", options_.together, "All pages in one file");
+        together->type_name("FILE");
+        addMaking(command);
+        together->excludes(command.get_option("--output"));
+    }
+
+    void addImage() {
+        CLI::App& command =
+            addCommand(Command::Image, "image", "Make images as Export Image makes them");
+        command.add_option("--type", options_.imageType, "png, gif, jpg or bmp; else png")
+            ->type_name("TYPE")
+            ->check(CLI::IsMember({"png", "gif", "jpg", "bmp"}));
+        command.add_option("--width", options_.width, "In pixels; else 1198")
+            ->type_name("PIXELS")
+            ->check(CLI::Range(narrowestImage, widestImage));
+        addMaking(command);
     }
 
     CLI::App app_;

@@ -6,6 +6,7 @@
 
 #include "cards/check_cards.h"
 #include "cards/diff_cards.h"
+#include "cards/make_pages.h"
 #include "cards/text_cards.h"
 
 namespace zev {
@@ -24,6 +25,9 @@ int runCommand(const CommandOptions& options, const Surroundings& surroundings) 
         return diffCards(options, surroundings);
     case Command::Check:
         return checkCards(options, surroundings);
+    case Command::Pdf:
+    case Command::Image:
+        return makePages(options, surroundings);
     }
     return exit_status::trouble;
 }

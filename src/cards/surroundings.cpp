@@ -36,6 +36,15 @@ void addFrom(CardList& list, const CommandOptions& options, std::istream& standa
 
 } // namespace
 
+void forEachFile(const CommandOptions& options, const Surroundings& surroundings,
+                 FoldersAsked folders, const TakeFile& take, const Complain& complain) {
+    CardList list(
+        {.dataFolder = surroundings.dataFolder, .takesFolders = folders == FoldersAsked::Taken},
+        take, complain);
+    for (const std::string& card : options.cards) list.add(card);
+    addFrom(list, options, surroundings.in);
+}
+
 bool forEachCard(const CommandOptions& options, const Surroundings& surroundings,
                  FoldersAsked folders, const TakeReading& take) {
     bool isWell = true;
@@ -50,11 +59,7 @@ bool forEachCard(const CommandOptions& options, const Surroundings& surroundings
             complain(onOneLine(utf8Of(file)) + ": " + failure.description());
         }
     };
-    CardList list(
-        {.dataFolder = surroundings.dataFolder, .takesFolders = folders == FoldersAsked::Taken},
-        read, complain);
-    for (const std::string& card : options.cards) list.add(card);
-    addFrom(list, options, surroundings.in);
+    forEachFile(options, surroundings, folders, read, complain);
     return isWell;
 }
 

@@ -54,10 +54,16 @@ class CardsTest : public testing::Test {
         std::istringstream in(input);
         std::ostringstream told;
         std::ostringstream wrong;
-        const int status = runCards(std::move(arguments), {in, told, wrong, [this] {
-                                                               ++folderQuestions;
-                                                               return dataFolder;
-                                                           }});
+        const int status = runCards(std::move(arguments), {.in = in,
+                                                           .out = told,
+                                                           .err = wrong,
+                                                           .dataFolder =
+                                                               [this] {
+                                                                   ++folderQuestions;
+                                                                   return dataFolder;
+                                                               },
+                                                           .worker = worker,
+                                                           .isErrShown = isErrShown});
         out = told.str();
         err = wrong.str();
         return status;
@@ -65,6 +71,8 @@ class CardsTest : public testing::Test {
 
     std::filesystem::path folder = test_system::newFolder("zevlin-cards-");
     std::filesystem::path dataFolder = folder / "ZEV";
+    std::filesystem::path worker;
+    bool isErrShown = false;
     int folderQuestions = 0;
     std::string out;
     std::string err;

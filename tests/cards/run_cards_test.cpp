@@ -30,7 +30,8 @@ TEST_F(RunCards, AnOutputThatTakesNothingIsTrouble) {
     std::ostream full(&disk);
     std::istringstream in;
     std::ostringstream wrong;
-    const Surroundings surroundings{in, full, wrong, [this] { return dataFolder; }};
+    const Surroundings surroundings{
+        .in = in, .out = full, .err = wrong, .dataFolder = [this] { return dataFolder; }};
     EXPECT_EQ(runCards({"text", writeCardFile("a.zev")}, surroundings), 2);
     EXPECT_EQ(wrong.str(), "zevlin-cards: the output can't be written\n");
 }
