@@ -91,6 +91,7 @@ void CardForm::start() {
     } catch (const toolkit::ProgramEnded&) {
         throw Trouble{told_};
     }
+    if (form_.LastImageScale != 1) throw Trouble{"the card can't be shown at its full size"};
 }
 
 void CardForm::chooseColors() {

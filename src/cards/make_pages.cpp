@@ -57,7 +57,7 @@ class PageRun {
         const toolkit::WorkerPool pool{
             .program = surroundings_.worker,
             .arguments = workerArguments(options_, folder),
-            .environment = workerEnvironment(options_),
+            .environment = workerEnvironment(options_, folder),
             .workers = workerCount(),
             .nextTask = [this] { return nextTask(); },
             .takeAnswer = [this](std::size_t task,

@@ -37,9 +37,10 @@ struct WorkerOrder {
 /// None where these are not a worker's arguments.
 [[nodiscard]] std::optional<WorkerOrder> readOrder(std::vector<std::string> arguments);
 
-/// What a worker needs so that the same cards give the same bytes, on any screen.
+/// What a worker needs so that the same cards give the same bytes, on any screen, and so that it
+/// leaves nothing outside of the folder.
 [[nodiscard]] std::vector<std::pair<std::string, std::string>>
-workerEnvironment(const CommandOptions& options);
+workerEnvironment(const CommandOptions& options, const std::filesystem::path& folder);
 
 /// The seconds since 1970 that stand for the present moment; none where the variable isn't set.
 /// Trouble where it is no number.

@@ -15,11 +15,16 @@
 #include "cards/form_folder.h"
 #include "cards/message_text.h"
 #include "cards/surroundings.h"
+#include "layout/layout_file.h"
+#include "layout/layout_text.h"
 #include "toolkit/base/error.h"
 #include "toolkit/base/files.h"
+#include "toolkit/base/folder.h"
+#include "toolkit/base/number_text.h"
 #include "toolkit/base/path_text.h"
 #include "toolkit/base/write_file.h"
 #include "toolkit/print/pdf_document.h"
+#include "toolkit/window/shell_folders.h"
 
 namespace zev {
 namespace {
@@ -129,6 +134,20 @@ void say(std::ostream& out, const std::string& text) {
     out.flush();
 }
 
+/// The installed layout where the player has none. A form that finds none takes the start for a
+/// first one, and shows the card as wide as the screen.
+void completeLayout(const fs::path& folder) {
+    constexpr int usualTwips = 15;
+    const std::string name =
+        std::string(layoutFileName) + "." + toolkit::numberText(installedLayout(usualTwips));
+    if (toolkit::findFile(folder, layoutFileName)) return;
+    const auto installed = toolkit::findFile(toolkit::programFolder(), name);
+    if (!installed)
+        throw Trouble{onOneLine(utf8Of(toolkit::programFolder() / name)) + ": " +
+                      std::string(toolkit::describe(toolkit::Failure::FileNotFound))};
+    toolkit::writeTemporaryFile(folder / layoutFileName, toolkit::readFile(*installed));
+}
+
 /// A folder that the form may write to.
 fs::path copiedInto(const TemporaryFolder& own, const fs::path& folder) {
     const fs::path copy = own.path() / "Documents" / "ZEV";
@@ -136,6 +155,7 @@ fs::path copiedInto(const TemporaryFolder& own, const fs::path& folder) {
     fs::create_directories(copy, error);
     if (!error) fs::copy(folder, copy, fs::copy_options::none, error);
     if (error) throw Trouble{onOneLine(utf8Of(copy)) + ": " + error.message()};
+    completeLayout(copy);
     return copy;
 }
 

@@ -81,9 +81,10 @@ TEST_F(PageTasks, OnlyThePresentTimeIsThePlayersOwn) {
     const auto zone = [](bool stamp) {
         CommandOptions options;
         options.stamp = stamp;
-        const auto list = workerEnvironment(options);
+        const auto list = workerEnvironment(options, "form");
         const std::map<std::string, std::string> variables(list.begin(), list.end());
         EXPECT_EQ(variables.at("QT_QPA_PLATFORM"), "offscreen");
+        EXPECT_EQ(variables.at("XDG_RUNTIME_DIR"), "form");
         return variables.contains("TZ") ? variables.at("TZ") : "";
     };
     EXPECT_EQ(zone(false), "UTC0");

@@ -102,6 +102,18 @@ TEST_F(PageWorker, LeavesNothingBehind) {
     EXPECT_EQ(toolkit::readFile(order.folder / "ZEV.Ini"), "Zoom=11\r\n");
 }
 
+TEST_F(PageWorker, TakesTheInstalledLayoutWhereThePlayerHasNone) {
+    const PageTask task{.card = card("Two Over One.zev"), .output = home / "a.pdf"};
+    answersTo({task});
+    const std::string usual = toolkit::readFile(task.output);
+    fs::remove(order.folder / "Definitions.Ini");
+    EXPECT_EQ(answersTo({task}), (Answers{"", ""}));
+    EXPECT_TRUE(toolkit::readFile(task.output) == usual);
+    fs::remove(programFolder / "Definitions.Ini.15");
+    EXPECT_EQ(answersTo({task}),
+              (Answers{utf8Of(programFolder / "Definitions.Ini.15") + ": File not found"}));
+}
+
 TEST_F(PageWorker, SaysWhyItIsNotReady) {
     toolkit::writeFile(order.folder / "Definitions.Ini", "no layout");
     const auto answers = answersTo({});
