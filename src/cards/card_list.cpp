@@ -22,7 +22,7 @@ constexpr std::string_view noFileText = "neither a file nor a folder";
 
 std::string describe(const std::error_code& error) {
     if (error == std::errc::too_many_symbolic_link_levels) return std::string(circleText);
-    return toolkit::fileFailure(error.default_error_condition().value()).description();
+    return textOf(error);
 }
 
 /// What keeps a thing that is no file from being read as a card.

@@ -77,8 +77,7 @@ TemporaryFolder::TemporaryFolder(const fs::path& parent) {
         fs::permissions(path_, fs::perms::owner_all, error);
         if (!error) return;
     }
-    throw Trouble{onOneLine(utf8Of(place)) + ": " +
-                  toolkit::fileFailure(error.default_error_condition().value()).description()};
+    throw Trouble{onOneLine(utf8Of(place)) + ": " + textOf(error)};
 }
 
 TemporaryFolder::~TemporaryFolder() {

@@ -21,10 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-std::string describe(const std::error_code& error) {
-    return toolkit::fileFailure(error.default_error_condition().value()).description();
-}
-
 /// What keeps a folder from taking files is found out before anything is made.
 void makeFolder(const fs::path& folder) {
     if (folder.empty()) return;
@@ -34,7 +30,7 @@ void makeFolder(const fs::path& folder) {
     const std::string name = onOneLine(utf8Of(folder));
     if (fs::exists(status)) throw Trouble{name + ": a file, where a folder should be"};
     fs::create_directories(folder, error);
-    if (error) throw Trouble{name + ": " + describe(error)};
+    if (error) throw Trouble{name + ": " + textOf(error)};
 }
 
 void requirePlace(const fs::path& file) {
@@ -43,7 +39,7 @@ void requirePlace(const fs::path& file) {
     if (fs::is_directory(file, error)) throw Trouble{name + ": a folder, where a file should be"};
     const fs::path folder = file.has_parent_path() ? file.parent_path() : ".";
     if (!fs::is_directory(folder, error))
-        throw Trouble{name + ": " + std::string(describe(toolkit::Failure::PathNotFound))};
+        throw Trouble{name + ": " + std::string(toolkit::describe(toolkit::Failure::PathNotFound))};
 }
 
 /// One run over a plan: hands out its tasks and tells what came of them.

@@ -1,7 +1,6 @@
 #include "cards/message_text.h"
 
 #include <array>
-#include <system_error>
 
 #include "toolkit/base/ansi.h"
 #include "toolkit/base/error.h"
@@ -72,6 +71,10 @@ std::filesystem::path pathOf(std::string_view utf8) {
     } catch (const std::system_error&) {
         throw toolkit::RunTimeError(toolkit::Failure::BadFileName);
     }
+}
+
+std::string textOf(const std::error_code& error) {
+    return toolkit::fileFailure(error.default_error_condition().value()).description();
 }
 
 std::string jsonText(std::string_view utf8) {

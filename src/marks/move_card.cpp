@@ -7,6 +7,7 @@
 #include "form/trace.h"
 #include "form/zevlin.h"
 #include "marks/visible_area.h"
+#include "text/edit_box.h"
 #include "toolkit/base/key.h"
 #include "toolkit/base/number_text.h"
 #include "toolkit/window/cursor.h"
@@ -24,8 +25,6 @@ struct Place {
 };
 
 float stepOf(const Zevlin& form) { return form.P1.Height / 10; }
-
-bool isEditing(const Zevlin& form) { return form.CText.Visible || form.LText.Visible; }
 
 float wholeTwips(float twips) { return static_cast<float>(toolkit::roundToInteger(twips)); }
 
