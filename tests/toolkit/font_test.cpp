@@ -140,15 +140,31 @@ TEST(Font, MarksAndSuitsHaveTheirCharacters) {
 TEST(Font, ATextThatIsTooLongKeepsItsBeginningAndItsEnd) {
     const FontSpec font = arial(10);
     const std::string text = "/home/joe/Documents/ZEV";
-    EXPECT_EQ(shortenedInMiddle(font, text, textWidth(font, text)), text);
-    EXPECT_EQ(shortenedInMiddle(font, text, textWidth(font, "/home/jo...nts/ZEV") + 1),
+    EXPECT_EQ(shortened(font, text, textWidth(font, text), Cut::Middle), text);
+    EXPECT_EQ(shortened(font, text, textWidth(font, "/home/jo...nts/ZEV") + 1, Cut::Middle),
               "/home/jo...nts/ZEV");
-    const std::string less = shortenedInMiddle(font, text, textWidth(font, text) - 1);
+    const std::string less = shortened(font, text, textWidth(font, text) - 1, Cut::Middle);
     EXPECT_LT(textWidth(font, less), textWidth(font, text));
     EXPECT_EQ(less.substr(0, 6), text.substr(0, 6));
     EXPECT_EQ(less.substr(less.size() - 6), text.substr(text.size() - 6));
-    EXPECT_EQ(shortenedInMiddle(font, text, 0), "...");
-    EXPECT_EQ(shortenedInMiddle(font, "", 0), "");
+    EXPECT_EQ(shortened(font, text, 0, Cut::Middle), "...");
+    EXPECT_EQ(shortened(font, "", 0, Cut::Middle), "");
+}
+
+TEST(Font, ATextThatIsTooLongKeepsAsManyLettersAsFit) {
+    const FontSpec font = arial(10);
+    const std::string text = "Standard American";
+    EXPECT_EQ(shortened(font, text, textWidth(font, text), Cut::End), text);
+    for (std::size_t kept = 0; kept < text.size(); ++kept) {
+        const std::string shown = text.substr(0, kept) + "...";
+        const std::string middle =
+            text.substr(0, kept - kept / 2) + "..." + text.substr(text.size() - kept / 2);
+        if (textWidth(font, shown) < textWidth(font, text))
+            EXPECT_EQ(shortened(font, text, textWidth(font, shown), Cut::End), shown);
+        if (textWidth(font, middle) < textWidth(font, text))
+            EXPECT_EQ(shortened(font, text, textWidth(font, middle), Cut::Middle), middle);
+    }
+    EXPECT_EQ(shortened(font, "m", 0, Cut::End), "...");
 }
 
 TEST(Font, SizesAreGivenAsAskedForWithinTheirBounds) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <ranges>
 
 #include "toolkit/base/ansi.h"
 #include "toolkit/text/advance_table.h"
@@ -60,15 +61,19 @@ std::vector<std::string_view> wrappedLines(const FontSpec& font, std::string_vie
     return lines;
 }
 
-std::string shortenedInMiddle(const FontSpec& font, std::string_view text, float width) {
-    std::string shortened(text);
-    for (std::size_t kept = text.size(); kept > 0 && textWidth(font, shortened) > width;) {
-        --kept;
-        shortened = text.substr(0, (kept + 1) / 2);
-        shortened += "...";
-        shortened += text.substr(text.size() - kept / 2);
-    }
-    return shortened;
+std::string shortened(const FontSpec& font, std::string_view text, float width, Cut cut) {
+    if (textWidth(font, text) <= width) return std::string(text);
+    const auto keeping = [text, cut](std::size_t kept) {
+        const std::size_t behind = cut == Cut::Middle ? kept / 2 : 0;
+        return std::string(text.substr(0, kept - behind)) + "..." +
+               std::string(text.substr(text.size() - behind));
+    };
+    // The more is kept the wider it is.
+    const auto counts = std::views::iota(std::size_t{1}, std::max(text.size(), std::size_t{1}));
+    const auto tooMany = std::ranges::partition_point(
+        counts, [&](std::size_t kept) { return textWidth(font, keeping(kept)) <= width; });
+    return text.empty() ? std::string()
+                        : keeping(static_cast<std::size_t>(tooMany - counts.begin()));
 }
 
 std::string fontNameGiven(std::string_view name) { return fontFamily(name).nameGiven; }

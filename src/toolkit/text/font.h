@@ -28,10 +28,12 @@ namespace toolkit {
 [[nodiscard]] std::vector<std::string_view> wrappedLines(const FontSpec& font,
                                                          std::string_view text, float width);
 
-/// The text, or what of its beginning and its end fits into the width, twips, with "..." between
-/// them.
-[[nodiscard]] std::string shortenedInMiddle(const FontSpec& font, std::string_view text,
-                                            float width);
+/// Where a text that is too long lacks letters.
+enum class Cut { Middle, End };
+
+/// The text, or as much of it as fits into the width, twips, with "..." in the place of the rest.
+[[nodiscard]] std::string shortened(const FontSpec& font, std::string_view text, float width,
+                                    Cut cut);
 
 /// The name that the font system reports after this one was asked for: the same text where the font
 /// is installed or has a substitute, else the name of the font that is used in its place.

@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <string>
-#include <string_view>
 
 #include <QtGui/QHelpEvent>
 #include <QtGui/QPainter>
@@ -19,16 +18,6 @@ namespace toolkit {
 namespace {
 
 constexpr int leftMargin = 2;
-constexpr std::string_view dots = "...";
-
-/// The text, or as much of it as fits before three dots into a line of this width, twips.
-std::string elided(const FontSpec& font, const std::string& text, float width) {
-    if (textWidth(font, text) <= width) return text;
-    std::string shown = text;
-    do shown.pop_back();
-    while (!shown.empty() && textWidth(font, shown + std::string(dots)) > width);
-    return shown + std::string(dots);
-}
 
 } // namespace
 
@@ -70,7 +59,7 @@ int ListRowPainter::indent() const { return leftMargin + list_.RowGap / 2; }
 std::string ListRowPainter::shownRow(int row, int width) const {
     const std::string& text = rows_.row(row);
     if (!list_.Elides) return text;
-    return elided(list_.Font, text, twipsFromPixels(width - 2 * indent()));
+    return shortened(list_.Font, text, twipsFromPixels(width - 2 * indent()), Cut::End);
 }
 
 bool ListRowPainter::helpEvent(QHelpEvent* event, QAbstractItemView* view,

@@ -76,8 +76,8 @@ std::vector<AccessiblePanel::Told> AccessiblePanel::toTell() const {
 
 void AccessiblePanel::tellChanges() {
     if (told_.empty()) return;
-    const std::vector<Told> now = toTell();
-    const std::vector<Told> before = std::exchange(told_, now);
+    const std::vector<Told> before = std::exchange(told_, toTell());
+    const std::vector<Told>& now = told_;
     if (before.size() != now.size()) {
         QAccessibleEvent event(&panel_, QAccessible::ObjectReorder);
         return tell(event);

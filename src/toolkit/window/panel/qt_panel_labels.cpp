@@ -42,10 +42,10 @@ void paintFramedLabel(QPainter& painter, const Label& label) {
 }
 
 void paintShortenedLabel(QPainter& painter, const Label& label) {
-    Label shortened = label;
-    shortened.Caption =
-        captionFor(shortenedInMiddle(label.Font, paintedText(label.Caption), label.Width));
-    paintLabel(painter, shortened);
+    Label shown = label;
+    shown.Caption =
+        captionFor(shortened(label.Font, paintedText(label.Caption), label.Width, Cut::Middle));
+    paintLabel(painter, shown);
 }
 
 void paintWrappedLabel(QPainter& painter, const Label& label) {

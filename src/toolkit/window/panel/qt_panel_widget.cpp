@@ -58,11 +58,10 @@ void PanelWidget::push() {
     if (isHidden() == box.Visible) setVisible(box.Visible);
 }
 
-std::vector<const Label*> PanelWidget::labels() const {
-    std::vector<const Label*> all(panel_.labels.begin(), panel_.labels.end());
-    for (const LabelGroup& group : panel_.groups)
-        for (const Label& label : *group.labels) all.push_back(&label);
-    return all;
+int PanelWidget::labelCount() const {
+    auto count = static_cast<int>(panel_.labels.size());
+    for (const LabelGroup& group : panel_.groups) count += group.labels->UBound() + 1;
+    return count;
 }
 
 PanelWidget::Ground PanelWidget::wantedGround() const {
@@ -71,12 +70,19 @@ PanelWidget::Ground PanelWidget::wantedGround() const {
             box.BackColor, form_.Background, parentWidget()->height()};
 }
 
+bool PanelWidget::showsAllLabels() const {
+    const int count = labelCount();
+    if (static_cast<int>(shown_.size()) != count) return false;
+    for (int index = 0; index < count; ++index)
+        if (shown_[static_cast<std::size_t>(index)] != labelAt(index)) return false;
+    return true;
+}
+
 void PanelWidget::pushPixels() {
-    std::vector<Label> wanted;
-    for (const Label* label : labels()) wanted.push_back(*label);
     Ground ground = wantedGround();
-    if (wanted == shown_ && ground_ == ground) return;
-    shown_ = std::move(wanted);
+    if (ground_ == ground && showsAllLabels()) return;
+    shown_.clear();
+    for (int index = 0; index < labelCount(); ++index) shown_.push_back(labelAt(index));
     ground_ = std::move(ground);
     update();
 }
@@ -195,6 +201,12 @@ PanelWidget::Place PanelWidget::placeAmong(int index) const {
     return {};
 }
 
+const Label& PanelWidget::labelAt(int index) const {
+    const Place place = placeAmong(index);
+    if (place.label != nullptr) return *place.label;
+    return (*place.group->labels)[place.index];
+}
+
 PanelWidget::Target PanelWidget::targetOf(int index) const {
     const Place place = placeAmong(index);
     if (const PanelLabel* label = place.label)
@@ -210,12 +222,10 @@ PanelWidget::Target PanelWidget::targetOf(int index) const {
 }
 
 std::optional<PanelWidget::Target> PanelWidget::targetAt(QPoint place) const {
-    const std::vector<const Label*> all = labels();
-    const auto found = std::ranges::find_if(all, [place](const Label* label) {
-        return label->Visible && placeOf(*label).contains(place);
-    });
-    if (found == all.end()) return std::nullopt;
-    return targetOf(static_cast<int>(found - all.begin()));
+    for (int index = 0; index < labelCount(); ++index)
+        if (const Label& label = labelAt(index); label.Visible && placeOf(label).contains(place))
+            return targetOf(index);
+    return std::nullopt;
 }
 
 /// One that does something is a button; so its pointer is a hand.

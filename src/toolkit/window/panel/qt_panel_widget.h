@@ -37,7 +37,7 @@ class PanelWidget : public QWidget {
         std::string description{};
         bool isChosen = false;
     };
-    [[nodiscard]] int labelCount() const { return static_cast<int>(labels().size()); }
+    [[nodiscard]] int labelCount() const;
     [[nodiscard]] SpokenLabel spokenLabel(int index) const;
     /// As a click on it.
     void pressLabel(int index);
@@ -73,8 +73,7 @@ class PanelWidget : public QWidget {
     };
 
     [[nodiscard]] Ground wantedGround() const;
-    [[nodiscard]] std::vector<const Label*> labels() const;
-    /// A label on the panel by its place among `labels()`.
+    /// One of all labels: the single ones come first, then those of each group.
     struct Place {
         const PanelLabel* label = nullptr; ///< none: one of a group
         const LabelGroup* group = nullptr;
@@ -82,6 +81,8 @@ class PanelWidget : public QWidget {
     };
 
     [[nodiscard]] Place placeAmong(int index) const;
+    [[nodiscard]] const Label& labelAt(int index) const;
+    [[nodiscard]] bool showsAllLabels() const;
     [[nodiscard]] Target targetOf(int index) const;
     [[nodiscard]] std::optional<Target> targetAt(QPoint place) const;
     void press(const Target& target, MouseArguments arguments);
