@@ -1,5 +1,6 @@
 // Which row of the menus the form hears of.
 #include "fixture.h"
+#include "toolkit/testing/test_keys.h"
 #include "toolkit/testing/test_menus.h"
 #include "toolkit/testing/test_window.h"
 
@@ -140,6 +141,23 @@ TEST_F(MenuWatch, GoingOnToTheNextMenuTellsItsRow) {
     test::typeInMenu(key::down);
     test::typeInMenu(key::left);
     EXPECT_EQ(selected(), "Fit");
+}
+
+TEST_F(MenuWatch, AnArrowToAnEntryWithoutAMenuLeavesNothingHighlighted) {
+    MenuItem help{.Caption = "&Help"};
+    menu.push_back({.level = 0, .item = &help, .Click = [this] { note("help"); }});
+    open();
+    test::openMenu("View");
+    test::typeInMenu(key::right);
+    EXPECT_EQ(test::highlightedOnBar(), "");
+    EXPECT_EQ(selected(), "");
+    test::typeKey(key::escape);
+    EXPECT_EQ(test::highlightedOnBar(), "");
+    EXPECT_EQ(times("help"), 0);
+    // The bar isn't left half open.
+    test::openMenu("File");
+    EXPECT_EQ(test::highlightedOnBar(), "File");
+    test::clickBesideMenus();
 }
 
 TEST_F(MenuWatch, ThePlacesAreThoseOfTheRowAndOfAllOpenMenus) {

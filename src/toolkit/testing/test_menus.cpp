@@ -96,6 +96,11 @@ QPoint besideMenus() {
 
 } // namespace
 
+std::string highlightedOnBar() {
+    const QAction* entry = window().form().menuBar().activeAction();
+    return entry == nullptr ? std::string() : captionOf(*entry);
+}
+
 void openMenu(std::string_view caption) {
     updateWindow();
     MenuBar& bar = window().form().menuBar();

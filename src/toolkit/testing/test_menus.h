@@ -24,6 +24,9 @@ void clickBesideMenus();
 /// The deepest open menu gets the key.
 void typeInMenu(int keyCode);
 
+/// The entry of the bar that is highlighted; empty for none.
+[[nodiscard]] std::string highlightedOnBar();
+
 /// What the open menus cover. Twips, relative to the form.
 [[nodiscard]] MenuSelection openMenus();
 /// How a screen reader gets the row: its name, its description and its shortcut.

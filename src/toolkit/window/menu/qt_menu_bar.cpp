@@ -73,6 +73,7 @@ void MenuBar::push() {
     }
     if (readOut_ != nullptr) readOut_->push();
     placeReadOut();
+    endGlow();
     const Form& form = *parts_.form;
     if (isEnabled() == form.MenusEnabled) return;
     showRest(form.MousePointer == MousePointer::Hourglass ? Rest::OfAMoment : Rest::Lasting);
@@ -90,6 +91,17 @@ void MenuBar::placeReadOut() {
     for (QAction* action : actions())
         menusEnd = std::max(menusEnd, actionGeometry(action).right() + 1);
     readOut_->place(menusEnd);
+}
+
+/// Arrows go from an open menu to an entry beside it that has none, which the platform goes on
+/// highlighting, though the keys are the form's again.
+void MenuBar::endGlow() {
+    const QAction* entry = activeAction();
+    const bool isLeft = entry != nullptr && entry->menu() == nullptr && !underMouse() &&
+                        !hasFocus() && QApplication::activePopupWidget() == nullptr;
+    if (!isLeft) return;
+    QEvent leave(QEvent::Leave);
+    leaveEvent(&leave);
 }
 
 /// While the program works for a moment, words that turn grey and back would only flicker.

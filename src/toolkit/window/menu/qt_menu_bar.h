@@ -55,6 +55,7 @@ class MenuBar : public QMenuBar {
     void showRest(Rest rest);
     void addEntry(std::size_t row);
     void placeReadOut();
+    void endGlow();
     void fill(QMenu& menu, std::size_t first, int level);
     std::size_t addRow(QMenu& menu, std::size_t row);
     void connectRow(QAction& action, std::size_t row);
