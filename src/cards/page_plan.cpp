@@ -1,7 +1,7 @@
 #include "cards/page_plan.h"
 
 #include <algorithm>
-#include <numeric>
+#include <functional>
 #include <system_error>
 
 #include "card/card_names.h"
@@ -26,6 +26,8 @@ std::string keyOf(const fs::path& name) {
     return utf8Of(name);
 #endif
 }
+
+std::size_t hashOf(const fs::path& name) { return std::hash<std::string>()(keyOf(name)); }
 
 fs::path folderOf(const CommandOptions& options) { return pathOf(options.outputFolder); }
 
@@ -55,25 +57,42 @@ fs::path PagePlan::output(std::size_t index) const {
 std::vector<std::string> PagePlan::clashes() const {
     std::vector<std::string> found;
     if (!options_.together.empty()) return found;
-    const auto nameOf = [this](std::size_t index) {
-        return keyOf(outputName(options_, cards_[index]));
-    };
-    std::vector<std::size_t> order(cards_.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::ranges::stable_sort(order, {}, nameOf);
+    const std::vector<NamedFile> files = sortedFiles();
     const auto tell = [this](std::size_t index) { return onOneLine(utf8Of(cards_[index])); };
-    for (std::size_t i = 1; i < order.size(); ++i)
-        if (nameOf(order[i - 1]) == nameOf(order[i]))
-            found.push_back(onOneLine(utf8Of(output(order[i]))) + ": would be made of " +
-                            tell(order[i - 1]) + " and of " + tell(order[i]));
+    for (const auto& [first, second] : pairsOf(files))
+        found.push_back(onOneLine(utf8Of(output(second))) + ": would be made of " + tell(first) +
+                        " and of " + tell(second));
     for (std::size_t i = 0; i < cards_.size(); ++i) {
         const fs::path name = fs::path(cards_[i]).filename();
         std::error_code ignored;
-        if (std::ranges::binary_search(order, keyOf(name), {}, nameOf) &&
+        if (std::ranges::binary_search(files, hashOf(name), {}, &NamedFile::hash) &&
             fs::equivalent(folderOf(options_) / name, cards_[i], ignored))
             found.push_back(tell(i) + ": would be written over");
     }
     return found;
+}
+
+std::vector<PagePlan::NamedFile> PagePlan::sortedFiles() const {
+    std::vector<NamedFile> files;
+    files.reserve(cards_.size());
+    for (std::size_t i = 0; i < cards_.size(); ++i)
+        files.push_back({hashOf(outputName(options_, cards_[i])), i});
+    std::ranges::sort(files);
+    return files;
+}
+
+/// Each card with the next one of the same file, in the order of the cards.
+std::vector<std::pair<std::size_t, std::size_t>>
+PagePlan::pairsOf(const std::vector<NamedFile>& files) const {
+    std::vector<std::pair<std::size_t, std::size_t>> pairs;
+    const auto nameOf = [&](const NamedFile& file) {
+        return keyOf(outputName(options_, cards_[file.index]));
+    };
+    for (std::size_t i = 1; i < files.size(); ++i)
+        if (files[i - 1].hash == files[i].hash && nameOf(files[i - 1]) == nameOf(files[i]))
+            pairs.emplace_back(files[i - 1].index, files[i].index);
+    std::ranges::sort(pairs);
+    return pairs;
 }
 
 bool PagePlan::isUpToDate(std::size_t index) const {

@@ -1,10 +1,11 @@
 // Which files a run makes of which cards.
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <filesystem>
-#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "cards/command_options.h"
@@ -37,6 +38,16 @@ class PagePlan {
     [[nodiscard]] std::filesystem::path output(std::size_t index) const;
 
   private:
+    /// A file that is to be made, by its name, and the card that it is made of.
+    struct NamedFile {
+        std::size_t hash = 0;
+        std::size_t index = 0;
+        friend auto operator<=>(const NamedFile&, const NamedFile&) = default;
+    };
+
+    [[nodiscard]] std::vector<NamedFile> sortedFiles() const;
+    [[nodiscard]] std::vector<std::pair<std::size_t, std::size_t>>
+    pairsOf(const std::vector<NamedFile>& files) const;
     [[nodiscard]] bool isUpToDate(std::size_t index) const;
 
     const CommandOptions& options_;

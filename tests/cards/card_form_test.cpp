@@ -159,6 +159,15 @@ TEST_F(CardFormTest, TheImageIsTheOneThatIsExported) {
     EXPECT_TRUE(image("b.png") == png) << "and once more";
 }
 
+TEST_F(CardFormTest, BlackImagesStayBlack) {
+    writeOptions("Zoom=5\r\nMono=1\r\n");
+    startProgram();
+    const std::string png = exported(mPrintToDiskPNG_Click, "x.png");
+    options.command = Command::Image;
+    EXPECT_TRUE(image("a.png") == png);
+    EXPECT_TRUE(image("b.png") == png) << "and once more";
+}
+
 TEST_F(CardFormTest, AnImageIsAsWideAsAskedFor) {
     options.command = Command::Image;
     options.width = 700;
