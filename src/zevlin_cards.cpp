@@ -19,6 +19,7 @@ std::filesystem::path dataFolder() {
 
 int work(const zev::WorkerOrder& order, char** arguments) {
     toolkit::leaveStopToOthers();
+    toolkit::passBytesUnchanged();
     int onlyItsName = 1;
     const toolkit::Application application(onlyItsName, arguments);
     return zev::workOnPages(order, std::cin, std::cout);

@@ -293,6 +293,37 @@ class SessionTest(SystemTest):
         self.assertEqual(end.wait(timeout=60), 0)
 
 
+class CardsTest(SystemTest):
+    """The command without a window."""
+
+    CARDS = [rf"C:\Zevlin\zevlin-files\{name}.zev" for name in ("Standard American", CARD)]
+
+    def cards(self, *arguments):
+        return self.home.run(r"C:\Zevlin\zevlin-cards.exe", *arguments)
+
+    def test_pages_and_images(self):
+        made = self.home.program / "made"
+        folder = r"C:\Zevlin\made"
+        self.assertEqual(self.cards("pdf", "-o", folder, *self.CARDS)[0], 0)
+        self.assertEqual(self.cards("image", "-o", folder, *self.CARDS)[0], 0)
+        self.assertEqual(self.cards("pdf", "--together", folder + r"\all.pdf", *self.CARDS)[0], 0)
+        self.assertEqual(sorted(path.name for path in made.iterdir()),
+                         ["Standard American.pdf", "Standard American.png", "Two Over One.pdf",
+                          "Two Over One.png", "all.pdf"])
+        self.assertEqual((made / "all.pdf").read_bytes().count(b"/Type /Page\n"), 2)
+        words = desktop.output_of("pdftotext", str(made / f"{CARD}.pdf"), "-")
+        self.assertIn("Robin Fields & Sandy Moore", words)
+        self.assertFalse(self.home.data.exists())
+
+    def test_texts_differences_and_checks(self):
+        code, told = self.cards("text", self.CARDS[1])
+        self.assertEqual(code, 0)
+        self.assertIn("  Names, both partners: Robin Fields & Sandy Moore\n", told)
+        self.assertEqual(self.cards("diff", *self.CARDS)[0], 1)
+        self.assertEqual(self.cards("diff", self.CARDS[0], self.CARDS[0]), (0, ""))
+        self.assertEqual(self.cards("check", r"C:\Zevlin\zevlin-files"), (0, ""))
+
+
 def main():
     SystemTest.prefix, SystemTest.stage, SystemTest.results = (
         pathlib.Path(argument).resolve() for argument in sys.argv[1:4])

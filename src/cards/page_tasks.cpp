@@ -18,6 +18,18 @@ constexpr const char* dateVariable = "SOURCE_DATE_EPOCH";
 /// The year 9999.
 constexpr std::int64_t latestDate = 253402300799;
 
+/// Without a screen the library knows only the fonts of one folder.
+void addFonts(std::vector<std::pair<std::string, std::string>>& environment) {
+#ifdef _WIN32
+    constexpr const char* variable = "QT_QPA_FONTDIR";
+    const char* system = std::getenv("WINDIR");
+    if (std::getenv(variable) == nullptr && system != nullptr)
+        environment.emplace_back(variable, std::string(system) + "\\Fonts");
+#else
+    (void)environment;
+#endif
+}
+
 void append(std::string& text, const std::filesystem::path& path) {
     text += utf8Of(path);
     text += '\0';
@@ -83,6 +95,7 @@ workerEnvironment(const CommandOptions& options, const std::filesystem::path& fo
         {"QT_SCREEN_SCALE_FACTORS", ""},
         {"QT_FONT_DPI", ""},
         {"QT_STYLE_OVERRIDE", ""}};
+    addFonts(environment);
     // A date that is given means the same everywhere; only the present one is the player's own.
     if (!options.stamp || sourceDate()) environment.emplace_back("TZ", "UTC0");
     return environment;

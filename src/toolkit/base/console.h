@@ -14,6 +14,9 @@ namespace toolkit {
 /// Whether what is written to the standard error is shown on a terminal.
 [[nodiscard]] bool isErrorOnTerminal();
 
+/// Bytes on the standard input and output stay as they are, as another program wants them.
+void passBytesUnchanged();
+
 /// Lets a console show what is written to it in UTF-8.
 void showUtf8OnConsole();
 

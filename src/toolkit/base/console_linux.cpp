@@ -15,6 +15,10 @@ std::vector<std::string> commandArguments(int argumentCount, const char* const* 
 
 bool isErrorOnTerminal() { return isatty(STDERR_FILENO) != 0; }
 
+void passBytesUnchanged() {
+    // They always do.
+}
+
 void showUtf8OnConsole() {
     // Terminals are in UTF-8.
 }

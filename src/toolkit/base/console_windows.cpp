@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include <fcntl.h>
 #include <io.h>
 #include <windows.h>
 
@@ -36,6 +37,13 @@ std::vector<std::string> commandArguments(int /*argumentCount*/, const char* con
 bool isErrorOnTerminal() {
     constexpr int standardError = 2;
     return _isatty(standardError) != 0;
+}
+
+void passBytesUnchanged() {
+    constexpr int standardInput = 0;
+    constexpr int standardOutput = 1;
+    _setmode(standardInput, _O_BINARY);
+    _setmode(standardOutput, _O_BINARY);
 }
 
 void showUtf8OnConsole() { SetConsoleOutputCP(CP_UTF8); }
