@@ -39,15 +39,6 @@ class MakePages : public test::CardsTest {
             ++pages;
         return pages;
     }
-    /// The folders that runs have for themselves.
-    static std::set<fs::path> runningFolders() {
-        std::set<fs::path> folders;
-        for (const auto& entry : fs::directory_iterator(fs::temp_directory_path()))
-            if (utf8Of(entry.path().filename()).starts_with("zevlin-cards-") &&
-                fs::exists(entry.path() / "ZEV.Ini"))
-                folders.insert(entry.path());
-        return folders;
-    }
 };
 
 TEST_F(MakePages, AFileForEachCardOfAFolder) {
@@ -162,12 +153,14 @@ TEST_F(MakePages, TheSameCardsGiveTheSameBytesHoweverTheyAreShared) {
 TEST_F(MakePages, TheDataFolderStaysAsItIsAndNothingIsLeftBehind) {
     writeCardFile("ZEV/Ann.zev");
     write("ZEV/ZEV.Ini", "Name=Joe\r\nZoom=3\r\n");
-    const auto before = runningFolders();
+    write("temporary/other", "");
+    for (const char* name : {"TMPDIR", "TMP"}) test_system::setVariable(name, at("temporary"));
     EXPECT_EQ(run({"pdf", "-o", at("out"), "ann"}), 0) << err;
+    EXPECT_EQ(filesIn("temporary"), (std::set<std::string>{"other"}));
     EXPECT_EQ(filesIn("ZEV"), (std::set<std::string>{"Ann.zev", "ZEV.Ini"}));
     EXPECT_EQ(contentOf("ZEV/ZEV.Ini"), "Name=Joe\r\nZoom=3\r\n");
     EXPECT_EQ(filesIn("out"), (std::set<std::string>{"Ann.pdf"}));
-    for (const fs::path& left : runningFolders()) EXPECT_TRUE(before.contains(left)) << left;
+    for (const char* name : {"TMPDIR", "TMP"}) test_system::clearVariable(name);
 }
 
 TEST_F(MakePages, AFormThatCantBeMadeIsTrouble) {
