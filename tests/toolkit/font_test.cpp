@@ -159,10 +159,12 @@ TEST(Font, ATextThatIsTooLongKeepsAsManyLettersAsFit) {
         const std::string shown = text.substr(0, kept) + "...";
         const std::string middle =
             text.substr(0, kept - kept / 2) + "..." + text.substr(text.size() - kept / 2);
-        if (textWidth(font, shown) < textWidth(font, text))
+        if (textWidth(font, shown) < textWidth(font, text)) {
             EXPECT_EQ(shortened(font, text, textWidth(font, shown), Cut::End), shown);
-        if (textWidth(font, middle) < textWidth(font, text))
+        }
+        if (textWidth(font, middle) < textWidth(font, text)) {
             EXPECT_EQ(shortened(font, text, textWidth(font, middle), Cut::Middle), middle);
+        }
     }
     EXPECT_EQ(shortened(font, "m", 0, Cut::End), "...");
 }
