@@ -298,6 +298,11 @@ class CardsTest(SystemTest):
 
     CARDS = [rf"C:\Zevlin\zevlin-files\{name}.zev" for name in ("Standard American", CARD)]
 
+    def setUp(self):
+        super().setUp()
+        # Wine's own folder of fonts lacks those of the card.
+        self.home.environment["WINEQT_QPA_FONTDIR"] = self.home.named(self.results.parent / "fonts")
+
     def cards(self, *arguments):
         return self.home.run(r"C:\Zevlin\zevlin-cards.exe", *arguments)
 

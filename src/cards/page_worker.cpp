@@ -153,8 +153,11 @@ fs::path copiedInto(const TemporaryFolder& own, const fs::path& folder) {
     const fs::path copy = own.path() / "Documents" / "ZEV";
     std::error_code error;
     fs::create_directories(copy, error);
-    if (!error) fs::copy(folder, copy, fs::copy_options::none, error);
-    if (error) throw Trouble{onOneLine(utf8Of(copy)) + ": " + error.message()};
+    if (error)
+        throw Trouble{onOneLine(utf8Of(copy)) + ": " +
+                      toolkit::fileFailure(error.default_error_condition().value()).description()};
+    for (const fs::directory_entry& file : fs::directory_iterator(folder))
+        toolkit::writeTemporaryFile(copy / file.path().filename(), toolkit::readFile(file.path()));
     completeLayout(copy);
     return copy;
 }
