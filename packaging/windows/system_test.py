@@ -317,7 +317,7 @@ class CardsTest(SystemTest):
                           "Two Over One.png", "all.pdf"])
         self.assertEqual((made / "all.pdf").read_bytes().count(b"/Type /Page\n"), 2)
         words = desktop.output_of("pdftotext", str(made / f"{CARD}.pdf"), "-")
-        self.assertIn("Robin Fields & Sandy Moore", words)
+        self.assertIn(b"Robin Fields & Sandy Moore", words)
         self.assertFalse(self.home.data.exists())
 
     def test_texts_differences_and_checks(self):
