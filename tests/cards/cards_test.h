@@ -26,7 +26,7 @@ class CardsTest : public testing::Test {
 
     /// Writes a file below the folder, with the folders on the way; its path.
     std::string write(std::string_view name, std::string_view content) const {
-        const std::filesystem::path path = folder / pathOf(name);
+        const std::filesystem::path path = pathOf(at(name));
         std::filesystem::create_directories(path.parent_path());
         std::ofstream(path, std::ios::binary) << content;
         return utf8Of(path);
@@ -37,7 +37,7 @@ class CardsTest : public testing::Test {
     }
 
     [[nodiscard]] std::string at(std::string_view name) const {
-        return utf8Of(folder / pathOf(name));
+        return utf8Of((folder / pathOf(name)).make_preferred());
     }
 
     /// Check box 3 and the text "1^c & 2^H" in area 2, of 4 and 3 fields.

@@ -155,7 +155,7 @@ TEST_F(MakePages, TheDataFolderStaysAsItIsAndNothingIsLeftBehind) {
     write("ZEV/ZEV.Ini", "Name=Joe\r\nZoom=3\r\n");
     write("temporary/other", "");
     for (const char* name : {"TMPDIR", "TMP"}) test_system::setVariable(name, at("temporary"));
-    EXPECT_EQ(run({"pdf", "-o", at("out"), "ann"}), 0) << err;
+    EXPECT_EQ(run({"pdf", "-o", at("out"), "Ann"}), 0) << err;
     EXPECT_EQ(filesIn("temporary"), (std::set<std::string>{"other"}));
     EXPECT_EQ(filesIn("ZEV"), (std::set<std::string>{"Ann.zev", "ZEV.Ini"}));
     EXPECT_EQ(contentOf("ZEV/ZEV.Ini"), "Name=Joe\r\nZoom=3\r\n");
