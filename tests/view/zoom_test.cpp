@@ -13,7 +13,6 @@
 namespace zev::test {
 namespace {
 
-namespace fs = std::filesystem;
 namespace key = toolkit::key;
 namespace shift = toolkit::shift;
 using toolkit::test::typeKey;
