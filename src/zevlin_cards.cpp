@@ -36,6 +36,7 @@ int main(int argumentCount, char** arguments) {
                                  .out = std::cout,
                                  .err = std::cerr,
                                  .dataFolder = dataFolder,
+                                 .installedFolder = toolkit::programFolder,
                                  .worker = {},
                                  .isErrShown = toolkit::isErrorOnTerminal()});
 }

@@ -53,6 +53,17 @@ std::vector<fs::path> sortedEntries(const fs::path& folder, std::error_code& err
     return entries;
 }
 
+/// Empty where the folder has no card of this name.
+fs::path cardIn(const fs::path& folder, const std::string& name) {
+    if (folder.empty()) return {};
+    for (const std::string& candidate : {name + std::string(cardExtension), name}) {
+        const auto card = toolkit::findFile(folder, candidate);
+        std::error_code ignored;
+        if (card && fs::is_regular_file(*card, ignored)) return *card;
+    }
+    return {};
+}
+
 } // namespace
 
 CardList::CardList(Settings settings, Take take, Complain complain)
@@ -69,7 +80,7 @@ void CardList::add(std::string_view utf8) {
     const fs::file_status status = fs::status(path, error);
     if (fs::is_regular_file(status)) return takeCard(path);
     if (settings_.takesFolders && fs::is_directory(status)) return addFolder(path);
-    if (const fs::path card = inDataFolder(utf8); !card.empty()) return takeCard(card);
+    if (const fs::path card = named(utf8); !card.empty()) return takeCard(card);
     complain(path, obstacle(status, error));
 }
 
@@ -113,19 +124,16 @@ void CardList::complain(const fs::path& path, std::string_view what) {
     complain_(onOneLine(utf8Of(path)) + ": " + std::string(what));
 }
 
-fs::path CardList::inDataFolder(std::string_view utf8) {
+fs::path CardList::named(std::string_view utf8) {
     const std::string name = toolkit::ansiFromUtf8(utf8);
     if (name.empty() || name.find_first_of("/\\") != std::string::npos ||
         toolkit::utf8FromAnsi(name) != utf8)
         return {};
-    if (!std::exchange(hasAskedForFolder_, true)) dataFolder_ = settings_.dataFolder();
-    if (dataFolder_.empty()) return {};
-    for (const std::string& candidate : {name + std::string(cardExtension), name}) {
-        const auto card = toolkit::findFile(dataFolder_, candidate);
-        std::error_code ignored;
-        if (card && fs::is_regular_file(*card, ignored)) return *card;
-    }
-    return {};
+    if (!dataFolder_) dataFolder_ = settings_.dataFolder();
+    if (fs::path card = cardIn(*dataFolder_, name); !card.empty()) return card;
+    if (!settings_.installedFolder) return {};
+    if (!installedFolder_) installedFolder_ = settings_.installedFolder();
+    return cardIn(*installedFolder_, name);
 }
 
 } // namespace zev

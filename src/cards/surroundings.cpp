@@ -38,9 +38,10 @@ void addFrom(CardList& list, const CommandOptions& options, std::istream& standa
 
 void forEachFile(const CommandOptions& options, const Surroundings& surroundings,
                  FoldersAsked folders, const TakeFile& take, const Complain& complain) {
-    CardList list(
-        {.dataFolder = surroundings.dataFolder, .takesFolders = folders == FoldersAsked::Taken},
-        take, complain);
+    CardList list({.dataFolder = surroundings.dataFolder,
+                   .installedFolder = surroundings.installedFolder,
+                   .takesFolders = folders == FoldersAsked::Taken},
+                  take, complain);
     for (const std::string& card : options.cards) list.add(card);
     addFrom(list, options, surroundings.in);
 }

@@ -17,6 +17,8 @@ struct Surroundings {
     std::ostream& err;
     /// Zevlin's folder; asked for only where a name is no file.
     std::function<std::filesystem::path()> dataFolder;
+    /// The folder with the sample cards; asked for only where Zevlin's folder has no such card.
+    std::function<std::filesystem::path()> installedFolder{};
     /// The program that makes pages and images as a worker; empty for this one.
     std::filesystem::path worker{};
     /// Whether somebody sees at once what goes to `err`.

@@ -16,7 +16,9 @@ class CardListing : public test::CardsTest {
         found.clear();
         complaints.clear();
         CardList cards(
-            {.dataFolder = [this] { return dataFolder; }, .takesFolders = takesFolders},
+            {.dataFolder = [this] { return dataFolder; },
+             .installedFolder = [this] { return folder / "installed"; },
+             .takesFolders = takesFolders},
             [this](const fs::path& card) { found.push_back(below(utf8Of(card))); },
             [this](const std::string& message) { complaints.push_back(below(message)); });
         cards.add(argument);
@@ -57,6 +59,18 @@ TEST_F(CardListing, AFileGoesBeforeANameInTheDataFolder) {
     write("ZEV/here.zev", "");
     list(write("here.zev", ""));
     EXPECT_EQ(found, Texts{"here.zev"});
+}
+
+TEST_F(CardListing, ASampleCardIsFoundWhereTheDataFolderHasNone) {
+    writeCardFile("installed/Two Over One.zev");
+    list("two over one");
+    EXPECT_EQ(found, (Texts{"installed/Two Over One.zev"}));
+    writeCardFile("ZEV/Two Over One.zev");
+    list("Two Over One");
+    EXPECT_EQ(found, (Texts{"ZEV/Two Over One.zev"}));
+    list("Three Over One");
+    EXPECT_TRUE(found.empty());
+    EXPECT_EQ(complaints.size(), 1U);
 }
 
 TEST_F(CardListing, ANameOfTheDataFolderIsNoPath) {

@@ -1,6 +1,7 @@
 #include "toolkit/window/shell_folders.h"
 
 #include <filesystem>
+#include <string>
 #include <system_error>
 
 #include <QtCore/QCoreApplication>
@@ -34,11 +35,21 @@ void open(const QUrl& address) {
     QDesktopServices::openUrl(address);
 }
 
+/// The library tells it to an application; a command without windows is one while it asks.
+QString folderOfThisProgram() {
+    if (QCoreApplication::instance() != nullptr) return QCoreApplication::applicationDirPath();
+    int count = 1;
+    std::string name = "zevlin";
+    char* arguments[] = {name.data(), nullptr};
+    const QCoreApplication asking(count, arguments);
+    return QCoreApplication::applicationDirPath();
+}
+
 } // namespace
 
 std::filesystem::path programFolder() {
     if (!programOverrides().programFolder.empty()) return programOverrides().programFolder;
-    const std::filesystem::path program = nativePath(QCoreApplication::applicationDirPath());
+    const std::filesystem::path program = nativePath(folderOfThisProgram());
     std::filesystem::path beside = program / "zevlin-files";
     std::error_code failure;
     if (std::filesystem::is_directory(beside, failure)) return beside;
