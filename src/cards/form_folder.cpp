@@ -9,6 +9,7 @@
 
 #include "cards/message_text.h"
 #include "form/options_file.h"
+#include "layout/layout_file.h"
 #include "toolkit/base/error.h"
 #include "toolkit/base/files.h"
 #include "toolkit/base/folder.h"
@@ -20,9 +21,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* optionsName = "ZEV.Ini";
-constexpr const char* layoutName = "Definitions.Ini";
-constexpr const char* setAsideLayoutName = "$$TempDef.Ini";
 constexpr const char* pictureName = "Convention card.gif";
 /// The step of the zoom ladder at which the card has its full size.
 constexpr const char* fullSize = "Zoom=11\r\n";
@@ -100,13 +98,13 @@ std::string formOptions(std::string_view players) {
 void fillFormFolder(const fs::path& folder, const CommandOptions& options,
                     const Surroundings& surroundings) {
     const fs::path players = surroundings.dataFolder();
-    copyIfThere(players, optionsName, folder / optionsName);
-    writeOptions(folder / optionsName);
+    copyIfThere(players, optionsFileName, folder / optionsFileName);
+    writeOptions(folder / optionsFileName);
     copyIfThere(players, pictureName, folder / pictureName);
-    if (!options.layout.empty()) return copyTo(pathOf(options.layout), folder / layoutName);
+    if (!options.layout.empty()) return copyTo(pathOf(options.layout), folder / layoutFileName);
     // A job of Zevlin's has its own layout in the place of the player's.
-    if (!copyIfThere(players, setAsideLayoutName, folder / layoutName))
-        copyIfThere(players, layoutName, folder / layoutName);
+    if (!copyIfThere(players, setAsideName, folder / layoutFileName))
+        copyIfThere(players, layoutFileName, folder / layoutFileName);
 }
 
 } // namespace zev

@@ -86,9 +86,10 @@ class PageRun {
         if (next_ == taskCount()) return std::nullopt;
         const std::size_t task = next_++;
         if (task == plan_.size())
-            return taskText({.card = {}, .output = absolute(plan_.output(0))});
-        const fs::path card = absolute(plan_.card(task));
-        return taskText({.card = card, .output = isTogether() ? "" : absolute(plan_.output(task))});
+            return taskText({.card = {}, .output = orCurrentFolder(plan_.output(0))});
+        const fs::path card = orCurrentFolder(plan_.card(task));
+        return taskText(
+            {.card = card, .output = isTogether() ? "" : orCurrentFolder(plan_.output(task))});
     }
 
     void takeAnswer(std::size_t task, const std::optional<std::string>& answer) {
@@ -99,8 +100,10 @@ class PageRun {
         tell(answer ? *answer : onOneLine(utf8Of(about)) + ": the program failed at it");
     }
 
-    /// The worker has the same current folder; but a name must not be taken for none.
-    static fs::path absolute(const fs::path& path) { return path.empty() ? fs::path(".") : path; }
+    /// An empty path would tell the worker that there is no file.
+    static fs::path orCurrentFolder(const fs::path& path) {
+        return path.empty() ? fs::path(".") : path;
+    }
 
     void tell(const std::string& message) {
         hideProgress();

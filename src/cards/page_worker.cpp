@@ -153,9 +153,7 @@ fs::path copiedInto(const TemporaryFolder& own, const fs::path& folder) {
     const fs::path copy = own.path() / "Documents" / "ZEV";
     std::error_code error;
     fs::create_directories(copy, error);
-    if (error)
-        throw Trouble{onOneLine(utf8Of(copy)) + ": " +
-                      toolkit::fileFailure(error.default_error_condition().value()).description()};
+    if (error) throw Trouble{onOneLine(utf8Of(copy)) + ": " + textOf(error)};
     for (const fs::directory_entry& file : fs::directory_iterator(folder))
         toolkit::writeTemporaryFile(copy / file.path().filename(), toolkit::readFile(file.path()));
     completeLayout(copy);

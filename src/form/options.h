@@ -1,11 +1,11 @@
 // Writing the options: each lives in the control or field that uses it.
 #pragma once
 
+#include "form/options_file.h"
+
 namespace zev {
 
 struct Zevlin;
-
-constexpr const char* optionsFileName = "ZEV.Ini";
 
 /// Whether there is an options file that this run hasn't read: the player's settings are in it, and
 /// not in memory.

@@ -11,6 +11,8 @@
 
 namespace zev {
 
+constexpr const char* optionsFileName = "ZEV.Ini";
+
 /// A setting line as the reader takes it.
 struct OptionLine {
     std::string key;   ///< lower case, trimmed

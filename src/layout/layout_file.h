@@ -11,6 +11,11 @@
 
 namespace zev {
 
+/// The layout's file name in the data folder.
+constexpr const char* layoutFileName = "Definitions.Ini";
+/// The name under which a check-point sets the layout's file aside.
+constexpr const char* setAsideName = "$$TempDef.Ini";
+
 /// Characters of the mark font.
 namespace mark_symbol {
 constexpr char check = '\xFC';  // 252

@@ -3,14 +3,13 @@
 
 #include <string>
 
+#include "layout/layout_file.h"
+
 namespace zev {
 
 struct Zevlin;
 
 /// What Definitions.Ini would say now.
 [[nodiscard]] std::string layoutText(const Zevlin& form);
-
-/// The layout's file name in the data folder.
-constexpr const char* layoutFileName = "Definitions.Ini";
 
 } // namespace zev

@@ -3,6 +3,8 @@
 
 #include <filesystem>
 
+#include "layout/layout_file.h"
+
 namespace zev {
 
 struct Zevlin;
@@ -12,9 +14,6 @@ void MSaveShapes_Click(Zevlin& form);
 
 /// The same where the player hasn't asked for it: a failure is noted and the result is false.
 bool saveShapesUnasked(Zevlin& form);
-
-/// The name under which a check-point sets the layout's file aside.
-constexpr const char* setAsideName = "$$TempDef.Ini";
 
 /// Deletes the layout that a failed RestoreShapes has left set aside: the player has saved another
 /// one since. That of a copy of the program that has died is kept.

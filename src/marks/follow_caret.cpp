@@ -46,9 +46,10 @@ void followCaret(Zevlin& form) {
     TextCaret caret{.field = form.TIndex, .place = box.SelStart, .text = box.Text};
     if (caret == form.FollowedCaret) return;
     form.FollowedCaret = std::move(caret);
-    const Area visible = visibleArea(form, toolkit::taskBar());
     // A selection's moving end isn't known.
-    if (box.SelLength > 0 || visible.right <= visible.left || visible.bottom <= visible.top) return;
+    if (box.SelLength > 0) return;
+    const Area visible = visibleArea(form, toolkit::taskBar());
+    if (visible.right <= visible.left || visible.bottom <= visible.top) return;
     const float across = pullAcross(form, box, visible);
     const float top = form.P1.Top + box.Top;
     const float down =
