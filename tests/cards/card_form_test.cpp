@@ -1,8 +1,6 @@
 // Pages and images without a window, held against what the program itself prints and exports.
 #include "cards/card_form.h"
 
-#include <regex>
-
 #include "cards/form_folder.h"
 #include "cards/surroundings.h"
 #include "output/export_card.h"
@@ -36,15 +34,12 @@ class CardFormTest : public PrintTest {
         const auto file = home / "page.pdf";
         answerFile(file);
         EXPECT_TRUE(toolkit::test::chooseMenu(item));
-        return withoutDate(toolkit::readFile(file));
+        return withoutDateOfPdf(toolkit::readFile(file));
     }
     std::string exported(void (*command)(Zevlin&), const std::string& name) {
         answerInput(name);
         command(form);
         return toolkit::readFile(dataFile(name));
-    }
-    static std::string withoutDate(const std::string& file) {
-        return std::regex_replace(file, std::regex(R"(/CreationDate \([^)]*\))"), "");
     }
 
     /// From here on the program's window is closed.
@@ -67,7 +62,7 @@ class CardFormTest : public PrintTest {
         return maker().pages();
     }
     std::string page(const std::string& title = "Two Over One") {
-        return withoutDate(toolkit::pdfDocument(pages(), title));
+        return withoutDateOfPdf(toolkit::pdfDocument(pages(), title));
     }
     static float creditIn(const toolkit::CardRecording& card) {
         for (const toolkit::Label& label : card.labels)

@@ -81,11 +81,7 @@ TEST_F(PageWorker, AFileTellsNoTimeUnlessItIsGiven) {
     const PageTask task{.card = card("Two Over One.zev"), .output = home / "a.pdf"};
     const auto told = [&] {
         answersTo({task});
-        const std::string file = toolkit::readFile(task.output);
-        std::smatch found;
-        return std::regex_search(file, found, std::regex(R"(/CreationDate \(([^)]*)\))"))
-                   ? found[1].str()
-                   : "";
+        return dateOfPdf(toolkit::readFile(task.output));
     };
     EXPECT_EQ(told(), "");
     order.options.stamp = true;

@@ -89,10 +89,10 @@ TEST_F(PrintHelp, TheDesignChapterBeginsAPage) {
 template <typename Choose>
 float extremeOf(const fs::path& file, const std::string& coordinate, Choose choose) {
     const std::string boxes = outputOf("pdftotext -bbox '" + file.string() + "' -");
-    const std::regex pattern("<word[^>]* " + coordinate + "=\"([0-9.]+)\"");
     std::optional<float> extreme;
-    for (std::sregex_iterator word(boxes.begin(), boxes.end(), pattern), end; word != end; ++word) {
-        const float value = std::stof((*word)[1]);
+    for (auto word = boxes.find("<word "); word != std::string::npos;
+         word = boxes.find("<word ", word + 1)) {
+        const float value = numbersAfter(boxes, coordinate + "=\"", word).at(0);
         extreme = extreme ? choose(*extreme, value) : value;
     }
     return extreme.value_or(-1);

@@ -36,14 +36,16 @@ bool isGray(Color color) {
 /// All colours that the page is drawn with.
 std::set<Color> inksOf(const std::filesystem::path& page) {
     const std::string content = unpackedPdf(toolkit::readFile(page));
-    const std::regex pattern(R"(/CSp cs ([0-9.]+) ([0-9.]+) ([0-9.]+) scn)");
+    const std::string_view setsInk = "/CSp cs ";
     std::set<Color> inks;
-    for (std::sregex_iterator found(content.begin(), content.end(), pattern), end; found != end;
-         ++found) {
+    for (auto at = content.find(setsInk); at != std::string::npos;
+         at = content.find(setsInk, at + 1)) {
+        const std::vector<float> channels = numbersAfter(content, setsInk, at);
+        if (channels.size() != 3) continue;
         const auto shade = [&](std::size_t channel) {
-            return static_cast<int>(std::lround(std::stod((*found)[channel]) * 255));
+            return static_cast<int>(std::lround(channels[channel] * 255));
         };
-        inks.insert(toolkit::rgb(shade(1), shade(2), shade(3)));
+        inks.insert(toolkit::rgb(shade(0), shade(1), shade(2)));
     }
     return inks;
 }

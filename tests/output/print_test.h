@@ -2,12 +2,12 @@
 #pragma once
 
 #include <filesystem>
-#include <regex>
 #include <string>
 
 #include "app/layouts.h"
 #include "support/form_test.h"
 #include "support/pdf_content.h"
+#include "support/printed_page.h"
 #include "toolkit/base/clock.h"
 #include "toolkit/base/files.h"
 #include "toolkit/print/printer.h"
@@ -15,57 +15,6 @@
 #include "toolkit/testing/test_window.h"
 
 namespace zev::test {
-
-/// What a page file says of its page and the card on it, in points.
-struct PrintedPage {
-    float pageWidth = 0;
-    float pageHeight = 0;
-    float width = 0;
-    float height = 0;
-    float left = 0;
-    float foot = 0; ///< from the page's foot to the card's
-    int pictures = 0;
-    int pixelsAcross = 0;
-    int pixelsDown = 0;
-};
-
-/// The card's size at full scale, in pixels.
-constexpr int cardWidth = 2396;
-constexpr int cardHeight = 2488;
-
-inline PrintedPage pageIn(const std::filesystem::path& file) {
-    const std::string content = unpackedPdf(toolkit::readFile(file));
-    PrintedPage page;
-    std::smatch found;
-    const std::string number = R"(([-0-9.]+)\s)";
-    if (std::regex_search(content, found,
-                          std::regex(R"(MediaBox \[0 0 )" + number + R"(([-0-9.]+)\])"))) {
-        page.pageWidth = std::stof(found[1]);
-        page.pageHeight = std::stof(found[2]);
-    }
-    for (auto at = content.find("/Subtype /Image"); at != std::string::npos;
-         at = content.find("/Subtype /Image", at + 1)) {
-        const std::string image = content.substr(at);
-        std::regex_search(image, found, std::regex(R"(/Width (\d+)\s/Height (\d+)\s)"));
-        page.pixelsAcross = std::stoi(found[1]);
-        page.pixelsDown = std::stoi(found[2]);
-        ++page.pictures;
-    }
-    // The page's own matrix, from dots to points, then the card's, from its pixels to dots.
-    const std::string matrix = number + "0 0 " + number + number + number + "cm";
-    if (std::regex_search(content, found, std::regex(matrix))) {
-        const float dot = std::stof(found[1]);
-        const std::string rest = found.suffix();
-        std::regex_search(rest, found, std::regex(matrix));
-        const float across = static_cast<float>(page.pictures > 0 ? page.pixelsAcross : cardWidth);
-        const float down = static_cast<float>(page.pictures > 0 ? page.pixelsDown : cardHeight);
-        page.width = std::stof(found[1]) * across * dot;
-        page.height = std::stof(found[2]) * down * dot;
-        page.left = std::stof(found[3]) * dot;
-        page.foot = page.pageHeight - std::stof(found[4]) * dot - page.height;
-    }
-    return page;
-}
 
 constexpr float points = 72; ///< per inch
 

@@ -4,9 +4,12 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstdio>
 #include <memory>
+#include <optional>
 #include <stdexcept>
+#include <system_error>
 
 namespace zev::test {
 namespace {
@@ -32,6 +35,17 @@ std::string inflated(std::string_view packed) {
     return content;
 }
 
+constexpr std::string_view dateMark = "/CreationDate (";
+
+/// The number that begins here, which loses its characters; none if there is no number.
+std::optional<float> takeNumber(std::string_view& text) {
+    float number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc()) return std::nullopt;
+    text.remove_prefix(static_cast<std::size_t>(end - text.data()));
+    return number;
+}
+
 } // namespace
 
 std::string unpackedPdf(std::string_view file) {
@@ -54,6 +68,46 @@ std::string pdfTitle(std::string_view title) {
     std::string entry = "/Title (\xFE\xFF";
     for (const char character : title) (entry += '\0') += character;
     return entry + ')';
+}
+
+std::string dateOfPdf(std::string_view file) {
+    const std::size_t at = file.find(dateMark);
+    if (at == std::string_view::npos) return {};
+    const std::string_view date = file.substr(at + dateMark.size());
+    return std::string(date.substr(0, date.find(')')));
+}
+
+std::string withoutDateOfPdf(std::string file) {
+    const std::string date = dateOfPdf(file);
+    if (!date.empty()) file.erase(file.find(dateMark) + dateMark.size(), date.size());
+    return file;
+}
+
+std::vector<float> numbersAfter(std::string_view content, std::string_view mark, std::size_t from) {
+    const std::size_t at = content.find(mark, from);
+    std::vector<float> numbers;
+    if (at == std::string_view::npos) return numbers;
+    content.remove_prefix(at + mark.size());
+    while (const auto number = takeNumber(content)) {
+        numbers.push_back(*number);
+        if (content.starts_with(' ')) content.remove_prefix(1);
+    }
+    return numbers;
+}
+
+std::vector<float> numbersBefore(std::string_view content, std::size_t end, std::size_t count) {
+    std::vector<float> numbers;
+    content = content.substr(0, end);
+    while (numbers.size() < count) {
+        const std::size_t first = content.find_last_not_of("-.0123456789") + 1;
+        std::string_view word = content.substr(first);
+        const auto number = takeNumber(word);
+        if (!number) break;
+        numbers.insert(numbers.begin(), *number);
+        if (first == 0) break;
+        content = content.substr(0, first - 1);
+    }
+    return numbers;
 }
 
 #ifndef _WIN32

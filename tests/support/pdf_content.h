@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zev::test {
 
@@ -12,6 +13,20 @@ namespace zev::test {
 
 /// How the file says that it has this title, of ASCII characters.
 [[nodiscard]] std::string pdfTitle(std::string_view title);
+
+/// When the file says that it was made, as it stands there; an empty text if it says nothing.
+[[nodiscard]] std::string dateOfPdf(std::string_view file);
+
+/// The file without that.
+[[nodiscard]] std::string withoutDateOfPdf(std::string file);
+
+/// The numbers that follow the first place, at `from` or behind it, where `mark` stands.
+[[nodiscard]] std::vector<float> numbersAfter(std::string_view content, std::string_view mark,
+                                              std::size_t from = 0);
+
+/// Up to `count` numbers, blanks between them, that end in front of the place `end`.
+[[nodiscard]] std::vector<float> numbersBefore(std::string_view content, std::size_t end,
+                                               std::size_t count);
 
 #ifndef _WIN32
 /// Its words as a reader program finds them, in UTF-8, a blank between two words of a line.
