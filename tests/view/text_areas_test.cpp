@@ -2,6 +2,8 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
+#include <cstdint>
+#include <span>
 #include <sstream>
 #include <string>
 #include <tuple>
@@ -54,10 +56,17 @@ class TextAreas : public FormTest,
     [[nodiscard]] int touchedPrint() const {
         const int ink = twips == 12 ? 255 : 382;
         const toolkit::Bitmap pen = toolkit::test::grabCard();
+        const std::uint32_t paper = toolkit::Bitmap(1, 1).row(0)[0];
         int touched = 0;
-        for (int y = 0; y < pen.height(); ++y)
-            for (int x = 0; x < pen.width(); ++x)
-                if (brightness(pen, x, y) < ink && brightness(print, x, y) < ink) ++touched;
+        for (int y = 0; y < pen.height(); ++y) {
+            const std::span row(pen.row(y), static_cast<std::size_t>(pen.width()));
+            int x = 0;
+            for (const std::uint32_t value : row) {
+                const bool isWritten = value != paper && brightness(pen, x, y) < ink;
+                touched += isWritten && brightness(print, x, y) < ink ? 1 : 0;
+                ++x;
+            }
+        }
         return touched;
     }
 
