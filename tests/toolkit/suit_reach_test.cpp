@@ -30,10 +30,10 @@ bool pageHolds(std::string_view file, std::string_view text) {
     return file.find(text) != std::string_view::npos;
 }
 
-TEST(SuitReach, ASuitIsToldToReachAsFarAsItsRoomOrATraceFarther) {
-    EXPECT_TRUE(pageHolds(pageWithSuit(433), "/DW 730 "));
-    EXPECT_TRUE(pageHolds(pageWithSuit(437.9F), "/DW 730 "));
-    EXPECT_TRUE(pageHolds(pageWithSuit(60.5F), "/DW 110 "));
+TEST(SuitReach, ASuitIsToldToReachAsFarAsItsRoomOrLessThanATenthFarther) {
+    EXPECT_TRUE(pageHolds(pageWithSuit(420.5F), "/DW 800 "));
+    EXPECT_TRUE(pageHolds(pageWithSuit(479.5F), "/DW 800 "));
+    EXPECT_TRUE(pageHolds(pageWithSuit(60.5F), "/DW 200 "));
 }
 
 TEST(SuitReach, ASuitWithoutRoomOrWithFarTooMuchIsAsWideAsItIs) {

@@ -16,12 +16,12 @@ namespace toolkit {
 namespace {
 
 constexpr std::string_view ownFamily = "Zevlin Suits";
-constexpr int hundredthsOfAnEm = 100;
+constexpr int tenthsOfAnEm = 10;
 constexpr double mostEms = 4;
 
-/// As long as the own name, whose place it takes in the font's file: "Zevlin S0062".
-std::string nameFor(int hundredths) {
-    const std::string number = std::to_string(hundredths);
+/// As long as the own name, whose place it takes in the font's file: "Zevlin S0006".
+std::string nameFor(int tenths) {
+    const std::string number = std::to_string(tenths);
     std::string name(ownFamily.substr(0, ownFamily.find("uits")));
     return name.append(ownFamily.size() - name.size() - number.size(), '0') + number;
 }
@@ -44,11 +44,11 @@ quint16 numberAt(const QByteArray& file, const char* tag, qsizetype place) {
     return qFromBigEndian<quint16>(file.constData() + tableAt(file, tag) + place);
 }
 
-void setAdvances(QByteArray& file, int hundredths) {
+void setAdvances(QByteArray& file, int tenths) {
     constexpr qsizetype unitsPerEm = 18;
     constexpr qsizetype metricsCount = 34;
     constexpr qsizetype metricLength = 4;
-    const int units = hundredths * numberAt(file, "head", unitsPerEm) / hundredthsOfAnEm;
+    const int units = tenths * numberAt(file, "head", unitsPerEm) / tenthsOfAnEm;
     char* metric = file.data() + tableAt(file, "hmtx");
     for (int i = 0; i < numberAt(file, "hhea", metricsCount); ++i, metric += metricLength)
         qToBigEndian(static_cast<quint16>(units), metric);
@@ -61,21 +61,21 @@ QByteArray sixteenBits(std::string_view text) {
 }
 
 /// True if the font system has taken it.
-bool registerFont(const std::string& name, int hundredths) {
+bool registerFont(const std::string& name, int tenths) {
     const auto data = embeddedFile("/fonts/zevlin-suits.ttf");
     QByteArray file(reinterpret_cast<const char*>(data.data()),
                     static_cast<qsizetype>(data.size()));
-    setAdvances(file, hundredths);
+    setAdvances(file, tenths);
     file.replace(sixteenBits(ownFamily), sixteenBits(name));
     file.replace(QByteArray(ownFamily.data(), ownFamily.size()), QByteArray::fromStdString(name));
     QFontDatabase::addApplicationFontFromData(file);
     return fontFamily(name).nameGiven == name;
 }
 
-bool isAvailable(const std::string& name, int hundredths) {
+bool isAvailable(const std::string& name, int tenths) {
     static std::map<int, bool> known;
-    const auto [entry, isNew] = known.try_emplace(hundredths, false);
-    if (isNew) entry->second = registerFont(name, hundredths);
+    const auto [entry, isNew] = known.try_emplace(tenths, false);
+    if (isNew) entry->second = registerFont(name, tenths);
     return entry->second;
 }
 
@@ -86,11 +86,12 @@ FontSpec suitsReaching(const FontSpec& font, float twips) {
         return font;
     const double ems = static_cast<double>(twips) / (font.Size * twipsPerPoint);
     if (ems <= 0 || ems >= mostEms || std::isnan(ems)) return font;
-    // Wider by a trace: readers mind a gap, however small, but no overlap.
-    const int hundredths = static_cast<int>(ems * hundredthsOfAnEm) + 1;
+    // Readers mind a gap, however small, but no small overlap; and each width is one more font that
+    // the page takes along.
+    const int tenths = static_cast<int>(ems * tenthsOfAnEm) + 1;
     FontSpec reaching = font;
-    reaching.Name = nameFor(hundredths);
-    return isAvailable(reaching.Name, hundredths) ? reaching : font;
+    reaching.Name = nameFor(tenths);
+    return isAvailable(reaching.Name, tenths) ? reaching : font;
 }
 
 } // namespace toolkit

@@ -7,7 +7,7 @@
 namespace toolkit {
 
 /// The same signs in a font that says of each that it is this many twips wide, or wider by less
-/// than a hundredth of its size: who reads a page by program takes paper behind a sign for a blank.
+/// than a tenth of its size: who reads a page by program takes paper behind a sign for a blank.
 /// Any other font than the program's own comes back as it is.
 [[nodiscard]] FontSpec suitsReaching(const FontSpec& font, float twips);
 
