@@ -215,6 +215,16 @@ TEST(Composition, TypedTextStandsOnTheBaseLineOfTheWordsOfItsRow) {
     EXPECT_GT(rows, 100);
 }
 
+TEST(Composition, WordsLieOverAllBoxes) {
+    const auto& items = sheet().artwork.items;
+    const auto isBox = [](const toolkit::DrawnItem& item) {
+        return std::holds_alternative<toolkit::FilledRectangle>(item);
+    };
+    EXPECT_TRUE(std::ranges::any_of(items, isBox));
+    EXPECT_FALSE(std::ranges::all_of(items, isBox));
+    EXPECT_TRUE(std::ranges::is_partitioned(items, isBox));
+}
+
 TEST(Composition, RowsOfNeighbouringColumnsStandOnOneLine) {
     std::set<int> left;
     std::set<int> right;

@@ -48,6 +48,23 @@ TEST_F(DrawingPainter, TheArtworkIsAsWideAsThePicture) {
     EXPECT_TRUE(draws("20 10 40 2 re"));
 }
 
+TEST_F(DrawingPainter, BoxesOfOneColourThatFollowEachOtherAreFilledAtOnce) {
+    auto artwork = std::make_shared<Drawing>();
+    artwork->width = 100;
+    artwork->height = 50;
+    const Color red = rgb(255, 0, 0);
+    artwork->items = {
+        FilledRectangle{red, 20, 10, 40, 2},         FilledRectangle{red, 20, 20, 40, 2},
+        Words{red, "Arial", false, 20, 30, 40, "m"}, FilledRectangle{red, 20, 30, 40, 2},
+        FilledRectangle{black, 20, 40, 40, 2},       FilledRectangle{black, 20, 45, 40, 2}};
+    card->artwork = artwork;
+    const std::string page = drawn();
+    const std::size_t words = page.find("BT\n");
+    EXPECT_LT(page.find("20 10 40 2 re\n20 20 40 2 re\nf\n"), words) << page;
+    EXPECT_GT(page.find("20 30 40 2 re\nf\n"), words);
+    EXPECT_TRUE(draws("20 40 40 2 re\n20 45 40 2 re\nf\n"));
+}
+
 TEST_F(DrawingPainter, ALabelStandsAtItsExactPlace) {
     Label made = label();
     made.BackStyle = BackStyle::Opaque;

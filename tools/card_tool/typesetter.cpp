@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <set>
+#include <variant>
 
 #include "card_tool/failure.h"
 #include "card_tool/row_setter.h"
@@ -299,6 +300,13 @@ void putCirclesLast(Sheet& sheet) {
             sheet.walk.push_back({FieldKind::Mark, static_cast<int>(at) + 1});
 }
 
+/// No box hides words. Boxes that follow each other are drawn at once, which makes a page smaller.
+void putWordsLast(toolkit::Drawing& artwork) {
+    std::ranges::stable_partition(artwork.items, [](const toolkit::DrawnItem& item) {
+        return std::holds_alternative<toolkit::FilledRectangle>(item);
+    });
+}
+
 void checkNames(const Sheet& sheet) {
     std::set<std::string> names;
     const auto take = [&names](const std::string& id) {
@@ -325,6 +333,7 @@ Sheet typeset(const Description& description, const Typefaces& faces) {
     }
     setter.finish();
     putCirclesLast(sheet);
+    putWordsLast(sheet.artwork);
     checkNames(sheet);
     return sheet;
 }

@@ -1,7 +1,9 @@
 #include "toolkit/window/card/qt_drawing_painter.h"
 
 #include <cmath>
+#include <variant>
 
+#include <QtCore/QList>
 #include <QtGui/QPainter>
 
 #include "toolkit/base/qt_geometry.h"
@@ -13,10 +15,6 @@
 namespace toolkit {
 namespace {
 
-void paintItem(QPainter& painter, const FilledRectangle& box) {
-    painter.fillRect(QRectF(box.left, box.top, box.width, box.height), qColor(box.color));
-}
-
 /// As long as a pixel of the drawing is taken for a twip. A machine without the font has its wider
 /// kin, which comes closer than what the font system would choose.
 FontSpec fontOf(const Words& words) {
@@ -27,7 +25,7 @@ FontSpec fontOf(const Words& words) {
             .Italic = false};
 }
 
-void paintItem(QPainter& painter, const Words& words) {
+void paintWords(QPainter& painter, const Words& words) {
     constexpr double finest = 0.002;
     const FontSpec font = fontOf(words);
     const QPointF start(words.left, words.baseline);
@@ -40,6 +38,23 @@ void paintItem(QPainter& painter, const Words& words) {
     painter.scale(fit, 1);
     drawRun(painter, {}, font, 1, words.color, words.text);
     painter.restore();
+}
+
+/// The boxes of one colour that the items begin with, as one path, which keeps a page small. Comes
+/// back with the other items.
+std::span<const DrawnItem> paintBoxes(QPainter& painter, std::span<const DrawnItem> items) {
+    const Color color = std::get<FilledRectangle>(items.front()).color;
+    QList<QRectF> boxes;
+    while (!items.empty()) {
+        const auto* box = std::get_if<FilledRectangle>(&items.front());
+        if (box == nullptr || box->color != color) break;
+        boxes.emplaceBack(box->left, box->top, box->width, box->height);
+        items = items.subspan(1);
+    }
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(qColor(color));
+    painter.drawRects(boxes);
+    return items;
 }
 
 void paintArtwork(QPainter& painter, const CardRecording& card) {
@@ -70,8 +85,14 @@ void paintGround(QPainter& painter, const CardRecording& card) {
 } // namespace
 
 void paintItems(QPainter& painter, std::span<const DrawnItem> items) {
-    for (const DrawnItem& item : items)
-        std::visit([&painter](const auto& drawn) { paintItem(painter, drawn); }, item);
+    while (!items.empty()) {
+        if (const auto* words = std::get_if<Words>(&items.front())) {
+            paintWords(painter, *words);
+            items = items.subspan(1);
+        } else {
+            items = paintBoxes(painter, items);
+        }
+    }
 }
 
 void paintDrawing(QPainter& painter, const Drawing& drawing) { paintItems(painter, drawing.items); }
