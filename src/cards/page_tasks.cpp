@@ -87,8 +87,6 @@ std::vector<std::pair<std::string, std::string>>
 workerEnvironment(const CommandOptions& options, const std::filesystem::path& folder) {
     std::vector<std::pair<std::string, std::string>> environment{
         {"QT_QPA_PLATFORM", "offscreen"},
-        // The library's files have their parts in the order of its tables.
-        {"QT_HASH_SEED", "0"},
         // Where there is none, the library makes one for good.
         {"XDG_RUNTIME_DIR", utf8Of(folder)},
         {"QT_SCALE_FACTOR", ""},

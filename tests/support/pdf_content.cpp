@@ -58,10 +58,19 @@ std::string unpackedPdf(std::string_view file) {
         const std::size_t first = at + begin.size();
         const std::size_t past = file.find(end, first);
         content.append(file.substr(from, first - from));
-        content += inflated(file.substr(first, past - first));
+        const std::string_view stream = file.substr(first, past - first);
+        const std::string plain = inflated(stream);
+        content.append(plain.empty() ? stream : plain);
         from = std::min(past, file.size());
     }
     return content.append(file.substr(from));
+}
+
+int timesInPdf(std::string_view file, std::string_view text) {
+    int found = 0;
+    for (auto at = file.find(text); at != std::string_view::npos; at = file.find(text, at + 1))
+        ++found;
+    return found;
 }
 
 std::string pdfTitle(std::string_view title) {

@@ -11,6 +11,12 @@ namespace zev::test {
 /// The file with its packed streams laid open.
 [[nodiscard]] std::string unpackedPdf(std::string_view file);
 
+/// How often a text stands in the file.
+[[nodiscard]] int timesInPdf(std::string_view file, std::string_view text);
+[[nodiscard]] inline bool isInPdf(std::string_view file, std::string_view text) {
+    return file.find(text) != std::string_view::npos;
+}
+
 /// How the file says that it has this title, of ASCII characters.
 [[nodiscard]] std::string pdfTitle(std::string_view title);
 

@@ -40,6 +40,32 @@ void readPictures(const std::string& content, PrintedPage& page) {
     }
 }
 
+/// The card's place, of whose picture the page says how large it is in dots.
+void placePicture(const std::string& content, PrintedPage& page) {
+    // The page's own matrix, from dots to points, then the card's, from its pixels to dots.
+    std::size_t from = 0;
+    const auto dots = nextMatrix(content, from);
+    const auto card = nextMatrix(content, from);
+    if (!dots || !card) return;
+    const float dot = dots->across;
+    page.width = card->across * static_cast<float>(page.pixelsAcross) * dot;
+    page.height = card->down * static_cast<float>(page.pixelsDown) * dot;
+    page.left = card->left * dot;
+    page.foot = page.pageHeight - card->top * dot - page.height;
+}
+
+/// The card's place, whose artwork is shown at a size for its pixels.
+void placeArtwork(const std::string& content, PrintedPage& page) {
+    const std::size_t shown = content.find(" cm\n/Form");
+    const std::vector<float> box = numbersAfter(content, "/BBox [");
+    if (shown == std::string::npos || box.size() != 4) return;
+    const std::vector<float> place = numbersBefore(content, shown, 6);
+    page.width = place.at(0) * static_cast<float>(cardWidth);
+    page.height = place.at(3) * static_cast<float>(cardHeight);
+    page.left = place.at(4);
+    page.foot = place.at(5) + place.at(3) * box[3] - page.height;
+}
+
 } // namespace
 
 PrintedPage pageIn(const std::filesystem::path& file) {
@@ -50,18 +76,10 @@ PrintedPage pageIn(const std::filesystem::path& file) {
         page.pageHeight = box[3];
     }
     readPictures(content, page);
-    // The page's own matrix, from dots to points, then the card's, from its pixels to dots.
-    std::size_t from = 0;
-    const auto dots = nextMatrix(content, from);
-    const auto card = nextMatrix(content, from);
-    if (!dots || !card) return page;
-    const float dot = dots->across;
-    const float across = static_cast<float>(page.pictures > 0 ? page.pixelsAcross : cardWidth);
-    const float down = static_cast<float>(page.pictures > 0 ? page.pixelsDown : cardHeight);
-    page.width = card->across * across * dot;
-    page.height = card->down * down * dot;
-    page.left = card->left * dot;
-    page.foot = page.pageHeight - card->top * dot - page.height;
+    if (page.pictures > 0)
+        placePicture(content, page);
+    else
+        placeArtwork(content, page);
     return page;
 }
 

@@ -43,9 +43,26 @@ TEST_F(DrawingPainter, TheArtworkIsAsWideAsThePicture) {
     artwork->height = 200;
     artwork->items = {FilledRectangle{rgb(255, 0, 0), 20, 10, 40, 2}};
     card->artwork = artwork;
-    // 50 dots of 1200 to the inch for a pixel of the card, and so for four of the artwork.
-    EXPECT_TRUE(draws("12.5000000 0 0 12.5000000 0 0 cm")) << drawn();
+    // 3 points for a pixel of the card, and so for four of the artwork.
+    EXPECT_TRUE(draws("0.750000000 0 0 0.750000000 0.000000000 642.000000000 cm")) << drawn();
+    EXPECT_TRUE(draws("/BBox [0 0 400.000000 200.000000]"));
     EXPECT_TRUE(draws("20 10 40 2 re"));
+}
+
+TEST_F(DrawingPainter, TheArtworkLiesOverPaperOfAnotherColour) {
+    auto artwork = std::make_shared<Drawing>();
+    artwork->width = 400;
+    artwork->height = 200;
+    artwork->items = {FilledRectangle{rgb(255, 0, 0), 20, 10, 40, 2}};
+    card->artwork = artwork;
+    card->paper = rgb(0, 128, 0);
+    const std::string page = drawn();
+    const std::size_t ground = page.find("0 0 100 50 re");
+    ASSERT_NE(ground, std::string::npos) << page;
+    // 50 dots of 1200 to the inch for a pixel of the card.
+    EXPECT_NE(page.find("12.5000000 0 0 12.5000000 0 0 cm\n20 10 40 2 re", ground),
+              std::string::npos)
+        << page;
 }
 
 TEST_F(DrawingPainter, BoxesOfOneColourThatFollowEachOtherAreFilledAtOnce) {
@@ -92,9 +109,12 @@ TEST_F(DrawingPainter, WordsOfAFontOfOtherMeasuresAreFittedToTheirWidth) {
     artwork->items = {Words{black, "Arial", false, 20, 30, 40, "mmm", 25}};
     card->artwork = artwork;
     // Three letters of 1706 units of 2048 to the em are 49.98 wide.
-    EXPECT_TRUE(draws("25.0097694 0 0 50 1500 2000 cm")) << drawn();
-    artwork->items = {Words{black, "Arial", false, 20, 30, 40, "mmm", 49.98}};
-    EXPECT_FALSE(draws("50 1500 2000 cm")) << drawn();
+    EXPECT_TRUE(draws("0.500195388 0 0 1 30 40 cm")) << drawn();
+    card->artwork = std::make_shared<Drawing>(
+        Drawing{.width = 100,
+                .height = 50,
+                .items = {Words{black, "Arial", false, 20, 30, 40, "mmm", 49.98}}});
+    EXPECT_FALSE(draws("1 30 40 cm")) << drawn();
 }
 
 TEST_F(DrawingPainter, WordsOfAMissingFontAreSetInTheUsualOneAndFitted) {
@@ -104,7 +124,7 @@ TEST_F(DrawingPainter, WordsOfAMissingFontAreSetInTheUsualOneAndFitted) {
     artwork->items = {Words{black, "No such font", false, 20, 30, 40, "mmm", 25}};
     card->artwork = artwork;
     EXPECT_TRUE(draws("+LiberationSans")) << drawn();
-    EXPECT_TRUE(draws("25.0097694 0 0 50 1500 2000 cm")) << drawn();
+    EXPECT_TRUE(draws("0.500195388 0 0 1 30 40 cm")) << drawn();
 }
 
 TEST_F(DrawingPainter, TheGroundOfTheCardIsPaintedWhereItIsntPaper) {

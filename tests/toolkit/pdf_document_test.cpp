@@ -8,18 +8,9 @@
 namespace toolkit::test {
 namespace {
 
+using zev::test::isInPdf;
+using zev::test::timesInPdf;
 using zev::test::unpackedPdf;
-
-bool holds(std::string_view file, std::string_view text) {
-    return file.find(text) != std::string_view::npos;
-}
-
-int count(std::string_view file, std::string_view text) {
-    int found = 0;
-    for (auto at = file.find(text); at != std::string_view::npos; at = file.find(text, at + 1))
-        ++found;
-    return found;
-}
 
 std::shared_ptr<CardRecording> cardOf(int width, int height) {
     auto card = std::make_shared<CardRecording>();
@@ -54,16 +45,16 @@ std::string pageWith(const std::shared_ptr<const CardRecording>& card) {
 
 TEST(PdfDocument, DrawsRectanglesAndTextsAndNoPicture) {
     const std::string file = unpackedPdf(pageWith(drawnCard()));
-    EXPECT_EQ(count(file, "/Subtype /Image"), 0);
-    EXPECT_TRUE(holds(file, "20 10 40 2 re"));
-    EXPECT_GE(count(file, "BT"), 2);
+    EXPECT_EQ(timesInPdf(file, "/Subtype /Image"), 0);
+    EXPECT_TRUE(isInPdf(file, "20 10 40 2 re"));
+    EXPECT_GE(timesInPdf(file, "BT"), 2);
 }
 
 TEST(PdfDocument, EmbedsTheFontsInPart) {
     const std::string file = unpackedPdf(pageWith(drawnCard()));
-    EXPECT_TRUE(holds(file, "+LiberationSans"));
-    EXPECT_TRUE(holds(file, "/FontFile2"));
-    EXPECT_TRUE(holds(file, "/ToUnicode"));
+    EXPECT_TRUE(isInPdf(file, "+LiberationSans"));
+    EXPECT_TRUE(isInPdf(file, "/FontFile2"));
+    EXPECT_TRUE(isInPdf(file, "/ToUnicode"));
 }
 
 TEST(PdfDocument, HoldsAPictureWithoutLoss) {
@@ -73,16 +64,16 @@ TEST(PdfDocument, HoldsAPictureWithoutLoss) {
     picture->setPixel(2, 1, rgb(250, 7, 130));
     card->picture = picture;
     const std::string file = unpackedPdf(pageWith(card));
-    EXPECT_EQ(count(file, "/Subtype /Image"), 1);
-    EXPECT_FALSE(holds(file, "DCTDecode"));
-    EXPECT_TRUE(holds(file, std::string("\x01\x02\x03\xFF\xFF\xFF\xFF\xFF\xFF"
-                                        "\xFF\xFF\xFF\xFF\xFF\xFF\xFA\x07\x82")));
+    EXPECT_EQ(timesInPdf(file, "/Subtype /Image"), 1);
+    EXPECT_FALSE(isInPdf(file, "DCTDecode"));
+    EXPECT_TRUE(isInPdf(file, std::string("\x01\x02\x03\xFF\xFF\xFF\xFF\xFF\xFF"
+                                          "\xFF\xFF\xFF\xFF\xFF\xFF\xFA\x07\x82")));
 }
 
 TEST(PdfDocument, ADrawingThatFillsNoCardIsPaper) {
     const std::string file = unpackedPdf(pageWith(cardOf(0, 0)));
-    EXPECT_EQ(count(file, "BT"), 0);
-    EXPECT_EQ(count(file, "/Type /Page\n"), 1);
+    EXPECT_EQ(timesInPdf(file, "BT"), 0);
+    EXPECT_EQ(timesInPdf(file, "/Type /Page\n"), 1);
 }
 
 TEST(PdfDocument, HoldsAnyNumberOfPages) {
@@ -91,10 +82,10 @@ TEST(PdfDocument, HoldsAnyNumberOfPages) {
         {.width = 595, .height = 842},
         {.width = 792, .height = 612}};
     const std::string file = unpackedPdf(pdfDocument(pages, ""));
-    EXPECT_EQ(count(file, "/Type /Page\n"), 3);
-    EXPECT_TRUE(holds(file, "[0 0 612.000000 792.000000]"));
-    EXPECT_TRUE(holds(file, "[0 0 595.000000 842.000000]"));
-    EXPECT_TRUE(holds(file, "[0 0 792.000000 612.000000]"));
+    EXPECT_EQ(timesInPdf(file, "/Type /Page\n"), 3);
+    EXPECT_TRUE(isInPdf(file, "[0 0 612.000000 792.000000]"));
+    EXPECT_TRUE(isInPdf(file, "[0 0 595.000000 842.000000]"));
+    EXPECT_TRUE(isInPdf(file, "[0 0 792.000000 612.000000]"));
 }
 
 TEST(PdfDocument, HasItsTitleInUnicode) {
@@ -103,8 +94,8 @@ TEST(PdfDocument, HasItsTitleInUnicode) {
     const std::string title("\xFE\xFF\0M\0\xFC\0l\0l\0e\0r\x20\x19\0s\0 \x20\x13\0 \0"
                             "5\x20\xAC",
                             28);
-    EXPECT_TRUE(holds(file, "/Title (" + title + ")"));
-    EXPECT_TRUE(holds(file, "/CreationDate (D:2"));
+    EXPECT_TRUE(isInPdf(file, "/Title (" + title + ")"));
+    EXPECT_TRUE(isInPdf(file, "/CreationDate (D:2"));
 }
 
 TEST(PdfDocument, TellsTheDateThatItIsGiven) {
@@ -113,11 +104,9 @@ TEST(PdfDocument, TellsTheDateThatItIsGiven) {
         document.addPage({.width = 612, .height = 792});
         return document.finish();
     };
-    EXPECT_TRUE(holds(file("20260921141320Z"), "/CreationDate (D:20260921141320Z)"));
-    EXPECT_FALSE(holds(file(""), "/CreationDate"));
-    EXPECT_TRUE(holds(file(std::nullopt), "/CreationDate (D:2"));
-    // The table at the end of a file says where its objects begin.
-    EXPECT_EQ(file("").size(), file(std::nullopt).size());
+    EXPECT_TRUE(isInPdf(file("20260921141320Z"), "/CreationDate (D:20260921141320Z)"));
+    EXPECT_FALSE(isInPdf(file(""), "/CreationDate"));
+    EXPECT_TRUE(isInPdf(file(std::nullopt), "/CreationDate (D:2"));
     EXPECT_EQ(file("20260921141320Z"), file("20260921141320Z"));
 }
 
@@ -125,23 +114,33 @@ TEST(PdfDocument, TakesPagesOneByOne) {
     PdfDocument document({.title = "Jones"});
     for (int i = 0; i < 3; ++i)
         document.addPage({.width = 612, .height = 792, .cards = {{drawnCard(), 0, 0, 9, 9}}});
-    EXPECT_EQ(count(unpackedPdf(document.finish()), "/Type /Page\n"), 3);
+    EXPECT_EQ(timesInPdf(unpackedPdf(document.finish()), "/Type /Page\n"), 3);
 }
 
-TEST(PdfDocument, SaysItsLanguageInACatalogOfItsOwn) {
+TEST(PdfDocument, SaysItsLanguage) {
     const Page page{.width = 612, .height = 792};
     const std::string file = pdfDocument({&page, 1}, "Jones");
-    EXPECT_EQ(count(file, "/Type /Catalog"), 2);
-    EXPECT_EQ(count(file, "/Lang (en-US)"), 1);
+    EXPECT_EQ(timesInPdf(file, "/Type /Catalog"), 1);
+    EXPECT_EQ(timesInPdf(file, "/Lang (en-US)"), 1);
+    EXPECT_EQ(timesInPdf(file, "/DisplayDocTitle true"), 1);
+}
+
+TEST(PdfDocument, ItsTableSaysWhereItsObjectsBegin) {
+    const std::string file = pageWith(drawnCard());
     EXPECT_TRUE(file.ends_with("%%EOF\n"));
-    // The last table tells where the catalog lies, and the last line where the table does.
     const std::size_t table = std::stoul(file.substr(file.rfind("startxref\n") + 10));
-    ASSERT_EQ(file.substr(table, 5), "xref\n");
-    const std::size_t number = std::stoul(file.substr(table + 5));
-    const std::size_t entry = file.find('\n', table + 5) + 1;
-    const std::size_t catalog = std::stoul(file.substr(entry, 10));
-    EXPECT_EQ(file.substr(catalog, 8), std::to_string(number) + " 0 obj\n");
-    EXPECT_EQ(file.substr(entry + 10, 9), " 00000 n ");
+    ASSERT_EQ(file.substr(table, 7), "xref\n0 ");
+    const std::size_t size = std::stoul(file.substr(table + 7));
+    EXPECT_TRUE(isInPdf(file.substr(table), "/Size " + std::to_string(size) + '\n'));
+    EXPECT_GT(size, 20U);
+    const std::size_t first = file.find('\n', table + 7) + 1;
+    for (std::size_t number = 1; number < size; ++number) {
+        const std::string entry = file.substr(first + 20 * number, 20);
+        const std::string head = std::to_string(number) + " 0 obj\n";
+        EXPECT_EQ(file.substr(std::stoul(entry), head.size()), head);
+        EXPECT_EQ(entry.substr(10), " 00000 n \n");
+    }
+    EXPECT_FALSE(isInPdf(file, "\n" + std::to_string(size) + " 0 obj\n"));
 }
 
 } // namespace
