@@ -26,9 +26,6 @@ constexpr std::array<Substitute, 4> substitutes{{
     {"Symbol", "Zevlin Suits", "\xA7\xA8\xA9\xAA"},
 }};
 
-// Picture fonts have their glyphs in this private block, at the number of the byte.
-constexpr char32_t pictureBlock = 0xF000;
-
 quint32 glyphAt(const QRawFont& font, char32_t value) {
     const auto character = static_cast<char16_t>(value);
     const QList<quint32> glyphs = font.glyphIndexesForString(QString(QChar(character)));

@@ -16,6 +16,9 @@ enum class FontEncoding {
     Symbol,   ///< by their own number, as pictures
 };
 
+/// Picture fonts have their glyphs in this private block of Unicode, at the number of the byte.
+constexpr char32_t pictureBlock = 0xF000;
+
 struct FontFamily {
     std::string nameGiven; ///< what the font system reports for the name asked for
     QString family;        ///< what Qt is asked for

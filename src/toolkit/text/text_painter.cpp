@@ -9,12 +9,14 @@
 #include <QtCore/QCache>
 #include <QtCore/QCoreApplication>
 #include <QtGui/QGlyphRun>
+#include <QtGui/QPaintEngine>
 #include <QtGui/QPainter>
 #include <QtGui/QRawFont>
 
 #include "toolkit/base/ansi.h"
 #include "toolkit/base/twips.h"
 #include "toolkit/text/qt_font_face.h"
+#include "toolkit/text/qt_page_font.h"
 
 namespace toolkit {
 namespace {
@@ -24,20 +26,24 @@ namespace {
 using SizedFonts = QCache<std::pair<const FontFace*, double>, QRawFont>;
 constexpr qsizetype mostSizedFonts = 512;
 
-SizedFonts& sizedFonts() {
-    static SizedFonts fonts(mostSizedFonts);
-    return fonts;
+/// Those for a page in a file, or those for all else.
+SizedFonts& sizedFonts(bool isForFile) {
+    static SizedFonts forFiles(mostSizedFonts);
+    static SizedFonts others(mostSizedFonts);
+    return isForFile ? forFiles : others;
 }
 
 // Font engines must not outlive the application object.
-void forgetSizedFonts() { sizedFonts().clear(); }
+void forgetSizedFonts() {
+    for (const bool isForFile : {false, true}) sizedFonts(isForFile).clear();
+}
 
-QRawFont sizedFont(const FontSpec& font, const FontFace& face, double pixelSize) {
-    SizedFonts& fonts = sizedFonts();
+QRawFont sizedFont(const FontSpec& font, const FontFace& face, double pixelSize, bool isForFile) {
+    SizedFonts& fonts = sizedFonts(isForFile);
     if (const QRawFont* known = fonts.object({&face, pixelSize})) return *known;
     if (fonts.isEmpty()) qAddPostRoutine(forgetSizedFonts);
     // Made from the font and then given its size: a size given to a QFont is rounded on the way.
-    QRawFont rawFont = QRawFont::fromFont(styledFont(font));
+    QRawFont rawFont = QRawFont::fromFont(isForFile ? pageFont(font) : styledFont(font));
     rawFont.setPixelSize(pixelSize);
     fonts.insert({&face, pixelSize}, std::make_unique<QRawFont>(rawFont).release());
     return rawFont;
@@ -74,7 +80,8 @@ void drawRun(QPainter& painter, QPointF baselineOrigin, const FontSpec& font, do
     run.lay(face, pixelSize, text);
     if (run.glyphs.empty()) return;
     QGlyphRun glyphRun;
-    glyphRun.setRawFont(sizedFont(font, face, pixelSize));
+    const bool isForFile = painter.paintEngine()->type() == QPaintEngine::Pdf;
+    glyphRun.setRawFont(sizedFont(font, face, pixelSize, isForFile));
     glyphRun.setRawData(run.glyphs.data(), run.positions.data(),
                         static_cast<int>(run.glyphs.size()));
     painter.setPen(QColor(redOf(color), greenOf(color), blueOf(color)));
