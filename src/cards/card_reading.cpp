@@ -73,18 +73,25 @@ class Reading {
         throw Unreadable();
     }
 
-    template <typename Read>
-    auto reading(const std::string& what, Read read) {
+    /// `tell` says what is read, if that fails.
+    template <typename Tell, typename Read>
+    auto attempt(Tell tell, Read read) {
         try {
             return read();
         } catch (const toolkit::RunTimeError& error) {
-            giveUp(faultText(error.failure(), what));
+            giveUp(faultText(error.failure(), tell()));
         }
     }
 
     template <typename Read>
+    auto reading(const std::string& what, Read read) {
+        return attempt([&] { return what; }, read);
+    }
+
+    template <typename Read>
     auto reading(const std::string& kind, int record, int count, Read read) {
-        return reading(kind + " " + numberText(record) + " of " + numberText(count), read);
+        return attempt([&] { return kind + " " + numberText(record) + " of " + numberText(count); },
+                       read);
     }
 
     void readPartner() {

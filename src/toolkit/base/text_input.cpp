@@ -10,6 +10,17 @@
 #include "toolkit/base/number_text.h"
 
 namespace toolkit {
+namespace {
+
+/// The place of the first of the characters, or the text's end. A value is too short for a search
+/// in the library to pay.
+template <typename... Characters>
+std::size_t placeOf(std::string_view text, Characters... characters) {
+    const auto is = [=](char one) { return ((one == characters) || ...); };
+    return static_cast<std::size_t>(std::ranges::find_if(text, is) - text.begin());
+}
+
+} // namespace
 
 TextInput::TextInput(std::string content) : content_(std::move(content)) {
     constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
@@ -26,9 +37,10 @@ std::size_t TextInput::find(std::string_view text) {
 
 // Kept like the place of a text, as the rest of a line may be read again and again.
 std::size_t TextInput::lineEnd() {
-    if (!lineEnd_.holdsAt(position_))
-        lineEnd_ = {position_,
-                    std::min(content_.find_first_of("\r\n", position_), content_.size())};
+    if (!lineEnd_.holdsAt(position_)) {
+        const std::string_view rest = std::string_view(content_).substr(position_);
+        lineEnd_ = {position_, position_ + placeOf(rest, '\r', '\n')};
+    }
     return lineEnd_.place;
 }
 
@@ -47,7 +59,7 @@ std::string TextInput::readText() {
     const std::string_view rest = std::string_view(content_).substr(position_);
     const bool quoted = rest.front() == '"';
     const std::string_view value = quoted ? rest.substr(1, rest.find('"', 1) - 1)
-                                          : rest.substr(0, rest.find_first_of(",\r\n"));
+                                          : rest.substr(0, placeOf(rest, ',', '\r', '\n'));
     position_ = std::min(position_ + value.size() + (quoted ? 2 : 0), content_.size());
     skipSeparator();
     return std::string(value);
