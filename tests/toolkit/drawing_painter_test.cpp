@@ -34,15 +34,18 @@ class DrawingPainter : public testing::Test {
         made.Caption = "Word";
         return made;
     }
+    /// A box, in four pixels for each of the picture's.
+    static std::shared_ptr<const Drawing> fourTimesAsWide() {
+        return std::make_shared<const Drawing>(
+            Drawing{.width = 400,
+                    .height = 200,
+                    .items = {FilledRectangle{rgb(255, 0, 0), 20, 10, 40, 2}}});
+    }
     std::shared_ptr<CardRecording> card = std::make_shared<CardRecording>();
 };
 
 TEST_F(DrawingPainter, TheArtworkIsAsWideAsThePicture) {
-    auto artwork = std::make_shared<Drawing>();
-    artwork->width = 400;
-    artwork->height = 200;
-    artwork->items = {FilledRectangle{rgb(255, 0, 0), 20, 10, 40, 2}};
-    card->artwork = artwork;
+    card->artwork = fourTimesAsWide();
     // 3 points for a pixel of the card, and so for four of the artwork.
     EXPECT_TRUE(draws("0.750000000 0 0 0.750000000 0.000000000 642.000000000 cm")) << drawn();
     EXPECT_TRUE(draws("/BBox [0 0 400.000000 200.000000]"));
@@ -50,11 +53,7 @@ TEST_F(DrawingPainter, TheArtworkIsAsWideAsThePicture) {
 }
 
 TEST_F(DrawingPainter, TheArtworkLiesOverPaperOfAnotherColour) {
-    auto artwork = std::make_shared<Drawing>();
-    artwork->width = 400;
-    artwork->height = 200;
-    artwork->items = {FilledRectangle{rgb(255, 0, 0), 20, 10, 40, 2}};
-    card->artwork = artwork;
+    card->artwork = fourTimesAsWide();
     card->paper = rgb(0, 128, 0);
     const std::string page = drawn();
     const std::size_t ground = page.find("0 0 100 50 re");

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include <QtGui/QGuiApplication>
 #include <QtGui/QPainterPath>
 #include <QtGui/QRawFont>
 #include <gtest/gtest.h>
@@ -103,10 +104,14 @@ TEST(PageFont, HasNoHints) {
     }
 }
 
-TEST(PageFont, IsMadeOnce) {
-    const FontSpec font{.Name = "Arial", .Size = 11};
-    const FontSpec larger{.Name = "Arial", .Size = 30};
-    EXPECT_EQ(pageFont(font), pageFont(larger));
+TEST(PageFont, IsMadeOnceForAllSizes) {
+    const QFont small = pageFont({.Name = "Arial", .Size = 11});
+    int made = 0;
+    const auto counting =
+        QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, [&] { ++made; });
+    EXPECT_EQ(pageFont({.Name = "Arial", .Size = 30}), small);
+    EXPECT_EQ(made, 0);
+    QObject::disconnect(counting);
 }
 
 TEST(PageFont, AFileTellsItByTheFontsOwnName) {

@@ -38,7 +38,7 @@ std::string_view boxOf(std::string_view page) {
     return page.substr(first, page.find(']', first) - first);
 }
 
-std::string numberText(double number) {
+std::string decimalText(double number) {
     constexpr int decimals = 9;
     std::array<char, 64> text{};
     const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), number,
@@ -51,9 +51,9 @@ std::string nameOf(const ShownForm& shown) { return "/Form" + std::to_string(sho
 std::string drawn(std::span<const ShownForm> forms) {
     std::string content;
     for (const ShownForm& shown : forms)
-        content += "q\n" + numberText(shown.across) + " 0 0 " + numberText(shown.up) + ' ' +
-                   numberText(shown.left) + ' ' + numberText(shown.foot) + " cm\n" + nameOf(shown) +
-                   " Do\nQ\n";
+        content += "q\n" + decimalText(shown.across) + " 0 0 " + decimalText(shown.up) + ' ' +
+                   decimalText(shown.left) + ' ' + decimalText(shown.foot) + " cm\n" +
+                   nameOf(shown) + " Do\nQ\n";
     return "<<\n/Length " + std::to_string(content.size()) + "\n>>\nstream\n" + content +
            "endstream\n";
 }

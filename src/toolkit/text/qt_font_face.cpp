@@ -82,8 +82,10 @@ const FontFace& fontFace(const FontSpec& font) {
     return last->face;
 }
 
-QFont styledFont(const FontSpec& font) {
-    QFont styled = plainFont(fontFamily(font.Name).family);
+QFont styledFont(const FontSpec& font) { return styledFont(font, fontFamily(font.Name).family); }
+
+QFont styledFont(const FontSpec& font, const QString& family) {
+    QFont styled = plainFont(family);
     styled.setBold(font.Bold);
     styled.setItalic(font.Italic);
     return styled;

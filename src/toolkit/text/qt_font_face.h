@@ -22,5 +22,7 @@ struct FontFace {
 
 /// The family and style that Qt is asked for, without a size.
 [[nodiscard]] QFont styledFont(const FontSpec& font);
+/// Another family in the font's style.
+[[nodiscard]] QFont styledFont(const FontSpec& font, const QString& family);
 
 } // namespace toolkit

@@ -65,13 +65,6 @@ bool hasGlyphs(const QRawFont& font, const CharacterGlyphs& characters) {
     });
 }
 
-QFont styled(const QString& family, const FontSpec& font) {
-    QFont given = plainFont(family);
-    given.setBold(font.Bold);
-    given.setItalic(font.Italic);
-    return given;
-}
-
 /// A file that takes the font along has this name in it.
 QString nameFor(const FontSpec& font) {
     QString name = fontFamily(font.Name).family + QStringLiteral(" on a page");
@@ -90,7 +83,7 @@ bool makeReduced(const FontSpec& font, const QString& family) {
     names->second = renamed(std::move(names->second), family);
     tables.emplace("cmap", characterMap(characters));
     QFontDatabase::addApplicationFontFromData(fontFile(tables));
-    const QRawFont taken = QRawFont::fromFont(styled(family, font));
+    const QRawFont taken = QRawFont::fromFont(styledFont(font, family));
     return taken.familyName() == family && hasGlyphs(taken, characters);
 }
 
@@ -105,7 +98,7 @@ QFont pageFont(const FontSpec& font) {
     const QString family = nameFor(font);
     const auto [entry, isNew] = known.try_emplace(family, false);
     if (isNew) entry->second = makeReduced(font, family);
-    return entry->second ? styled(family, font) : styledFont(font);
+    return entry->second ? styledFont(font, family) : styledFont(font);
 }
 
 } // namespace toolkit
